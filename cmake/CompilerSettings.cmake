@@ -1,0 +1,19 @@
+# Qt's keywords clash with GIO's field names, so signals and slots are written with their Q_ macros everywhere.
+add_compile_definitions(QT_NO_KEYWORDS QT_NO_FOREACH QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-qual
+                    -fvisibility=hidden -fdiagnostics-color=auto)
+
+find_program(TESSARO_MOLD mold)
+if(TESSARO_MOLD)
+  add_link_options(-fuse-ld=mold)
+endif()
+
+if(TESSARO_SANITIZE)
+  add_compile_options(-fsanitize=${TESSARO_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=undefined)
+  add_link_options(-fsanitize=${TESSARO_SANITIZE})
+endif()
+
+if(TESSARO_COVERAGE)
+  add_compile_options(--coverage)
+  add_link_options(--coverage)
+endif()

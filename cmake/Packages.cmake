@@ -1,0 +1,11 @@
+find_package(Threads REQUIRED)
+find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets DBus Svg)
+if(TESSARO_TESTS)
+  find_package(Qt6 6.4 REQUIRED COMPONENTS Test)
+endif()
+
+find_package(PkgConfig REQUIRED)
+pkg_check_modules(PLIST REQUIRED IMPORTED_TARGET libplist-2.0)
+pkg_check_modules(ARCHIVE REQUIRED IMPORTED_TARGET libarchive)
+pkg_check_modules(GIO REQUIRED IMPORTED_TARGET gio-2.0)
+pkg_check_modules(XCB REQUIRED IMPORTED_TARGET xcb)

@@ -1,0 +1,108 @@
+#include "platform/Desktop.h"
+
+#include "platform/FileSystem.h"
+#include "platform/MainThread.h"
+#include "platform/NativePath.h"
+
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDesktopServices>
+#include <QGuiApplication>
+#include <QSysInfo>
+#include <clocale>
+#include <cstring>
+#include <langinfo.h>
+#include <unistd.h>
+#include <xcb/xcb.h>
+
+namespace platform {
+namespace {
+
+constexpr int fileBrowserPatience = 5000; // milliseconds; a file browser may have to be started first
+
+bool askFileBrowser(const QString &address)
+{
+    QDBusMessage show = QDBusMessage::createMethodCall(
+        QStringLiteral("org.freedesktop.FileManager1"), QStringLiteral("/org/freedesktop/FileManager1"),
+        QStringLiteral("org.freedesktop.FileManager1"), QStringLiteral("ShowItems"));
+    show << QStringList{address} << QString(QLatin1String(""));
+    const auto bus = QDBusConnection::sessionBus();
+    return bus.isConnected() && bus.call(show, QDBus::Block, fileBrowserPatience).type() == QDBusMessage::ReplyMessage;
+}
+
+bool waylandAnswers()
+{
+    const QByteArray name = qgetenv("WAYLAND_DISPLAY");
+    if (name.isEmpty())
+        return false;
+    const QString socket = fromNative(name);
+    return kindOf(name.startsWith('/') ? socket : joined(fromNative(qgetenv("XDG_RUNTIME_DIR")), socket)) !=
+           FileKind::Missing;
+}
+
+bool xServerAnswers()
+{
+    if (qEnvironmentVariableIsEmpty("DISPLAY"))
+        return false;
+    xcb_connection_t *connection = xcb_connect(nullptr, nullptr);
+    const bool answers = xcb_connection_has_error(connection) == 0;
+    xcb_disconnect(connection);
+    return answers;
+}
+
+} // namespace
+
+QString fileAddress(const QString &path)
+{
+    return QStringLiteral("file://") + QString::fromLatin1(toNative(path).toPercentEncoding("/"));
+}
+
+void revealInFileBrowser(const QString &path)
+{
+    const QString address = fileAddress(path);
+    if (!resultInBackground([&] { return askFileBrowser(address); }))
+        openWithDefaultApplication(parentPath(path));
+}
+
+bool openWithDefaultApplication(const QString &path)
+{
+    return openAddress(QUrl::fromEncoded(fileAddress(path).toLatin1()));
+}
+
+bool openAddress(const QUrl &address)
+{
+    return qobject_cast<QGuiApplication *>(QCoreApplication::instance()) && QDesktopServices::openUrl(address);
+}
+
+bool displayIsAvailable()
+{
+    return !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") || waylandAnswers() || xServerAnswers();
+}
+
+QString operatingSystemName()
+{
+    return QSysInfo::prettyProductName();
+}
+
+int processorCount()
+{
+    return static_cast<int>(sysconf(_SC_NPROCESSORS_ONLN));
+}
+
+double memoryInGibibytes()
+{
+    return static_cast<double>(sysconf(_SC_PHYS_PAGES)) * static_cast<double>(sysconf(_SC_PAGESIZE)) / 1024 / 1024 / 1024;
+}
+
+void prepareLocale()
+{
+    std::setlocale(LC_ALL, "");
+    if (std::strcmp(nl_langinfo(CODESET), "UTF-8") == 0)
+        return;
+    // The language of messages stays as it was; only what names are made of changes.
+    qunsetenv("LC_ALL");
+    qputenv("LC_CTYPE", "C.UTF-8");
+    std::setlocale(LC_ALL, "");
+}
+
+} // namespace platform

@@ -1,0 +1,244 @@
+#include "platform/FileCopy.h"
+
+#include "platform/UniqueDescriptor.h"
+
+#include <array>
+#include <cerrno>
+#include <climits>
+#include <cstring>
+#include <dirent.h>
+#include <fcntl.h>
+#include <string>
+#include <sys/xattr.h>
+#include <unistd.h>
+#include <vector>
+
+namespace platform {
+namespace {
+
+constexpr std::size_t pieceSize = std::size_t{64} * 1024;
+
+/// The file mode creation mask, read without changing it: umask() can only be asked by setting it, for all threads.
+mode_t creationMask()
+{
+    static const mode_t mask = [] {
+        std::array<char, 4096> status{};
+        const UniqueDescriptor file(open("/proc/self/status", O_RDONLY | O_CLOEXEC));
+        if (!file.isOpen() || read(file.get(), status.data(), status.size() - 1) <= 0)
+            return mode_t{0777}; // unknown: then every mode is set explicitly
+        const char *line = std::strstr(status.data(), "Umask:");
+        return line ? static_cast<mode_t>(std::strtoul(line + 6, nullptr, 8)) : mode_t{0777};
+    }();
+    return mask;
+}
+
+bool isUnsupportedHere(int error)
+{
+    return error == EXDEV || error == EINVAL || error == ENOSYS || error == EOPNOTSUPP || error == EPERM;
+}
+
+bool writeAll(int destination, const char *bytes, std::size_t count)
+{
+    while (count > 0) {
+        const ssize_t written = write(destination, bytes, count);
+        if (written < 0 && errno == EINTR)
+            continue;
+        if (written <= 0)
+            return false;
+        bytes += written;
+        count -= static_cast<std::size_t>(written);
+    }
+    return true;
+}
+
+/// Copies by reading and writing, from both current offsets, at most the given bytes or to the end. -1 on failure.
+off_t pumpBytes(int source, int destination, off_t atMost)
+{
+    std::vector<char> piece(pieceSize);
+    off_t total = 0;
+    while (total < atMost) {
+        const std::size_t wanted = std::min<std::size_t>(piece.size(), static_cast<std::size_t>(atMost - total));
+        const ssize_t got = read(source, piece.data(), wanted);
+        if (got < 0 && errno == EINTR)
+            continue;
+        if (got < 0 || (got > 0 && !writeAll(destination, piece.data(), static_cast<std::size_t>(got))))
+            return -1;
+        if (got == 0)
+            break;
+        total += got;
+    }
+    return total;
+}
+
+/// Copies a stretch from both current offsets; the kernel shares the blocks where it can. Bytes copied, or -1.
+off_t copyStretch(int source, int destination, off_t length)
+{
+    off_t total = 0;
+    while (total < length) {
+        const ssize_t copied = copy_file_range(source, nullptr, destination, nullptr,
+                                               static_cast<std::size_t>(length - total), 0);
+        if (copied < 0 && errno == EINTR)
+            continue;
+        // Some shares answer 0 at once instead of saying that they cannot.
+        if ((copied < 0 && isUnsupportedHere(errno)) || (copied == 0 && total == 0)) {
+            const off_t pumped = pumpBytes(source, destination, length - total);
+            return pumped < 0 ? -1 : total + pumped;
+        }
+        if (copied < 0)
+            return -1;
+        if (copied == 0)
+            break;
+        total += copied;
+    }
+    return total;
+}
+
+/// Copies only the stretches that hold data and leaves the holes between them. 0 or errno.
+int copyWithHoles(int source, int destination, off_t size)
+{
+    for (off_t data = lseek(source, 0, SEEK_DATA); data >= 0 && data < size; data = lseek(source, data, SEEK_DATA)) {
+        const off_t hole = std::min(size, lseek(source, data, SEEK_HOLE));
+        if (hole < data || lseek(source, data, SEEK_SET) < 0 || lseek(destination, data, SEEK_SET) < 0)
+            return errno != 0 ? errno : EIO;
+        const off_t copied = copyStretch(source, destination, hole - data);
+        if (copied < 0)
+            return errno;
+        if (copied < hole - data)
+            return ESTALE;
+        data = hole;
+    }
+    return ftruncate(destination, size) == 0 ? 0 : errno;
+}
+
+/// 0 or errno. A file that shrinks under the copy is a failure: a shorter file would pass for the whole one.
+int copyContents(int source, int destination, const struct stat &info)
+{
+    const off_t size = info.st_size;
+    if (size == 0) // some file systems say 0 and have contents all the same
+        return pumpBytes(source, destination, LONG_MAX) < 0 ? errno : 0;
+    if (info.st_blocks < size / 512) {
+        const off_t firstHole = lseek(source, 0, SEEK_HOLE);
+        if (lseek(source, 0, SEEK_SET) < 0)
+            return errno;
+        if (firstHole >= 0 && firstHole < size)
+            return copyWithHoles(source, destination, size);
+    }
+    const off_t copied = copyStretch(source, destination, size);
+    return copied < 0 ? errno : copied < size ? ESTALE : 0;
+}
+
+/// True unless an attribute was lost. What only the system may set, or this user may not, is not the user's loss.
+bool copyAttributes(int source, int destination)
+{
+    std::array<char, 1024> few;
+    std::vector<char> many;
+    char *names = few.data();
+    ssize_t length = flistxattr(source, names, few.size());
+    if (length < 0 && errno == ERANGE) {
+        many.resize(XATTR_LIST_MAX);
+        names = many.data();
+        length = flistxattr(source, names, many.size());
+    }
+    bool kept = true;
+    std::vector<char> value;
+    for (ssize_t at = 0; at < length; at += static_cast<ssize_t>(std::strlen(names + at)) + 1) {
+        value.resize(XATTR_SIZE_MAX);
+        const ssize_t size = fgetxattr(source, names + at, value.data(), value.size());
+        if (size < 0 || fsetxattr(destination, names + at, value.data(), static_cast<std::size_t>(size), 0) != 0)
+            kept = kept && std::strncmp(names + at, "user.", 5) != 0;
+    }
+    return kept;
+}
+
+EntryResult copyRegular(int sourceFolder, const char *from, int destinationFolder, const char *to)
+{
+    EntryResult result;
+    // Non-blocking: were the file replaced by a FIFO since it was listed, the open must not wait for a writer.
+    const UniqueDescriptor source(openat(sourceFolder, from, O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+    struct stat info;
+    if (!source.isOpen() || fstat(source.get(), &info) != 0)
+        return {errno, false, false};
+    if (!S_ISREG(info.st_mode))
+        return {ESTALE, false, false};
+    const int flags = O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC;
+    UniqueDescriptor destination(openat(destinationFolder, to, flags, info.st_mode & 0777));
+    if (!destination.isOpen())
+        return {errno, false, false};
+    result.made = true;
+    result.error = copyContents(source.get(), destination.get(), info);
+    if (result.error == 0) {
+        const bool modeIsSet = (info.st_mode & (creationMask() | 07000)) == 0;
+        const EntryResult metadata = copyMetadata(source.get(), destination.get(), info, modeIsSet);
+        result.error = metadata.error;
+        result.attributesLost = metadata.attributesLost;
+    }
+    // A network share or a quota may report the failed write only now.
+    if (destination.closeChecked() != 0 && result.error == 0)
+        result.error = errno;
+    return result;
+}
+
+EntryResult copyLink(int sourceFolder, const char *from, int destinationFolder, const char *to)
+{
+    char target[PATH_MAX];
+    const ssize_t length = readlinkat(sourceFolder, from, target, sizeof target - 1);
+    if (length < 0)
+        return {errno, false, false};
+    target[length] = '\0';
+    return symlinkat(target, destinationFolder, to) == 0 ? EntryResult{0, true, false}
+                                                         : EntryResult{errno, false, false};
+}
+
+/// Owner and times of what is not opened: links, FIFOs, sockets, devices.
+int dressUnopened(int folder, const char *name, const struct stat &info)
+{
+    if (geteuid() == 0 && fchownat(folder, name, info.st_uid, info.st_gid, AT_SYMLINK_NOFOLLOW) != 0)
+        return errno;
+    const timespec times[2] = {info.st_atim, info.st_mtim};
+    return utimensat(folder, name, times, AT_SYMLINK_NOFOLLOW) == 0 ? 0 : errno;
+}
+
+} // namespace
+
+EntryResult copyMetadata(int source, int destination, const struct stat &info, bool modeIsSet)
+{
+    EntryResult result;
+    result.attributesLost = !copyAttributes(source, destination);
+    mode_t mode = info.st_mode & 07777;
+    const bool foreign = info.st_uid != geteuid() || info.st_gid != getegid();
+    if (foreign && geteuid() == 0) {
+        if (fchown(destination, info.st_uid, info.st_gid) != 0)
+            result.error = errno;
+    } else if (foreign) {
+        mode &= 01777; // set-user-ID and set-group-ID mean something only with the owner they were given for
+    }
+    if ((!modeIsSet || foreign) && fchmod(destination, mode) != 0 && result.error == 0)
+        result.error = errno;
+    const timespec times[2] = {info.st_atim, info.st_mtim};
+    if (futimens(destination, times) != 0 && result.error == 0)
+        result.error = errno;
+    return result;
+}
+
+EntryResult copyEntry(int sourceFolder, const char *from, int destinationFolder, const char *to, unsigned char type)
+{
+    if (type == DT_REG)
+        return copyRegular(sourceFolder, from, destinationFolder, to);
+    struct stat info;
+    if (fstatat(sourceFolder, from, &info, AT_SYMLINK_NOFOLLOW) != 0)
+        return {errno, false, false};
+    EntryResult result;
+    if (S_ISLNK(info.st_mode))
+        result = copyLink(sourceFolder, from, destinationFolder, to);
+    else if (mknodat(destinationFolder, to, info.st_mode, info.st_rdev) == 0)
+        result.made = true;
+    else
+        result.error = errno;
+    if (result.error == 0)
+        result.error = dressUnopened(destinationFolder, to, info);
+    if (result.error == 0 && !S_ISLNK(info.st_mode) && fchmodat(destinationFolder, to, info.st_mode & 0777, 0) != 0)
+        result.error = errno;
+    return result;
+}
+
+} // namespace platform

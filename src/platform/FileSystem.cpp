@@ -1,0 +1,166 @@
+#include "platform/FileSystem.h"
+
+#include "platform/FolderReader.h"
+#include "platform/NativePath.h"
+#include "platform/PathAt.h"
+
+#include <algorithm>
+#include <climits>
+#include <cerrno>
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <sys/statvfs.h>
+#include <unistd.h>
+
+namespace platform {
+namespace {
+
+FileKind kindOfMode(mode_t mode)
+{
+    return S_ISREG(mode) ? FileKind::File
+         : S_ISDIR(mode) ? FileKind::Folder
+         : S_ISLNK(mode) ? FileKind::Link
+                         : FileKind::Other;
+}
+
+bool statItem(const QString &path, struct stat &info, int flags)
+{
+    const PathAt at(path);
+    return fstatat(at.folder(), at.name(), &info, flags) == 0;
+}
+
+bool mayAccess(const QString &path, int mode)
+{
+    const PathAt at(path);
+    return faccessat(at.folder(), at.name(), mode, AT_EACCESS) == 0;
+}
+
+} // namespace
+
+FileKind kindOf(const QString &path)
+{
+    struct stat info;
+    return statItem(path, info, AT_SYMLINK_NOFOLLOW) ? kindOfMode(info.st_mode) : FileKind::Missing;
+}
+
+bool targetExists(const QString &path)
+{
+    struct stat info;
+    return statItem(path, info, 0);
+}
+
+bool leadsToFolder(const QString &path)
+{
+    struct stat info;
+    return statItem(path, info, 0) && S_ISDIR(info.st_mode);
+}
+
+std::optional<FileIdentity> identityOf(const QString &path)
+{
+    struct stat info;
+    if (!statItem(path, info, AT_SYMLINK_NOFOLLOW))
+        return std::nullopt;
+    return FileIdentity{info.st_dev, info.st_ino};
+}
+
+QString linkTarget(const QString &path)
+{
+    const PathAt at(path);
+    char buffer[PATH_MAX];
+    const ssize_t length = readlinkat(at.folder(), at.name(), buffer, sizeof buffer);
+    return length < 0 ? QString() : fromNative(QByteArrayView(buffer, length));
+}
+
+bool isWritable(const QString &path)
+{
+    return mayAccess(path, W_OK);
+}
+
+bool isExecutableFile(const QString &path)
+{
+    struct stat info;
+    return statItem(path, info, 0) && S_ISREG(info.st_mode) && mayAccess(path, X_OK);
+}
+
+quint64 fileSizeOf(const QString &path)
+{
+    struct stat info;
+    return statItem(path, info, 0) && S_ISREG(info.st_mode) ? static_cast<quint64>(info.st_size) : 0;
+}
+
+std::optional<quint64> freeBytesAt(const QString &path)
+{
+    struct statvfs info;
+    if (statvfs(toNative(path).constData(), &info) != 0)
+        return std::nullopt;
+    return static_cast<quint64>(info.f_bavail) * info.f_frsize;
+}
+
+QList<FolderEntry> inListingOrder(QList<FolderEntry> entries)
+{
+    struct Keyed
+    {
+        QString folded;
+        FolderEntry entry;
+    };
+    QList<Keyed> keyed;
+    keyed.reserve(entries.size());
+    for (FolderEntry &entry : entries) {
+        QString folded = entry.name.toCaseFolded();
+        keyed.append({std::move(folded), std::move(entry)});
+    }
+    std::sort(keyed.begin(), keyed.end(), [](const Keyed &a, const Keyed &b) {
+        const int order = a.folded.compare(b.folded);
+        return order != 0 ? order < 0 : toNative(a.entry.name) < toNative(b.entry.name);
+    });
+    for (qsizetype i = 0; i < keyed.size(); ++i)
+        entries[i] = std::move(keyed[i].entry);
+    return entries;
+}
+
+std::optional<QList<FolderEntry>> listFolder(const QString &path)
+{
+    const PathAt at(path);
+    const UniqueDescriptor folder(openat(at.folder(), at.name(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    std::vector<RawEntry> raw;
+    if (!folder.isOpen() || !readFolder(folder.get(), raw))
+        return std::nullopt;
+    QList<FolderEntry> entries;
+    entries.reserve(static_cast<qsizetype>(raw.size()));
+    for (const RawEntry &entry : raw)
+        entries.append({fromNative(entry.name), kindOfMode(DTTOIF(entry.type))});
+    return inListingOrder(std::move(entries));
+}
+
+FileOutcome makeNewFolder(const QString &path)
+{
+    const PathAt at(path);
+    return mkdirat(at.folder(), at.name(), 0777) == 0 ? FileOutcome() : FileOutcome::fromErrno(path);
+}
+
+FileOutcome makeFolders(const QString &path)
+{
+    if (leadsToFolder(path))
+        return {};
+    QStringList missing{path};
+    for (QString parent = parentPath(path); !parent.isEmpty() && parent != u'/' && kindOf(parent) == FileKind::Missing;
+         parent = parentPath(parent))
+        missing.prepend(parent);
+    for (const QString &folder : missing) {
+        const FileOutcome made = makeNewFolder(folder);
+        // Another program may have made it in between: what counts is that a folder stands there.
+        if (!made.ok() && !leadsToFolder(folder))
+            return made;
+    }
+    return {};
+}
+
+FileOutcome touchItem(const QString &path)
+{
+    const PathAt at(path);
+    return utimensat(at.folder(), at.name(), nullptr, AT_SYMLINK_NOFOLLOW) == 0 ? FileOutcome()
+                                                                               : FileOutcome::fromErrno(path);
+}
+
+} // namespace platform

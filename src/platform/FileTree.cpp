@@ -1,0 +1,130 @@
+// The operations of FileSystem.h that walk a whole tree, by descriptor: no path is looked up twice, a link is never
+// followed, and no depth makes a path too long.
+#include "platform/FileSystem.h"
+
+#include "platform/FolderReader.h"
+#include "platform/NativePath.h"
+#include "platform/PathAt.h"
+#include "platform/TreeCopy.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace platform {
+namespace {
+
+FileOutcome removeBelow(int folder, const QString &path);
+
+FileOutcome removeEntry(int parent, const char *name, bool folder, const QString &path)
+{
+    if (folder) {
+        const UniqueDescriptor opened = openFolder(parent, name);
+        if (!opened.isOpen() && errno != ENOENT)
+            return FileOutcome::fromErrno(path);
+        if (const FileOutcome below = opened.isOpen() ? removeBelow(opened.get(), path) : FileOutcome(); !below.ok())
+            return below;
+    }
+    const bool gone = unlinkat(parent, name, folder ? AT_REMOVEDIR : 0) == 0 || errno == ENOENT;
+    return gone ? FileOutcome() : FileOutcome::fromErrno(path);
+}
+
+FileOutcome removeBelow(int folder, const QString &path)
+{
+    std::vector<RawEntry> entries;
+    if (!readFolder(folder, entries))
+        return FileOutcome::fromErrno(path);
+    for (const RawEntry &entry : entries) {
+        const FileOutcome removed =
+            removeEntry(folder, entry.name.c_str(), entry.type == DT_DIR, joined(path, fromNative(entry.name)));
+        if (!removed.ok())
+            return removed;
+    }
+    return {};
+}
+
+/// The rename itself, refusing to overwrite. File systems without that flag get a look first.
+bool renameWithoutReplacing(const PathAt &from, const PathAt &to)
+{
+    if (renameat2(from.folder(), from.name(), to.folder(), to.name(), RENAME_NOREPLACE) == 0)
+        return true;
+    if (errno != EINVAL && errno != ENOSYS)
+        return false;
+    struct stat info;
+    if (fstatat(to.folder(), to.name(), &info, AT_SYMLINK_NOFOLLOW) == 0) {
+        errno = EEXIST;
+        return false;
+    }
+    return renameat(from.folder(), from.name(), to.folder(), to.name()) == 0;
+}
+
+struct Toucher
+{
+    const std::function<void(const QString &)> &entering;
+    QList<FileOutcome> failed;
+
+    void touchEntries(int folder, const QString &path)
+    {
+        entering(path);
+        std::vector<RawEntry> entries;
+        if (!readFolder(folder, entries))
+            failed.append(FileOutcome::fromErrno(path));
+        for (const RawEntry &entry : entries) {
+            const char *name = entry.name.c_str();
+            if (entry.type == DT_DIR)
+                descend(folder, name, joined(path, fromNative(entry.name)));
+            if (utimensat(folder, name, nullptr, AT_SYMLINK_NOFOLLOW) != 0)
+                failed.append(FileOutcome::fromErrno(joined(path, fromNative(entry.name))));
+        }
+    }
+
+    void descend(int parent, const char *name, const QString &path)
+    {
+        const UniqueDescriptor folder = openFolder(parent, name);
+        if (folder.isOpen())
+            touchEntries(folder.get(), path);
+        else
+            failed.append(FileOutcome::fromErrno(path));
+    }
+};
+
+} // namespace
+
+FileOutcome removeTree(const QString &path)
+{
+    raiseDescriptorLimit();
+    const FileKind kind = kindOf(path);
+    const PathAt at(path);
+    return kind == FileKind::Missing ? FileOutcome()
+                                     : removeEntry(at.folder(), at.name(), kind == FileKind::Folder, path);
+}
+
+FileOutcome moveItem(const QString &source, const QString &destination)
+{
+    const PathAt from(source);
+    const PathAt to(destination);
+    if (renameWithoutReplacing(from, to))
+        return {};
+    if (errno != EXDEV)
+        return FileOutcome::fromErrno(errno == EEXIST || errno == ENAMETOOLONG ? destination : source);
+    const FileOutcome copied = copyItem(source, destination);
+    return copied.ok() ? removeTree(source) : copied;
+}
+
+QList<FileOutcome> touchBelow(const QString &folder, const std::function<void(const QString &)> &entering)
+{
+    raiseDescriptorLimit();
+    Toucher toucher{entering, {}};
+    const PathAt at(folder);
+    const UniqueDescriptor opened(openat(at.folder(), at.name(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (opened.isOpen())
+        toucher.touchEntries(opened.get(), folder);
+    else
+        toucher.failed.append(FileOutcome::fromErrno(folder));
+    return toucher.failed;
+}
+
+} // namespace platform

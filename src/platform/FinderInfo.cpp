@@ -1,0 +1,87 @@
+#include "platform/FinderInfo.h"
+
+#include "platform/FileSystem.h"
+#include "platform/NativePath.h"
+#include "platform/PathAt.h"
+
+#include <array>
+#include <fcntl.h>
+#include <linux/fs.h>
+#include <sys/ioctl.h>
+#include <sys/stat.h>
+#include <sys/xattr.h>
+
+namespace platform {
+namespace {
+
+constexpr const char *attributeName = "user.com.apple.FinderInfo";
+constexpr std::size_t attributeSize = 32;
+using Attribute = std::array<uchar, attributeSize>;
+
+/// The path that the *xattr calls take: they know no folder descriptor, so a long path goes through /proc/self/fd.
+QByteArray attributePath(const PathAt &at)
+{
+    return at.folder() == AT_FDCWD ? QByteArray(at.name())
+                                   : "/proc/self/fd/" + QByteArray::number(at.folder()) + '/' + at.name();
+}
+
+bool readAttribute(const QByteArray &path, Attribute &attribute)
+{
+    return lgetxattr(path.constData(), attributeName, attribute.data(), attribute.size()) == attributeSize;
+}
+
+UniqueDescriptor openForFlags(const QString &path)
+{
+    const FileKind kind = kindOf(path);
+    if (kind != FileKind::File && kind != FileKind::Folder) // opening a FIFO would wait, a device may act
+        return {};
+    const PathAt at(path);
+    return UniqueDescriptor(openat(at.folder(), at.name(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+}
+
+} // namespace
+
+quint16 flagsWordOf(const QString &path)
+{
+    Attribute attribute{};
+    if (!readAttribute(attributePath(PathAt(path)), attribute))
+        return 0;
+    return static_cast<quint16>(attribute[8] << 8 | attribute[9]);
+}
+
+bool setFlagsWord(const QString &path, quint16 word, quint16 mask)
+{
+    const PathAt at(path);
+    const QByteArray native = attributePath(at);
+    Attribute attribute{};
+    if (!readAttribute(native, attribute))
+        attribute.fill(0);
+    const auto before = static_cast<quint16>(attribute[8] << 8 | attribute[9]);
+    const auto after = static_cast<quint16>((before & ~mask) | (word & mask));
+    attribute[8] = static_cast<uchar>(after >> 8);
+    attribute[9] = static_cast<uchar>(after & 0xFF);
+    return lsetxattr(native.constData(), attributeName, attribute.data(), attribute.size(), 0) == 0;
+}
+
+bool isImmutable(const QString &path)
+{
+    const PathAt at(path);
+    struct statx info;
+    if (statx(at.folder(), at.name(), AT_SYMLINK_NOFOLLOW, STATX_TYPE, &info) != 0)
+        return false;
+    return (info.stx_attributes & STATX_ATTR_IMMUTABLE) != 0;
+}
+
+void setImmutable(const QString &path, bool immutable)
+{
+    if (isImmutable(path) == immutable)
+        return;
+    const UniqueDescriptor file = openForFlags(path);
+    int flags = 0;
+    if (!file.isOpen() || ioctl(file.get(), FS_IOC_GETFLAGS, &flags) != 0)
+        return;
+    flags = immutable ? flags | FS_IMMUTABLE_FL : flags & ~FS_IMMUTABLE_FL;
+    ioctl(file.get(), FS_IOC_SETFLAGS, &flags);
+}
+
+} // namespace platform

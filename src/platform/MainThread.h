@@ -1,0 +1,61 @@
+#pragma once
+
+#include <chrono>
+#include <functional>
+
+/** The main thread, from anywhere. Before the application object exists, every thread's calls run where they are made. */
+namespace platform {
+
+enum class Waiting { No, Yes };
+
+class MainThread
+{
+public:
+    MainThread() = delete;
+
+    [[nodiscard]] static bool isCurrent();
+    /** Performs the call on the main thread: at once when made there, else through its event loop. */
+    static void perform(std::function<void()> call, Waiting waiting);
+    /** Main thread only: handles pending events, waiting for the first at most the given time. */
+    static void turnLoop(std::chrono::milliseconds atMost);
+};
+
+/**
+ * Runs the work so that the window stays alive. On the main thread the work goes to a worker while the event loop turns
+ * with the application's windows closed to input; on any other thread it runs where it is. Either way the caller sees a
+ * plain blocking call.
+ */
+void performInBackground(const std::function<void()> &work);
+
+template <typename Work>
+[[nodiscard]] auto resultInBackground(Work work)
+{
+    decltype(work()) result{};
+    performInBackground([&] { result = work(); });
+    return result;
+}
+
+/**
+ * While one exists and no InputAllowed does, the application's windows take no key, click, drop or close; they can be
+ * moved and they repaint. Main thread only; nests.
+ */
+class InputClosed
+{
+public:
+    InputClosed();
+    ~InputClosed();
+    InputClosed(const InputClosed &) = delete;
+    InputClosed &operator=(const InputClosed &) = delete;
+};
+
+/** Opens the windows again while a question is up that someone must answer. Main thread only; nests. */
+class InputAllowed
+{
+public:
+    InputAllowed();
+    ~InputAllowed();
+    InputAllowed(const InputAllowed &) = delete;
+    InputAllowed &operator=(const InputAllowed &) = delete;
+};
+
+} // namespace platform

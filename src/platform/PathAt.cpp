@@ -1,0 +1,56 @@
+#include "platform/PathAt.h"
+
+#include "platform/NativePath.h"
+
+#include <cerrno>
+#include <climits>
+#include <fcntl.h>
+#include <mutex>
+#include <sys/resource.h>
+#include <unistd.h>
+
+namespace platform {
+
+void UniqueDescriptor::reset(int descriptor)
+{
+    if (m_descriptor >= 0)
+        ::close(m_descriptor);
+    m_descriptor = descriptor;
+}
+
+int UniqueDescriptor::closeChecked()
+{
+    return ::close(release());
+}
+
+void raiseDescriptorLimit()
+{
+    static std::once_flag once;
+    std::call_once(once, [] {
+        rlimit limit{};
+        if (getrlimit(RLIMIT_NOFILE, &limit) == 0 && limit.rlim_cur < limit.rlim_max) {
+            limit.rlim_cur = limit.rlim_max;
+            setrlimit(RLIMIT_NOFILE, &limit);
+        }
+    });
+}
+
+PathAt::PathAt(const QString &path) : m_name(toNative(path)), m_folder(AT_FDCWD)
+{
+    while (m_name.size() >= PATH_MAX) {
+        const qsizetype cut = m_name.lastIndexOf('/', PATH_MAX - 2 - m_name.size());
+        const QByteArray stretch = cut > 0 ? m_name.first(cut) : QByteArray();
+        const int next = cut > 0 ? openat(m_folder, stretch.constData(), O_PATH | O_DIRECTORY | O_CLOEXEC) : -1;
+        if (next < 0) {
+            m_error = cut > 0 ? errno : ENAMETOOLONG;
+            m_folder = -1;
+            m_name = "."; // with an absolute name the descriptor would be ignored
+            return;
+        }
+        m_opened.reset(next);
+        m_folder = next;
+        m_name.remove(0, cut + 1);
+    }
+}
+
+} // namespace platform

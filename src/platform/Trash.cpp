@@ -1,0 +1,92 @@
+// GIO first: its headers use "signals" as a field name, which no Qt header before them may have defined away.
+#include <gio/gio.h>
+
+#include "platform/Trash.h"
+
+#include "platform/FileSystem.h"
+#include "platform/NativePath.h"
+
+#include <QFile>
+#include <QStandardPaths>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace platform {
+namespace {
+
+QString homeTrash()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + QStringLiteral("/Trash");
+}
+
+/// The folder at which the file system holding the path is mounted: the last one upwards on the same device.
+QString mountRootOf(const QString &path)
+{
+    QString root = parentPath(path);
+    const auto device = [](const QString &folder) { return identityOf(folder).value_or(FileIdentity{}).device; };
+    for (QString above = parentPath(root); !above.isEmpty() && above != root && device(above) == device(root);
+         above = parentPath(root))
+        root = above;
+    return root;
+}
+
+bool holds(const QString &folder, const FileIdentity &identity)
+{
+    for (const FolderEntry &entry : listFolder(folder).value_or(QList<FolderEntry>())) {
+        if (identityOf(joined(folder, entry.name)) == identity)
+            return true;
+    }
+    return false;
+}
+
+bool reachedATrash(const QString &path, const FileIdentity &identity)
+{
+    if (kindOf(path) != FileKind::Missing)
+        return false;
+    const QString user = QString::number(getuid());
+    const QString root = mountRootOf(path);
+    return holds(homeTrashFiles(), identity) || holds(joined(root, ".Trash-" + user + "/files"), identity) ||
+           holds(joined(root, ".Trash/" + user + "/files"), identity);
+}
+
+bool trashWithGio(const QString &path)
+{
+    // The local file system directly: the default one loads every module of the desktop and starts its services.
+    GFile *file = g_vfs_get_file_for_path(g_vfs_get_local(), toNative(path).constData());
+    GError *error = nullptr;
+    const bool trashed = g_file_trash(file, nullptr, &error);
+    g_clear_error(&error);
+    g_object_unref(file);
+    return trashed;
+}
+
+bool trashWithQt(const QString &path)
+{
+    // Qt knows no names that are not UTF-8 and takes no dangling links.
+    return forDisplay(path) == path && targetExists(path) && QFile::moveToTrash(path);
+}
+
+} // namespace
+
+QString homeTrashFiles()
+{
+    return homeTrash() + QStringLiteral("/files");
+}
+
+bool moveToTrash(const QString &path)
+{
+    const std::optional<FileIdentity> identity = identityOf(path);
+    if (!identity)
+        return false;
+    // Where ~/.local/share is missing, Qt moves the item into the current folder and calls that success.
+    for (const QString &folder : {homeTrashFiles(), homeTrash() + QStringLiteral("/info")}) {
+        const bool missing = kindOf(folder) == FileKind::Missing;
+        if (makeFolders(folder).ok() && missing)
+            chmod(toNative(folder).constData(), 0700);
+    }
+    if (!trashWithGio(path) && kindOf(path) != FileKind::Missing && !trashWithQt(path))
+        return false;
+    return reachedATrash(path, *identity);
+}
+
+} // namespace platform
