@@ -1,0 +1,36 @@
+#pragma once
+
+#include "platform/UserDefaults.h"
+
+#include <QString>
+
+/**
+ * The settings of the program: their keys, each with the type it is read as, and the store that holds them. A default is
+ * registered only where the table in Settings.cpp gives one; what has none reads as absent, false or 0.
+ */
+namespace settings {
+
+inline const QString filenameTemplate = QStringLiteral("filenameTemplate");                   // list of records
+inline const QString separatorChar = QStringLiteral("separatorChar");                         // text
+inline const QString dateFormat = QStringLiteral("dateFormat");                               // strftime format
+inline const QString strictNaming = QStringLiteral("strictNaming");                           // boolean
+inline const QString templateLocation = QStringLiteral("templateLocation");                   // path
+inline const QString selectedProjectTemplate = QStringLiteral("selectedProjectTemplate");     // template name
+inline const QString defaultTemplate = QStringLiteral("defaultTemplate");                     // template name
+inline const QString autoOpenFolder = QStringLiteral("autoOpenFolder");                       // on when not 0
+inline const QString autoQuit = QStringLiteral("autoQuit");                                   // on when not 0
+inline const QString useFixedProjectLocation = QStringLiteral("useFixedProjectLocation");     // on when equal to 1
+inline const QString fixedProjectLocationPath = QStringLiteral("fixedProjectLocationPath");   // path
+inline const QString autoExpandFolders = QStringLiteral("autoExpandFolders");                 // on when not 0
+inline const QString firstRun = QStringLiteral("firstRun");                                   // boolean
+inline const QString requireAdminPassword = QStringLiteral("requireAdminPassword");           // on when equal to 1
+inline const QString requireAdminPasswordForPrefs = QStringLiteral("requireAdminPasswordForPrefs"); // the same
+inline const QString webAddresses = QStringLiteral("webAddresses"); // dictionary: page name to address, see HelpPages
+
+/** The one store of this process, on com.vantrel.Tessaro.plist in the user's and the machine's preferences folder. */
+[[nodiscard]] platform::UserDefaults &standard();
+
+/** Registers the defaults of the table; the parameter list comes from the bundle's resource Filename_Defaults. */
+void registerDefaults();
+
+} // namespace settings

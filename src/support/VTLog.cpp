@@ -1,0 +1,212 @@
+#include "support/VTLog.h"
+
+#include "platform/ApplicationBundle.h"
+#include "platform/Console.h"
+#include "platform/Desktop.h"
+#include "platform/FileSystem.h"
+#include "platform/LocalTime.h"
+#include "platform/NativePath.h"
+#include "platform/PropertyList.h"
+#include "platform/Users.h"
+#include "support/VTLocalPaths.h"
+
+#include <QFile>
+#include <QSaveFile>
+#include <cerrno>
+#include <cstring>
+#include <exception>
+#include <fcntl.h>
+#include <unistd.h>
+
+using platform::joined;
+using platform::printToConsole;
+
+namespace {
+
+constexpr qsizetype promptLength = 99;  // characters; a message longer than this, or with more pending, is not waited for
+constexpr quint64 sizeLimit = 499999;   // bytes of entries, the header not counted; above it the next generation starts
+constexpr int generations = 5;
+
+QString userLogFolder()
+{
+    return VTLocalPaths::libraryDirectory(VTLocalPaths::Domain::User) + QStringLiteral("/Logs/Vantrel");
+}
+
+QString generationPath(const QString &folder, const QString &name, int generation)
+{
+    return joined(folder, QStringLiteral("%1.%2.log").arg(name).arg(generation));
+}
+
+/// The string "1" or a true number or boolean; any other value leaves logging on.
+bool isSwitchedOff()
+{
+    QFile file(VTLocalPaths::prefsDirectory(VTLocalPaths::Domain::User) + QStringLiteral("/com.vantrel.global.plist"));
+    if (!file.open(QIODevice::ReadOnly))
+        return false;
+    const QVariantMap shared = platform::readPropertyList(file.readAll()).value_or(QVariant()).toMap();
+    const QVariant value = shared.value(QStringLiteral("disable-logging"));
+    switch (value.typeId()) {
+    case QMetaType::QString: return value.toString() == u"1";
+    case QMetaType::Bool:
+    case QMetaType::LongLong:
+    case QMetaType::Double: return value.toDouble() == 1.0;
+    default: return false;
+    }
+}
+
+QString header()
+{
+    const auto &bundle = platform::ApplicationBundle::main();
+    QString text = platform::formatString("Log started: %@\n", platform::currentDateDescription());
+    if (const QString version = bundle.informationString("CFBundleVersion"); !version.isEmpty())
+        text += platform::formatString("Version: %@\n", version);
+    text += platform::formatString("Path: %@\n", platform::executablePath());
+    text += platform::formatString("System: %@, %i CPU(s), %0.2f GB RAM\n", platform::operatingSystemName(),
+                                   platform::processorCount(), platform::memoryInGibibytes());
+    return text + (sizeof(void *) == 8 ? "Running in 64-bit mode\n" : "Running in 32-bit mode\n");
+}
+
+} // namespace
+
+VTLog &VTLog::sharedController()
+{
+    static auto *shared = new VTLog; // never destroyed: threads may log until the very end of the process
+    return *shared;
+}
+
+QString VTLog::appName() const
+{
+    const std::scoped_lock lock(m_nameMutex);
+    return m_appName.isNull() ? platform::withoutExtension(platform::lastComponent(platform::executablePath()))
+                              : m_appName;
+}
+
+void VTLog::setAppName(const QString &name)
+{
+    const std::scoped_lock lock(m_nameMutex);
+    m_appName = name;
+}
+
+QString VTLog::currentLogPath() const
+{
+    const QString local = VTLocalPaths::libraryDirectory(VTLocalPaths::Domain::Local) + QStringLiteral("/Logs/Vantrel");
+    return generationPath(platform::isSuperUser() ? local : userLogFolder(), appName(), 1);
+}
+
+void VTLog::createNewLog(const QString &name)
+{
+    VTLog &log = sharedController();
+    log.m_writeQueue.addAndDrain([&log, name] { log.startNewLog(name); });
+}
+
+void VTLog::startNewLog(const QString &name)
+{
+    m_fileHandle.reset();
+    if (isSwitchedOff()) {
+        printToConsole("Logging is disabled");
+        m_loggingDisabled = true;
+        return;
+    }
+    {
+        const std::scoped_lock lock(m_nameMutex);
+        if (!name.isNull() && m_appName.isNull())
+            m_appName = name;
+    }
+    m_bytesWritten = 0;
+    const QString folder = userLogFolder();
+    const QString current = currentLogPath();
+    for (const QString &needed : {folder, platform::parentPath(current)}) {
+        if (!platform::makeFolders(needed).ok())
+            return printToConsole(platform::formatString("Unable to create folder %@.", needed));
+    }
+    if (platform::targetExists(current) && !shiftGenerations(folder))
+        return;
+    QSaveFile file(current);
+    if (!file.open(QIODevice::WriteOnly) || file.write(header().toUtf8()) < 0 || !file.commit())
+        return printToConsole(
+            platform::formatString("Unable to create log file %@ - %@", current, file.errorString()));
+    openCurrentLog();
+}
+
+bool VTLog::shiftGenerations(const QString &folder) const
+{
+    const QString name = appName();
+    const platform::FileOutcome removed = platform::removeTree(generationPath(folder, name, generations));
+    static_cast<void>(removed); // the move that follows tells when it stands in the way
+    for (int i = generations - 1; i >= 1; --i) {
+        const QString from = generationPath(folder, name, i);
+        const QString to = generationPath(folder, name, i + 1);
+        if (platform::targetExists(from) && !platform::moveItem(from, to).ok()) {
+            printToConsole(platform::formatString("Unable to move file %@ to %@", from, to));
+            return false;
+        }
+    }
+    return true;
+}
+
+void VTLog::openCurrentLog()
+{
+    // Appending: when another program of the same name writes here too, neither overwrites the other's lines.
+    m_fileHandle.reset(open(platform::toNative(currentLogPath()).constData(), O_WRONLY | O_APPEND | O_CLOEXEC));
+}
+
+void VTLog::printAndAppend(const QString &message)
+{
+    appendLog(message);
+    printToConsole(message);
+}
+
+void VTLog::append(const QString &message)
+{
+    const QString trimmed = message.trimmed();
+    m_bytesInQueue += static_cast<quint64>(trimmed.size());
+    auto operation = [this, trimmed] { appendLogOnThread(trimmed); };
+    const bool prompt = !trimmed.isEmpty() && trimmed.size() <= promptLength && m_bytesInQueue <= promptLength;
+    if (prompt)
+        m_writeQueue.addAndDrain(std::move(operation));
+    else
+        m_writeQueue.add(std::move(operation));
+}
+
+void VTLog::appendLogOnThread(const QString &message)
+{
+    try {
+        if (m_loggingDisabled)
+            return;
+        if (!m_fileHandle.isOpen())
+            openCurrentLog();
+        if (m_fileHandle.isOpen()) {
+            writeEntry(message);
+        } else {
+            printToConsole(platform::formatString("Unable to log the following information: %@", message));
+            printToConsole("Unable to open log for output");
+        }
+        m_bytesInQueue -= static_cast<quint64>(message.size());
+    } catch (const std::exception &exception) {
+        if (!m_loggingDisabled)
+            printToConsole(platform::formatString("Exception writing to log: %@", exception.what()));
+    }
+}
+
+void VTLog::writeEntry(const QString &message)
+{
+    const QByteArray line =
+        platform::formatString("%@ - %@\n", platform::currentDateDescription(), platform::forDisplay(message)).toUtf8();
+    // One write for one line: the kernel does not tear it, whoever else writes to the file.
+    const ssize_t written = write(m_fileHandle.get(), line.constData(), static_cast<size_t>(line.size()));
+    if (written < 0)
+        return printToConsole(platform::formatString("Unable to log the following information: %@", message));
+    m_bytesWritten += static_cast<quint64>(written);
+    if (m_bytesWritten > sizeLimit) {
+        // Written here and now, not queued behind what other threads have queued: it is the new file's first entry.
+        const QString first = QStringLiteral("Log truncated at 500KB");
+        startNewLog(appName());
+        m_bytesInQueue += static_cast<quint64>(first.size());
+        appendLogOnThread(first);
+    }
+}
+
+void VTLog::finishWriting()
+{
+    sharedController().m_writeQueue.drain();
+}
