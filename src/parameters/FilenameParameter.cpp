@@ -1,0 +1,98 @@
+#include "parameters/FilenameParameter.h"
+
+namespace {
+
+bool isNumber(const QVariant &value)
+{
+    switch (value.typeId()) {
+    case QMetaType::Bool:
+    case QMetaType::Int:
+    case QMetaType::LongLong:
+    case QMetaType::Double: return true;
+    default: return false;
+    }
+}
+
+qlonglong integerOf(const QVariant &value)
+{
+    const bool counts = isNumber(value) || value.typeId() == QMetaType::QString;
+    return counts ? value.toLongLong() : 0;
+}
+
+} // namespace
+
+QString FilenameParameter::text(const char *key) const
+{
+    const QVariant value = m_record.value(QLatin1String(key));
+    if (value.typeId() == QMetaType::QString || isNumber(value))
+        return value.toString();
+    return QLatin1String("");
+}
+
+bool FilenameParameter::flag(const char *key) const
+{
+    return integerOf(m_record.value(QLatin1String(key))) != 0;
+}
+
+FilenameParameter::Kind FilenameParameter::kind() const
+{
+    const qlonglong type = integerOf(m_record.value(QStringLiteral("type")));
+    return type < 0 || type > 5 ? Kind::Text : static_cast<Kind>(type);
+}
+
+bool FilenameParameter::isBlank() const
+{
+    const QVariant value = m_record.value(QStringLiteral("val"));
+    return !value.isValid() || (value.typeId() == QMetaType::QString && value.toString().isEmpty());
+}
+
+QStringList FilenameParameter::choices() const
+{
+    return defaultValue().isEmpty() ? QStringList() : defaultValue().split(u',');
+}
+
+bool FilenameParameter::isLocked() const
+{
+    return integerOf(m_record.value(QStringLiteral("locked"))) == 1;
+}
+
+QStringList FilenameParameter::history() const
+{
+    QStringList history;
+    const QVariant stored = m_record.value(QStringLiteral("history"));
+    if (stored.typeId() != QMetaType::QVariantList && stored.typeId() != QMetaType::QStringList)
+        return history;
+    for (const QVariant &value : stored.toList()) {
+        if (value.typeId() == QMetaType::QString)
+            history.append(value.toString());
+    }
+    return history;
+}
+
+void FilenameParameter::setHistory(const QStringList &history)
+{
+    QVariantList list;
+    for (const QString &value : history)
+        list.append(value);
+    setEntry(QStringLiteral("history"), list);
+}
+
+FilenameParameters parametersFromVariant(const QVariant &stored)
+{
+    FilenameParameters parameters;
+    if (stored.typeId() != QMetaType::QVariantList)
+        return parameters;
+    for (const QVariant &record : stored.toList()) {
+        if (record.typeId() == QMetaType::QVariantMap)
+            parameters.append(FilenameParameter(record.toMap()));
+    }
+    return parameters;
+}
+
+QVariantList variantFromParameters(const FilenameParameters &parameters)
+{
+    QVariantList list;
+    for (const FilenameParameter &parameter : parameters)
+        list.append(parameter.record());
+    return list;
+}

@@ -1,0 +1,62 @@
+#pragma once
+
+#include <QList>
+#include <QStringList>
+#include <QVariantMap>
+
+/**
+ * One filename parameter: a record of the list stored under "filenameTemplate". A plain value. Keys that this program
+ * does not know are kept; a missing key, or one of the wrong type, reads as false, 0 or empty.
+ */
+class FilenameParameter
+{
+public:
+    enum class Kind { Text = 0, OtherText = 1, Counter = 2, Date = 3, UserName = 4, Choice = 5 };
+
+    FilenameParameter() = default;
+    explicit FilenameParameter(QVariantMap record) : m_record(std::move(record)) {}
+
+    [[nodiscard]] const QVariantMap &record() const { return m_record; }
+    [[nodiscard]] QVariant entry(const QString &key) const { return m_record.value(key); }
+
+    [[nodiscard]] QString title() const { return text("title"); }
+    /** Unknown numbers are text. */
+    [[nodiscard]] Kind kind() const;
+    /** What enters the name. A number counts as its decimal text. */
+    [[nodiscard]] QString value() const { return text("val"); }
+    /** Whether the stored value is a text without a character, or there is none: what a required parameter may not be. */
+    [[nodiscard]] bool isBlank() const;
+    [[nodiscard]] bool hasDefaultValue() const { return m_record.contains(QStringLiteral("defaultVal")); }
+    [[nodiscard]] QString defaultValue() const { return text("defaultVal"); }
+    /** The comma-separated parts of the default value; empty when it is. */
+    [[nodiscard]] QStringList choices() const;
+    [[nodiscard]] bool beginsFolder() const { return flag("folder"); }
+    /** Never in effect for choice lists. */
+    [[nodiscard]] bool savesHistory() const { return kind() != Kind::Choice && flag("saveHistory"); }
+    [[nodiscard]] bool isRequired() const { return flag("disallowEmpty"); }
+    [[nodiscard]] bool isLocked() const;
+    [[nodiscard]] QStringList history() const;
+    /** Date and user name are filled in by the program at every refresh. */
+    [[nodiscard]] bool isAutomatic() const { return kind() == Kind::Date || kind() == Kind::UserName; }
+    /** Counters and choice lists keep their last value across launches; so does what has a history. */
+    [[nodiscard]] bool keepsValue() const { return kind() == Kind::Counter || kind() == Kind::Choice; }
+
+    void setEntry(const QString &key, const QVariant &value) { m_record.insert(key, value); }
+    void setValue(const QString &value) { setEntry(QStringLiteral("val"), value); }
+    void setHistory(const QStringList &history);
+    void removeHistory() { m_record.remove(QStringLiteral("history")); }
+
+    bool operator==(const FilenameParameter &) const = default;
+
+private:
+    [[nodiscard]] QString text(const char *key) const;
+    [[nodiscard]] bool flag(const char *key) const;
+
+    QVariantMap m_record;
+};
+
+using FilenameParameters = QList<FilenameParameter>;
+
+/** The records of a stored list; what is no record is left out. Empty when the value is no list. */
+[[nodiscard]] FilenameParameters parametersFromVariant(const QVariant &stored);
+[[nodiscard]] QVariantList variantFromParameters(const FilenameParameters &parameters);

@@ -1,0 +1,74 @@
+#include "parameters/ProjectNaming.h"
+
+#include "support/Settings.h"
+#include "support/VTFileManager.h"
+
+namespace naming {
+
+QStringList pathComponents(const FilenameParameters &parameters, const QString &separator)
+{
+    QStringList components;
+    QString current;
+    bool breakPending = false;
+    for (const FilenameParameter &parameter : parameters) {
+        const QString value = parameter.value();
+        if (value.isEmpty()) {
+            breakPending = breakPending || parameter.beginsFolder();
+            continue;
+        }
+        if (!current.isEmpty()) {
+            if (parameter.beginsFolder() || breakPending) {
+                components.append(VTFileManager::validateFilename(current));
+                current.clear();
+                breakPending = false;
+            } else {
+                current += separator;
+            }
+        }
+        current += value;
+    }
+    if (!current.isEmpty())
+        components.append(VTFileManager::validateFilename(current));
+    return components;
+}
+
+QString pathName(const QStringList &components)
+{
+    return components.isEmpty() ? QString(QLatin1String("")) : components.join(u'/');
+}
+
+QString projectName(const QStringList &components)
+{
+    return components.isEmpty() ? QString(QLatin1String("")) : components.constLast();
+}
+
+std::optional<qsizetype> firstBlankRequired(const FilenameParameters &parameters)
+{
+    for (qsizetype i = 0; i < parameters.size(); ++i) {
+        if (parameters[i].isRequired() && parameters[i].isBlank())
+            return i;
+    }
+    return std::nullopt;
+}
+
+} // namespace naming
+
+FilenameParameters storedParameters()
+{
+    return parametersFromVariant(settings::standard().value(settings::filenameTemplate));
+}
+
+QStringList pathComponentsFromParameters()
+{
+    return naming::pathComponents(storedParameters(), settings::standard().string(settings::separatorChar));
+}
+
+QString pathNameFromParameters()
+{
+    return naming::pathName(pathComponentsFromParameters());
+}
+
+QString projectNameFromParameters()
+{
+    return naming::projectName(pathComponentsFromParameters());
+}

@@ -1,0 +1,81 @@
+#pragma once
+
+#include "parameters/FilenameParameter.h"
+
+#include <QAbstractTableModel>
+#include <QPointer>
+
+class PathControl;
+class QLabel;
+class Spinner;
+class VTTabbedEditTableView;
+
+/**
+ * The table in which the user fills in the filename parameters: model and controller. Keeps a working copy of the stored
+ * records, equal to the stored list after every change. Without a view (on the command line) it is the same engine: every
+ * view member may stay unset. Main thread only.
+ */
+class VTProjectTableController : public QAbstractTableModel
+{
+    Q_OBJECT
+
+public:
+    enum Column { TitleColumn, ValueColumn, ColumnCount };
+
+    explicit VTProjectTableController(QObject *parent = nullptr);
+
+    /** The parts of the interface that it drives; not owned. */
+    struct Views
+    {
+        VTTabbedEditTableView *tableView = nullptr;
+        QLabel *namePreviewLabel = nullptr;
+        PathControl *previewPathControl = nullptr;
+        Spinner *spinner = nullptr;
+        QLabel *warningImage = nullptr;
+    };
+    void setViews(const Views &views);
+    /** Loads the list and starts to listen to the notifications. Once. */
+    void awakeFromNib();
+
+    [[nodiscard]] const FilenameParameters &dataArray() const { return m_dataArray; }
+
+    [[nodiscard]] int rowCount(const QModelIndex &parent = {}) const override;
+    [[nodiscard]] int columnCount(const QModelIndex &parent = {}) const override;
+    [[nodiscard]] QVariant data(const QModelIndex &index, int role) const override;
+    [[nodiscard]] Qt::ItemFlags flags(const QModelIndex &index) const override;
+    bool setData(const QModelIndex &index, const QVariant &value, int role) override;
+
+    /** Commits the value being typed, if any. */
+    void finishEditing();
+    void startProcessing();
+    void finishProcessing();
+    void editItem(int row);
+
+    void clearHistory();
+    void incrementDynamicValues();
+
+public Q_SLOTS:
+    void loadFilenameData();
+    void updateDynamicValues();
+    void editFirstItem();
+    /** Bound to the delete keys: the first selected row goes back to its default. */
+    void revertToDefaultValue();
+    void updateFilenamePreview();
+
+Q_SIGNALS:
+    /** Between startProcessing() and finishProcessing(). */
+    void processingChanged(bool processing);
+    /** Whether there is any parameter at all. */
+    void emptinessChanged(bool empty);
+
+private:
+    void setDataArray(FilenameParameters parameters);
+    void store();
+    [[nodiscard]] QVariant titleData(const FilenameParameter &parameter, int role) const;
+    [[nodiscard]] QVariant valueData(const FilenameParameter &parameter, int role) const;
+    void showWarning(bool exists);
+
+    FilenameParameters m_dataArray;
+    Views m_views;
+    quint64 m_previewNumber = 0; ///< an answer about an earlier preview's existence is not shown
+};

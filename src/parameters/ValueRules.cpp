@@ -1,0 +1,137 @@
+#include "parameters/ValueRules.h"
+
+#include "platform/LocalTime.h"
+
+namespace rules {
+namespace {
+
+bool isStrictlyAllowed(QChar character)
+{
+    const char16_t c = character.unicode();
+    return (c >= u'0' && c <= u'9') || (c >= u'a' && c <= u'z') || (c >= u'A' && c <= u'Z') || c == u'-' || c == u'_';
+}
+
+bool isDigit(QChar character)
+{
+    return character >= u'0' && character <= u'9';
+}
+
+/// Leading digits as a 32-bit signed integer, one more; it wraps as such integers do.
+QString nextNumber(QStringView digits)
+{
+    qint64 number = 0;
+    for (const QChar digit : digits) {
+        if (!isDigit(digit))
+            break;
+        number = qMin<qint64>(number * 10 + digit.digitValue(), INT32_MAX);
+    }
+    return QString::number(static_cast<qint32>(static_cast<quint32>(number) + 1U));
+}
+
+} // namespace
+
+QString strictlyNamed(const QString &typed, bool *keptTyped)
+{
+    QString stripped;
+    for (const QChar character : typed) {
+        if (isStrictlyAllowed(character))
+            stripped.append(character);
+    }
+    if (keptTyped)
+        *keptTyped = stripped.isEmpty();
+    return stripped.isEmpty() ? typed : stripped;
+}
+
+QStringList historyWith(QStringList history, const QString &value)
+{
+    history.removeAll(value);
+    while (history.size() > historyLimit - 1)
+        history.removeLast();
+    history.prepend(value);
+    return history;
+}
+
+FilenameParameter withTypedValue(FilenameParameter parameter, const QString &typed, bool strictNaming, bool *keptTyped)
+{
+    const QString value = strictNaming ? strictlyNamed(typed, keptTyped) : typed;
+    parameter.setValue(value);
+    if (parameter.savesHistory() && !value.isEmpty())
+        parameter.setHistory(historyWith(parameter.history(), value));
+    return parameter;
+}
+
+QString padNumberString(const QString &number, qsizetype length)
+{
+    return number.rightJustified(length, u'0');
+}
+
+QString incrementNumber(const QString &text)
+{
+    if (std::all_of(text.cbegin(), text.cend(), isDigit))
+        return padNumberString(nextNumber(text), text.size());
+    qsizetype start = text.size();
+    while (start > 0 && text[start - 1].isLetterOrNumber())
+        --start;
+    const QStringView tail = QStringView(text).sliced(start);
+    if (tail.isEmpty() || !isDigit(tail.back()))
+        return text;
+    const auto firstDigit = std::find_if(tail.begin(), tail.end(), isDigit);
+    const QStringView digits = tail.sliced(firstDigit - tail.begin());
+    return text.chopped(digits.size()) + padNumberString(nextNumber(digits), digits.size());
+}
+
+QString revertedValue(const FilenameParameter &parameter)
+{
+    if (parameter.kind() == FilenameParameter::Kind::Choice)
+        return parameter.choices().value(0, QLatin1String(""));
+    return parameter.defaultValue();
+}
+
+QString dateValue(const QString &format, std::time_t now)
+{
+    const QString value = platform::formatDate(format.isEmpty() ? QStringLiteral("%Y-%m-%d") : format, now);
+    return value.isEmpty() ? QString() : value;
+}
+
+FilenameParameters withDynamicValues(FilenameParameters parameters, const QString &dateFormat, const QString &userName,
+                                     std::time_t now)
+{
+    const QString date = dateValue(dateFormat, now);
+    for (FilenameParameter &parameter : parameters) {
+        if (parameter.kind() == FilenameParameter::Kind::Date && !date.isNull())
+            parameter.setValue(date);
+        else if (parameter.kind() == FilenameParameter::Kind::UserName)
+            parameter.setValue(userName);
+    }
+    return parameters;
+}
+
+FilenameParameters withCountersAdvanced(FilenameParameters parameters)
+{
+    for (FilenameParameter &parameter : parameters) {
+        if (parameter.kind() == FilenameParameter::Kind::Counter)
+            parameter.setValue(incrementNumber(parameter.value()));
+    }
+    return parameters;
+}
+
+FilenameParameters withHistoryCleared(FilenameParameters parameters)
+{
+    for (FilenameParameter &parameter : parameters) {
+        parameter.removeHistory();
+        if (parameter.hasDefaultValue() && !parameter.keepsValue())
+            parameter.setValue(parameter.defaultValue());
+    }
+    return parameters;
+}
+
+FilenameParameters asLoaded(FilenameParameters parameters)
+{
+    for (FilenameParameter &parameter : parameters) {
+        if (!parameter.savesHistory() && !parameter.keepsValue() && parameter.hasDefaultValue())
+            parameter.setValue(parameter.defaultValue());
+    }
+    return parameters;
+}
+
+} // namespace rules

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "parameters/FilenameParameter.h"
+
+#include <ctime>
+
+/** How values change: typed, counted up, refreshed, reverted. Pure functions; any thread. */
+namespace rules {
+
+inline constexpr qsizetype historyLimit = 50;
+
+/** The text reduced to 0-9, a-z, A-Z, "-" and "_"; as typed when nothing would remain, which keptTyped then says. */
+[[nodiscard]] QString strictlyNamed(const QString &typed, bool *keptTyped = nullptr);
+
+/** The remembered values with this one in front, once, at most historyLimit of them. */
+[[nodiscard]] QStringList historyWith(QStringList history, const QString &value);
+
+/** The parameter with a value typed into its row: strict naming where it is on, then the history where it is kept. */
+[[nodiscard]] FilenameParameter withTypedValue(FilenameParameter parameter, const QString &typed, bool strictNaming,
+                                               bool *keptTyped = nullptr);
+
+/**
+ * "Job-041" becomes "Job-042", "" becomes "1", "Cut" stays. The number is read from the first digit of the last
+ * alphanumeric run, so that "A1B2" becomes "A002": this must stay. Numbers are 32-bit and signed.
+ */
+[[nodiscard]] QString incrementNumber(const QString &text);
+/** With "0" in front until it has the length. */
+[[nodiscard]] QString padNumberString(const QString &number, qsizetype length);
+
+/** The default value; of a choice list the first choice. */
+[[nodiscard]] QString revertedValue(const FilenameParameter &parameter);
+
+/** Today by the format, or by "%Y-%m-%d" when that is empty; null when formatting yields nothing. */
+[[nodiscard]] QString dateValue(const QString &format, std::time_t now);
+
+// The whole list.
+[[nodiscard]] FilenameParameters withDynamicValues(FilenameParameters parameters, const QString &dateFormat,
+                                                   const QString &userName, std::time_t now);
+[[nodiscard]] FilenameParameters withCountersAdvanced(FilenameParameters parameters);
+[[nodiscard]] FilenameParameters withHistoryCleared(FilenameParameters parameters);
+/** As at start-up: values without history go back to their defaults, counters and choices stay. */
+[[nodiscard]] FilenameParameters asLoaded(FilenameParameters parameters);
+
+} // namespace rules

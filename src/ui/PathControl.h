@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QStringList>
+#include <QWidget>
+
+/**
+ * Shows a path as a row of folders, the middle elided when there is no room. As wide as its content where it may be.
+ * Draws only.
+ */
+class PathControl : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit PathControl(QWidget *parent = nullptr);
+
+    /** "/Acme/041_Promo" shows two folders; "/" none. */
+    void setPath(const QString &path);
+    [[nodiscard]] QString path() const { return m_path; }
+
+    /**
+     * Raises the control's vertical origin by 1.6 points from where it is, so that repeated calls add up; this must stay.
+     * What is drawn never leaves the control.
+     */
+    void raiseOrigin();
+    [[nodiscard]] qreal originRaised() const { return m_originRaised; }
+
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    [[nodiscard]] int widthOf(const QString &component) const;
+    [[nodiscard]] QStringList fitting(int width) const;
+
+    QString m_path;
+    QStringList m_components;
+    qreal m_originRaised = 0;
+};

@@ -1,0 +1,31 @@
+#include "ui/VTSavePanel.h"
+
+#include "platform/NativePath.h"
+
+#include <QDir>
+#include <QGridLayout>
+#include <QLineEdit>
+
+VTSavePanel::VTSavePanel(QWidget *parent) : QFileDialog(parent)
+{
+    setAcceptMode(AcceptSave);
+    setFileMode(AnyFile);
+    setOptions(DontUseNativeDialog | DontConfirmOverwrite | ShowDirsOnly);
+    setWindowModality(Qt::WindowModal);
+}
+
+void VTSavePanel::setAccessoryView(QWidget *view)
+{
+    if (auto *grid = qobject_cast<QGridLayout *>(layout()))
+        grid->addWidget(view, grid->rowCount(), 0, 1, grid->columnCount());
+}
+
+void VTSavePanel::accept()
+{
+    const auto *edit = findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
+    const QString typed = edit ? edit->text() : QString();
+    if (typed.isEmpty() || typed.contains(u'/')) // a path typed to get somewhere: the panel goes there
+        return QFileDialog::accept();
+    m_chosenPath = platform::joined(directory().absolutePath(), typed);
+    done(Accepted);
+}

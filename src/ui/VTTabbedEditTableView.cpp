@@ -1,0 +1,109 @@
+#include "ui/VTTabbedEditTableView.h"
+
+#include <QComboBox>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLineEdit>
+
+namespace {
+
+constexpr int titleColumn = 0;
+constexpr int valueColumn = 1;
+constexpr int lowestRow = 30;       // pixels, at least; more where the font needs it
+constexpr int titleShare = 40;      // per cent of the width
+constexpr int roomAroundText = 12;
+
+} // namespace
+
+VTTabbedEditTableView::VTTabbedEditTableView(QWidget *parent) : VTTableView(parent)
+{
+    setEditTriggers(DoubleClicked | EditKeyPressed | AnyKeyPressed);
+    setTabKeyNavigation(false);
+    setShowGrid(false);
+    setWordWrap(false);
+    setFrameShape(QFrame::NoFrame);
+    horizontalHeader()->hide();
+    horizontalHeader()->setMinimumSectionSize(1);
+    verticalHeader()->hide();
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    verticalHeader()->setDefaultSectionSize(qMax(lowestRow, fontMetrics().height() + roomAroundText));
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+}
+
+void VTTabbedEditTableView::editRow(int row)
+{
+    const QModelIndex value = model()->index(row, valueColumn);
+    if (!value.isValid())
+        return;
+    setFocus();
+    selectRow(row);
+    setCurrentIndex(value);
+    scrollTo(value);
+    if (!(value.flags() & Qt::ItemIsEditable))
+        return;
+    edit(value);
+    if (auto *combo = qobject_cast<QComboBox *>(indexWidget(value)); combo && combo->lineEdit())
+        combo->lineEdit()->selectAll();
+}
+
+void VTTabbedEditTableView::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint)
+{
+    Movement movement = Movement::Other;
+    if (hint == QAbstractItemDelegate::EditNextItem)
+        movement = Movement::Tab;
+    else if (hint == QAbstractItemDelegate::EditPreviousItem)
+        movement = Movement::Backtab;
+    else if (hint == QAbstractItemDelegate::SubmitModelCache)
+        movement = Movement::Return;
+    // Where to go next is decided here: the inherited movement would also visit the titles.
+    const bool moves = movement == Movement::Tab || movement == Movement::Backtab;
+    VTTableView::closeEditor(editor, moves ? QAbstractItemDelegate::NoHint : hint);
+    moveOn(movement);
+}
+
+void VTTabbedEditTableView::moveOn(Movement movement)
+{
+    const int rows = model() ? model()->rowCount() : 0;
+    const int row = firstSelectedRow().value_or(currentIndex().row());
+    if (movement == Movement::Other || rows == 0)
+        return;
+    if (movement == Movement::Backtab)
+        return editRow(row < 1 ? rows - 1 : row - 1);
+    if (row < rows - 1)
+        return editRow(row + 1);
+    if (movement == Movement::Tab)
+        return editRow(0);
+    setFocus();
+}
+
+void VTTabbedEditTableView::keyPressEvent(QKeyEvent *event)
+{
+    if (state() == EditingState || WatchKeys::characterOf(*event) != u'\t')
+        return VTTableView::keyPressEvent(event);
+    const bool backwards = event->key() == Qt::Key_Backtab || (event->modifiers() & Qt::ShiftModifier);
+    const int next = currentIndex().row() + (backwards ? -1 : 1);
+    if (!currentIndex().isValid() || !model()->index(next, valueColumn).isValid())
+        return event->ignore(); // beyond the ends the focus goes on to the next control
+    editRow(next);
+}
+
+void VTTabbedEditTableView::mouseReleaseEvent(QMouseEvent *event)
+{
+    VTTableView::mouseReleaseEvent(event);
+    const QModelIndex clicked = indexAt(event->pos());
+    if (event->button() != Qt::LeftButton || clicked.column() != valueColumn || state() == EditingState)
+        return;
+    editRow(clicked.row());
+    if (auto *choices = qobject_cast<QComboBox *>(indexWidget(clicked)); choices && !choices->isEditable())
+        choices->showPopup();
+}
+
+void VTTabbedEditTableView::resizeEvent(QResizeEvent *event)
+{
+    VTTableView::resizeEvent(event);
+    if (!model() || model()->columnCount() <= valueColumn)
+        return;
+    const int titles = viewport()->width() * titleShare / 100;
+    setColumnWidth(titleColumn, titles);
+    setColumnWidth(valueColumn, viewport()->width() - titles);
+}

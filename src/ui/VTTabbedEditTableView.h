@@ -1,0 +1,28 @@
+#pragma once
+
+#include "ui/VTTableView.h"
+
+/**
+ * A two-column form filled in from the keyboard: Tab, Shift-Tab and Return end the current edit and open the next row's
+ * value, Tab and Shift-Tab going round at the ends. The value column is always the second one.
+ */
+class VTTabbedEditTableView : public VTTableView
+{
+    Q_OBJECT
+
+public:
+    explicit VTTabbedEditTableView(QWidget *parent = nullptr);
+
+    /** Selects the row alone and edits its value, the whole text selected; a row that is locked is only selected. */
+    void editRow(int row);
+
+protected:
+    void closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    enum class Movement { Other, Return, Tab, Backtab };
+    void moveOn(Movement movement);
+};

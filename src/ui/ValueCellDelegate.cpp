@@ -1,0 +1,119 @@
+#include "ui/ValueCellDelegate.h"
+
+#include "platform/NativePath.h"
+#include "ui/Icons.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QCompleter>
+#include <QLineEdit>
+#include <QPainter>
+
+namespace {
+
+constexpr int chevronSide = 16;
+constexpr int margin = 8;
+constexpr float hairlineOpacity = 0.15F;
+constexpr float secondaryOpacity = 0.65F;
+
+CellEditor editorOf(const QModelIndex &index)
+{
+    const QVariant editor = index.data(CellRole::Editor);
+    return editor.isValid() ? editor.value<CellEditor>() : CellEditor::Text;
+}
+
+QColor faint(QColor colour, float opacity)
+{
+    colour.setAlphaF(opacity);
+    return colour;
+}
+
+} // namespace
+
+void ValueCellDelegate::initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const
+{
+    QStyledItemDelegate::initStyleOption(option, index);
+    option->text = platform::forDisplay(option->text);
+    option->decorationSize = QSize(16, 16);
+    option->state &= ~QStyle::State_HasFocus; // the whole row is marked; a frame within it would be drawn twice
+    if (index.data(CellRole::Secondary).toBool())
+        option->palette.setColor(QPalette::Text, faint(option->palette.color(QPalette::Text), secondaryOpacity));
+}
+
+void ValueCellDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const
+{
+    QStyledItemDelegate::paint(painter, option, index);
+    painter->save();
+    painter->setPen(faint(option.palette.color(QPalette::Text), hairlineOpacity));
+    painter->drawLine(option.rect.bottomLeft(), option.rect.bottomRight());
+    const bool offersItems = editorOf(index) != CellEditor::Text && index.flags().testFlag(Qt::ItemIsEditable);
+    if (offersItems && !index.data(CellRole::Items).toStringList().isEmpty()) {
+        const QRect place(option.rect.right() - margin - chevronSide,
+                          option.rect.center().y() - chevronSide / 2 + 1, chevronSide, chevronSide);
+        const bool selected = option.state.testFlag(QStyle::State_Selected);
+        icons::named("chevron-down", icons::Tone::Secondary)
+            .paint(painter, place, Qt::AlignCenter, selected ? QIcon::Selected : QIcon::Normal);
+    }
+    painter->restore();
+}
+
+QWidget *ValueCellDelegate::createCombo(QWidget *parent, const QModelIndex &index, CellEditor kind) const
+{
+    auto *combo = new QComboBox(parent);
+    combo->setFrame(false);
+    for (const QString &item : index.data(CellRole::Items).toStringList())
+        combo->addItem(platform::forDisplay(item), item);
+    if (kind == CellEditor::History) {
+        combo->setEditable(true);
+        combo->setInsertPolicy(QComboBox::NoInsert);
+        combo->lineEdit()->setPlaceholderText(tr("(not set)"));
+        combo->completer()->setCaseSensitivity(Qt::CaseSensitive);
+    }
+    return combo;
+}
+
+QWidget *ValueCellDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem &, const QModelIndex &index) const
+{
+    const CellEditor kind = editorOf(index);
+    QWidget *editor = nullptr;
+    if (kind == CellEditor::Text) {
+        auto *line = new QLineEdit(parent);
+        line->setFrame(false);
+        editor = line;
+    } else {
+        editor = createCombo(parent, index, kind);
+    }
+    editor->setAutoFillBackground(true);
+    editor->setAccessibleName(index.data(CellRole::AccessibleName).toString());
+    return editor;
+}
+
+void ValueCellDelegate::setEditorData(QWidget *editor, const QModelIndex &index) const
+{
+    const QString value = index.data(Qt::EditRole).toString();
+    if (auto *combo = qobject_cast<QComboBox *>(editor)) {
+        // A value that is not among the choices selects none: showing the first one would put it in by the back door.
+        combo->setCurrentIndex(combo->findData(value));
+        if (combo->isEditable())
+            combo->setEditText(value);
+    } else {
+        qobject_cast<QLineEdit *>(editor)->setText(value);
+    }
+}
+
+void ValueCellDelegate::setModelData(QWidget *editor, QAbstractItemModel *model, const QModelIndex &index) const
+{
+    auto *combo = qobject_cast<QComboBox *>(editor);
+    if (combo && !combo->isEditable()) {
+        if (combo->currentIndex() >= 0)
+            model->setData(index, combo->currentData());
+        return;
+    }
+    model->setData(index, combo ? combo->currentText() : qobject_cast<QLineEdit *>(editor)->text());
+}
+
+void ValueCellDelegate::updateEditorGeometry(QWidget *editor, const QStyleOptionViewItem &option,
+                                             const QModelIndex &) const
+{
+    editor->setGeometry(option.rect.adjusted(0, 0, 0, -1)); // the hairline stays
+}

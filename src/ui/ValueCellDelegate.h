@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QStyledItemDelegate>
+
+/** How a value is edited in its cell. */
+enum class CellEditor { Text, History, Choices };
+Q_DECLARE_METATYPE(CellEditor)
+
+/** What a model of values tells the delegate besides Qt's own roles. */
+namespace CellRole {
+enum : int {
+    Editor = Qt::UserRole + 1, ///< CellEditor
+    Items,                     ///< QStringList: what a history or a choice offers
+    Secondary,                 ///< bool: filled in by the program, drawn fainter
+    AccessibleName,            ///< QString: what the editor is called
+};
+}
+
+/** Draws the cells of a form and makes the editor that suits a value: a line, a line with memory, a list of choices. */
+class ValueCellDelegate : public QStyledItemDelegate
+{
+    Q_OBJECT
+
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override;
+    [[nodiscard]] QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &option,
+                                        const QModelIndex &index) const override;
+    void setEditorData(QWidget *editor, const QModelIndex &index) const override;
+    void setModelData(QWidget *editor, QAbstractItemModel *model, const QModelIndex &index) const override;
+    void updateEditorGeometry(QWidget *editor, const QStyleOptionViewItem &option,
+                              const QModelIndex &index) const override;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override;
+
+private:
+    [[nodiscard]] QWidget *createCombo(QWidget *parent, const QModelIndex &index, CellEditor kind) const;
+};
