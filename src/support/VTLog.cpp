@@ -12,11 +12,7 @@
 
 #include <QFile>
 #include <QSaveFile>
-#include <cerrno>
-#include <cstring>
 #include <exception>
-#include <fcntl.h>
-#include <unistd.h>
 
 using platform::joined;
 using platform::printToConsole;
@@ -101,7 +97,7 @@ void VTLog::createNewLog(const QString &name)
 
 void VTLog::startNewLog(const QString &name)
 {
-    m_fileHandle.reset();
+    m_fileHandle.close();
     if (isSwitchedOff()) {
         printToConsole("Logging is disabled");
         m_loggingDisabled = true;
@@ -147,7 +143,7 @@ bool VTLog::shiftGenerations(const QString &folder) const
 void VTLog::openCurrentLog()
 {
     // Appending: when another program of the same name writes here too, neither overwrites the other's lines.
-    m_fileHandle.reset(open(platform::toNative(currentLogPath()).constData(), O_WRONLY | O_APPEND | O_CLOEXEC));
+    m_fileHandle.open(currentLogPath());
 }
 
 void VTLog::printAndAppend(const QString &message)
@@ -193,7 +189,7 @@ void VTLog::writeEntry(const QString &message)
     const QByteArray line =
         platform::formatString("%@ - %@\n", platform::currentDateDescription(), platform::forDisplay(message)).toUtf8();
     // One write for one line: the kernel does not tear it, whoever else writes to the file.
-    const ssize_t written = write(m_fileHandle.get(), line.constData(), static_cast<size_t>(line.size()));
+    const qint64 written = m_fileHandle.append(line);
     if (written < 0)
         return printToConsole(platform::formatString("Unable to log the following information: %@", message));
     m_bytesWritten += static_cast<quint64>(written);

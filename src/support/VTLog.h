@@ -1,8 +1,8 @@
 #pragma once
 
+#include "platform/AppendFile.h"
 #include "platform/FormatString.h"
 #include "platform/SerialQueue.h"
-#include "platform/UniqueDescriptor.h"
 
 #include <QString>
 #include <atomic>
@@ -65,7 +65,7 @@ private:
 
     mutable std::mutex m_nameMutex;
     QString m_appName;
-    platform::UniqueDescriptor m_fileHandle; ///< touched by operations on the queue only
+    platform::AppendFile m_fileHandle; ///< touched by operations on the queue only
     platform::SerialQueue m_writeQueue;
     std::atomic<quint64> m_bytesWritten = 0;
     std::atomic<quint64> m_bytesInQueue = 0;
