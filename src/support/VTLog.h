@@ -50,6 +50,8 @@ public:
     [[nodiscard]] quint64 bytesWritten() const { return m_bytesWritten; }
     [[nodiscard]] quint64 bytesInQueue() const { return m_bytesInQueue; }
     [[nodiscard]] bool loggingDisabled() const { return m_loggingDisabled; }
+    /** While set, nothing is written and nothing said about it. */
+    void setLoggingDisabled(bool disabled) { m_loggingDisabled = disabled; }
     /** Where entries go: as super-user into the machine-wide library, while generations turn in the user's. */
     [[nodiscard]] QString currentLogPath() const;
 

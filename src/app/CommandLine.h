@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QStringList>
+#include <optional>
+
+/** What a command line asks for. A plain value. */
+struct CommandRequest
+{
+    enum class Verb { Window, Create, Templates, Parameters, Help, Version };
+
+    Verb verb = Verb::Window;
+    QStringList files; ///< for the window
+    bool json = false;
+    // create only
+    QString templateName; ///< null: as the pop-up would choose
+    QString inFolder;     ///< null: the fixed location
+    QList<std::pair<QString, QString>> values;
+    bool overwrite = false;
+    bool dryRun = false;
+};
+
+/** Exit status of every command. */
+namespace ExitStatus {
+inline constexpr int done = 0;
+inline constexpr int failed = 1; ///< or partly failed
+inline constexpr int wrongUsage = 2;
+inline constexpr int notOverwritten = 3; ///< exists and was not overwritten, or cancelled, or rights refused
+}
+
+/** Reads the words after the program's name. Nothing, with one sentence, when they cannot be understood. Pure. */
+[[nodiscard]] std::optional<CommandRequest> readCommandLine(const QStringList &words, QString &problem);
+
+[[nodiscard]] QString helpText();
+
+/** Carries out a command without a window; an application object without a display exists. Returns the exit status. */
+[[nodiscard]] int runCommand(const CommandRequest &request);

@@ -1,0 +1,131 @@
+#include "app/CreationPlan.h"
+
+#include "platform/NativePath.h"
+
+#include <QCoreApplication>
+#include <QHash>
+#include <QSet>
+
+using platform::FileKind;
+using Remark = PlanItem::Remark;
+
+namespace {
+
+const QString placeholder = QStringLiteral("template");
+
+QString inProject(const QString &folder, const QString &name)
+{
+    return folder.isEmpty() ? name : folder + u'/' + name;
+}
+
+bool isTooLong(const QString &name)
+{
+    return platform::toNative(name).size() > longestName;
+}
+
+/// Follows the names that stand in one folder while its items are renamed, one after the other.
+struct FolderNames
+{
+    QSet<QString> taken;
+
+    void rename(PlanItem &item, const QString &wanted)
+    {
+        if (wanted == item.oldName)
+            return;
+        if (isTooLong(wanted)) {
+            item.remark = Remark::NameTooLong;
+        } else if (taken.contains(wanted)) {
+            item.remark = Remark::NameTaken;
+        } else {
+            taken.remove(item.oldName);
+            taken.insert(wanted);
+            item.newName = wanted;
+        }
+    }
+};
+
+QString remarkText(const PlanItem &item)
+{
+    switch (item.remark) {
+    case Remark::NameTaken:
+        return QCoreApplication::translate("CreationPlan", "  (keeps this name: its new one is taken)");
+    case Remark::NameTooLong:
+        return QCoreApplication::translate("CreationPlan", "  (keeps this name: its new one is too long)");
+    case Remark::None: break;
+    }
+    return item.isRenamed()
+               ? QCoreApplication::translate("CreationPlan", "  (was %1)").arg(platform::forDisplay(item.oldName))
+               : QString();
+}
+
+/// A line end in a name would tear the drawing.
+QString onOneLine(const QString &name)
+{
+    QString shown = platform::forDisplay(name);
+    for (QChar &character : shown) {
+        if (character.category() == QChar::Other_Control)
+            character = QChar::ReplacementCharacter;
+    }
+    return shown;
+}
+
+} // namespace
+
+QString nameInProject(const QString &name, const QString &projectName)
+{
+    if (!platform::withoutExtension(name).toLower().contains(placeholder))
+        return name;
+    return QString(name).replace(placeholder, projectName, Qt::CaseInsensitive);
+}
+
+qsizetype CreationPlan::folders() const
+{
+    return std::count_if(items.begin(), items.end(), [](const auto &item) { return item.kind == FileKind::Folder; });
+}
+
+qsizetype CreationPlan::renamed() const
+{
+    return std::count_if(items.begin(), items.end(), [](const auto &item) { return item.isRenamed(); });
+}
+
+CreationPlan planCreation(const TemplateTree &tree, const QStringList &levels)
+{
+    CreationPlan plan{levels, {}, {}};
+    std::copy_if(levels.begin(), levels.end(), std::back_inserter(plan.tooLongLevels), isTooLong);
+    const QString projectName = levels.isEmpty() ? QString() : levels.constLast();
+
+    QHash<QString, FolderNames> names; // by the folder's path in the template
+    for (const TemplateItem &item : tree.items)
+        names[item.folder].taken.insert(item.name);
+
+    QHash<QString, QString> folderInProject{{QString(QLatin1String("")), QString(QLatin1String(""))}};
+    plan.items.reserve(tree.items.size());
+    for (const TemplateItem &item : tree.items) {
+        PlanItem planned{folderInProject.value(item.folder), item.name, item.name, item.kind, Remark::None};
+        names[item.folder].rename(planned, nameInProject(item.name, projectName));
+        if (item.kind == FileKind::Folder)
+            folderInProject.insert(inProject(item.folder, item.name), inProject(planned.folder, planned.newName));
+        plan.items.append(planned);
+    }
+    return plan;
+}
+
+QString drawnPlan(const CreationPlan &plan, const QString &destination)
+{
+    QString drawing = onOneLine(destination) + u'\n';
+    QHash<QString, qsizetype> left; // items still to be drawn in each folder
+    for (const PlanItem &item : plan.items)
+        ++left[item.folder];
+    for (const PlanItem &item : plan.items) {
+        const bool last = --left[item.folder] == 0;
+        QString indentation;
+        QString above;
+        for (const QString &component : item.folder.split(u'/', Qt::SkipEmptyParts)) {
+            indentation += left.value(above) > 0 ? QStringLiteral("│   ") : QStringLiteral("    ");
+            above = inProject(above, component);
+        }
+        drawing += indentation + (last ? QStringLiteral("└── ") : QStringLiteral("├── ")) + onOneLine(item.newName) +
+                   (item.kind == FileKind::Folder ? QStringLiteral("/") : QString()) + remarkText(item) + u'\n';
+    }
+    return drawing;
+}

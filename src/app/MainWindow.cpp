@@ -1,0 +1,188 @@
+#include "app/MainWindow.h"
+
+#include "app/MainMenu.h"
+#include "app/TessaroAppDelegate.h"
+#include "parameters/VTProjectTableController.h"
+#include "platform/NativePath.h"
+#include "ui/Icons.h"
+#include "ui/ValueCellDelegate.h"
+#include "ui_MainWindow.h"
+
+#include <QKeyEvent>
+#include <QTimer>
+
+namespace {
+
+constexpr int toolbarIconSide = 24;
+constexpr int warningSide = 16;
+
+} // namespace
+
+MainWindow::MainWindow(TessaroAppDelegate &delegate) : m_delegate(delegate), m_ui(std::make_unique<Ui::MainWindow>())
+{
+    m_ui->setupUi(this);
+    m_ui->tableView->setItemDelegate(new ValueCellDelegate(m_ui->tableView));
+    m_ui->warningImage->setPixmap(icons::named("warning").pixmap(warningSide, warningSide));
+    m_ui->emptyParameters->setContents("empty-parameters", tr("No parameters yet"), tr("Use the Standard Parameters"));
+    m_ui->emptyTemplates->setContents(
+        "empty-templates", tr("Templates are folders in your template library.\nWhat you put into a template's “Files” "
+                              "folder, every project made from it receives."),
+        tr("Show Template Library"));
+    buildToolbar();
+    buildMenus();
+    connectPanes();
+    showCreated({});
+}
+
+MainWindow::~MainWindow() = default;
+
+void MainWindow::buildToolbar()
+{
+    m_ui->toolbar->setIconSize({toolbarIconSide, toolbarIconSide});
+    const auto add = [this](const char *name, const char *icon, const QString &text, auto slot) {
+        QAction *item = m_ui->toolbar->addAction(icons::named(icon), text);
+        item->setObjectName(QLatin1String(name));
+        connect(item, &QAction::triggered, &m_delegate, slot);
+        return item;
+    };
+    m_newProjectItem =
+        add("toolbarNewProject", "new-project", tr("New Project"), &TessaroAppDelegate::toolbarNewProjectAction);
+    m_templatesItem = add("toolbarTemplates", "templates", tr("Templates"), &TessaroAppDelegate::toolbarTemplateAction);
+    auto *space = new QWidget(m_ui->toolbar);
+    space->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    m_ui->toolbar->addWidget(space);
+    m_productFamilyItem =
+        add("toolbarProductFamily", "more-products", tr("More Products"), &TessaroAppDelegate::helpLumadexHome);
+    for (QAction *item : {m_newProjectItem, m_templatesItem})
+        item->setCheckable(true);
+    m_newProjectItem->setToolTip(tr("Start a project (Ctrl+1)"));
+    m_templatesItem->setToolTip(tr("Look after the templates (Ctrl+2)"));
+}
+
+void MainWindow::buildMenus()
+{
+    m_busyActions = ::buildMenus(*menuBar(), m_delegate);
+    m_busyActions += {m_newProjectItem, m_templatesItem};
+}
+
+void MainWindow::connectPanes()
+{
+    connect(m_ui->createButton, &QPushButton::clicked, &m_delegate, &TessaroAppDelegate::createNewProject);
+    connect(m_ui->projectTemplatePopUp, &QComboBox::activated, &m_delegate, &TessaroAppDelegate::changeProjectTemplate);
+    connect(m_ui->emptyParameters, &EmptyState::activated, &m_delegate, &TessaroAppDelegate::useStandardParameters);
+    connect(m_ui->emptyTemplates, &EmptyState::activated, &m_delegate, &TessaroAppDelegate::showTemplateLibrary);
+    connect(m_ui->installTemplates, &QPushButton::clicked, &m_delegate, &TessaroAppDelegate::installStandardTemplates);
+    connect(m_ui->showButton, &QPushButton::clicked, this, [this] { m_delegate.showProject(m_created); });
+}
+
+void MainWindow::connectTable(VTProjectTableController &controller)
+{
+    controller.setViews(
+        {m_ui->tableView, m_ui->namePreviewLabel, m_ui->previewPathControl, m_ui->spinner, m_ui->warningImage});
+    connect(&controller, &VTProjectTableController::processingChanged, this, &MainWindow::setProcessing);
+    connect(&controller, &VTProjectTableController::emptinessChanged, this, &MainWindow::setParametersEmpty);
+}
+
+void MainWindow::showPane(Pane pane)
+{
+    m_newProjectItem->setChecked(pane == Pane::Project);
+    m_templatesItem->setChecked(pane == Pane::Templates);
+    m_ui->panes->setCurrentWidget(pane == Pane::Project ? m_ui->viewProject : m_ui->viewTemplate);
+}
+
+MainWindow::Pane MainWindow::shownPane() const
+{
+    return m_ui->panes->currentWidget() == m_ui->viewProject ? Pane::Project : Pane::Templates;
+}
+
+void MainWindow::setTemplates(const QStringList &names, const QString &selected)
+{
+    auto *popUp = m_ui->projectTemplatePopUp;
+    popUp->clear();
+    for (const QString &name : names)
+        popUp->addItem(platform::forDisplay(name), name);
+    popUp->setCurrentIndex(popUp->findData(selected));
+    popUp->setVisible(!names.isEmpty());
+    m_ui->installTemplates->setVisible(names.isEmpty());
+    m_ui->createButton->setEnabled(!names.isEmpty());
+}
+
+QString MainWindow::selectedTemplate() const
+{
+    return m_ui->projectTemplatePopUp->currentData().toString();
+}
+
+QStringList MainWindow::shownTemplates() const
+{
+    QStringList names;
+    for (int i = 0; i < m_ui->projectTemplatePopUp->count(); ++i)
+        names.append(m_ui->projectTemplatePopUp->itemData(i).toString());
+    return names;
+}
+
+void MainWindow::removeProductFamilyItem()
+{
+    m_ui->toolbar->removeAction(m_productFamilyItem);
+}
+
+QStringList MainWindow::selectableToolbarItems() const
+{
+    return {m_newProjectItem->objectName(), m_templatesItem->objectName()};
+}
+
+void MainWindow::showCreated(const QString &project)
+{
+    m_created = project;
+    m_ui->createdLabel->setText(
+        project.isNull() ? QString() : tr("Created ‘%1’.").arg(platform::forDisplay(platform::lastComponent(project))));
+    m_ui->showButton->setVisible(!project.isNull());
+}
+
+void MainWindow::setProcessing(bool processing)
+{
+    for (QWidget *control : QList<QWidget *>{m_ui->projectTemplatePopUp, m_ui->parameterStack, m_ui->createButton,
+                                             m_ui->previewPathControl, m_ui->showButton})
+        control->setEnabled(!processing);
+    for (QAction *action : std::as_const(m_busyActions))
+        action->setEnabled(!processing);
+    m_ui->createButton->setEnabled(!processing && m_ui->projectTemplatePopUp->count() > 0);
+}
+
+void MainWindow::setParametersEmpty(bool empty)
+{
+    m_ui->parameterStack->setCurrentWidget(empty ? static_cast<QWidget *>(m_ui->emptyParameters) : m_ui->tableView);
+}
+
+QWidget *MainWindow::makeBrowseAccessory(const QString &relativePath)
+{
+    auto *label = new QLabel(tr("The project is made in the folder shown above, as “%1”. The name typed here plays no part; "
+                                "it is composed from the parameters.")
+                                 .arg(platform::forDisplay(relativePath)));
+    label->setWordWrap(true);
+    label->setTextFormat(Qt::PlainText);
+    return label;
+}
+
+void MainWindow::keyPressEvent(QKeyEvent *event)
+{
+    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (isReturn && shownPane() == Pane::Project && m_ui->createButton->isEnabled())
+        m_ui->createButton->animateClick();
+    else
+        QMainWindow::keyPressEvent(event);
+}
+
+bool MainWindow::event(QEvent *event)
+{
+    const bool handled = QMainWindow::event(event);
+    if (event->type() == QEvent::Paint && !std::exchange(m_painted, true))
+        QTimer::singleShot(0, this, &MainWindow::firstPainted);
+    return handled;
+}
+
+void MainWindow::changeEvent(QEvent *event)
+{
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange && m_ui->warningImage)
+        m_ui->warningImage->setPixmap(icons::named("warning").pixmap(warningSide, warningSide));
+}

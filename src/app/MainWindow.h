@@ -1,0 +1,67 @@
+#pragma once
+
+#include <QMainWindow>
+#include <memory>
+
+class QAction;
+class Spinner;
+class TessaroAppDelegate;
+class VTProjectTableController;
+
+namespace Ui {
+class MainWindow;
+}
+
+/** The main window: draws the two panes and forwards what the user does to the application delegate. Holds no rule. */
+class MainWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    explicit MainWindow(TessaroAppDelegate &delegate);
+    ~MainWindow() override;
+
+    void connectTable(VTProjectTableController &controller);
+
+    enum class Pane { Project, Templates };
+    void showPane(Pane pane);
+    [[nodiscard]] Pane shownPane() const;
+
+    void setTemplates(const QStringList &names, const QString &selected);
+    [[nodiscard]] QString selectedTemplate() const;
+    [[nodiscard]] QStringList shownTemplates() const;
+
+    /** Removes the toolbar's last item: the user has the product that it is about. */
+    void removeProductFamilyItem();
+    /** Names of the toolbar's items that stand for a pane. */
+    [[nodiscard]] QStringList selectableToolbarItems() const;
+
+    /** A line at the bottom that says what was created, with a button that shows it; a null path clears it. */
+    void showCreated(const QString &project);
+    void setProcessing(bool processing);
+    /** Explains the save panel. */
+    [[nodiscard]] QWidget *makeBrowseAccessory(const QString &relativePath);
+
+Q_SIGNALS:
+    void firstPainted();
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+    bool event(QEvent *event) override;
+    void changeEvent(QEvent *event) override;
+
+private:
+    void buildToolbar();
+    void buildMenus();
+    void connectPanes();
+    void setParametersEmpty(bool empty);
+
+    TessaroAppDelegate &m_delegate;
+    std::unique_ptr<Ui::MainWindow> m_ui;
+    QAction *m_newProjectItem = nullptr;
+    QAction *m_templatesItem = nullptr;
+    QAction *m_productFamilyItem = nullptr;
+    QList<QAction *> m_busyActions; ///< not to be started while a project is being created
+    QString m_created;
+    bool m_painted = false;
+};

@@ -1,0 +1,89 @@
+#pragma once
+
+#include "app/HelpPages.h"
+#include "app/ProjectCreation.h"
+
+#include <QObject>
+#include <QPointer>
+#include <memory>
+
+class MainWindow;
+class VTProjectTableController;
+class VTSavePanel;
+
+/**
+ * The application's delegate and the owner of its one window: start-up, the two panes, the template pop-up, the creation
+ * of projects, Help. Main thread only. Made before the interface; awakeFromNib() makes that; applicationDidFinishLaunching()
+ * comes when the window has been painted.
+ */
+class TessaroAppDelegate : public QObject, private CreationHost
+{
+    Q_OBJECT
+
+public:
+    /** Starts a new log and registers the default settings. */
+    TessaroAppDelegate();
+    ~TessaroAppDelegate() override;
+
+    /** Once; later calls do nothing. False when the administrator's rights were asked for and refused: quit. */
+    [[nodiscard]] bool awakeFromNib();
+    void applicationDidFinishLaunching();
+
+    [[nodiscard]] MainWindow *mainWindow() const { return m_window.get(); }
+    [[nodiscard]] VTProjectTableController &tableController() const { return *m_tableController; }
+
+    /** The toolbar's items that stand for a pane: all but the one that opens a web page. */
+    [[nodiscard]] QStringList toolbarSelectableItemIdentifiers() const;
+
+    /** Reads the library anew and selects the template of the next project. */
+    void populateTemplatePopUp();
+
+    [[nodiscard]] QStringList pathComponentsFromParameters() const;
+    [[nodiscard]] QString pathNameFromParameters() const;
+    [[nodiscard]] QString projectNameFromParameters() const;
+
+    /** Creates the project of the current parameters out of the template. */
+    void createTemplate(const QString &templateName, const QString &atPath);
+
+public Q_SLOTS:
+    void toolbarNewProjectAction();
+    void toolbarTemplateAction();
+    void changeProjectTemplate();
+    /** The create action: checks the parameters, finds the destination, creates. */
+    void createNewProject();
+    void destinationBrowseDidEnd(int returnCode);
+
+    void useStandardParameters();
+    void installStandardTemplates();
+    void showTemplateLibrary();
+    void showProject(const QString &project);
+
+    void helpUserManual();
+    void helpAppHome();
+    void helpMoreProducts();
+    void helpLumadexHome();
+    void helpReportBug();
+    void helpSuggestFeature();
+    void helpVTHome();
+    void showAbout();
+    void quit();
+
+private:
+    // CreationHost
+    void startProcessing() override;
+    void finishProcessing() override;
+    void incrementDynamicValues() override;
+    void reveal(const QString &project) override;
+    void quitIfWanted() override;
+    [[nodiscard]] QWidget *window() const override;
+
+    [[nodiscard]] bool parametersAreComplete();
+    [[nodiscard]] bool mayOverwriteAtFixedLocation(const QString &destination, const QString &relativePath);
+    void askForDestination();
+
+    int m_awakeCount = 0;
+    bool m_creating = false;
+    std::unique_ptr<MainWindow> m_window;
+    std::unique_ptr<VTProjectTableController> m_tableController;
+    QPointer<VTSavePanel> m_savePanel;
+};

@@ -1,0 +1,142 @@
+// The create action: from the filled-in table to a finished project.
+#include "app/TessaroAppDelegate.h"
+
+#include "app/MainWindow.h"
+#include "parameters/ProjectNaming.h"
+#include "parameters/VTProjectTableController.h"
+#include "platform/Desktop.h"
+#include "platform/MainThread.h"
+#include "platform/NativePath.h"
+#include "support/Settings.h"
+#include "support/VTAlert.h"
+#include "support/VTFileManager.h"
+#include "support/VTLog.h"
+#include "ui/VTSavePanel.h"
+
+#include <QApplication>
+
+void TessaroAppDelegate::createNewProject()
+{
+    if (m_creating || m_savePanel) // a shortcut may arrive while the sheet of the last one is up
+        return;
+    m_tableController->finishEditing();
+    VTLog::appendLog("Creating new project");
+    if (!parametersAreComplete())
+        return;
+    const QString relativePath = pathNameFromParameters();
+    VTLog::appendLog("Validated folder name: %@", relativePath);
+
+    auto &defaults = settings::standard();
+    const QString fixed = defaults.string(settings::fixedProjectLocationPath);
+    if (!defaults.equalsOne(settings::useFixedProjectLocation) || fixed.isEmpty())
+        return askForDestination();
+    const QString destination = platform::joined(fixed, relativePath);
+    VTLog::appendLog("Creating project at fixed location %@", destination);
+    if (mayOverwriteAtFixedLocation(destination, relativePath))
+        createTemplate(defaults.string(settings::selectedProjectTemplate), destination);
+}
+
+bool TessaroAppDelegate::parametersAreComplete()
+{
+    const FilenameParameters parameters = storedParameters();
+    if (const auto blank = naming::firstBlankRequired(parameters)) {
+        VTAlert::alertSheetWithMessageText(
+            platform::formatString(tr("'%@' cannot be left blank"), parameters[*blank].title()),
+            tr("Please fill in this parameter before creating a project."), m_window.get());
+        m_tableController->editItem(static_cast<int>(*blank));
+        return false;
+    }
+    if (pathNameFromParameters().isEmpty()) {
+        VTAlert::alertSheetWithMessageText(tr("Unable to create folder"), tr("You must specify at least one parameter."),
+                                           m_window.get());
+        m_tableController->editFirstItem();
+        return false;
+    }
+    return true;
+}
+
+bool TessaroAppDelegate::mayOverwriteAtFixedLocation(const QString &destination, const QString &relativePath)
+{
+    const bool exists =
+        platform::resultInBackground([&] { return VTFileManager::fileExistsAtPath(destination); });
+    if (!exists)
+        return true;
+    VTLog::appendLog("Destination file already exists; asking user what to do");
+    const int answer = VTAlert::alertSheetWithMessageText(
+        tr("Project already exists"), tr("Overwrite"), tr("Cancel"), {},
+        platform::formatString(tr("Are you sure you wish to overwrite %@?"), relativePath), m_window.get(),
+        VTAlert::Block::Yes);
+    const bool overwrite = answer == VTAlert::defaultReturn;
+    VTLog::appendLog(overwrite ? "User chose to overwrite" : "User chose to cancel");
+    return overwrite;
+}
+
+void TessaroAppDelegate::askForDestination()
+{
+    VTLog::appendLog("Prompting for destination");
+    m_savePanel = new VTSavePanel(m_window.get());
+    m_savePanel->setAttribute(Qt::WA_DeleteOnClose);
+    m_savePanel->setWindowTitle(tr("Choose a destination"));
+    m_savePanel->setAccessoryView(m_window->makeBrowseAccessory(pathNameFromParameters()));
+    m_savePanel->setSuggestedName(pathComponentsFromParameters().constFirst());
+    connect(m_savePanel, &VTSavePanel::finished, this, &TessaroAppDelegate::destinationBrowseDidEnd);
+    m_savePanel->open();
+}
+
+void TessaroAppDelegate::destinationBrowseDidEnd(int returnCode)
+{
+    VTSavePanel *panel = m_savePanel;
+    m_savePanel = nullptr;
+    if (returnCode != QDialog::Accepted)
+        return;
+    panel->hide();
+    // Only the folder counts: the name typed in the panel is not the project's.
+    const QString folder = platform::parentPath(panel->chosenPath());
+    auto &defaults = settings::standard();
+    if (defaults.equalsOne(settings::useFixedProjectLocation))
+        defaults.setValue(settings::fixedProjectLocationPath, folder);
+    createTemplate(defaults.string(settings::selectedProjectTemplate),
+                   platform::joined(folder, pathNameFromParameters()));
+}
+
+void TessaroAppDelegate::createTemplate(const QString &templateName, const QString &atPath)
+{
+    m_creating = true;
+    m_window->showCreated({});
+    const CreationResult result = ProjectCreation(*this).createTemplate(templateName, atPath);
+    m_creating = false;
+    if (result.ok() && settings::standard().integer(settings::autoOpenFolder) == 0)
+        m_window->showCreated(atPath);
+}
+
+void TessaroAppDelegate::startProcessing()
+{
+    platform::MainThread::perform([this] { m_tableController->startProcessing(); }, platform::Waiting::Yes);
+}
+
+void TessaroAppDelegate::finishProcessing()
+{
+    platform::MainThread::perform([this] { m_tableController->finishProcessing(); }, platform::Waiting::Yes);
+}
+
+void TessaroAppDelegate::incrementDynamicValues()
+{
+    m_tableController->incrementDynamicValues();
+}
+
+void TessaroAppDelegate::reveal(const QString &project)
+{
+    if (settings::standard().integer(settings::autoOpenFolder) != 0)
+        platform::revealInFileBrowser(project);
+}
+
+void TessaroAppDelegate::quitIfWanted()
+{
+    if (settings::standard().integer(settings::autoQuit) != 0)
+        QApplication::quit();
+}
+
+QWidget *TessaroAppDelegate::window() const
+{
+    return m_window.get();
+}

@@ -1,0 +1,78 @@
+// Window or command line. The only place that puts the parts together.
+#include "app/CommandLine.h"
+#include "app/MainWindow.h"
+#include "app/TessaroAppDelegate.h"
+#include "platform/Console.h"
+#include "platform/Desktop.h"
+#include "platform/NativePath.h"
+#include "support/VTAlert.h"
+#include "support/VTLog.h"
+#include "ui/Icons.h"
+#include "ui/SheetPresenter.h"
+
+#include <QApplication>
+
+namespace {
+
+QStringList wordsOf(int argc, char **argv)
+{
+    QStringList words;
+    for (int i = 1; i < argc; ++i)
+        words.append(platform::fromNative(argv[i])); // byte for byte: a path need not be valid UTF-8
+    return words;
+}
+
+int runWindow(int &argc, char **argv)
+{
+    if (!platform::displayIsAvailable()) {
+        platform::writeToStandardError("Tessaro: there is no display for the window; “Tessaro create” makes a project "
+                                       "without one (see --help).\n");
+        return ExitStatus::failed;
+    }
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("Tessaro"));
+    QApplication::setDesktopFileName(QStringLiteral("com.vantrel.Tessaro"));
+    SheetPresenter sheets;
+    VTAlert::setPresenter(&sheets);
+    int status = ExitStatus::done;
+    {
+        TessaroAppDelegate delegate;
+        if (!delegate.awakeFromNib())
+            return ExitStatus::done;
+        QObject::connect(delegate.mainWindow(), &MainWindow::firstPainted, &delegate,
+                         &TessaroAppDelegate::applicationDidFinishLaunching);
+        delegate.mainWindow()->show();
+        status = QApplication::exec();
+    }
+    VTAlert::setPresenter(nullptr);
+    return status;
+}
+
+int runProgram(int argc, char **argv)
+{
+    QString problem;
+    const auto request = readCommandLine(wordsOf(argc, argv), problem);
+    if (!request) {
+        platform::writeToStandardError("Tessaro: " + problem + "\nTessaro --help lists what it understands.\n");
+        return ExitStatus::wrongUsage;
+    }
+    if (!request->files.isEmpty()) {
+        platform::writeToStandardError("Tessaro: it does not take in template bundles yet. Put them into the template "
+                                       "library, beside the other templates.\n");
+        return ExitStatus::wrongUsage;
+    }
+    if (request->verb == CommandRequest::Verb::Window)
+        return runWindow(argc, argv);
+    const QCoreApplication application(argc, argv);
+    return runCommand(*request);
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    platform::prepareLocale();
+    const int status = runProgram(argc, argv);
+    VTLog::finishWriting();
+    return status;
+}

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QMutex>
+#include <QStringList>
+
+class QWidget;
+
+/**
+ * The template library: where it lies, the templates that ship with the program, and the list of names.
+ *
+ * A template is a folder NAME.tzt in the library whose folder Files is the tree that a project receives. One object for
+ * the whole process, made on first use, never destroyed. The list may be read on any thread; the rest belongs to the main
+ * thread.
+ */
+class VTDataController
+{
+public:
+    enum class Force { No, Yes };
+
+    static VTDataController &sharedController();
+    VTDataController(const VTDataController &) = delete;
+    VTDataController &operator=(const VTDataController &) = delete;
+
+    /** The window that questions and messages hang on; not owned. */
+    void setWindow(QWidget *window) { m_window = window; }
+
+    /** The user's choice, else the folder in the user's application support. Nothing is made. */
+    [[nodiscard]] static QString templateLocation();
+    /** The tree of the named template in the library. */
+    [[nodiscard]] static QString filesFolder(const QString &templateName);
+    /** The list last built, in listing order. */
+    [[nodiscard]] QStringList templates() const;
+
+    /** Installs the shipped templates: into a library that is new, or replacing their namesakes when forced. */
+    void populateDefaultTemplates(Force force = Force::No);
+    /** Makes sure that the library exists and builds the list. */
+    void populateTemplates();
+
+    /** Unpacks every shipped template into an existing folder; what stands there under the name goes to the Trash. */
+    static void installShippedTemplates(const QString &location);
+    /** The names of the templates in a library's folder, in listing order. */
+    [[nodiscard]] static QStringList templateNames(const QString &location);
+
+private:
+    VTDataController() = default;
+
+    mutable QMutex m_mutex;
+    QStringList m_templates;
+    QWidget *m_window = nullptr;
+};
