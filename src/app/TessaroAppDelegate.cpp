@@ -31,6 +31,8 @@ TessaroAppDelegate::TessaroAppDelegate()
 
 TessaroAppDelegate::~TessaroAppDelegate()
 {
+    if (m_tableController) // a value that is being typed when the window closes counts, too
+        m_tableController->finishEditing();
     VTDataController::sharedController().setWindow(nullptr);
 }
 

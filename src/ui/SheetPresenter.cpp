@@ -2,11 +2,18 @@
 
 #include "platform/NativePath.h"
 #include "support/VTAlert.h"
+#include "ui/Icons.h"
 
 #include <QMessageBox>
 #include <QPushButton>
 #include <QWidget>
 #include <memory>
+
+namespace {
+
+constexpr int pictureSide = 48;
+
+} // namespace
 
 void SheetPresenter::present(const Sheet &sheet, std::function<void(int)> answer)
 {
@@ -20,7 +27,6 @@ void SheetPresenter::present(const Sheet &sheet, std::function<void(int)> answer
     box->setTextFormat(Qt::PlainText);
     box->setText(platform::forDisplay(sheet.messageText));
     box->setInformativeText(platform::forDisplay(sheet.informativeText));
-    box->setIcon(sheet.alternateButton.isNull() ? QMessageBox::NoIcon : QMessageBox::Question);
     auto *main = sheet.defaultButton.isNull() ? box->addButton(QMessageBox::Ok)
                                               : box->addButton(sheet.defaultButton, QMessageBox::AcceptRole);
     QPushButton *alternate =
@@ -29,6 +35,8 @@ void SheetPresenter::present(const Sheet &sheet, std::function<void(int)> answer
         sheet.otherButton.isNull() ? nullptr : box->addButton(sheet.otherButton, QMessageBox::DestructiveRole);
     // Where one may cancel, work could be lost by going on: the Return key then does the safe thing.
     const bool mayCancel = alternate && sheet.alternateButton == tr("Cancel");
+    const QIcon icon = mayCancel || !alternate ? icons::named("warning") : icons::application();
+    box->setIconPixmap(icon.pixmap(pictureSide, pictureSide));
     box->setDefaultButton(mayCancel ? alternate : main);
     box->setEscapeButton(mayCancel ? alternate : main);
 

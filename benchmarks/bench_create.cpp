@@ -1,0 +1,99 @@
+// Creating a project against `cp -a` of the same tree, in the same run.
+//
+//   bench_create [FILES]...            default: 1000 10000, a hundredth as many folders, files of 2 KiB
+//
+// Both sides are whole processes: `Tessaro create` with start-up, copy, renaming, dates and counters, and `cp -a`. They
+// take turns, each into a new destination; nothing is deleted before the end, because creating files soon after a large
+// deletion is slow on ext4 and would make every ratio 1.
+#include "platform/ChildProcess.h"
+#include "platform/Desktop.h"
+#include "platform/FileSystem.h"
+#include "platform/NativePath.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTextStream>
+#include <algorithm>
+#include <chrono>
+#include <vector>
+
+namespace {
+
+constexpr int rounds = 7;
+
+double secondsOf(const QString &tool, const QStringList &arguments)
+{
+    const auto start = std::chrono::steady_clock::now();
+    platform::ChildProcess child(tool, arguments);
+    const bool started = child.start(platform::ChildProcess::Output::Discarded,
+                                     platform::ChildProcess::ErrorOutput::Discarded);
+    if (!started || child.waitUntilExit() != 0)
+        qFatal("%s failed", qPrintable(tool));
+    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+}
+
+void makeTemplate(const QString &files, int count)
+{
+    const QByteArray contents(2048, 'x');
+    const int folders = std::max(1, count / 100);
+    for (int i = 0; i < count; ++i) {
+        const QString folder = files + QStringLiteral("/Folder %1").arg(i % folders);
+        if (i < folders && !platform::makeFolders(folder).ok())
+            qFatal("Cannot make the template");
+        // One in a hundred gets the project's name, as a few files of a real template do.
+        QFile file(folder + (i % 100 == 7 ? QStringLiteral("/Template %1.txt") : QStringLiteral("/File %1.txt")).arg(i));
+        if (!file.open(QIODevice::WriteOnly) || file.write(contents) != contents.size())
+            qFatal("Cannot write the template");
+    }
+}
+
+double median(std::vector<double> values)
+{
+    std::sort(values.begin(), values.end());
+    return values[values.size() / 2];
+}
+
+void measure(const QString &work, const QString &library, int count)
+{
+    const QString name = QStringLiteral("Bench %1").arg(count);
+    const QString files = library + u'/' + name + QStringLiteral(".tzt/Files");
+    makeTemplate(files, count);
+    const QString program = platform::parentPath(QCoreApplication::applicationFilePath()) + QStringLiteral("/Tessaro");
+    std::vector<double> ratios;
+    std::vector<double> ours;
+    std::vector<double> theirs;
+    for (int round = -1; round < rounds; ++round) {
+        const QString target = work + QStringLiteral("/%1-%2").arg(count).arg(round);
+        if (!platform::makeFolders(target).ok())
+            qFatal("Cannot make %s", qPrintable(target));
+        const double copy = secondsOf("/bin/cp", {"-a", files, target + "/cp"});
+        const double create = secondsOf(program, {"create", "--in", target, "--template", name});
+        if (round < 0)
+            continue; // the first pair fills the caches
+        theirs.push_back(copy);
+        ours.push_back(create);
+        ratios.push_back(create / copy);
+    }
+    const auto [least, most] = std::minmax_element(ratios.begin(), ratios.end());
+    QTextStream(stdout) << count << " files: cp -a " << median(theirs) * 1000 << " ms, Tessaro create "
+                        << median(ours) * 1000 << " ms, ratio " << median(ratios) << " (" << *least << " to " << *most
+                        << ")\n";
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    platform::prepareLocale();
+    QTemporaryDir work;
+    qputenv("HOME", work.path().toUtf8());
+    const QCoreApplication application(argc, argv);
+    const QString library = work.filePath("Library/Application Support/Vantrel/Tessaro/Templates");
+    QStringList counts = QCoreApplication::arguments().mid(1);
+    if (counts.isEmpty())
+        counts = QStringList{"1000", "10000"};
+    for (const QString &count : counts)
+        measure(work.path(), library, count.toInt());
+    return 0;
+}

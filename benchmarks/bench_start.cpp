@@ -1,0 +1,96 @@
+// From start to first paint, and peak memory, against an empty window of the same toolkit, in the same run.
+//
+//   bench_start PROGRAM [ROUNDS]
+//
+// Both sides are whole processes on the current display that end right after their first paint; the program does so when
+// TESSARO_QUIT_AFTER_FIRST_PAINT is set.
+#include <QApplication>
+#include <QTextStream>
+#include <QTimer>
+#include <QWidget>
+#include <algorithm>
+#include <chrono>
+#include <cstdlib>
+#include <string>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+#include <vector>
+
+namespace {
+
+class EmptyWindow : public QWidget
+{
+protected:
+    void paintEvent(QPaintEvent *) override { QTimer::singleShot(0, qApp, &QCoreApplication::quit); }
+};
+
+int showEmptyWindow(int argc, char **argv)
+{
+    QApplication application(argc, argv);
+    EmptyWindow window;
+    window.resize(640, 500);
+    window.show();
+    return QApplication::exec();
+}
+
+struct Cost
+{
+    double seconds;
+    double mebibytes;
+};
+
+Cost run(const std::vector<std::string> &words)
+{
+    const auto start = std::chrono::steady_clock::now();
+    const pid_t child = fork();
+    if (child == 0) {
+        std::vector<char *> pointers;
+        for (const std::string &word : words)
+            pointers.push_back(const_cast<char *>(word.c_str()));
+        pointers.push_back(nullptr);
+        execv(pointers[0], pointers.data());
+        _exit(127);
+    }
+    int status = 0;
+    rusage usage{};
+    wait4(child, &status, 0, &usage);
+    const std::chrono::duration<double> elapsed = std::chrono::steady_clock::now() - start;
+    return {elapsed.count(), static_cast<double>(usage.ru_maxrss) / 1024};
+}
+
+double median(std::vector<double> values)
+{
+    std::sort(values.begin(), values.end());
+    return values[values.size() / 2];
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    if (argc > 1 && std::string(argv[1]) == "--empty")
+        return showEmptyWindow(argc, argv);
+    if (argc < 2) {
+        QTextStream(stderr) << "Usage: bench_start PROGRAM [ROUNDS]\n";
+        return 2;
+    }
+    setenv("TESSARO_QUIT_AFTER_FIRST_PAINT", "1", 1);
+    const int rounds = argc > 2 ? std::atoi(argv[2]) : 15;
+    std::vector<double> times;
+    std::vector<double> sizes;
+    for (int i = -2; i < rounds; ++i) {
+        const Cost empty = run({argv[0], "--empty"});
+        const Cost ours = run({argv[1]});
+        if (i < 0)
+            continue;
+        times.push_back(ours.seconds / empty.seconds);
+        sizes.push_back(ours.mebibytes / empty.mebibytes);
+        if (i == 0)
+            QTextStream(stdout) << "first round: empty window " << empty.seconds * 1000 << " ms, " << empty.mebibytes
+                                << " MiB; program " << ours.seconds * 1000 << " ms, " << ours.mebibytes << " MiB\n";
+    }
+    QTextStream(stdout) << "start to first paint: ratio " << median(times) << ", peak memory: ratio " << median(sizes)
+                        << " (medians of " << rounds << ")\n";
+    return 0;
+}

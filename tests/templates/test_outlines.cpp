@@ -1,0 +1,80 @@
+// The shipped templates' readable sources, and the archives built from them.
+#include "platform/ApplicationBundle.h"
+#include "platform/Desktop.h"
+#include "platform/FileSystem.h"
+#include "platform/FinderInfo.h"
+#include "platform/ZipArchive.h"
+#include "support/TemporaryHome.h"
+
+#include "../../resources/packer/Outline.h"
+
+#include <QDir>
+#include <QTest>
+
+class TestOutlines : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void reads()
+    {
+        QString problem;
+        const auto entries = readOutline("# for whom\n\nA b/ [red]\n  C/\n    T.x < Source File.x [blue]\n  D/\nE/\n", problem);
+        QVERIFY2(entries, qPrintable(problem));
+        QStringList paths;
+        for (const OutlineEntry &entry : *entries)
+            paths << entry.path;
+        QCOMPARE(paths, QStringList({"A b", "A b/C", "A b/C/T.x", "A b/D", "E"}));
+        QCOMPARE(entries->at(0).label, quint16(12));
+        QCOMPARE(entries->at(2).label, quint16(8));
+        QCOMPARE(entries->at(2).source, QString("Source File.x"));
+        QVERIFY(entries->at(3).source.isNull());
+    }
+
+    void refuses_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::newRow("deeper than its parent") << "A/\n    B/\n";
+        QTest::newRow("below a file") << "A.x < S\n  B/\n";
+        QTest::newRow("odd indentation") << "A/\n B/\n";
+        QTest::newRow("unknown colour") << "A/ [pink]\n";
+        QTest::newRow("neither folder nor file") << "A\n";
+        QTest::newRow("slash in the name") << "A/B/\n";
+    }
+    void refuses()
+    {
+        QFETCH(QString, text);
+        QString problem;
+        QVERIFY(!readOutline(text, problem));
+        QVERIFY(problem.startsWith("Line "));
+    }
+
+    /// Every shipped archive unpacks into one bundle of its own name, with what its outline says, labels included.
+    void everyArchiveHoldsItsOutline()
+    {
+        const QDir outlines(TESSARO_SOURCE_DIR "/resources/templates");
+        const QStringList names = outlines.entryList({"*.outline"}, QDir::Files);
+        QVERIFY(names.size() >= 5);
+        QVERIFY(names.contains("Editing Template.outline"));
+        for (const QString &file : names) {
+            const QString name = QFileInfo(file).completeBaseName();
+            const QString archive = platform::ApplicationBundle::main().resource("Templates/" + name + ".zip");
+            const QTemporaryDir target;
+            const auto report = platform::extractZip(archive, target.path());
+            QVERIFY2(report.ok(), qPrintable(name + ": " + report.problem + report.refused.join(", ")));
+            QCOMPARE(platform::listFolder(target.path())->size(), 1);
+            QString problem;
+            const auto entries = readOutline(readFile(outlines.filePath(file)), problem);
+            QVERIFY2(entries, qPrintable(problem));
+            for (const OutlineEntry &entry : *entries) {
+                const QString path = target.filePath(name + ".tzt/Files/" + entry.path);
+                const auto kind = entry.source.isNull() ? platform::FileKind::Folder : platform::FileKind::File;
+                QVERIFY2(platform::kindOf(path) == kind, qPrintable(path));
+                QCOMPARE(platform::flagsWordOf(path), entry.label);
+            }
+        }
+    }
+};
+
+TESSARO_TEST_MAIN(QCoreApplication, TestOutlines)
+#include "test_outlines.moc"

@@ -1,0 +1,154 @@
+// The library: where it is, when the shipped templates arrive, what the list holds.
+#include "platform/Desktop.h"
+#include "platform/FileSystem.h"
+#include "platform/NativePath.h"
+#include "platform/Trash.h"
+#include "support/AlertPresenter.h"
+#include "support/Settings.h"
+#include "support/TemporaryHome.h"
+#include "support/VTAlert.h"
+#include "support/VTLocalPaths.h"
+#include "templates/TemplateChoice.h"
+#include "templates/TemplateTree.h"
+#include "templates/VTDataController.h"
+
+#include <QTest>
+#include <unistd.h>
+
+namespace {
+
+class Recorder : public AlertPresenter
+{
+public:
+    QStringList messages;
+    void present(const Sheet &sheet, std::function<void(int)> answer) override
+    {
+        messages << sheet.messageText;
+        answer(VTAlert::defaultReturn);
+    }
+    void orderOut(const VTAlert *) override {}
+};
+
+} // namespace
+
+class TestTemplateStore : public QObject
+{
+    Q_OBJECT
+
+    std::unique_ptr<QTemporaryDir> m_work;
+    Recorder m_alerts;
+    static VTDataController &store() { return VTDataController::sharedController(); }
+    QString library() const { return m_work->filePath("Library"); }
+
+private Q_SLOTS:
+    void init()
+    {
+        m_work = std::make_unique<QTemporaryDir>();
+        m_alerts.messages.clear();
+        VTAlert::setPresenter(&m_alerts);
+        settings::standard().setValue(settings::templateLocation, library());
+    }
+
+    void location()
+    {
+        QCOMPARE(VTDataController::templateLocation(), library());
+        const QString standard = VTLocalPaths::userDirectory() + "/Library/Application Support/Vantrel/Tessaro/Templates";
+        settings::standard().setValue(settings::templateLocation, "");
+        QCOMPARE(VTDataController::templateLocation(), standard);
+        settings::standard().removeValue(settings::templateLocation);
+        QCOMPARE(VTDataController::templateLocation(), standard);
+    }
+
+    void installsIntoANewLibraryOnly()
+    {
+        store().populateTemplates();
+        const QStringList shipped = store().templates();
+        QVERIFY(shipped.contains("Editing Template"));
+        QVERIFY(platform::leadsToFolder(VTDataController::filesFolder("Editing Template")));
+
+        // What the user removes stays removed, until the library itself is gone.
+        QVERIFY(platform::removeTree(library() + "/Editing Template.tzt").ok());
+        store().populateTemplates();
+        QVERIFY(!store().templates().contains("Editing Template"));
+        QVERIFY(platform::removeTree(library()).ok());
+        store().populateTemplates();
+        QCOMPARE(store().templates(), shipped);
+    }
+
+    void forcedInstallationReplacesItsOwnOnly()
+    {
+        writeFile(library() + "/Editing Template.tzt/Files/mine.txt", "mine");
+        writeFile(library() + "/Mine.tzt/Files/x");
+        store().populateDefaultTemplates(VTDataController::Force::Yes);
+        QCOMPARE(platform::kindOf(VTDataController::filesFolder("Editing Template") + "/mine.txt"),
+                 platform::FileKind::Missing);
+        QCOMPARE(platform::kindOf(VTDataController::filesFolder("Mine") + "/x"), platform::FileKind::File);
+        store().populateDefaultTemplates(VTDataController::Force::Yes);
+        int inTrash = 0;
+        QByteArray kept;
+        for (const auto &entry : *platform::listFolder(platform::homeTrashFiles())) {
+            inTrash += entry.name.startsWith("Editing Template") ? 1 : 0;
+            kept += readFile(platform::homeTrashFiles() + '/' + entry.name + "/Files/mine.txt");
+        }
+        // On another mount than the home the Trash is that mount's; then neither copy is in the home's.
+        QVERIFY(inTrash == 2 || inTrash == 0);
+        QCOMPARE(kept, inTrash == 2 ? QByteArray("mine") : QByteArray());
+    }
+
+    void listsWhatEndsInTheExtension()
+    {
+        for (const char *name : {"b.tzt/Files/x", "A.TZT/Files/x", "c.tzt.zip", ".hidden.tzt/Files/x", "tzt", ".tzt"})
+            writeFile(library() + '/' + name);
+        writeFile(library() + "/notes.tzt", "a plain file");
+        writeFile(library() + '/' + platform::fromNative("\xff.tzt/Files/x"));
+        store().populateTemplates();
+        QCOMPARE(store().templates(),
+                 QStringList({".hidden", "A", "b", "notes", platform::fromNative("\xff")}));
+    }
+
+    void saysThatALibraryCannotBeMade()
+    {
+        writeFile(m_work->filePath("file"));
+        settings::standard().setValue(settings::templateLocation, m_work->filePath("file/Library"));
+        store().populateTemplates();
+        QCOMPARE(m_alerts.messages, QStringList{"Unable to create directory " + m_work->filePath("file/Library")});
+        QVERIFY(store().templates().isEmpty());
+    }
+
+    void choice_data()
+    {
+        QTest::addColumn<QString>("marked");
+        QTest::addColumn<QString>("last");
+        QTest::addColumn<QString>("expected");
+        QTest::newRow("the marked one wins over the last one") << "B" << "C" << "B";
+        QTest::newRow("a marked one that is gone") << "gone" << "C" << "C";
+        QTest::newRow("none marked") << "" << "C" << "C";
+        QTest::newRow("neither exists") << "gone" << "lost" << "A";
+        QTest::newRow("nothing stored") << QString() << QString() << "A";
+    }
+    void choice()
+    {
+        QFETCH(QString, marked);
+        QFETCH(QString, last);
+        QTEST(chosenTemplate({"A", "B", "C"}, marked, last), "expected");
+        QVERIFY(chosenTemplate({}, marked, last).isNull());
+    }
+
+    void readsATreeWithoutEnteringLinks()
+    {
+        const QString root = m_work->filePath("Tree");
+        writeFile(root + "/b/c/file");
+        writeFile(root + "/A");
+        QCOMPARE(symlink("..", (root + "/b/up").toUtf8().constData()), 0);
+        const TemplateTree tree = readTemplateTree(root);
+        QStringList found;
+        for (const TemplateItem &item : tree.items)
+            found << platform::joined(item.folder, item.name);
+        QCOMPARE(found, QStringList({"/A", "/b", "b/c", "b/c/file", "b/up"}));
+        QVERIFY(tree.unreadable.isEmpty());
+        QCOMPARE(readTemplateTree(m_work->filePath("none")).unreadable, QStringList{""});
+    }
+};
+
+TESSARO_TEST_MAIN(QCoreApplication, TestTemplateStore)
+#include "test_template_store.moc"
