@@ -16,6 +16,12 @@ TemporaryHome::TemporaryHome()
         qunsetenv(variable);
 }
 
+TemporaryHome::~TemporaryHome()
+{
+    // QTemporaryDir leaves what is no UTF-8 and no plain file behind, with a warning.
+    static_cast<void>(platform::removeTree(m_folder.path()));
+}
+
 QString TemporaryHome::file(const QString &relative) const
 {
     const QString path = m_folder.filePath(relative);

@@ -11,6 +11,9 @@ class TemporaryHome
 {
 public:
     TemporaryHome();
+    ~TemporaryHome();
+    TemporaryHome(const TemporaryHome &) = delete;
+    TemporaryHome &operator=(const TemporaryHome &) = delete;
     [[nodiscard]] QString path() const { return m_folder.path(); }
     /** The path below the home; the parent folders are made. */
     [[nodiscard]] QString file(const QString &relative) const;

@@ -86,7 +86,8 @@ private Q_SLOTS:
         store().populateDefaultTemplates(VTDataController::Force::Yes);
         int inTrash = 0;
         QByteArray kept;
-        for (const auto &entry : *platform::listFolder(platform::homeTrashFiles())) {
+        const auto trashed = platform::listFolder(platform::homeTrashFiles()).value_or(QList<platform::FolderEntry>());
+        for (const auto &entry : trashed) {
             inTrash += entry.name.startsWith("Editing Template") ? 1 : 0;
             kept += readFile(platform::homeTrashFiles() + '/' + entry.name + "/Files/mine.txt");
         }
