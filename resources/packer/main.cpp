@@ -2,7 +2,7 @@
 #include "Outline.h"
 
 #include "platform/Desktop.h"
-#include "platform/ZipArchive.h"
+#include "platform/ZipFormat.h"
 
 #include <QFile>
 #include <QFileInfo>

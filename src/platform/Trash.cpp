@@ -7,6 +7,7 @@
 #include "platform/NativePath.h"
 
 #include <QFile>
+#include <QLibrary>
 #include <QStandardPaths>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -49,14 +50,38 @@ bool reachedATrash(const QString &path, const FileIdentity &identity)
            holds(joined(root, ".Trash/" + user + "/files"), identity);
 }
 
+/// GIO, loaded when the first item goes to the Trash: linked, it would cost every start time and memory.
+struct Gio
+{
+    QLibrary library{QStringLiteral("gio-2.0"), 0};
+    decltype(&g_vfs_get_local) vfsGetLocal = resolve<decltype(&g_vfs_get_local)>("g_vfs_get_local");
+    decltype(&g_vfs_get_file_for_path) fileForPath =
+        resolve<decltype(&g_vfs_get_file_for_path)>("g_vfs_get_file_for_path");
+    decltype(&g_file_trash) fileTrash = resolve<decltype(&g_file_trash)>("g_file_trash");
+    decltype(&g_object_unref) unref = resolve<decltype(&g_object_unref)>("g_object_unref");
+    decltype(&g_clear_error) clearError = resolve<decltype(&g_clear_error)>("g_clear_error");
+
+    [[nodiscard]] bool isComplete() const { return vfsGetLocal && fileForPath && fileTrash && unref && clearError; }
+
+private:
+    template <typename Function>
+    Function resolve(const char *symbol)
+    {
+        return reinterpret_cast<Function>(library.resolve(symbol));
+    }
+};
+
 bool trashWithGio(const QString &path)
 {
+    static auto *gio = new Gio; // GIO keeps threads of its own and is never unloaded
+    if (!gio->isComplete())
+        return false;
     // The local file system directly: the default one loads every module of the desktop and starts its services.
-    GFile *file = g_vfs_get_file_for_path(g_vfs_get_local(), toNative(path).constData());
+    GFile *file = gio->fileForPath(gio->vfsGetLocal(), toNative(path).constData());
     GError *error = nullptr;
-    const bool trashed = g_file_trash(file, nullptr, &error);
-    g_clear_error(&error);
-    g_object_unref(file);
+    const bool trashed = gio->fileTrash(file, nullptr, &error);
+    gio->clearError(&error);
+    gio->unref(file);
     return trashed;
 }
 
