@@ -160,8 +160,11 @@ bool CreateCommand::parametersAreComplete()
         problem = platform::formatString(text("'%@' cannot be left blank"), m_parameters[*blank].title()) + u'\n' +
                   text("Please fill in this parameter before creating a project.") + u' ' +
                   text("(--set \"%1=…\")").arg(m_parameters[*blank].title());
-    else if (m_levels.join(QString()).isEmpty())
+    else if (naming::pathName(m_levels).isEmpty())
         problem = text("Unable to create folder") + u'\n' + text("You must specify at least one parameter.");
+    else if (naming::hasUnusableLevel(m_levels))
+        problem = text("Unable to create folder") + u'\n' +
+                  text("The values give a folder level without a usable name (nothing, or dots only). Please change them.");
     if (problem.isNull())
         return true;
     refuse(ExitStatus::failed, problem);

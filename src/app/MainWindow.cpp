@@ -15,6 +15,7 @@ namespace {
 
 constexpr int toolbarIconSide = 24;
 constexpr int warningSide = 16;
+constexpr int longestCreatedName = 220; // pixels
 
 } // namespace
 
@@ -133,19 +134,26 @@ QStringList MainWindow::selectableToolbarItems() const
 void MainWindow::showCreated(const QString &project)
 {
     m_created = project;
-    m_ui->createdLabel->setText(
-        project.isNull() ? QString() : tr("Created ‘%1’.").arg(platform::forDisplay(platform::lastComponent(project))));
+    // Elided, for the window must not grow with a long name; the whole path is in the tool tip.
+    const QString name = fontMetrics().elidedText(platform::forDisplay(platform::lastComponent(project)),
+                                                  Qt::ElideMiddle, longestCreatedName);
+    m_ui->createdLabel->setText(project.isNull() ? QString() : tr("Created ‘%1’.").arg(name));
+    m_ui->createdLabel->setToolTip(platform::forDisplay(project));
     m_ui->showButton->setVisible(!project.isNull());
 }
 
 void MainWindow::setProcessing(bool processing)
 {
+    if (processing)
+        m_focusBefore = focusWidget();
     for (QWidget *control : QList<QWidget *>{m_ui->projectTemplatePopUp, m_ui->parameterStack, m_ui->createButton,
                                              m_ui->previewPathControl, m_ui->showButton})
         control->setEnabled(!processing);
     for (QAction *action : std::as_const(m_busyActions))
         action->setEnabled(!processing);
     m_ui->createButton->setEnabled(!processing && m_ui->projectTemplatePopUp->count() > 0);
+    if (!processing && m_focusBefore)
+        m_focusBefore->setFocus();
 }
 
 void MainWindow::setParametersEmpty(bool empty)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QMainWindow>
+#include <QPointer>
 #include <memory>
 
 class QAction;
@@ -62,6 +63,7 @@ private:
     QAction *m_templatesItem = nullptr;
     QAction *m_productFamilyItem = nullptr;
     QList<QAction *> m_busyActions; ///< not to be started while a project is being created
+    QPointer<QWidget> m_focusBefore; ///< what had the focus when the controls were dimmed
     QString m_created;
     bool m_painted = false;
 };

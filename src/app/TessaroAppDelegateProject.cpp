@@ -10,6 +10,7 @@
 #include "support/Settings.h"
 #include "support/VTAlert.h"
 #include "support/VTFileManager.h"
+#include "support/VTLocalPaths.h"
 #include "support/VTLog.h"
 #include "ui/VTSavePanel.h"
 
@@ -46,13 +47,16 @@ bool TessaroAppDelegate::parametersAreComplete()
         m_tableController->editItem(static_cast<int>(*blank));
         return false;
     }
-    if (pathNameFromParameters().isEmpty()) {
-        VTAlert::alertSheetWithMessageText(tr("Unable to create folder"), tr("You must specify at least one parameter."),
-                                           m_window.get());
-        m_tableController->editFirstItem();
-        return false;
-    }
-    return true;
+    QString problem;
+    if (pathNameFromParameters().isEmpty())
+        problem = tr("You must specify at least one parameter.");
+    else if (naming::hasUnusableLevel(pathComponentsFromParameters()))
+        problem = tr("The values give a folder level without a usable name (nothing, or dots only). Please change them.");
+    if (problem.isNull())
+        return true;
+    VTAlert::alertSheetWithMessageText(tr("Unable to create folder"), problem, m_window.get());
+    m_tableController->editFirstItem();
+    return false;
 }
 
 bool TessaroAppDelegate::mayOverwriteAtFixedLocation(const QString &destination, const QString &relativePath)
@@ -78,6 +82,8 @@ void TessaroAppDelegate::askForDestination()
     m_savePanel->setAttribute(Qt::WA_DeleteOnClose);
     m_savePanel->setWindowTitle(tr("Choose a destination"));
     m_savePanel->setAccessoryView(m_window->makeBrowseAccessory(pathNameFromParameters()));
+    const QString start = settings::standard().string(settings::fixedProjectLocationPath);
+    m_savePanel->setDirectory(VTFileManager::isDirectoryAtPath(start) ? start : VTLocalPaths::userDirectory());
     m_savePanel->setSuggestedName(pathComponentsFromParameters().constFirst());
     connect(m_savePanel, &VTSavePanel::finished, this, &TessaroAppDelegate::destinationBrowseDidEnd);
     m_savePanel->open();

@@ -34,12 +34,19 @@ QStringList pathComponents(const FilenameParameters &parameters, const QString &
 
 QString pathName(const QStringList &components)
 {
-    return components.isEmpty() ? QString(QLatin1String("")) : components.join(u'/');
+    return QLatin1String("") + components.join(u'/');
 }
 
 QString projectName(const QStringList &components)
 {
-    return components.isEmpty() ? QString(QLatin1String("")) : components.constLast();
+    return components.isEmpty() ? QString(QLatin1String("")) : QLatin1String("") + components.constLast();
+}
+
+bool hasUnusableLevel(const QStringList &components)
+{
+    return std::any_of(components.begin(), components.end(), [](const QString &component) {
+        return component.isEmpty() || component == u"." || component == u"..";
+    });
 }
 
 std::optional<qsizetype> firstBlankRequired(const FilenameParameters &parameters)

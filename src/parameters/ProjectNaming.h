@@ -19,6 +19,9 @@ namespace naming {
 /** The innermost level: what replaces the word template in the names of copied items. Empty without levels. */
 [[nodiscard]] QString projectName(const QStringList &components);
 
+/** A level that no folder can be named: empty after cleaning, or one that leads elsewhere ("..", "."). */
+[[nodiscard]] bool hasUnusableLevel(const QStringList &components);
+
 /** The first required parameter without a value. */
 [[nodiscard]] std::optional<qsizetype> firstBlankRequired(const FilenameParameters &parameters);
 

@@ -61,6 +61,9 @@ void keepDamagedList()
     if (stored.typeId() == QMetaType::QVariantList) {
         if (const auto damaged = stored.toList().size() - parametersFromVariant(stored).size(); damaged > 0)
             VTLog::appendLog("Leaving out %ld damaged filename parameters", damaged);
+        else
+            return;
+        defaults.setValue(settings::filenameTemplate + ".damaged", stored);
         return;
     }
     VTLog::appendLog("The filename parameters in the settings are no list; using the shipped ones");
@@ -105,7 +108,7 @@ int VTProjectTableController::columnCount(const QModelIndex &parent) const
 
 QVariant VTProjectTableController::data(const QModelIndex &index, int role) const
 {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid))
+    if (!index.isValid() || !checkIndex(index, CheckIndexOption::ParentIsInvalid))
         return {};
     const FilenameParameter &parameter = m_dataArray[index.row()];
     return index.column() == TitleColumn ? titleData(parameter, role) : valueData(parameter, role);
@@ -139,7 +142,7 @@ QVariant VTProjectTableController::valueData(const FilenameParameter &parameter,
 
 Qt::ItemFlags VTProjectTableController::flags(const QModelIndex &index) const
 {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+    if (!index.isValid() || !checkIndex(index))
         return Qt::NoItemFlags;
     const Qt::ItemFlags selectable = Qt::ItemIsSelectable | Qt::ItemIsEnabled;
     const bool editable = index.column() == ValueColumn && !m_dataArray[index.row()].isLocked();
@@ -148,7 +151,7 @@ Qt::ItemFlags VTProjectTableController::flags(const QModelIndex &index) const
 
 bool VTProjectTableController::setData(const QModelIndex &index, const QVariant &value, int role)
 {
-    if (role != Qt::EditRole || !checkIndex(index, CheckIndexOption::IndexIsValid) || index.column() != ValueColumn)
+    if (role != Qt::EditRole || !index.isValid() || !checkIndex(index) || index.column() != ValueColumn)
         return false;
     bool keptTyped = false;
     FilenameParameter &parameter = m_dataArray[index.row()];
@@ -293,5 +296,6 @@ void VTProjectTableController::showWarning(bool exists)
 {
     if (exists)
         m_views.previewPathControl->raiseOrigin();
-    m_views.warningImage->setVisible(exists);
+    if (m_views.warningImage)
+        m_views.warningImage->setVisible(exists);
 }

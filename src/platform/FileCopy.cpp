@@ -161,13 +161,14 @@ EntryResult copyRegular(int sourceFolder, const char *from, int destinationFolde
     if (!S_ISREG(info.st_mode))
         return {ESTALE, false, false};
     const int flags = O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC;
-    UniqueDescriptor destination(openat(destinationFolder, to, flags, info.st_mode & 0777));
+    // Writable at first: attributes can be set on nothing else, whatever the mode is to be in the end.
+    UniqueDescriptor destination(openat(destinationFolder, to, flags, (info.st_mode & 0777) | S_IWUSR));
     if (!destination.isOpen())
         return {errno, false, false};
     result.made = true;
     result.error = copyContents(source.get(), destination.get(), info);
     if (result.error == 0) {
-        const bool modeIsSet = (info.st_mode & (creationMask() | 07000)) == 0;
+        const bool modeIsSet = (info.st_mode & (creationMask() | 07000)) == 0 && (info.st_mode & S_IWUSR) != 0;
         const EntryResult metadata = copyMetadata(source.get(), destination.get(), info, modeIsSet);
         result.error = metadata.error;
         result.attributesLost = metadata.attributesLost;

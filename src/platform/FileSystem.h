@@ -59,6 +59,8 @@ FileOutcome makeNewFolder(const QString &path);
 FileOutcome moveItem(const QString &source, const QString &destination);
 /** The item, with everything below it. Links are removed, never followed. What is missing is success. */
 FileOutcome removeTree(const QString &path);
+/** The same for what this process has just made: folders that it has closed to itself again are opened first. */
+FileOutcome removeOwnTree(const QString &path);
 /** The dates of the item itself become now; a link's own, never its target's. */
 FileOutcome touchItem(const QString &path);
 

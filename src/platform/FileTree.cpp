@@ -17,33 +17,48 @@
 namespace platform {
 namespace {
 
-FileOutcome removeBelow(int folder, const QString &path);
+/// What happens at a folder whose mode keeps this process out.
+enum class Closed { Fails, IsOpened };
 
-FileOutcome removeEntry(int parent, const char *name, bool folder, const QString &path)
+FileOutcome removeBelow(int folder, const QString &path, Closed closed);
+
+FileOutcome removeEntry(int parent, const char *name, bool folder, const QString &path, Closed closed)
 {
     if (folder) {
+        if (closed == Closed::IsOpened)
+            static_cast<void>(fchmodat(parent, name, 0700, 0) == 0);
         const UniqueDescriptor opened = openFolder(parent, name);
         if (!opened.isOpen() && errno != ENOENT)
             return FileOutcome::fromErrno(path);
-        if (const FileOutcome below = opened.isOpen() ? removeBelow(opened.get(), path) : FileOutcome(); !below.ok())
+        const FileOutcome below = opened.isOpen() ? removeBelow(opened.get(), path, closed) : FileOutcome();
+        if (!below.ok())
             return below;
     }
     const bool gone = unlinkat(parent, name, folder ? AT_REMOVEDIR : 0) == 0 || errno == ENOENT;
     return gone ? FileOutcome() : FileOutcome::fromErrno(path);
 }
 
-FileOutcome removeBelow(int folder, const QString &path)
+FileOutcome removeBelow(int folder, const QString &path, Closed closed)
 {
     std::vector<RawEntry> entries;
     if (!readFolder(folder, entries))
         return FileOutcome::fromErrno(path);
     for (const RawEntry &entry : entries) {
         const FileOutcome removed =
-            removeEntry(folder, entry.name.c_str(), entry.type == DT_DIR, joined(path, fromNative(entry.name)));
+            removeEntry(folder, entry.name.c_str(), entry.type == DT_DIR, joined(path, fromNative(entry.name)), closed);
         if (!removed.ok())
             return removed;
     }
     return {};
+}
+
+FileOutcome removeItem(const QString &path, Closed closed)
+{
+    raiseDescriptorLimit();
+    const FileKind kind = kindOf(path);
+    const PathAt at(path);
+    return kind == FileKind::Missing ? FileOutcome()
+                                     : removeEntry(at.folder(), at.name(), kind == FileKind::Folder, path, closed);
 }
 
 /// The rename itself, refusing to overwrite. File systems without that flag get a look first.
@@ -95,11 +110,12 @@ struct Toucher
 
 FileOutcome removeTree(const QString &path)
 {
-    raiseDescriptorLimit();
-    const FileKind kind = kindOf(path);
-    const PathAt at(path);
-    return kind == FileKind::Missing ? FileOutcome()
-                                     : removeEntry(at.folder(), at.name(), kind == FileKind::Folder, path);
+    return removeItem(path, Closed::Fails);
+}
+
+FileOutcome removeOwnTree(const QString &path)
+{
+    return removeItem(path, Closed::IsOpened);
 }
 
 FileOutcome moveItem(const QString &source, const QString &destination)

@@ -16,6 +16,7 @@ namespace {
 
 constexpr const char *attributeName = "user.com.apple.FinderInfo";
 constexpr std::size_t attributeSize = 32;
+constexpr int prefixRoom = 32; ///< bytes: "/proc/self/fd/<number>/"
 using Attribute = std::array<uchar, attributeSize>;
 
 /// The path that the *xattr calls take: they know no folder descriptor, so a long path goes through /proc/self/fd.
@@ -44,14 +45,14 @@ UniqueDescriptor openForFlags(const QString &path)
 quint16 flagsWordOf(const QString &path)
 {
     Attribute attribute{};
-    if (!readAttribute(attributePath(PathAt(path)), attribute))
+    if (!readAttribute(attributePath(PathAt(path, prefixRoom)), attribute))
         return 0;
     return static_cast<quint16>(attribute[8] << 8 | attribute[9]);
 }
 
 bool setFlagsWord(const QString &path, quint16 word, quint16 mask)
 {
-    const PathAt at(path);
+    const PathAt at(path, prefixRoom);
     const QByteArray native = attributePath(at);
     Attribute attribute{};
     if (!readAttribute(native, attribute))

@@ -5,6 +5,7 @@
 #include <QEventLoop>
 #include <QThread>
 #include <QTimer>
+#include <atomic>
 #include <condition_variable>
 #include <memory>
 #include <mutex>
@@ -129,17 +130,18 @@ void performInBackground(const std::function<void()> &work)
         return work();
     const InputClosed closed;
     QEventLoop loop;
-    Gate finished;
+    std::atomic<bool> finished = false;
     auto *worker = QThread::create([&] {
         work();
         QMetaObject::invokeMethod(&loop, &QEventLoop::quit, Qt::QueuedConnection);
-        finished.open();
+        finished = true;
     });
     const std::unique_ptr<QThread> owner(worker);
     worker->start();
     loop.exec();
     // The loop ends early when the application was told to quit: the work is finished all the same, never abandoned.
-    finished.wait();
+    while (!finished)
+        MainThread::turnLoop(std::chrono::milliseconds(10));
     worker->wait();
 }
 

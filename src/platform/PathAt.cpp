@@ -35,10 +35,10 @@ void raiseDescriptorLimit()
     });
 }
 
-PathAt::PathAt(const QString &path) : m_name(toNative(path)), m_folder(AT_FDCWD)
+PathAt::PathAt(const QString &path, int room) : m_name(toNative(path)), m_folder(AT_FDCWD)
 {
-    while (m_name.size() >= PATH_MAX) {
-        const qsizetype cut = m_name.lastIndexOf('/', PATH_MAX - 2 - m_name.size());
+    while (m_name.size() + room >= PATH_MAX) {
+        const qsizetype cut = m_name.lastIndexOf('/', qMin<qsizetype>(PATH_MAX - 2, m_name.size() - 1));
         const QByteArray stretch = cut > 0 ? m_name.first(cut) : QByteArray();
         const int next = cut > 0 ? openat(m_folder, stretch.constData(), O_PATH | O_DIRECTORY | O_CLOEXEC) : -1;
         if (next < 0) {

@@ -15,7 +15,8 @@ namespace platform {
 class PathAt
 {
 public:
-    explicit PathAt(const QString &path);
+    /** With room, in bytes, for what the caller puts before the name. */
+    explicit PathAt(const QString &path, int room = 0);
 
     [[nodiscard]] int folder() const { return m_folder; }
     [[nodiscard]] const char *name() const { return m_name.constData(); }

@@ -302,7 +302,7 @@ void TreeCopier::removeWhatFailed()
     for (std::size_t i = m_firstFailed; i < m_names.size(); ++i) {
         if (m_made[i] == 0)
             continue;
-        const FileOutcome removed = removeTree(joined(m_destinationFolder, fromNative(m_names[i].to)));
+        const FileOutcome removed = removeOwnTree(joined(m_destinationFolder, fromNative(m_names[i].to)));
         static_cast<void>(removed); // on a drive that has vanished there is nothing left to remove; the failure is told
     }
 }

@@ -6,15 +6,17 @@
 
 #include <QFile>
 #include <QLockFile>
+#include <QRandomGenerator>
 #include <QSaveFile>
 #include <chrono>
 #include <sys/stat.h>
+#include <thread>
 #include <unistd.h>
 
 namespace platform {
 namespace {
 
-constexpr std::chrono::milliseconds lockPatience{3000};
+constexpr std::chrono::seconds lockPatience{10};
 
 /// Changes whenever the file was replaced or rewritten; empty when there is none.
 QByteArray stampOf(const QString &file)
@@ -42,6 +44,19 @@ QString setAside(const QString &file)
     for (int n = 2; kindOf(aside) != FileKind::Missing; ++n)
         aside = file + QStringLiteral(".damaged-%1").arg(n);
     return moveItem(file, aside).ok() ? aside : QString();
+}
+
+/// In short steps of uneven length: the lock's own waiting doubles its pauses, and who waits longest looks least often.
+bool lockPatiently(QLockFile &lock)
+{
+    const auto start = std::chrono::steady_clock::now();
+    while (!lock.tryLock(0)) {
+        const bool isHeld = lock.error() == QLockFile::LockFailedError;
+        if (!isHeld || std::chrono::steady_clock::now() - start > lockPatience)
+            return false;
+        std::this_thread::sleep_for(std::chrono::milliseconds(2 + QRandomGenerator::global()->bounded(8)));
+    }
+    return true;
 }
 
 bool replaceFile(const QString &file, const QVariantMap &values)
@@ -153,9 +168,10 @@ bool UserDefaults::store(Domain &domain, const QString &key, const QVariant &val
         return true;
     const bool folderMade = makeFolders(parentPath(domain.file)).ok();
     QLockFile lock(domain.file + QStringLiteral(".lock"));
-    const bool locked = folderMade && lock.tryLock(static_cast<int>(lockPatience.count()));
+    const bool locked = folderMade && lockPatiently(lock);
     if (folderMade && !locked && lock.error() == QLockFile::LockFailedError)
         m_onProblem(QStringLiteral("Settings %1 are locked by another program; writing all the same").arg(domain.file));
+    domain.stamp = "?"; // re-read whatever the stamp says: two writes may fall into one tick of the file system's clock
     refresh(domain);
     if (value.isValid())
         domain.values.insert(key, value);

@@ -37,16 +37,21 @@ bool staysInside(const QString &name)
     return !name.split(u'/').contains(QStringLiteral(".."));
 }
 
-/// Whether a link at the entry's place, followed step by step, stays below the destination.
+/// Whether a link at the entry's place stays below the destination. Steps upwards count only at the beginning: after a
+/// step down they would start from wherever that step, perhaps a link of the archive, leads.
 bool linkStaysInside(const QString &name, const QString &target)
 {
     if (target.startsWith(u'/'))
         return false;
     qsizetype depth = name.count(u'/');
+    bool descended = false;
     for (const QString &step : target.split(u'/', Qt::SkipEmptyParts)) {
-        depth += step == u".." ? -1 : step == u"." ? 0 : 1;
-        if (depth < 0)
-            return false;
+        if (step == u"..") {
+            if (descended || --depth < 0)
+                return false;
+        } else if (step != u".") {
+            descended = true;
+        }
     }
     return true;
 }
@@ -79,12 +84,23 @@ public:
         }
         if (archive_write_close(m_disk.get()) != ARCHIVE_OK && m_report.problem.isNull())
             m_report.problem = errorOf(m_disk.get());
-        for (auto label = m_labels.cbegin(); label != m_labels.cend(); ++label)
-            setFlagsWord(label.key(), label.value(), labelMask | bundleBit);
+        for (auto label = m_labels.cbegin(); label != m_labels.cend(); ++label) {
+            if (!leadsThroughLink(label.key()))
+                setFlagsWord(label.key(), label.value(), labelMask | bundleBit);
+        }
         return m_report;
     }
 
 private:
+    bool leadsThroughLink(const QString &path) const
+    {
+        for (QString above = parentPath(path); above.size() > m_destination.size(); above = parentPath(above)) {
+            if (kindOf(above) == FileKind::Link)
+                return true;
+        }
+        return false;
+    }
+
     static QString errorOf(archive *handle)
     {
         const char *text = archive_error_string(handle);

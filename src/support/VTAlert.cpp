@@ -161,8 +161,10 @@ void VTAlert::alertSheetWithDictionary(const QVariantMap &dictionary)
                                       m_parentWindow};
     const QPointer<VTAlert> self(this);
     installedPresenter->present(sheet, [self](int code) {
-        if (!self || !self->m_delegate)
+        if (!self)
             return;
+        if (!self->m_delegate)
+            return self->end(code);
         const bool ownDelegate = self->m_delegate == self;
         QMetaObject::invokeMethod(self->m_delegate, self->m_didEndSelector.constData(), Qt::DirectConnection,
                                   Q_ARG(VTAlert *, self.data()), Q_ARG(qlonglong, code), Q_ARG(void *, nullptr));

@@ -38,9 +38,9 @@ bool differOnlyInCase(const QString &source, const QString &toPath)
 }
 
 /// With a name that is taken the tools would put a folder into the folder, or replace what stands there by it.
-bool wouldMergeFolders(const FileOutcome &failure, const QString &source, const QString &toPath)
+bool wouldMergeFolders(const QString &source, const QString &toPath)
 {
-    return failure.errorNumber() == EEXIST &&
+    return kindOf(toPath) != FileKind::Missing &&
            (kindOf(source) == FileKind::Folder || platform::leadsToFolder(toPath) || platform::leadsToFolder(source));
 }
 
@@ -131,7 +131,7 @@ bool VTFileManager::copyFile(const QString &source, const QString &toPath, Shoul
         return true;
     VTLog::appendLog("Error copying file: %@. Authorizing...", copied.description());
     // EINVAL: a folder into itself, which the tool would half do before it notices.
-    if (copied.errorNumber() == EINVAL || wouldMergeFolders(copied, source, toPath))
+    if (copied.errorNumber() == EINVAL || wouldMergeFolders(source, toPath))
         return false;
     return fallBackToTool(shouldAuth, copied, VTAuthorization::copyCommand(source, toPath),
                           [&] { return VTAuthorization::sharedController().authCopyFile(source, toPath); });
@@ -164,7 +164,7 @@ bool VTFileManager::moveFile(const QString &source, const QString &toPath, Shoul
     if (moved.ok())
         return true;
     VTLog::appendLog("Error moving file: %@. Authorizing...", moved.description());
-    if (moved.errorNumber() == EINVAL || wouldMergeFolders(moved, source, toPath) ||
+    if (moved.errorNumber() == EINVAL || wouldMergeFolders(source, toPath) ||
         (moved.errorNumber() == EEXIST && differOnlyInCase(source, toPath)))
         return false;
     return fallBackToTool(shouldAuth, moved, VTAuthorization::moveCommand(source, toPath),

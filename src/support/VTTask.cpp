@@ -201,12 +201,12 @@ void VTTask::asyncDataFromTask(const QString &tool, const QStringList &arguments
     run->child = std::make_shared<ChildProcess>(tool, arguments);
     run->delegate = std::move(delegate);
     run->object = std::move(object);
-    const std::scoped_lock lock(m_mutex);
-    m_run = run;
-    m_reader = std::thread([this, run] { launchAsyncTask(run); });
+    const std::scoped_lock lock(m_state->mutex);
+    m_state->run = run;
+    m_reader = std::thread([this, state = m_state, run] { launchAsyncTask(state, run); });
 }
 
-void VTTask::launchAsyncTask(const std::shared_ptr<AsyncRun> &run)
+void VTTask::launchAsyncTask(const std::shared_ptr<State> &state, const std::shared_ptr<AsyncRun> &run)
 {
     const Child child = run->child;
     if (child->tool().isNull()) {
@@ -215,26 +215,31 @@ void VTTask::launchAsyncTask(const std::shared_ptr<AsyncRun> &run)
     }
     if (child->start(Output::Captured, ErrorOutput::Discarded)) {
         for (QByteArray chunk = child->readOutput(); !chunk.isEmpty(); chunk = child->readOutput()) {
-            if (!asyncTaskReturnData(run, chunk))
+            if (!asyncTaskReturnData(*state, run, chunk))
                 return child->terminate(); // stopped, perhaps before the tool was there to be stopped
         }
     } else {
         complain(platform::formatString("Error: %@ is not executable", child->tool()));
     }
-    asyncTaskReturnData(run, {});
+    asyncTaskReturnData(*state, run, {});
 }
 
-bool VTTask::asyncTaskReturnData(const std::shared_ptr<AsyncRun> &run, const QByteArray &chunk)
+bool VTTask::asyncTaskReturnData(State &state, const std::shared_ptr<AsyncRun> &run, const QByteArray &chunk)
 {
     {
-        const std::scoped_lock lock(m_mutex);
-        if (m_run != run) // stopped meanwhile: its delegate hears no more
+        const std::scoped_lock lock(state.mutex);
+        if (state.run != run) // stopped meanwhile: its delegate hears no more
             return false;
     }
     if (run->delegate)
         run->delegate(chunk, *this, run->object);
-    if (chunk.isEmpty())
-        terminateAsyncTask();
+    if (!chunk.isEmpty())
+        return true;
+    // Not by way of the task: at its last chunk the delegate may have begun another run, or let go of the task itself.
+    run->child->terminate();
+    const std::scoped_lock lock(state.mutex);
+    if (state.run == run)
+        state.run.reset();
     return true;
 }
 
@@ -242,8 +247,8 @@ void VTTask::terminateAsyncTask()
 {
     std::shared_ptr<AsyncRun> run;
     {
-        const std::scoped_lock lock(m_mutex);
-        run = std::exchange(m_run, nullptr);
+        const std::scoped_lock lock(m_state->mutex);
+        run = std::exchange(m_state->run, nullptr);
     }
     if (run)
         run->child->terminate();

@@ -68,12 +68,17 @@ public:
 
 private:
     struct AsyncRun;
-    void launchAsyncTask(const std::shared_ptr<AsyncRun> &run);
-    bool asyncTaskReturnData(const std::shared_ptr<AsyncRun> &run, const QByteArray &chunk);
+    /// Outlives the task where the reading thread does.
+    struct State
+    {
+        std::mutex mutex;
+        std::shared_ptr<AsyncRun> run;
+    };
+    void launchAsyncTask(const std::shared_ptr<State> &state, const std::shared_ptr<AsyncRun> &run);
+    bool asyncTaskReturnData(State &state, const std::shared_ptr<AsyncRun> &run, const QByteArray &chunk);
     void joinReader();
 
-    std::mutex m_mutex;
-    std::shared_ptr<AsyncRun> m_run;
+    const std::shared_ptr<State> m_state = std::make_shared<State>();
     std::thread m_reader;
 };
 

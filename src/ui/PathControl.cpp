@@ -28,7 +28,7 @@ void PathControl::setPath(const QString &path)
         return;
     m_path = path;
     m_components = platform::forDisplay(path).split(u'/', Qt::SkipEmptyParts);
-    setToolTip(m_components.join(QStringLiteral(" ▸ ")));
+    setToolTip(QStringLiteral("<qt>%1</qt>").arg(m_components.join(QStringLiteral(" ▸ ")).toHtmlEscaped()));
     setAccessibleDescription(m_components.join(QStringLiteral(", ")));
     updateGeometry();
     update();
@@ -58,17 +58,29 @@ QSize PathControl::minimumSizeHint() const
     return {qMin(narrowest, sizeHint().width()), sizeHint().height()};
 }
 
-/// The components as they fit: whole ones, else each elided in its middle, the longest first.
+/// The components as they fit: whole ones, else each elided in its middle, the longest first; where even that is too
+/// much, levels from the middle are left out.
 QStringList PathControl::fitting(int width) const
 {
     QStringList shown = m_components;
-    int excess = sizeHint().width() - width;
+    const auto widthOfAll = [&](bool elided) {
+        const int least = fontMetrics().horizontalAdvance(QStringLiteral("M…M"));
+        int sum = 0;
+        for (const QString &component : shown) {
+            const int advance = fontMetrics().horizontalAdvance(component);
+            sum += widthOf(component) - (elided ? qMax(0, advance - least) : 0);
+        }
+        return sum;
+    };
+    while (shown.size() > 1 && widthOfAll(true) > width)
+        shown.removeAt(shown.size() > 2 ? shown.size() / 2 : 0);
+    int excess = widthOfAll(false) - width;
     while (excess > 0) {
         const auto longest = std::max_element(shown.begin(), shown.end(), [this](const QString &a, const QString &b) {
             return fontMetrics().horizontalAdvance(a) < fontMetrics().horizontalAdvance(b);
         });
         const int now = longest == shown.end() ? 0 : fontMetrics().horizontalAdvance(*longest);
-        const int ellipsis = fontMetrics().horizontalAdvance(QStringLiteral("…M"));
+        const int ellipsis = fontMetrics().horizontalAdvance(QStringLiteral("M…M"));
         if (now <= ellipsis)
             break;
         *longest = fontMetrics().elidedText(*longest, Qt::ElideMiddle, qMax(ellipsis, qMin(now - 4, now - excess)));

@@ -4,6 +4,7 @@
 #include "support/VTAlert.h"
 #include "ui/Icons.h"
 
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QWidget>
@@ -24,7 +25,6 @@ void SheetPresenter::present(const Sheet &sheet, std::function<void(int)> answer
     auto *box = new QMessageBox(sheet.parentWindow);
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setWindowModality(Qt::WindowModal);
-    box->setTextFormat(Qt::PlainText);
     box->setText(platform::forDisplay(sheet.messageText));
     box->setInformativeText(platform::forDisplay(sheet.informativeText));
     auto *main = sheet.defaultButton.isNull() ? box->addButton(QMessageBox::Ok)
@@ -38,12 +38,19 @@ void SheetPresenter::present(const Sheet &sheet, std::function<void(int)> answer
     const QIcon icon = mayCancel || !alternate ? icons::named("warning") : icons::application();
     box->setIconPixmap(icon.pixmap(pictureSide, pictureSide));
     box->setDefaultButton(mayCancel ? alternate : main);
-    box->setEscapeButton(mayCancel ? alternate : main);
+    // Escape never goes on with what was asked, except where there is nothing to lose but the message.
+    const bool harmless = !alternate || sheet.defaultButton == tr("OK");
+    box->setEscapeButton(mayCancel ? alternate : other ? other : harmless ? main : alternate);
+    for (auto *label : box->findChildren<QLabel *>()) // the box's own format reaches its first label only
+        label->setTextFormat(Qt::PlainText);
 
     const auto answered = std::make_shared<bool>(false);
-    const auto answerOnce = [answered, answer = std::move(answer)](int code) {
-        if (!std::exchange(*answered, true))
-            answer(code);
+    const auto answerOnce = [this, alert = sheet.alert, answered, answer = std::move(answer)](int code) {
+        if (std::exchange(*answered, true))
+            return;
+        if (const auto shown = m_shown.find(alert); shown != m_shown.end())
+            shown->second.inputAllowed.reset();
+        answer(code);
     };
     connect(box, &QMessageBox::finished, this, [=] {
         const QAbstractButton *clicked = box->clickedButton();

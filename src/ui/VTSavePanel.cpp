@@ -20,11 +20,19 @@ void VTSavePanel::setAccessoryView(QWidget *view)
         grid->addWidget(view, grid->rowCount(), 0, 1, grid->columnCount());
 }
 
+void VTSavePanel::done(int result)
+{
+    if (result == Accepted && m_chosenPath.isNull())
+        m_chosenPath = selectedFiles().value(0);
+    QFileDialog::done(result);
+}
+
 void VTSavePanel::accept()
 {
     const auto *edit = findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
     const QString typed = edit ? edit->text() : QString();
-    if (typed.isEmpty() || typed.contains(u'/')) // a path typed to get somewhere: the panel goes there
+    const bool leadsSomewhere = typed.contains(u'/') || typed == u"." || typed == u"..";
+    if (typed.isEmpty() || leadsSomewhere) // a path typed to get somewhere: the panel goes there
         return QFileDialog::accept();
     m_chosenPath = platform::joined(directory().absolutePath(), typed);
     done(Accepted);

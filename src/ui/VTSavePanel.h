@@ -21,6 +21,7 @@ public:
 
 protected:
     void accept() override;
+    void done(int result) override;
 
 private:
     QString m_chosenPath;

@@ -21,6 +21,7 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
+    void initViewItemOption(QStyleOptionViewItem *option) const override;
 
 private:
     enum class Movement { Other, Return, Tab, Backtab };

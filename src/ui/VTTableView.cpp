@@ -45,11 +45,12 @@ void VTTableView::keyReleaseEvent(QKeyEvent *event)
 
 void VTTableView::contextMenuEvent(QContextMenuEvent *event)
 {
-    const QModelIndex clicked = indexAt(event->pos());
-    if (clicked.isValid())
-        selectRow(clicked.row());
-    else
-        clearSelection();
+    if (event->reason() != QContextMenuEvent::Keyboard) { // the menu key means the row that is selected
+        if (const QModelIndex clicked = indexAt(event->pos()); clicked.isValid())
+            selectRow(clicked.row());
+        else
+            clearSelection();
+    }
     if (m_menu)
         m_menu->popup(event->globalPos());
     else

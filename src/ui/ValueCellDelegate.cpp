@@ -15,6 +15,7 @@ constexpr int chevronSide = 16;
 constexpr int margin = 8;
 constexpr float hairlineOpacity = 0.15F;
 constexpr float secondaryOpacity = 0.65F;
+constexpr int accentWidth = 3;
 
 CellEditor editorOf(const QModelIndex &index)
 {
@@ -36,8 +37,10 @@ void ValueCellDelegate::initStyleOption(QStyleOptionViewItem *option, const QMod
     option->text = platform::forDisplay(option->text);
     option->decorationSize = QSize(16, 16);
     option->state &= ~QStyle::State_HasFocus; // the whole row is marked; a frame within it would be drawn twice
-    if (index.data(CellRole::Secondary).toBool())
-        option->palette.setColor(QPalette::Text, faint(option->palette.color(QPalette::Text), secondaryOpacity));
+    if (!index.data(CellRole::Secondary).toBool())
+        return;
+    for (const auto role : {QPalette::Text, QPalette::HighlightedText})
+        option->palette.setColor(role, faint(option->palette.color(role), secondaryOpacity));
 }
 
 void ValueCellDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const
@@ -46,13 +49,14 @@ void ValueCellDelegate::paint(QPainter *painter, const QStyleOptionViewItem &opt
     painter->save();
     painter->setPen(faint(option.palette.color(QPalette::Text), hairlineOpacity));
     painter->drawLine(option.rect.bottomLeft(), option.rect.bottomRight());
+    if (option.state.testFlag(QStyle::State_Selected) && index.column() == 0)
+        painter->fillRect(option.rect.x(), option.rect.y(), accentWidth, option.rect.height() - 1,
+                          option.widget ? option.widget->palette().highlight() : option.palette.highlight());
     const bool offersItems = editorOf(index) != CellEditor::Text && index.flags().testFlag(Qt::ItemIsEditable);
     if (offersItems && !index.data(CellRole::Items).toStringList().isEmpty()) {
         const QRect place(option.rect.right() - margin - chevronSide,
                           option.rect.center().y() - chevronSide / 2 + 1, chevronSide, chevronSide);
-        const bool selected = option.state.testFlag(QStyle::State_Selected);
-        icons::named("chevron-down", icons::Tone::Secondary)
-            .paint(painter, place, Qt::AlignCenter, selected ? QIcon::Selected : QIcon::Normal);
+        icons::named("chevron-down", icons::Tone::Secondary).paint(painter, place);
     }
     painter->restore();
 }

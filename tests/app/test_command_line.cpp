@@ -209,6 +209,9 @@ private Q_SLOTS:
                                   << QByteArray("'Name' cannot be left blank\nPlease fill in this parameter before");
         QTest::newRow("all empty") << with({record({})}) << in << 1
                                    << QByteArray("Unable to create folder\nYou must specify at least one parameter.");
+        for (const char *value : {"...", " ..", "/"}) // cleaned, they would lead out of the folder or name none
+            QTest::newRow(value) << with({record({{"val", "x"}}), record({{"val", value}, {"folder", true}})}) << in << 1
+                                 << QByteArray("Unable to create folder\nThe values give");
         QTest::newRow("no parameters") << with({}) << in << 1 << QByteArray("You must specify at least one parameter.");
         QTest::newRow("unknown template") << QVariantMap() << in + QStringList{"--template", "X"} << 2
                                           << QByteArray("There are: Documentary, Editing Template");

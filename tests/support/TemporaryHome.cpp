@@ -14,6 +14,10 @@ TemporaryHome::TemporaryHome()
     qputenv("HOME", m_folder.path().toUtf8());
     for (const char *variable : {"XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_CACHE_HOME", "XDG_STATE_HOME"})
         qunsetenv(variable);
+    // Under sudo the program would write into the folders of whoever called it.
+    for (const char *variable : {"SUDO_UID", "PKEXEC_UID"})
+        qunsetenv(variable);
+    qputenv("XDG_RUNTIME_DIR", m_runtime.path().toUtf8());
 }
 
 TemporaryHome::~TemporaryHome()

@@ -20,6 +20,7 @@ public:
 
 private:
     QTemporaryDir m_folder;
+    QTemporaryDir m_runtime; ///< the desktop's own must not be reached, and without one Qt complains
 };
 
 /** main() of a test: a locale as the program's, a home of its own, then the test in the application class named. */

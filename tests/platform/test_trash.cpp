@@ -1,0 +1,116 @@
+// The Trash: what is trashed can be seen there and put back, and success is only claimed of what arrived.
+#include "platform/Desktop.h"
+#include "platform/FileSystem.h"
+#include "platform/NativePath.h"
+#include "platform/Trash.h"
+#include "support/TemporaryHome.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QTest>
+#include <sys/stat.h>
+#include <unistd.h>
+
+using namespace platform;
+
+class TestTrash : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    /// One home for all: GIO asks for its folders once.
+    void init()
+    {
+        const QString folder = m_home.file("items");
+        QVERIFY(removeTree(folder).ok() && makeFolders(folder).ok());
+        QVERIFY(QDir::setCurrent(folder));
+    }
+
+    void makesItsFolders()
+    {
+        for (const char *missing : {".local", ".local/share", ".local/share/Trash"}) {
+            QVERIFY(removeTree(joined(m_home.path(), missing)).ok());
+            writeFile(m_home.file("items/x"), missing);
+            QVERIFY(moveToTrash(m_home.file("items/x")));
+            QCOMPARE(readFile(homeTrashFiles() + "/x"), missing);
+            QCOMPARE(listFolder(m_home.file("items"))->size(), 0);
+            struct stat info
+            {
+            };
+            QCOMPARE(stat(toNative(homeTrashFiles()).constData(), &info), 0);
+            QCOMPARE(info.st_mode & 077, 0u); // what others threw away is nobody's business
+        }
+    }
+
+    void takes_data()
+    {
+        QTest::addColumn<QByteArray>("name");
+        QTest::addColumn<QByteArray>("target");
+        QTest::newRow("name that is not UTF-8") << QByteArray("bad\xFF.txt") << QByteArray();
+        QTest::newRow("name with everything") << QByteArray("a %20\n\xF0\x9F\x98\x80") << QByteArray();
+        QTest::newRow("dangling link") << QByteArray("dangling") << QByteArray("missing");
+        QTest::newRow("link to a folder") << QByteArray("link") << QByteArray("../kept");
+        QTest::newRow("dangling link, not UTF-8") << QByteArray("bad\xFF") << QByteArray("missing");
+    }
+    void takes()
+    {
+        QFETCH(QByteArray, name);
+        QFETCH(QByteArray, target);
+        writeFile(m_home.file("kept/x"), "kept");
+        const QString item = joined(m_home.file("items"), fromNative(name));
+        if (target.isEmpty())
+            writeFile(item, "mine");
+        else
+            QCOMPARE(symlink(target.constData(), toNative(item).constData()), 0);
+        QVERIFY(moveToTrash(item));
+        QCOMPARE(kindOf(item), FileKind::Missing);
+        QCOMPARE(readFile(m_home.file("kept/x")), "kept");
+        const QString trashed = joined(homeTrashFiles(), fromNative(name));
+        QCOMPARE(kindOf(trashed), target.isEmpty() ? FileKind::File : FileKind::Link);
+        // Without its note, no file browser can put it back.
+        const QString note = joined(parentPath(homeTrashFiles()), "info/" + fromNative(name + ".trashinfo"));
+        QVERIFY(readFile(note).contains("Path=" + toNative(item).toPercentEncoding("/")));
+    }
+
+    void keepsBothOfOneName()
+    {
+        const qsizetype before = listFolder(homeTrashFiles())->size();
+        for (const char *contents : {"first", "second", "third"}) {
+            writeFile(m_home.file("items/same.txt"), contents);
+            QVERIFY(moveToTrash(m_home.file("items/same.txt")));
+        }
+        QCOMPARE(listFolder(homeTrashFiles())->size(), before + 3);
+        QCOMPARE(readFile(homeTrashFiles() + "/same.txt"), "first");
+    }
+
+    void leavesWhatItCannotTake()
+    {
+        QVERIFY(!moveToTrash(m_home.file("items/missing")));
+        if (geteuid() == 0)
+            return; // no folder is closed to the super-user
+        writeFile(m_home.file("items/closed/x"), "x");
+        chmod(toNative(m_home.file("items/closed")).constData(), 0555);
+        QVERIFY(!moveToTrash(m_home.file("items/closed/x")));
+        chmod(toNative(m_home.file("items/closed")).constData(), 0755);
+        QCOMPARE(readFile(m_home.file("items/closed/x")), "x");
+        QCOMPARE(kindOf(homeTrashFiles() + "/x.2"), FileKind::Missing);
+    }
+
+    void takesFromOtherMounts()
+    {
+        QTemporaryDir elsewhere("/dev/shm/trash-XXXXXX");
+        writeFile(elsewhere.filePath("x-of-test"), "x");
+        const auto identity = identityOf(elsewhere.filePath("x-of-test"));
+        QVERIFY(moveToTrash(elsewhere.filePath("x-of-test")));
+        const QString trash = "/dev/shm/.Trash-" + QString::number(getuid());
+        QVERIFY(identity == identityOf(trash + "/files/x-of-test"));
+        QVERIFY(removeTree(trash + "/files/x-of-test").ok());
+        QVERIFY(removeTree(trash + "/info/x-of-test.trashinfo").ok());
+    }
+
+private:
+    const TemporaryHome m_home;
+};
+
+TESSARO_TEST_MAIN(QCoreApplication, TestTrash)
+#include "test_trash.moc"
