@@ -220,6 +220,9 @@ int CreateCommand::create()
 {
     const CreationResult result = ProjectCreation(*this).createTemplate(m_templateName, m_destination);
     m_problems += result.errors;
+    if (!result.errors.isEmpty())
+        platform::writeToStandardError(
+            text("The log names each item and the cause: %1\n").arg(VTLog::sharedController().currentLogPath()));
     if (result.cancelled)
         m_status = ExitStatus::notOverwritten;
     else if (!result.ok())

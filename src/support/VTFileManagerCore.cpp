@@ -122,6 +122,7 @@ bool VTFileManager::copyFile(const QString &source, const QString &toPath, Shoul
         return false;
     }
     unlockFile(platform::parentPath(toPath));
+    const bool isNew = isMissing(toPath);
     QString attributesLost;
     const FileOutcome copied =
         platform::resultInBackground([&] { return platform::copyItem(source, toPath, &attributesLost); });
@@ -133,8 +134,12 @@ bool VTFileManager::copyFile(const QString &source, const QString &toPath, Shoul
     // EINVAL: a folder into itself, which the tool would half do before it notices.
     if (copied.errorNumber() == EINVAL || wouldMergeFolders(source, toPath))
         return false;
-    return fallBackToTool(shouldAuth, copied, VTAuthorization::copyCommand(source, toPath),
-                          [&] { return VTAuthorization::sharedController().authCopyFile(source, toPath); });
+    if (fallBackToTool(shouldAuth, copied, VTAuthorization::copyCommand(source, toPath),
+                       [&] { return VTAuthorization::sharedController().authCopyFile(source, toPath); }))
+        return true;
+    if (isNew) // on a full disk the tool leaves what it got to
+        static_cast<void>(platform::resultInBackground([&] { return platform::removeOwnTree(toPath); }));
+    return false;
 }
 
 bool VTFileManager::copyFile(const QString &source, const QString &toPath, Seconds timeout)
