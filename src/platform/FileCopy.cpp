@@ -96,17 +96,21 @@ off_t copyStretch(int source, int destination, off_t length)
 /// Copies only the stretches that hold data and leaves the holes between them. 0 or errno.
 int copyWithHoles(int source, int destination, off_t size)
 {
-    for (off_t data = lseek(source, 0, SEEK_DATA); data >= 0 && data < size; data = lseek(source, data, SEEK_DATA)) {
-        const off_t hole = std::min(size, lseek(source, data, SEEK_HOLE));
-        if (hole < data || lseek(source, data, SEEK_SET) < 0 || lseek(destination, data, SEEK_SET) < 0)
-            return errno != 0 ? errno : EIO;
-        const off_t copied = copyStretch(source, destination, hole - data);
+    off_t data = 0;
+    while (data < size && (data = lseek(source, data, SEEK_DATA)) >= 0 && data < size) {
+        const off_t hole = lseek(source, data, SEEK_HOLE);
+        if (hole < 0 || lseek(source, data, SEEK_SET) < 0 || lseek(destination, data, SEEK_SET) < 0)
+            return errno;
+        const off_t length = std::min(size, hole) - data;
+        const off_t copied = copyStretch(source, destination, length);
         if (copied < 0)
             return errno;
-        if (copied < hole - data)
+        if (copied < length)
             return ESTALE;
-        data = hole;
+        data += length;
     }
+    if (data < 0 && errno != ENXIO) // ENXIO: only a hole is left
+        return errno;
     return ftruncate(destination, size) == 0 ? 0 : errno;
 }
 

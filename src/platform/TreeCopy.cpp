@@ -321,7 +321,8 @@ FileOutcome copyItem(const QString &source, const QString &destination, QString 
     const CopyReport report = copyEntries(parentPath(source), parentPath(destination), one);
     if (attributesLost)
         *attributesLost = report.attributesLost;
-    return report.outcome;
+    const bool isTaken = report.outcome.errorNumber() == EEXIST && report.outcome.item() == source;
+    return isTaken ? FileOutcome(EEXIST, destination) : report.outcome;
 }
 
 } // namespace platform

@@ -84,12 +84,17 @@ void UserDefaults::registerDefaults(const QVariantMap &defaults)
 void UserDefaults::refresh(Domain &domain) const
 {
     const QByteArray stamp = stampOf(domain.file);
-    if (stamp == domain.stamp)
+    if (stamp == domain.stamp && !domain.unreadable)
         return;
     domain.stamp = stamp;
     QFile file(domain.file);
+    const bool wasUnreadable = domain.unreadable;
     domain.unreadable = !stamp.isEmpty() && !file.open(QIODevice::ReadOnly);
     if (stamp.isEmpty() || domain.unreadable) {
+        if (domain.unreadable)
+            domain.stamp.clear(); // looked at again each time: rights come back without the file changing
+        if (domain.unreadable && wasUnreadable)
+            return;
         if (domain.unreadable)
             m_onProblem(QStringLiteral("Unable to read settings %1").arg(domain.file));
         domain.values.clear();

@@ -180,10 +180,10 @@ void VTAlert::alertDidEnd(VTAlert *, qlonglong returnCode, void *)
 
 void VTAlert::end(qlonglong code)
 {
-    if (m_alertEnded)
+    const std::scoped_lock lock(endMutex);
+    if (m_alertEnded) // a click and the timer may come at once: the first one counts
         return;
     m_returnCode = code;
-    const std::scoped_lock lock(endMutex);
     m_alertEnded = true;
     endCondition.notify_all();
     if (m_freesItself)
