@@ -11,6 +11,7 @@
 #include "ui/SheetPresenter.h"
 
 #include <QApplication>
+#include <cstdlib>
 
 namespace {
 
@@ -40,7 +41,7 @@ int runWindow(int &argc, char **argv)
         if (!delegate.awakeFromNib())
             return ExitStatus::done;
         if (qEnvironmentVariableIsSet("TESSARO_QUIT_AFTER_FIRST_PAINT")) // for the program that measures the start
-            QObject::connect(delegate.mainWindow(), &MainWindow::firstPainted, &application, &QCoreApplication::quit);
+            QObject::connect(delegate.mainWindow(), &MainWindow::firstPainted, &application, [] { std::_Exit(0); });
         else
             QObject::connect(delegate.mainWindow(), &MainWindow::firstPainted, &delegate,
                              &TessaroAppDelegate::applicationDidFinishLaunching);
