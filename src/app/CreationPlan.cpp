@@ -73,6 +73,8 @@ QString onOneLine(const QString &name)
 
 QString nameInProject(const QString &name, const QString &projectName)
 {
+    if (!name.contains(placeholder, Qt::CaseInsensitive)) // most names: no copies made of them
+        return name;
     if (!platform::withoutExtension(name).toLower().contains(placeholder))
         return name;
     return QString(name).replace(placeholder, projectName, Qt::CaseInsensitive);

@@ -133,8 +133,8 @@ void performInBackground(const std::function<void()> &work)
     std::atomic<bool> finished = false;
     auto *worker = QThread::create([&] {
         work();
+        finished = true; // before the loop is told to quit: who wakes up must find it so
         QMetaObject::invokeMethod(&loop, &QEventLoop::quit, Qt::QueuedConnection);
-        finished = true;
     });
     const std::unique_ptr<QThread> owner(worker);
     worker->start();

@@ -1,10 +1,8 @@
 // The command, as a process of its own: what it prints, how it ends, and what it leaves alone.
-#include "app/CommandLine.h"
 #include "platform/Desktop.h"
 #include "platform/FileSystem.h"
-#include "platform/NativePath.h"
 #include "platform/PropertyList.h"
-#include "platform/Trash.h"
+#include "support/Records.h"
 #include "support/TemporaryHome.h"
 
 #include <QJsonArray>
@@ -23,13 +21,6 @@ struct Outcome
     QByteArray errors;
 };
 
-QVariantMap record(const QVariantMap &entries)
-{
-    QVariantMap whole{{"title", "T"}, {"type", 0}, {"val", ""}, {"folder", false}};
-    whole.insert(entries);
-    return whole;
-}
-
 } // namespace
 
 class TestCommandLine : public QObject
@@ -40,19 +31,17 @@ class TestCommandLine : public QObject
 
     QString settingsFile() const { return m_home->filePath("Library/Preferences/com.vantrel.Tessaro.plist"); }
     QString target() const { return m_home->filePath("Projects"); }
-    static QString program() { return QCoreApplication::applicationDirPath() + "/Tessaro"; }
 
     std::unique_ptr<QProcess> start(const QStringList &words) const
     {
         auto process = std::make_unique<QProcess>();
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert("HOME", m_home->path());
-        environment.remove("DISPLAY");
-        environment.remove("WAYLAND_DISPLAY");
-        environment.remove("QT_QPA_PLATFORM");
+        for (const char *variable : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+            environment.remove(variable);
         process->setProcessEnvironment(environment);
         process->setWorkingDirectory(m_home->path());
-        process->start(program(), words);
+        process->start(QCoreApplication::applicationDirPath() + "/Tessaro", words);
         return process;
     }
     static Outcome finished(QProcess &process)
@@ -67,10 +56,6 @@ class TestCommandLine : public QObject
     void setSettings(const QVariantMap &settings) const
     {
         writeFile(settingsFile(), platform::writePropertyList(settings));
-    }
-    QVariantMap storedSettings() const
-    {
-        return platform::readPropertyList(readFile(settingsFile())).value_or(QVariant()).toMap();
     }
     QStringList everythingIn(const QString &folder) const
     {
@@ -91,71 +76,31 @@ private Q_SLOTS:
         QVERIFY(platform::makeFolders(target()).ok());
     }
 
-    void reading_data()
-    {
-        QTest::addColumn<QStringList>("words");
-        QTest::addColumn<bool>("understood");
-        QTest::newRow("nothing: the window") << QStringList{} << true;
-        QTest::newRow("bundles") << QStringList{"/a/b.tzt", "c.TZT"} << true;
-        QTest::newRow("unknown command") << QStringList{"make"} << false;
-        QTest::newRow("unknown option") << QStringList{"create", "--fast"} << false;
-        QTest::newRow("value missing") << QStringList{"create", "--in"} << false;
-        QTest::newRow("value after an equals sign") << QStringList{"create", "--in=/x", "--set=A=b=c"} << true;
-        QTest::newRow("a setting without a title") << QStringList{"create", "--set", "=x"} << false;
-        QTest::newRow("a setting without an equals sign") << QStringList{"create", "--set", "Client"} << false;
-        QTest::newRow("a switch with a value") << QStringList{"create", "--json=1"} << false;
-        QTest::newRow("another command's option") << QStringList{"templates", "--in", "/x"} << false;
-    }
-    void reading()
-    {
-        QFETCH(QStringList, words);
-        QFETCH(bool, understood);
-        QString problem;
-        const auto request = readCommandLine(words, problem);
-        QCOMPARE(request.has_value(), understood);
-        QCOMPARE(problem.isEmpty(), understood);
-        if (understood && words.contains("--set=A=b=c"))
-            QCOMPARE(request->values, (QList<std::pair<QString, QString>>{{"A", "b=c"}}));
-    }
-
     void aFirstProject()
     {
         const Outcome made = createIn({"--set", "Client=Acme & Söhne", "--set", "Project title=Größe 🎬"});
-        QCOMPARE(made.errors, QByteArray());
-        QCOMPARE(made.status, 0);
-        const QString path = QString::fromUtf8(made.output).chopped(1);
-        QVERIFY(path.startsWith(target() + "/Acme & Söhne_001/Größe 🎬_"));
-        QVERIFY(platform::leadsToFolder(path));
+        QVERIFY(made.status == 0 && made.errors.isEmpty());
+        QVERIFY(QString::fromUtf8(made.output).startsWith(target() + "/Acme & Söhne_001/Größe 🎬_"));
         const QJsonObject next = QJsonDocument::fromJson(createIn({"--json"}).output).object();
-        QVERIFY2(next["project"].toString().contains("_002/Untitled_"), "the counter has advanced");
-        QVERIFY2(next["project"].toString().startsWith("Acme & Söhne"), "what has a history keeps its value");
-        QCOMPARE(next["errors"].toArray().size(), 0);
-        QCOMPARE(next["folders"].toInt() + next["files"].toInt(),
-                 everythingIn(next["path"].toString()).size());
-        QCOMPARE(next["template"].toString(), QString("Editing Template"));
+        QVERIFY(
+            next["project"].toString().startsWith("Acme & Söhne_002/Untitled_")); // counted; what has a history stays
+        QCOMPARE(next["folders"].toInt() + next["files"].toInt(), everythingIn(next["path"].toString()).size());
     }
 
     void aDryRunChangesNothing()
     {
         const Outcome fresh = createIn({"--dry-run", "--set", "Client=Acme"});
-        QCOMPARE(fresh.status, 0);
-        QVERIFY(fresh.output.startsWith((target() + "/Acme_001/Untitled_").toUtf8()));
+        QVERIFY(fresh.status == 0 && fresh.output.startsWith((target() + "/Acme_001/Untitled_").toUtf8()));
         QCOMPARE(everythingIn(m_home->path()), QStringList{target()});
-
-        const QByteArray project = createIn({}).output.trimmed();
+        QCOMPARE(createIn({}).status, 0);
         const QStringList before = everythingIn(m_home->path());
         const QByteArray stored = readFile(settingsFile());
-        QCOMPARE(createIn({"--dry-run", "--set", "Client=Other"}).status, 0);
+        const QJsonObject plan = QJsonDocument::fromJson(createIn({"--dry-run", "--json"}).output).object();
         QCOMPARE(everythingIn(m_home->path()), before);
         QCOMPARE(readFile(settingsFile()), stored);
-
-        // What it draws is what the run that follows makes.
-        const QJsonObject plan = QJsonDocument::fromJson(createIn({"--dry-run", "--json"}).output).object();
         const QJsonObject made = QJsonDocument::fromJson(createIn({"--json"}).output).object();
         for (const char *key : {"project", "path", "folders", "files", "renamed"})
             QCOMPARE(plan[QLatin1String(key)], made[QLatin1String(key)]);
-        for (const QJsonValue &item : plan["items"].toArray())
-            QVERIFY(platform::targetExists(made["path"].toString() + '/' + item["path"].toString()));
     }
 
     void anExistingProject()
@@ -195,37 +140,32 @@ private Q_SLOTS:
         QTest::addColumn<QStringList>("words");
         QTest::addColumn<int>("status");
         QTest::addColumn<QByteArray>("said");
-        const QVariantList locked{record({{"title", "Client"}, {"val", "x"}, {"locked", 1}})};
-        const QVariantList choice{record({{"title", "Kind"}, {"type", 5}, {"val", "a"}, {"defaultVal", "a,b"}})};
-        const QVariantList blank{record({{"title", "Name"}, {"disallowEmpty", true}}), record({{"val", "x"}})};
-        const auto with = [](const QVariantList &parameters) { return QVariantMap{{"filenameTemplate", parameters}}; };
         const QStringList in{"create", "--in", "Projects"};
-        QTest::newRow("unknown title") << QVariantMap() << in + QStringList{"--set", "Clint=x"} << 2
-                                       << QByteArray("There are: Client, Job number, Project title");
-        QTest::newRow("locked") << with(locked) << in + QStringList{"--set", "Client=y"} << 2 << QByteArray("is locked");
-        QTest::newRow("no such choice") << with(choice) << in + QStringList{"--set", "Kind=c"} << 2
-                                        << QByteArray("There are: a, b.");
-        QTest::newRow("required") << with(blank) << in << 1
-                                  << QByteArray("'Name' cannot be left blank\nPlease fill in this parameter before");
-        QTest::newRow("all empty") << with({record({})}) << in << 1
-                                   << QByteArray("Unable to create folder\nYou must specify at least one parameter.");
+        const auto row = [](const char *said, int status, const QStringList &words, const QVariantMap &settings = {}) {
+            QTest::newRow(said) << settings << words << status << QByteArray(said);
+        };
+        const auto with = [](const QVariantList &parameters) {
+            return QVariantMap{{"filenameTemplate", parameters}};
+        };
+        row("There are: Client, Job number, Project title", 2, in + QStringList{"--set", "Clint=x"});
+        row("is locked", 2, in + QStringList{"--set", "T=y"}, with({record({{"val", "x"}, {"locked", 1}})}));
+        row("There are: a, b.", 2, in + QStringList{"--set", "T=c"},
+            with({record({{"type", 5}, {"defaultVal", "a,b"}})}));
+        row("'T' cannot be left blank\nPlease", 1, in,
+            with({record({{"disallowEmpty", true}}), record({{"val", "x"}})}));
+        row("You must specify at least one parameter.", 1, in, with({record({})}));
         for (const char *value : {"...", " ..", "/"}) // cleaned, they would lead out of the folder or name none
-            QTest::newRow(value) << with({record({{"val", "x"}}), record({{"val", value}, {"folder", true}})}) << in << 1
-                                 << QByteArray("Unable to create folder\nThe values give");
-        QTest::newRow("no parameters") << with({}) << in << 1 << QByteArray("You must specify at least one parameter.");
-        QTest::newRow("unknown template") << QVariantMap() << in + QStringList{"--template", "X"} << 2
-                                          << QByteArray("There are: Documentary, Editing Template");
-        QTest::newRow("nowhere") << QVariantMap() << QStringList{"create"} << 2 << QByteArray("--in FOLDER");
-        QTest::newRow("fixed location switched off") << QVariantMap{{"useFixedProjectLocation", 0}} << QStringList{"create"}
-                                                     << 2 << QByteArray("No fixed project location");
-        QTest::newRow("no such folder") << QVariantMap() << QStringList{"create", "--in", "Unplugged"} << 1
-                                        << QByteArray("does not exist");
-        QTest::newRow("a file as the folder") << QVariantMap() << QStringList{"create", "--in", "/etc/passwd"} << 1
-                                              << QByteArray("is not a folder");
-        QTest::newRow("usage") << QVariantMap() << QStringList{"crate"} << 2 << QByteArray("--help");
-        QTest::newRow("no display") << QVariantMap() << QStringList{} << 1 << QByteArray("Tessaro create");
-        QTest::newRow("name too long") << with({record({{"val", QString(300, 'x')}})}) << in << 1
-                                       << QByteArray("Unable to create folder");
+            row("The values give", 1, in, with({record({{"val", "x"}}), record({{"val", value}, {"folder", true}})}));
+        row("There are: Documentary, Editing Template", 2, in + QStringList{"--template", "X"});
+        row("--in FOLDER", 2, {"create"});
+        row("No fixed project location", 2, {"create"}, {{"useFixedProjectLocation", 0}});
+        row("does not exist", 1, {"create", "--in", "Unplugged"});
+        row("is not a folder", 1, {"create", "--in", "/etc/passwd"});
+        for (const char *words :
+             {"crate", "create --fast", "create --in", "create --set =x", "create --json=1", "templates --in /x"})
+            row("--help", 2, QString(words).split(' '));
+        row("Tessaro create", 1, {}); // no display
+        row("Unable to create folder", 1, in, with({record({{"val", QString(300, 'x')}})}));
     }
     void refusals()
     {
@@ -242,61 +182,37 @@ private Q_SLOTS:
         QCOMPARE(everythingIn(target()), QStringList());
     }
 
-    void theFixedLocation()
-    {
-        setSettings({{"useFixedProjectLocation", 1}, {"fixedProjectLocationPath", target() + "/Fixed"}});
-        const Outcome made = run({"create"});
-        QCOMPARE(made.status, 0);
-        QVERIFY(made.output.startsWith((target() + "/Fixed/001/").toUtf8()));
-        QVERIFY(createIn({}).output.startsWith((target() + "/002/").toUtf8())); // what the command says wins
-    }
-
     void valuesAreSetAsIfTyped()
     {
-        setSettings({{"strictNaming", true},
+        setSettings({{"useFixedProjectLocation", 1},
+                     {"fixedProjectLocationPath", target() + "/Fixed"},
+                     {"strictNaming", true},
                      {"filenameTemplate", QVariantList{record({{"title", "Client"}, {"saveHistory", true}})}}});
-        QCOMPARE(createIn({"--set", "Client=Café Promo!"}).output.trimmed(), (target() + "/CafPromo").toUtf8());
-        const QVariantMap client = storedSettings()["filenameTemplate"].toList().value(0).toMap();
-        QCOMPARE(client["history"].toList(), QVariantList{"CafPromo"});
+        QCOMPARE(run({"create", "--set", "Client=Café Promo!"}).output.trimmed(),
+                 (target() + "/Fixed/CafPromo").toUtf8());
+        const QVariantMap stored = platform::readPropertyList(readFile(settingsFile())).value_or(QVariant()).toMap();
+        QCOMPARE(stored["filenameTemplate"].toList().value(0).toMap()["history"].toList(), QVariantList{"CafPromo"});
+        QCOMPARE(createIn({}).output.trimmed(), (target() + "/CafPromo").toUtf8()); // what the command says wins
     }
 
     void administratorsRights()
     {
         setSettings({{"requireAdminPassword", 1}});
         const int expected = geteuid() == 0 ? 0 : 3; // no service lends rights to an ordinary user's process here
-        for (const QStringList &words : {QStringList{"templates"}, QStringList{"parameters"},
-                                         QStringList{"create", "--in", "Projects"}})
-            QCOMPARE(run(words).status, expected);
-        setSettings({{"requireAdminPassword", "1"}}); // the text is not the number
-        QCOMPARE(run({"templates"}).status, 0);
+        QCOMPARE(createIn({}).status, expected);
     }
 
-    void damagedSettings_data()
-    {
-        QTest::addColumn<QByteArray>("contents");
-        QTest::newRow("no property list") << QByteArray("not a property list");
-        QTest::newRow("empty") << QByteArray();
-        QTest::newRow("parameters are a text") << platform::writePropertyList(QVariantMap{{"filenameTemplate", "oops"}});
-        QTest::newRow("records are numbers")
-            << platform::writePropertyList(QVariantMap{{"filenameTemplate", QVariantList{1, record({{"val", "x"}}), "y"}}});
-        QTest::newRow("wrong types all over") << platform::writePropertyList(
-            QVariantMap{{"separatorChar", QVariantList{}},
-                        {"dateFormat", 7},
-                        {"templateLocation", QVariantMap{}},
-                        {"fixedProjectLocationPath", true},
-                        {"filenameTemplate", QVariantList{QVariantMap{{"type", "x"}, {"val", QVariantList{}}},
-                                                          QVariantMap{{"val", 41}, {"history", "h"}, {"locked", "no"}}}}});
-    }
     void damagedSettings()
     {
-        QFETCH(QByteArray, contents);
-        writeFile(settingsFile(), contents);
-        const Outcome made = createIn({});
-        QCOMPARE(made.status, 0);
-        if (!contents.startsWith("<?xml"))
-            QCOMPARE(readFile(settingsFile() + ".damaged"), contents);
-        if (contents.contains("oops"))
-            QCOMPARE(storedSettings()["filenameTemplate.damaged"].toString(), QString("oops"));
+        writeFile(settingsFile(), "not a property list");
+        QCOMPARE(createIn({}).status, 0);
+        QCOMPARE(readFile(settingsFile() + ".damaged"), QByteArray("not a property list"));
+        const QVariantMap oddRecord{{"type", "x"}, {"val", QVariantList{}}, {"history", "h"}, {"locked", "no"}};
+        setSettings({{"separatorChar", QVariantList{}},
+                     {"dateFormat", 7},
+                     {"templateLocation", QVariantMap{}},
+                     {"filenameTemplate", QVariantList{1, oddRecord, QVariantMap{{"val", 41}}}}});
+        QCOMPARE(createIn({}).status, 0);
     }
 
     void listings()
@@ -304,13 +220,8 @@ private Q_SLOTS:
         setSettings({{"defaultTemplate", "Photography"}});
         const QByteArray templates = run({"templates"}).output;
         QVERIFY(templates.contains("\n* Photography\n") && templates.contains("\n  Editing Template\n"));
-        const QJsonArray list = QJsonDocument::fromJson(run({"templates", "--json"}).output).array();
-        QCOMPARE(list.size(), templates.count('\n'));
-        const QJsonArray parameters = QJsonDocument::fromJson(run({"parameters", "--json"}).output).array();
-        QCOMPARE(parameters[1].toObject()["kind"].toString(), QString("counter"));
-        QVERIFY(parameters[2].toObject()["beginsFolder"].toBool());
-        QVERIFY(run({"parameters"}).output.contains("\n/ Project title"));
-        QCOMPARE(run({"--version"}).status, 0);
+        QCOMPARE(QJsonDocument::fromJson(run({"templates", "--json"}).output).array().size(), templates.count('\n'));
+        QCOMPARE(QJsonDocument::fromJson(run({"parameters", "--json"}).output)[1]["kind"].toString(), "counter");
         QVERIFY(run({"--help"}).output.contains("--dry-run"));
     }
 };

@@ -15,34 +15,17 @@ class TestNativePath : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void showsWhatIsNoUtf8_data()
-    {
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::addColumn<int>("replaced");
-        QTest::newRow("composed") << QByteArray("\xC3\xBC") << 0;
-        QTest::newRow("decomposed") << QByteArray("u\xCC\x88") << 0;
-        QTest::newRow("emoji") << QByteArray("\xF0\x9F\x98\x80") << 0;
-        QTest::newRow("real replacement character") << QByteArray("\xEF\xBF\xBD") << 0;
-        QTest::newRow("overlong slash") << QByteArray("\xC0\xAF") << 2;
-        QTest::newRow("overlong, three bytes") << QByteArray("\xE0\x80\xAF") << 3;
-        QTest::newRow("overlong, four bytes") << QByteArray("\xF0\x80\x80\xAF") << 4;
-        QTest::newRow("high surrogate") << QByteArray("\xED\xA0\x80") << 3;
-        QTest::newRow("surrogate that stands for a byte") << QByteArray("\xED\xB2\x80") << 3;
-        QTest::newRow("surrogate pair, each by itself") << QByteArray("\xED\xA0\xBD\xED\xB8\x80") << 6;
-        QTest::newRow("above the last character") << QByteArray("\xF4\x90\x80\x80") << 4;
-        QTest::newRow("cut short at the end") << QByteArray("a\xE2\x82") << 2;
-        QTest::newRow("cut short by a letter") << QByteArray("\xE2\x82"
-                                                             "b")
-                                               << 2;
-        QTest::newRow("bad byte between emoji") << QByteArray("\xF0\x9F\x98\x80\x80\xF0\x9F\x98\x80") << 1;
-    }
     void showsWhatIsNoUtf8()
     {
-        QFETCH(QByteArray, bytes);
-        QFETCH(int, replaced);
-        const QString path = fromNative(bytes);
-        QCOMPARE(toNative(path), bytes);
-        QCOMPARE(forDisplay(path).count(QChar::ReplacementCharacter), replaced + bytes.count("\xEF\xBF\xBD"));
+        for (const auto &[bytes, replaced] : {std::pair{"\360\237\230\200", 0},
+                                              {"\357\277\275", 1},     // a real replacement character
+                                              {"\300\257", 2},         // an overlong slash
+                                              {"\355\262\200", 3},     // the surrogate that stands for a byte
+                                              {"\364\220\200\200", 4}, // above the last character
+                                              {"a\342\202", 2},
+                                              {"\342\202b", 2},
+                                              {"\360\237\230\200\200\360\237\230\200", 1}})
+            QCOMPARE(forDisplay(fromNative(bytes)).count(QChar::ReplacementCharacter), replaced);
     }
 
     /// Every pair of bytes, and every row of four out of the bytes at which UTF-8 changes its mind.
@@ -61,60 +44,24 @@ private Q_SLOTS:
         }
     }
 
-    void splitsAndJoins_data()
-    {
-        QTest::addColumn<QString>("last");
-        QTest::addColumn<QString>("parent");
-        QTest::addColumn<QString>("extension");
-        QTest::addColumn<QString>("stem");
-        QTest::newRow("/") << "/"
-                           << "/"
-                           << ""
-                           << "/";
-        QTest::newRow("/a") << "a"
-                            << "/"
-                            << ""
-                            << "/a";
-        QTest::newRow("/a/b.txt") << "b.txt"
-                                  << "/a"
-                                  << "txt"
-                                  << "/a/b";
-        QTest::newRow("/a.d/b") << "b"
-                                << "/a.d"
-                                << ""
-                                << "/a.d/b";
-        QTest::newRow("/a/x.tar.gz") << "x.tar.gz"
-                                     << "/a"
-                                     << "gz"
-                                     << "/a/x.tar";
-        QTest::newRow("/a/.hidden") << ".hidden"
-                                    << "/a"
-                                    << ""
-                                    << "/a/.hidden";
-        QTest::newRow("/a/x.") << "x."
-                               << "/a"
-                               << ""
-                               << "/a/x.";
-        QTest::newRow("/a/b//") << "b"
-                                << "/a"
-                                << ""
-                                << "/a/b//";
-        QTest::newRow("a") << "a"
-                           << ""
-                           << ""
-                           << "a";
-    }
     void splitsAndJoins()
     {
-        const QString path = QTest::currentDataTag();
-        QFETCH(QString, last);
-        QFETCH(QString, parent);
-        QTEST(lastComponent(path), "last");
-        QTEST(parentPath(path), "parent");
-        QTEST(extensionOf(path), "extension");
-        QTEST(withoutExtension(path), "stem");
-        QCOMPARE(joined("/x/", path), joined("/x", path));
-        QCOMPARE(joined(path, ""), path);
+        // Path, last component, parent, extension, path without it.
+        for (const QStringList &row : {QStringList{"/", "/", "/", "", "/"},
+                                       {"/a", "a", "/", "", "/a"},
+                                       {"/a.d/b", "b", "/a.d", "", "/a.d/b"},
+                                       {"/a/x.tar.gz", "x.tar.gz", "/a", "gz", "/a/x.tar"},
+                                       {"/a/.hidden", ".hidden", "/a", "", "/a/.hidden"},
+                                       {"/a/x.", "x.", "/a", "", "/a/x."},
+                                       {"/a/b//", "b", "/a", "", "/a/b//"},
+                                       {"a", "a", "", "", "a"}}) {
+            const QString &path = row[0];
+            QCOMPARE(
+                QStringList({path, lastComponent(path), parentPath(path), extensionOf(path), withoutExtension(path)}),
+                row);
+            QCOMPARE(joined("/x/", path), joined("/x", path));
+            QCOMPARE(joined(path, ""), path);
+        }
     }
 
     /// Total lengths around every multiple of what the kernel takes in one piece: 4096 bytes.

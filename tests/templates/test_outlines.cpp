@@ -19,34 +19,15 @@ private Q_SLOTS:
     void reads()
     {
         QString problem;
-        const auto entries = readOutline("# for whom\n\nA b/ [red]\n  C/\n    T.x < Source File.x [blue]\n  D/\nE/\n", problem);
+        const auto entries = readOutline("# for whom\n\nA b/ [red]\n  C/\n    T.x < S F.x [blue]\n  D/\nE/\n", problem);
         QVERIFY2(entries, qPrintable(problem));
-        QStringList paths;
-        for (const OutlineEntry &entry : *entries)
-            paths << entry.path;
-        QCOMPARE(paths, QStringList({"A b", "A b/C", "A b/C/T.x", "A b/D", "E"}));
-        QCOMPARE(entries->at(0).label, quint16(12));
+        QCOMPARE(entries->size(), 5);
+        QCOMPARE(entries->at(2).path, QString("A b/C/T.x"));
+        QCOMPARE(entries->at(2).source, QString("S F.x"));
         QCOMPARE(entries->at(2).label, quint16(8));
-        QCOMPARE(entries->at(2).source, QString("Source File.x"));
-        QVERIFY(entries->at(3).source.isNull());
-    }
-
-    void refuses_data()
-    {
-        QTest::addColumn<QString>("text");
-        QTest::newRow("deeper than its parent") << "A/\n    B/\n";
-        QTest::newRow("below a file") << "A.x < S\n  B/\n";
-        QTest::newRow("odd indentation") << "A/\n B/\n";
-        QTest::newRow("unknown colour") << "A/ [pink]\n";
-        QTest::newRow("neither folder nor file") << "A\n";
-        QTest::newRow("slash in the name") << "A/B/\n";
-    }
-    void refuses()
-    {
-        QFETCH(QString, text);
-        QString problem;
-        QVERIFY(!readOutline(text, problem));
-        QVERIFY(problem.startsWith("Line "));
+        QCOMPARE(entries->at(3).path, QString("A b/D"));
+        for (const char *text : {"A/\n    B/\n", "A.x < S\n  B/\n", "A/\n B/\n", "A/ [pink]\n", "A\n", "A/B/\n"})
+            QVERIFY2(!readOutline(text, problem) && problem.startsWith("Line "), text);
     }
 
     /// Every shipped archive unpacks into one bundle of its own name, with what its outline says, labels included.
@@ -54,7 +35,6 @@ private Q_SLOTS:
     {
         const QDir outlines(TESSARO_SOURCE_DIR "/resources/templates");
         const QStringList names = outlines.entryList({"*.outline"}, QDir::Files);
-        QVERIFY(names.size() >= 5);
         QVERIFY(names.contains("Editing Template.outline"));
         for (const QString &file : names) {
             const QString name = QFileInfo(file).completeBaseName();
