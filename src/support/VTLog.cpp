@@ -186,8 +186,8 @@ void VTLog::appendLogOnThread(const QString &message)
 
 void VTLog::writeEntry(const QString &message)
 {
-    const QByteArray line =
-        platform::formatString("%@ - %@\n", platform::currentDateDescription(), platform::forDisplay(message)).toUtf8();
+    // Put together, not formatted: an empty message is an empty message, not a missing one.
+    const QByteArray line = (platform::currentDateDescription() + " - " + platform::forDisplay(message) + '\n').toUtf8();
     // One write for one line: the kernel does not tear it, whoever else writes to the file.
     const qint64 written = m_fileHandle.append(line);
     if (written < 0)
