@@ -6,8 +6,8 @@
 /**
  * File operations with administrator rights, for when the ordinary attempt failed. It runs standard system tools, refuses
  * outright any system or standard folder, and asks for the rights at most once until authEnd(). As super-user no rights
- * are needed and the tools are run directly. This machine offers no service that could lend rights to an ordinary user's
- * program, so for one every attempt ends as a refusal and the authorising operations behave as the plain ones.
+ * are needed and the tools are run directly. For an ordinary user no service is connected that could lend the rights, so
+ * every attempt ends as a refusal and the authorising operations behave as the plain ones.
  *
  * One object for the whole process, made on first use, never destroyed. Meant to be called from one thread at a time.
  */
