@@ -30,6 +30,26 @@ bool statItem(const QString &path, struct stat &info, int flags)
     return fstatat(at.folder(), at.name(), &info, flags) == 0;
 }
 
+bool isAscii(const std::string &name)
+{
+    return std::all_of(name.begin(), name.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+}
+
+char foldedAscii(char c)
+{
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
+
+/// inListingOrder() for names of ASCII characters only; not strcasecmp(), which asks the locale.
+bool precedesInAscii(const RawEntry &a, const RawEntry &b)
+{
+    const auto [inA, inB] = std::mismatch(a.name.begin(), a.name.end(), b.name.begin(), b.name.end(),
+                                          [](char x, char y) { return foldedAscii(x) == foldedAscii(y); });
+    if (inA == a.name.end() || inB == b.name.end())
+        return a.name.size() != b.name.size() ? a.name.size() < b.name.size() : a.name < b.name;
+    return foldedAscii(*inA) < foldedAscii(*inB);
+}
+
 bool mayAccess(const QString &path, int mode)
 {
     const PathAt at(path);
@@ -126,11 +146,15 @@ std::optional<QList<FolderEntry>> listFolder(const QString &path)
     std::vector<RawEntry> raw;
     if (!folder.isOpen() || !readFolder(folder.get(), raw))
         return std::nullopt;
+    // Nearly all folders hold plain ASCII names, whose order needs no Unicode: half the time for a large one.
+    const bool plain = std::all_of(raw.begin(), raw.end(), [](const RawEntry &entry) { return isAscii(entry.name); });
+    if (plain)
+        std::sort(raw.begin(), raw.end(), precedesInAscii);
     QList<FolderEntry> entries;
     entries.reserve(static_cast<qsizetype>(raw.size()));
     for (const RawEntry &entry : raw)
         entries.append({fromNative(entry.name), kindOfMode(DTTOIF(entry.type))});
-    return inListingOrder(std::move(entries));
+    return plain ? entries : inListingOrder(std::move(entries));
 }
 
 FileOutcome makeNewFolder(const QString &path)
