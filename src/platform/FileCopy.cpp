@@ -17,6 +17,8 @@ namespace platform {
 namespace {
 
 constexpr std::size_t pieceSize = std::size_t{64} * 1024;
+/// How much is copied between two looks at the monitor: some milliseconds' worth.
+constexpr off_t monitoredLength = off_t{8} << 20;
 
 /// The file mode creation mask, read without changing it: umask() can only be asked by setting it, for all threads.
 mode_t creationMask()
@@ -51,8 +53,20 @@ bool writeAll(int destination, const char *bytes, std::size_t count)
     return true;
 }
 
+/// Tells the monitor of bytes copied. False, with errno, when the copy is to stop.
+bool goesOn(CopyMonitor *monitor, off_t copied)
+{
+    if (!monitor)
+        return true;
+    monitor->bytes += static_cast<quint64>(copied);
+    if (!monitor->cancelled)
+        return true;
+    errno = ECANCELED;
+    return false;
+}
+
 /// Copies by reading and writing, from both current offsets, at most the given bytes or to the end. -1 on failure.
-off_t pumpBytes(int source, int destination, off_t atMost)
+off_t pumpBytes(int source, int destination, off_t atMost, CopyMonitor *monitor)
 {
     std::vector<char> piece(pieceSize);
     off_t total = 0;
@@ -66,22 +80,25 @@ off_t pumpBytes(int source, int destination, off_t atMost)
         if (got == 0)
             break;
         total += got;
+        if (!goesOn(monitor, got))
+            return -1;
     }
     return total;
 }
 
 /// Copies a stretch from both current offsets; the kernel shares the blocks where it can. Bytes copied, or -1.
-off_t copyStretch(int source, int destination, off_t length)
+off_t copyStretch(int source, int destination, off_t length, CopyMonitor *monitor)
 {
     off_t total = 0;
     while (total < length) {
-        const ssize_t copied = copy_file_range(source, nullptr, destination, nullptr,
-                                               static_cast<std::size_t>(length - total), 0);
+        const off_t wanted = monitor ? std::min(length - total, monitoredLength) : length - total;
+        const ssize_t copied =
+            copy_file_range(source, nullptr, destination, nullptr, static_cast<std::size_t>(wanted), 0);
         if (copied < 0 && errno == EINTR)
             continue;
         // Some shares answer 0 at once instead of saying that they cannot.
         if ((copied < 0 && isUnsupportedHere(errno)) || (copied == 0 && total == 0)) {
-            const off_t pumped = pumpBytes(source, destination, length - total);
+            const off_t pumped = pumpBytes(source, destination, length - total, monitor);
             return pumped < 0 ? -1 : total + pumped;
         }
         if (copied < 0)
@@ -89,45 +106,51 @@ off_t copyStretch(int source, int destination, off_t length)
         if (copied == 0)
             break;
         total += copied;
+        if (!goesOn(monitor, copied))
+            return -1;
     }
     return total;
 }
 
 /// Copies only the stretches that hold data and leaves the holes between them. 0 or errno.
-int copyWithHoles(int source, int destination, off_t size)
+int copyWithHoles(int source, int destination, off_t size, CopyMonitor *monitor)
 {
     off_t data = 0;
+    off_t dataCopied = 0;
     while (data < size && (data = lseek(source, data, SEEK_DATA)) >= 0 && data < size) {
         const off_t hole = lseek(source, data, SEEK_HOLE);
         if (hole < 0 || lseek(source, data, SEEK_SET) < 0 || lseek(destination, data, SEEK_SET) < 0)
             return errno;
         const off_t length = std::min(size, hole) - data;
-        const off_t copied = copyStretch(source, destination, length);
+        const off_t copied = copyStretch(source, destination, length, monitor);
         if (copied < 0)
             return errno;
         if (copied < length)
             return ESTALE;
         data += length;
+        dataCopied += length;
     }
     if (data < 0 && errno != ENXIO) // ENXIO: only a hole is left
+        return errno;
+    if (!goesOn(monitor, size - dataCopied))
         return errno;
     return ftruncate(destination, size) == 0 ? 0 : errno;
 }
 
 /// 0 or errno. A file that shrinks under the copy is a failure: a shorter file would pass for the whole one.
-int copyContents(int source, int destination, const struct stat &info)
+int copyContents(int source, int destination, const struct stat &info, CopyMonitor *monitor)
 {
     const off_t size = info.st_size;
     if (size == 0) // some file systems say 0 and have contents all the same
-        return pumpBytes(source, destination, LONG_MAX) < 0 ? errno : 0;
+        return pumpBytes(source, destination, LONG_MAX, monitor) < 0 ? errno : 0;
     if (info.st_blocks < size / 512) {
         const off_t firstHole = lseek(source, 0, SEEK_HOLE);
         if (lseek(source, 0, SEEK_SET) < 0)
             return errno;
         if (firstHole >= 0 && firstHole < size)
-            return copyWithHoles(source, destination, size);
+            return copyWithHoles(source, destination, size, monitor);
     }
-    const off_t copied = copyStretch(source, destination, size);
+    const off_t copied = copyStretch(source, destination, size, monitor);
     return copied < 0 ? errno : copied < size ? ESTALE : 0;
 }
 
@@ -154,7 +177,8 @@ bool copyAttributes(int source, int destination)
     return kept;
 }
 
-EntryResult copyRegular(int sourceFolder, const char *from, int destinationFolder, const char *to)
+EntryResult copyRegular(int sourceFolder, const char *from, int destinationFolder, const char *to,
+                        CopyMonitor *monitor)
 {
     EntryResult result;
     // Non-blocking: were the file replaced by a FIFO since it was listed, the open must not wait for a writer.
@@ -170,7 +194,7 @@ EntryResult copyRegular(int sourceFolder, const char *from, int destinationFolde
     if (!destination.isOpen())
         return {errno, false, false};
     result.made = true;
-    result.error = copyContents(source.get(), destination.get(), info);
+    result.error = copyContents(source.get(), destination.get(), info, monitor);
     if (result.error == 0) {
         const bool modeIsSet = (info.st_mode & (creationMask() | 07000)) == 0 && (info.st_mode & S_IWUSR) != 0;
         const EntryResult metadata = copyMetadata(source.get(), destination.get(), info, modeIsSet);
@@ -225,10 +249,11 @@ EntryResult copyMetadata(int source, int destination, const struct stat &info, b
     return result;
 }
 
-EntryResult copyEntry(int sourceFolder, const char *from, int destinationFolder, const char *to, unsigned char type)
+EntryResult copyEntry(int sourceFolder, const char *from, int destinationFolder, const char *to, unsigned char type,
+                      CopyMonitor *monitor)
 {
     if (type == DT_REG)
-        return copyRegular(sourceFolder, from, destinationFolder, to);
+        return copyRegular(sourceFolder, from, destinationFolder, to, monitor);
     struct stat info;
     if (fstatat(sourceFolder, from, &info, AT_SYMLINK_NOFOLLOW) != 0)
         return {errno, false, false};

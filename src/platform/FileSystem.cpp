@@ -97,6 +97,18 @@ bool isWritable(const QString &path)
     return mayAccess(path, W_OK);
 }
 
+bool moveNeedsRights(const QString &path)
+{
+    struct stat item;
+    struct stat parent;
+    const QString folder = parentPath(path);
+    if (!statItem(path, item, AT_SYMLINK_NOFOLLOW) || !statItem(folder, parent, 0) || !isWritable(folder))
+        return true;
+    // A folder's own ".." entry is rewritten; in a sticky folder like /tmp only owners take things away.
+    const bool isSticky = (parent.st_mode & S_ISVTX) != 0 && item.st_uid != geteuid() && parent.st_uid != geteuid();
+    return isSticky || (S_ISDIR(item.st_mode) && !isWritable(path));
+}
+
 bool isExecutableFile(const QString &path)
 {
     struct stat info;

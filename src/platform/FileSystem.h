@@ -38,6 +38,8 @@ struct FileIdentity
 [[nodiscard]] std::optional<FileIdentity> identityOf(const QString &path);
 [[nodiscard]] QString linkTarget(const QString &path);
 [[nodiscard]] bool isWritable(const QString &path);
+/** Whether this user lacks the permission to move the item to another folder. */
+[[nodiscard]] bool moveNeedsRights(const QString &path);
 [[nodiscard]] bool isExecutableFile(const QString &path);
 /** Bytes of the item that the path leads to; 0 when missing or no plain file. */
 [[nodiscard]] quint64 fileSizeOf(const QString &path);
@@ -63,6 +65,14 @@ FileOutcome removeTree(const QString &path);
 FileOutcome removeOwnTree(const QString &path);
 /** The dates of the item itself become now; a link's own, never its target's. */
 FileOutcome touchItem(const QString &path);
+
+struct TreeSize
+{
+    quint64 bytes = 0; ///< of plain files, holes included
+    quint64 items = 0;
+};
+/** The item and all below it; no link is followed, what cannot be read is left out. */
+[[nodiscard]] TreeSize measureTree(const QString &path);
 
 /**
  * Gives every item below the folder today's dates, never through a link, the folder itself left out. Each folder is

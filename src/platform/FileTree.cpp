@@ -76,6 +76,24 @@ bool renameWithoutReplacing(const PathAt &from, const PathAt &to)
     return renameat(from.folder(), from.name(), to.folder(), to.name()) == 0;
 }
 
+void measureEntry(int parent, const char *name, TreeSize &size)
+{
+    struct stat info;
+    if (fstatat(parent, name, &info, AT_SYMLINK_NOFOLLOW) != 0)
+        return;
+    ++size.items;
+    if (S_ISREG(info.st_mode))
+        size.bytes += static_cast<quint64>(info.st_size);
+    if (!S_ISDIR(info.st_mode))
+        return;
+    const UniqueDescriptor folder = openFolder(parent, name);
+    std::vector<RawEntry> entries;
+    if (!folder.isOpen() || !readFolder(folder.get(), entries))
+        return;
+    for (const RawEntry &entry : entries)
+        measureEntry(folder.get(), entry.name.c_str(), size);
+}
+
 struct Toucher
 {
     const std::function<void(const QString &)> &entering;
@@ -128,6 +146,15 @@ FileOutcome moveItem(const QString &source, const QString &destination)
         return FileOutcome::fromErrno(errno == EEXIST || errno == ENAMETOOLONG ? destination : source);
     const FileOutcome copied = copyItem(source, destination);
     return copied.ok() ? removeTree(source) : copied;
+}
+
+TreeSize measureTree(const QString &path)
+{
+    raiseDescriptorLimit();
+    TreeSize size;
+    const PathAt at(path);
+    measureEntry(at.folder(), at.name(), size);
+    return size;
 }
 
 QList<FileOutcome> touchBelow(const QString &folder, const std::function<void(const QString &)> &entering)

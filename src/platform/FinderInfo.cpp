@@ -5,8 +5,10 @@
 #include "platform/PathAt.h"
 
 #include <array>
+#include <cerrno>
 #include <fcntl.h>
 #include <linux/fs.h>
+#include <optional>
 #include <sys/ioctl.h>
 #include <sys/stat.h>
 #include <sys/xattr.h>
@@ -26,9 +28,39 @@ QByteArray attributePath(const PathAt &at)
                                    : "/proc/self/fd/" + QByteArray::number(at.folder()) + '/' + at.name();
 }
 
-bool readAttribute(const QByteArray &path, Attribute &attribute)
+/// An attribute's calls, for a path or an open item.
+template <typename Get>
+std::optional<Attribute> readAttribute(Get get)
 {
-    return lgetxattr(path.constData(), attributeName, attribute.data(), attribute.size()) == attributeSize;
+    Attribute attribute{};
+    const ssize_t size = get(attribute.data(), attribute.size());
+    if (size == attributeSize)
+        return attribute;
+    if (size >= 0)
+        errno = ERANGE; // as when it is longer
+    return std::nullopt;
+}
+
+template <typename Get>
+quint16 wordBy(Get get)
+{
+    const std::optional<Attribute> attribute = readAttribute(get);
+    return attribute ? static_cast<quint16>((*attribute)[8] << 8 | (*attribute)[9]) : quint16{0};
+}
+
+template <typename Get, typename Set>
+bool setWordBy(Get get, Set set, quint16 word, quint16 mask)
+{
+    std::optional<Attribute> attribute = readAttribute(get);
+    if (!attribute && errno != ENODATA) // of another size it belongs to someone else, and is not overwritten
+        return false;
+    if (!attribute)
+        attribute.emplace().fill(0);
+    const auto before = static_cast<quint16>((*attribute)[8] << 8 | (*attribute)[9]);
+    const auto after = static_cast<quint16>((before & ~mask) | (word & mask));
+    (*attribute)[8] = static_cast<uchar>(after >> 8);
+    (*attribute)[9] = static_cast<uchar>(after & 0xFF);
+    return set(attribute->data(), attribute->size()) == 0;
 }
 
 UniqueDescriptor openForFlags(const QString &path)
@@ -44,24 +76,32 @@ UniqueDescriptor openForFlags(const QString &path)
 
 quint16 flagsWordOf(const QString &path)
 {
-    Attribute attribute{};
-    if (!readAttribute(attributePath(PathAt(path, prefixRoom)), attribute))
-        return 0;
-    return static_cast<quint16>(attribute[8] << 8 | attribute[9]);
+    const PathAt at(path, prefixRoom);
+    const QByteArray native = attributePath(at);
+    return wordBy([&](void *to, std::size_t size) { return lgetxattr(native.constData(), attributeName, to, size); });
+}
+
+quint16 flagsWordOf(int descriptor)
+{
+    return wordBy([&](void *to, std::size_t size) { return fgetxattr(descriptor, attributeName, to, size); });
 }
 
 bool setFlagsWord(const QString &path, quint16 word, quint16 mask)
 {
     const PathAt at(path, prefixRoom);
     const QByteArray native = attributePath(at);
-    Attribute attribute{};
-    if (!readAttribute(native, attribute))
-        attribute.fill(0);
-    const auto before = static_cast<quint16>(attribute[8] << 8 | attribute[9]);
-    const auto after = static_cast<quint16>((before & ~mask) | (word & mask));
-    attribute[8] = static_cast<uchar>(after >> 8);
-    attribute[9] = static_cast<uchar>(after & 0xFF);
-    return lsetxattr(native.constData(), attributeName, attribute.data(), attribute.size(), 0) == 0;
+    return setWordBy(
+        [&](void *to, std::size_t size) { return lgetxattr(native.constData(), attributeName, to, size); },
+        [&](const void *from, std::size_t size) { return lsetxattr(native.constData(), attributeName, from, size, 0); },
+        word, mask);
+}
+
+bool setFlagsWord(int descriptor, quint16 word, quint16 mask)
+{
+    return setWordBy(
+        [&](void *to, std::size_t size) { return fgetxattr(descriptor, attributeName, to, size); },
+        [&](const void *from, std::size_t size) { return fsetxattr(descriptor, attributeName, from, size, 0); }, word,
+        mask);
 }
 
 bool isImmutable(const QString &path)

@@ -11,9 +11,13 @@ namespace platform {
  * Links carry no such attribute. 0 when it is missing, has another size, or cannot be read.
  */
 [[nodiscard]] quint16 flagsWordOf(const QString &path);
+/** The same of an open item. */
+[[nodiscard]] quint16 flagsWordOf(int descriptor);
 
-/** Sets the bits under the mask; all other bits and bytes stay. False when the file system or the rights refuse. */
+/** Sets the bits under the mask; all other bits and bytes stay. False when the file system or the rights refuse, and
+    when the attribute has another size: then it stays as it is. */
 bool setFlagsWord(const QString &path, quint16 word, quint16 mask);
+bool setFlagsWord(int descriptor, quint16 word, quint16 mask);
 
 /** Bit 13 of the flags word: the folder is shown as one file. */
 constexpr quint16 bundleBit = 0x2000;

@@ -4,11 +4,14 @@
 #include "platform/Trash.h"
 
 #include "platform/FileSystem.h"
+#include "platform/LocalTime.h"
 #include "platform/NativePath.h"
 
 #include <QFile>
 #include <QLibrary>
+#include <QSaveFile>
 #include <QStandardPaths>
+#include <ctime>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -112,6 +115,19 @@ bool moveToTrash(const QString &path)
     if (!trashWithGio(path) && kindOf(path) != FileKind::Missing && !trashWithQt(path))
         return false;
     return reachedATrash(path, *identity);
+}
+
+void noteInTrash(const QString &target, const QString &originalPath)
+{
+    const QString info = parentPath(parentPath(target)) + QStringLiteral("/info/") + lastComponent(target);
+    if (!makeFolders(parentPath(info)).ok())
+        return;
+    QSaveFile file(info + QStringLiteral(".trashinfo"));
+    if (!file.open(QIODevice::WriteOnly))
+        return;
+    file.write("[Trash Info]\nPath=" + toNative(originalPath).toPercentEncoding("/") + "\nDeletionDate=" +
+               formatDate(QStringLiteral("%Y-%m-%dT%H:%M:%S"), std::time(nullptr)).toLatin1() + '\n');
+    file.commit();
 }
 
 } // namespace platform

@@ -13,4 +13,8 @@ namespace platform {
  */
 [[nodiscard]] bool moveToTrash(const QString &path);
 
+/** For an item that a tool has put into the home Trash: writes where it came from and when, so that any file browser can
+    put it back. Without effect where that cannot be written. */
+void noteInTrash(const QString &target, const QString &originalPath);
+
 } // namespace platform

@@ -53,9 +53,9 @@ struct Job
 class TreeCopier
 {
 public:
-    TreeCopier(QString sourceFolder, QString destinationFolder, const std::vector<NamePair> &names)
+    TreeCopier(QString sourceFolder, QString destinationFolder, const std::vector<NamePair> &names, CopyMonitor *monitor)
         : m_sourceFolder(std::move(sourceFolder)), m_destinationFolder(std::move(destinationFolder)), m_names(names),
-          m_made(names.size()), m_firstFailed(names.size())
+          m_monitor(monitor), m_made(names.size()), m_firstFailed(names.size())
     {}
 
     CopyReport run();
@@ -79,6 +79,7 @@ private:
     const QString m_sourceFolder;
     const QString m_destinationFolder;
     const std::vector<NamePair> &m_names;
+    CopyMonitor *const m_monitor; ///< null when nobody watches
     std::vector<std::atomic<char>> m_made; ///< per caller's entry: this call made something under its name
     std::atomic<std::size_t> m_firstFailed;
 
@@ -213,7 +214,7 @@ void TreeCopier::copyFiles(const FolderPtr &folder, const std::vector<Entry> &en
         if (isPointless(entry.item))
             return;
         note(copyEntry(folder->source.get(), entry.from.c_str(), folder->destination.get(), entry.to.c_str(),
-                       entry.type),
+                       entry.type, m_monitor),
              *folder, entry);
     }
 }
@@ -280,6 +281,10 @@ void TreeCopier::note(const EntryResult &result, const OpenFolder &folder, const
 {
     if (result.made)
         m_made[entry.item] = 1;
+    if (m_monitor && m_monitor->cancelled && result.error == 0)
+        return fail(entry.item, ECANCELED, below(folder.path, entry.from));
+    if (m_monitor && !entry.from.empty()) // with no name it is a folder's metadata, and the folder has been counted
+        ++m_monitor->items;
     const std::string path = result.error != 0 || result.attributesLost ? below(folder.path, entry.from) : std::string();
     if (result.error != 0)
         return fail(entry.item, result.error, path);
@@ -310,15 +315,15 @@ void TreeCopier::removeWhatFailed()
 } // namespace
 
 CopyReport copyEntries(const QString &sourceFolder, const QString &destinationFolder,
-                       const std::vector<NamePair> &entries)
+                       const std::vector<NamePair> &entries, CopyMonitor *monitor)
 {
-    return TreeCopier(sourceFolder, destinationFolder, entries).run();
+    return TreeCopier(sourceFolder, destinationFolder, entries, monitor).run();
 }
 
-FileOutcome copyItem(const QString &source, const QString &destination, QString *attributesLost)
+FileOutcome copyItem(const QString &source, const QString &destination, QString *attributesLost, CopyMonitor *monitor)
 {
     const std::vector<NamePair> one{{toNative(lastComponent(source)), toNative(lastComponent(destination))}};
-    const CopyReport report = copyEntries(parentPath(source), parentPath(destination), one);
+    const CopyReport report = copyEntries(parentPath(source), parentPath(destination), one, monitor);
     if (attributesLost)
         *attributesLost = report.attributesLost;
     const bool isTaken = report.outcome.errorNumber() == EEXIST && report.outcome.item() == source;

@@ -18,6 +18,8 @@
  */
 namespace platform {
 
+struct CopyMonitor;
+
 struct NamePair
 {
     QByteArray from; ///< name in the source folder
@@ -39,9 +41,10 @@ struct CopyReport
  * destination name is taken fails with EEXIST and what stands there stays as it was.
  */
 [[nodiscard]] CopyReport copyEntries(const QString &sourceFolder, const QString &destinationFolder,
-                                     const std::vector<NamePair> &entries);
+                                     const std::vector<NamePair> &entries, CopyMonitor *monitor = nullptr);
 
 /** One item, to exactly the destination path. On failure nothing is left there that this call has made. */
-FileOutcome copyItem(const QString &source, const QString &destination, QString *attributesLost = nullptr);
+FileOutcome copyItem(const QString &source, const QString &destination, QString *attributesLost = nullptr,
+                     CopyMonitor *monitor = nullptr);
 
 } // namespace platform

@@ -1,16 +1,22 @@
 #include "support/VTAuthorization.h"
 
+#include "platform/AuthenticationAgent.h"
 #include "platform/Console.h"
 #include "platform/FileSystem.h"
 #include "platform/FormatString.h"
 #include "platform/LocalTime.h"
+#include "platform/MainThread.h"
 #include "platform/NativePath.h"
+#include "platform/RightsHelper.h"
+#include "platform/Secret.h"
 #include "platform/Users.h"
 #include "support/VTLocalPaths.h"
+#include "support/VTLog.h"
 #include "support/VTTask.h"
 
 #include <chrono>
 #include <ctime>
+#include <optional>
 #include <thread>
 
 using platform::formatString;
@@ -38,7 +44,27 @@ bool hasBothPaths(const QString &source, const QString &toPath, const char *oper
     return !source.isNull() && !toPath.isNull();
 }
 
+/// What this thread started last through the helper.
+struct StartedTool
+{
+    std::weak_ptr<platform::RightsHelper> rights;
+    platform::RightsHelper::Ticket ticket;
+};
+thread_local std::optional<StartedTool> lastTool;
+
+void logFailedTool(const platform::RightsHelper::ToolEnd &end)
+{
+    VTLog::appendLog("Administrator tool %@ failed (%d): %@", end.tool, end.status, end.errorText);
+}
+
 } // namespace
+
+VTAuthorization::VTAuthorization(UserInterface hasGUI) : m_hasGUI(hasGUI)
+{
+    // Nothing hands rights down to a process on this desktop; whoever runs it as root has them anyway.
+    if (!platform::isSuperUser())
+        m_userDirectory = VTLocalPaths::userDirectory();
+}
 
 VTAuthorization &VTAuthorization::sharedController(UserInterface hasGUI)
 {
@@ -46,9 +72,23 @@ VTAuthorization &VTAuthorization::sharedController(UserInterface hasGUI)
     return *shared;
 }
 
+VTAuthorization::Rights VTAuthorization::authRef() const
+{
+    const std::scoped_lock lock(m_mutex);
+    return m_authRef;
+}
+
+void VTAuthorization::setAuthRef(Rights authRef)
+{
+    Rights before; // let go of outside the lock: that waits for the helper's end
+    const std::scoped_lock lock(m_mutex);
+    before = std::exchange(m_authRef, std::move(authRef));
+}
+
 bool VTAuthorization::isAuthorized() const
 {
-    return platform::isSuperUser();
+    const Rights rights = authRef();
+    return platform::isSuperUser() || (rights && rights->isAlive());
 }
 
 bool VTAuthorization::canAuthorize() const
@@ -60,29 +100,95 @@ bool VTAuthorization::authStart()
 {
     if (isAuthorized())
         return true;
-    if (m_hasGUI == UserInterface::No)
+    if (m_hasGUI == UserInterface::No) {
         printToConsole("Unable to authorize");
+        return false;
+    }
+    return platform::resultInBackground([this] { return obtain(); });
+}
+
+bool VTAuthorization::obtain()
+{
+    const std::scoped_lock asking(m_asking);
+    if (isAuthorized())
+        return true; // another thread has asked meanwhile
+    setAuthRef(platform::RightsHelper::start(logFailedTool));
+    return isAuthorized();
+}
+
+bool VTAuthorization::authStartWithUser(const QString &user, const QString &password)
+{
+    if (platform::isSuperUser())
+        return true;
+    if (user.isNull() || password.isNull())
+        return false;
+    const platform::Secret secret(password);
+    return platform::resultInBackground([&] { return obtainWith(user, secret); });
+}
+
+bool VTAuthorization::obtainWith(const QString &user, const platform::Secret &password)
+{
+    const std::scoped_lock asking(m_asking);
+    setAuthRef(nullptr);
+    const platform::AuthenticationAgent agent(user, password);
+    if (agent.error() != 0) {
+        printToConsole(formatString("Unable to create authRef - error %d", agent.error()));
+        return false;
+    }
+    setAuthRef(platform::RightsHelper::start(logFailedTool));
+    if (isAuthorized())
+        return true;
+    VTLog::appendLogAndPrint("Authorization failed. Invalid username or password");
     return false;
 }
 
 void VTAuthorization::authEnd()
 {
-    // The super-user's rights are not lent, so there is nothing to give back.
+    lastTool.reset();
+    const Rights rights = authRef();
+    setAuthRef(nullptr);
+    if (rights) // others may still hold it, waiting for their tools
+        platform::performInBackground([&] { rights->end(); });
 }
 
 int VTAuthorization::authExecTask(const QString &tool, const QStringList &parameters, Async async)
 {
+    lastTool.reset();
     if (!platform::targetExists(tool)) {
         printToConsole(formatString("Unable to execute task: path %@ doesn't exist", tool));
         return toolMissing;
     }
+    if (platform::isSuperUser()) {
+        if (async == Async::Yes)
+            VTTask::runTaskAndReturn(tool, parameters);
+        else
+            VTTask::runTask(tool, parameters);
+        return 0;
+    }
     if (!authStart())
         return noRights;
-    if (async == Async::Yes)
-        VTTask::runTaskAndReturn(tool, parameters);
-    else
-        VTTask::runTask(tool, parameters);
+    const Rights rights = authRef();
+    if (!rights)
+        return noRights; // given back by another thread meanwhile
+    const platform::RightsHelper::Ticket ticket = rights->run(tool, parameters);
+    if (ticket.error != 0) {
+        const platform::FileOutcome refusal(ticket.error, tool + u' ' + parameters.join(u' '));
+        VTLog::appendLog("Administrator tool refused: %@", refusal.description());
+        return ticket.error;
+    }
+    lastTool = {rights, ticket};
+    if (async == Async::No)
+        static_cast<void>(lastToolSucceeded());
     return 0;
+}
+
+bool VTAuthorization::lastToolSucceeded()
+{
+    const std::optional<StartedTool> tool = std::exchange(lastTool, std::nullopt);
+    if (!tool)
+        return true;
+    const Rights rights = tool->rights.lock();
+    return rights && platform::resultInBackground([&] { return rights->waitFor(tool->ticket).ok(); });
 }
 
 bool VTAuthorization::run(const Command &command)
@@ -137,7 +243,11 @@ bool VTAuthorization::authRemoveFile(const QString &path)
 
 QString VTAuthorization::trashTarget(const QString &path) const
 {
-    const QString target = platform::joined(VTLocalPaths::trashDirectory(), platform::lastComponent(path));
+    const QString name = platform::lastComponent(path);
+    // The second never arises, because the folder is recorded for ordinary users only.
+    const QString target = platform::isSuperUser() && !m_userDirectory.isNull()
+                               ? m_userDirectory + formatString("/.Trash/%@", name)
+                               : platform::joined(VTLocalPaths::trashDirectory(), name);
     if (!platform::targetExists(target))
         return target;
     // Without an extension the name ends in a dot: this must stay.
@@ -145,8 +255,38 @@ QString VTAuthorization::trashTarget(const QString &path) const
                         platform::formatDate("%Y%m%d%H%M%S", std::time(nullptr)), platform::extensionOf(path));
 }
 
-bool VTAuthorization::authTrashFile(const QString &path)
+bool VTAuthorization::authTrashFile(const QString &path, DeleteOnRootAccount deleteOnRootAccount)
 {
-    return !isRefused(path, "Unable to trash path %@ because it is a system directory.") &&
-           authMoveFile(path, trashTarget(path));
+    if (isRefused(path, "Unable to trash path %@ because it is a system directory."))
+        return false;
+    const QString target = trashTarget(path);
+    // The target and not the item: this must stay.
+    if (m_userDirectory.isNull() && deleteOnRootAccount == DeleteOnRootAccount::Yes && platform::isSuperUser())
+        return authRemoveFile(target);
+    return authMoveFile(path, target);
+}
+
+bool VTAuthorization::authMoveFolderContents(const QString &folder, const QString &toPath)
+{
+    if (isRefused(folder, "Unable to move contents of path %@ because it is a system directory."))
+        return false;
+    bool all = true;
+    for (const auto &entry : platform::listFolder(folder).value_or(QList<platform::FolderEntry>()))
+        all = authMoveFile(platform::joined(folder, entry.name), platform::joined(toPath, entry.name)) && all;
+    return all;
+}
+
+bool VTAuthorization::authTrashFolderContents(const QString &folder, DeleteOnRootAccount deleteOnRootAccount)
+{
+    if (isRefused(folder, "Unable to trash folder contents of path %@ because it is a system directory."))
+        return false;
+    const bool isDeleted =
+        m_userDirectory.isNull() && deleteOnRootAccount == DeleteOnRootAccount::Yes && platform::isSuperUser();
+    bool all = true;
+    for (const auto &entry : platform::listFolder(folder).value_or(QList<platform::FolderEntry>())) {
+        const QString path = platform::joined(folder, entry.name);
+        const bool done = isDeleted ? authExecTask("/bin/rm", {"-R", "-f", path}) == 0 : authTrashFile(path);
+        all = done && all;
+    }
+    return all;
 }

@@ -2,22 +2,34 @@
 
 #include <QString>
 #include <QStringList>
+#include <memory>
+#include <mutex>
+
+namespace platform {
+class RightsHelper;
+class Secret;
+}
 
 /**
  * File operations with administrator rights, for when the ordinary attempt failed. It runs standard system tools, refuses
  * outright any system or standard folder, and asks for the rights at most once until authEnd(). As super-user no rights
- * are needed and the tools are run directly. For an ordinary user no service is connected that could lend the rights, so
- * every attempt ends as a refusal and the authorising operations behave as the plain ones.
+ * are needed and the tools are run directly; for anyone else the desktop asks for an administrator's password and the
+ * program's privileged helper runs them.
  *
- * One object for the whole process, made on first use, never destroyed. Meant to be called from one thread at a time.
+ * One object for the whole process, made on first use, never destroyed. Thread-safe. What may ask a person blocks its
+ * caller until the answer; on the main thread the event loop turns meanwhile, with the windows closed to input.
  */
 class VTAuthorization
 {
 public:
     enum class UserInterface { No, Yes };
     enum class Async { No, Yes };
+    enum class DeleteOnRootAccount { No, Yes };
+    /** The handle of the obtained rights; empty when there are none. Copies share them. */
+    using Rights = std::shared_ptr<platform::RightsHelper>;
 
-    /** Status of authExecTask(). */
+    /** Status of authExecTask(): 0 is success, any other value the errno that the helper refused the tool with (EPIPE:
+        it is gone; EACCES: a tool that is not on its list; EPERM: a system folder). */
     static constexpr int noRights = -1;
     static constexpr int toolMissing = -2;
 
@@ -26,20 +38,37 @@ public:
     VTAuthorization(const VTAuthorization &) = delete;
     VTAuthorization &operator=(const VTAuthorization &) = delete;
 
-    /** Obtains the rights. False when they are refused or cannot be had. */
+    /** Obtains the rights, asking the user. False when they are refused, dismissed or cannot be had. */
     [[nodiscard]] bool authStart();
+    /** The same with the given administrator's name and password and without asking. Blocks for a few seconds. */
+    [[nodiscard]] bool authStartWithUser(const QString &user, const QString &password);
+    /** Gives the rights back. Tools that still run are ended, and the log says which. */
     void authEnd();
     [[nodiscard]] bool isAuthorized() const;
     [[nodiscard]] bool canAuthorize() const;
 
+    // Each returns as soon as its tool has been started: true says no more than that. lastToolSucceeded() says the rest.
     bool authCopyFile(const QString &source, const QString &toPath);
     bool authMoveFile(const QString &source, const QString &toPath);
+    /** Each item of the folder; goes on after failures. True when all were started. */
+    bool authMoveFolderContents(const QString &folder, const QString &toPath);
     bool authCreateDir(const QString &path);
     bool authRemoveFile(const QString &path);
-    bool authTrashFile(const QString &path);
+    bool authTrashFile(const QString &path, DeleteOnRootAccount deleteOnRootAccount = DeleteOnRootAccount::No);
+    bool authTrashFolderContents(const QString &folder,
+                                 DeleteOnRootAccount deleteOnRootAccount = DeleteOnRootAccount::No);
 
-    /** 0 when the tool was started (and, when waited for, has ended); noRights, toolMissing. */
+    /** Waiting, 0 still says only that the tool ran to its end, however it went. */
     int authExecTask(const QString &tool, const QStringList &parameters, Async async = Async::Yes);
+
+    /** Waits for the tool that this thread started last through the helper, and says whether it did its work. True when
+        there is none: the super-user's tools are not watched. */
+    [[nodiscard]] bool lastToolSucceeded();
+
+    [[nodiscard]] Rights authRef() const;
+    void setAuthRef(Rights authRef);
+    [[nodiscard]] UserInterface hasGUI() const { return m_hasGUI; }
+    void setHasGUI(UserInterface hasGUI) { m_hasGUI = hasGUI; }
 
     /** Where an item of the name goes in the user's Trash; a name that is taken gets the time of day. */
     [[nodiscard]] QString trashTarget(const QString &path) const;
@@ -56,8 +85,14 @@ public:
     [[nodiscard]] static Command removeCommand(const QString &path);
 
 private:
-    explicit VTAuthorization(UserInterface hasGUI) : m_hasGUI(hasGUI) {}
+    explicit VTAuthorization(UserInterface hasGUI);
     bool run(const Command &command);
+    [[nodiscard]] bool obtain();
+    [[nodiscard]] bool obtainWith(const QString &user, const platform::Secret &password);
 
     UserInterface m_hasGUI;
+    QString m_userDirectory;     ///< recorded for ordinary users only
+    std::mutex m_asking;         ///< held while the rights are asked for, so that two threads ask once
+    mutable std::mutex m_mutex;  ///< guards m_authRef
+    Rights m_authRef;
 };

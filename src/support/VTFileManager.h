@@ -1,11 +1,24 @@
 #pragma once
 
+#include "platform/CopyOperation.h"
+
 #include <QString>
 #include <QStringList>
+#include <QVariant>
 #include <chrono>
+#include <optional>
 
 /** Whether an operation that failed may go on with administrator rights. */
 enum class ShouldAuth { No, Yes };
+
+/** A label's colour, each part from 0 to 1; opaque. */
+struct LabelColor
+{
+    double hue;
+    double saturation;
+    double brightness;
+    bool operator==(const LabelColor &) const = default;
+};
 
 /**
  * The program's one gateway to the file system: every create, copy, move, delete and trash goes through it. It clears the
@@ -70,6 +83,15 @@ public:
     /** "1023 B", "1.50 KB", "2048.00 GB". Pure. */
     [[nodiscard]] static QString formatFileSize(double bytes);
 
+    // Labels, that is bits 1 to 3 of the item's flags word; errors are ignored, links carry none.
+    /** The whole flags word, unmasked: with no other flag set, 2 to 15 is a label. 0 when it cannot be read. */
+    [[nodiscard]] static int finderColorIndexForPath(const QString &path);
+    /** Leaves all other flags as they are. */
+    static void setFinderColorIndex(int index, const QString &path);
+    /** Nothing without a label, and for an item that has any other flag set. */
+    [[nodiscard]] static std::optional<LabelColor> finderColorForPath(const QString &path);
+    [[nodiscard]] static std::optional<LabelColor> finderColorForIndex(int index);
+
     // The locked flag; errors are ignored, links left alone.
     [[nodiscard]] static bool isFileLocked(const QString &path);
     static void lockFile(const QString &path);
@@ -77,4 +99,28 @@ public:
     /** Everything below the folder, the folder itself not. */
     static void lockFolder(const QString &folder);
     static void unlockFolder(const QString &folder);
+
+    // Patterns: a path whose components may hold "*" and, where they do, "?". Case counts, hidden items match.
+    /** Only what exists; but a pattern without "*" comes back as it is, below the base (null: none), existing or not. */
+    [[nodiscard]] static QStringList filesMatchingWildcardPath(const QString &pattern, const QString &fromBasePath = {});
+    /** The first match, or the pattern itself below the base. */
+    [[nodiscard]] static QString decodeWildcardPath(const QString &pattern, const QString &fromBasePath);
+
+    /** Writes a zip archive that holds the item under its own name, labels included; an archive that stands there goes to
+        the Trash first. On failure nothing stands there. */
+    [[nodiscard]] static bool compressFile(const QString &path, const QString &toDestinationFile);
+
+    /**
+     * Copies in the background; true when the copy was started. Main thread only. The delegate's slots or invokable
+     * operations fileOperationProgress (at most once a second) and fileOperationFinished (once, also after a failure, for
+     * which the delegate looks at the destination, and after a cancel) are called on the main thread with the record, in
+     * the form that takes (QVariantMap, platform::CopyOperation::Ref), else in the one that takes (QVariantMap).
+     *
+     * The record: "stage" (2 running, 3 complete), "source", "destination", "operationtype" ("copy"), and, as far as they
+     * were given, "delegate", "object" and "object2"; while running also "bytesCompleted", "bytesTotal",
+     * "itemsCompleted", "itemsTotal" and "throughput" (bytes a second).
+     */
+    [[nodiscard]] static bool copyFileWithProgress(const QString &source, const QString &destination, QObject *delegate,
+                                                   const QVariant &object = {}, const QVariant &object2 = {});
+    static void cancelFileOperation(const platform::CopyOperation::Ref &operation);
 };

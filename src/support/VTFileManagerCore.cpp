@@ -7,6 +7,7 @@
 #include "platform/Packages.h"
 #include "platform/Trash.h"
 #include "platform/TreeCopy.h"
+#include "platform/Users.h"
 #include "support/FileFallback.h"
 #include "support/VTLocalPaths.h"
 #include "support/VTLog.h"
@@ -51,9 +52,10 @@ bool fallBackToTool(ShouldAuth shouldAuth, const FileOutcome &failure, const VTA
 {
     if (shouldAuth == ShouldAuth::No)
         return false;
-    // With rights in hand there is nothing to ask for either, and only the tool's own status tells what became of it.
-    if (failure.needsRights() && !VTAuthorization::sharedController().isAuthorized())
-        return withRights();
+    auto &authorization = VTAuthorization::sharedController();
+    // The super-user lacks no rights, and only the tool's own status tells what became of it.
+    if (failure.needsRights() && !platform::isSuperUser())
+        return withRights() && authorization.lastToolSucceeded();
     return VTTask::terminationCodeFromTask(command.tool, command.arguments) == 0;
 }
 
@@ -225,9 +227,17 @@ bool VTFileManager::trashFile(const QString &path, ShouldAuth shouldAuth)
         return authorization.authTrashFile(path); // refuses, and says so
     const QString target = authorization.trashTarget(path);
     const VTAuthorization::Command command = VTAuthorization::moveCommand(path, target);
-    if (platform::isWritable(platform::parentPath(path)))
-        return VTTask::terminationCodeFromTask(command.tool, command.arguments) == 0;
-    return authorization.authTrashFile(path);
+    if (platform::isWritable(platform::parentPath(path)) &&
+        VTTask::terminationCodeFromTask(command.tool, command.arguments) == 0) {
+        platform::noteInTrash(target, path);
+        return true;
+    }
+    if (platform::isSuperUser() || !platform::moveNeedsRights(path))
+        return false;
+    if (!authorization.authTrashFile(path) || !authorization.lastToolSucceeded())
+        return false;
+    platform::noteInTrash(target, path);
+    return true;
 }
 
 bool VTFileManager::trashFile(const QString &path, Seconds timeout)

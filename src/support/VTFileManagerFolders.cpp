@@ -1,8 +1,7 @@
-// VTFileManager's operations on the contents of folders, and the locked flag.
+// VTFileManager's operations on the contents of folders.
 #include "support/VTFileManager.h"
 
 #include "platform/FileSystem.h"
-#include "platform/FinderInfo.h"
 #include "platform/MainThread.h"
 #include "platform/NativePath.h"
 #include "platform/TreeCopy.h"
@@ -40,17 +39,6 @@ QStringList trashMatching(const QString &folder, const std::function<bool(const 
         }
     }
     return trashed;
-}
-
-void setLockedBelow(const QString &folder, bool locked)
-{
-    for (const FolderEntry &entry : entriesOf(folder)) {
-        const QString path = joined(folder, entry.name);
-        if (entry.kind == FileKind::Folder)
-            setLockedBelow(path, locked);
-        else
-            platform::setImmutable(path, locked);
-    }
 }
 
 /// All items from the first on, in batches that end at a failure; an item that failed gets its tool, then it goes on.
@@ -134,29 +122,4 @@ bool VTFileManager::isFolderEmpty(const QString &folder)
 bool VTFileManager::removeFolderIfEmpty(const QString &folder)
 {
     return isFolderEmpty(folder) && removeFile(folder);
-}
-
-bool VTFileManager::isFileLocked(const QString &path)
-{
-    return platform::isImmutable(path);
-}
-
-void VTFileManager::lockFile(const QString &path)
-{
-    platform::setImmutable(path, true);
-}
-
-void VTFileManager::unlockFile(const QString &path)
-{
-    platform::setImmutable(path, false);
-}
-
-void VTFileManager::lockFolder(const QString &folder)
-{
-    setLockedBelow(folder, true);
-}
-
-void VTFileManager::unlockFolder(const QString &folder)
-{
-    setLockedBelow(folder, false);
 }

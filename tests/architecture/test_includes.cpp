@@ -8,7 +8,7 @@ namespace {
 
 /// The rooms, from the bottom up. Rooms of one level do not know of each other.
 const QList<QStringList> levels{
-    {"platform"}, {"support"}, {"ui"}, {"templates", "parameters", "diagnostics"}, {"preferences"}, {"app"}, {"."},
+    {"helper"}, {"platform"}, {"support"}, {"ui"}, {"templates", "parameters", "diagnostics"}, {"preferences"}, {"app"}, {"."},
 };
 
 int levelOf(const QString &room)
@@ -68,7 +68,7 @@ private Q_SLOTS:
             const QString path = files.next();
             const QString relative = path.mid(root.size());
             const QString room = relative.contains('/') ? relative.section('/', 0, 0) : QStringLiteral(".");
-            QVERIFY2(levelOf(room) >= 0 || room == "helper", qPrintable("An unknown room: " + relative));
+            QVERIFY2(levelOf(room) >= 0, qPrintable("An unknown room: " + relative));
             for (const QString &included : includesOf(path)) {
                 ++checked;
                 if (const QString text = complaint(room, included); !text.isEmpty())
@@ -83,6 +83,7 @@ private Q_SLOTS:
     void catchesWhatItIsFor()
     {
         QVERIFY(!complaint("support", "ui/Icons.h").isEmpty());
+        QVERIFY(!complaint("helper", "platform/NativePath.h").isEmpty());
         QVERIFY(!complaint("templates", "parameters/ProjectNaming.h").isEmpty());
         QVERIFY(!complaint("support", "sys/stat.h").isEmpty());
         QVERIFY(!complaint("app", "QDBusConnection").isEmpty());

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "helper/Protocol.h"
+#include "helper/ToolProcess.h"
+
+#include <map>
+#include <sys/types.h>
+
+namespace helper {
+
+/**
+ * The helper at work: requests in, tools run, answers out, until the other end is gone. Then every tool that still runs is
+ * ended. Runs on one thread.
+ */
+class Service
+{
+public:
+    /** The stream, the signal descriptor that tells of ended children, and the home of whoever was asked. */
+    Service(int input, int output, int childSignals, std::string home)
+        : m_input(input), m_output(output), m_childSignals(childSignals), m_home(std::move(home))
+    {}
+
+    /** Returns when the stream has ended or holds what no application of ours would send. */
+    void run();
+
+private:
+    [[nodiscard]] bool takeRequests();
+    [[nodiscard]] bool perform(const Message &request);
+    [[nodiscard]] bool collectEnded();
+    [[nodiscard]] bool send(const Message &message) const;
+    void endTools();
+
+    int m_input;
+    int m_output;
+    int m_childSignals;
+    std::string m_home;
+    Decoder m_decoder;
+    std::map<std::uint32_t, ToolProcess> m_tools;
+};
+
+} // namespace helper

@@ -1,0 +1,114 @@
+#include "platform/Conversation.h"
+
+#include <array>
+#include <cerrno>
+#include <csignal>
+#include <fcntl.h>
+#include <spawn.h>
+#include <sys/socket.h>
+#include <sys/wait.h>
+#include <vector>
+
+namespace platform {
+namespace {
+
+std::vector<char *> pointersTo(QByteArrayList &words)
+{
+    std::vector<char *> pointers;
+    for (QByteArray &word : words)
+        pointers.push_back(word.data());
+    pointers.push_back(nullptr);
+    return pointers;
+}
+
+} // namespace
+
+bool Conversation::start(const QByteArrayList &toolAndArguments, const QByteArrayList &environment)
+{
+    int ends[2];
+    if (socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends) != 0)
+        return false;
+    m_socket.reset(ends[0]);
+    const UniqueDescriptor childs(ends[1]);
+
+    QByteArrayList words = toolAndArguments;
+    QByteArrayList variables = environment;
+    posix_spawn_file_actions_t files;
+    posix_spawnattr_t attributes;
+    posix_spawn_file_actions_init(&files);
+    posix_spawnattr_init(&attributes);
+    posix_spawn_file_actions_adddup2(&files, childs.get(), STDIN_FILENO);
+    posix_spawn_file_actions_adddup2(&files, childs.get(), STDOUT_FILENO);
+    posix_spawn_file_actions_addopen(&files, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
+    sigset_t none;
+    sigset_t all;
+    sigemptyset(&none);
+    sigfillset(&all);
+    posix_spawnattr_setsigmask(&attributes, &none);
+    posix_spawnattr_setsigdefault(&attributes, &all);
+    posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF);
+    const int failure = posix_spawn(&m_pid, words.first().constData(), &files, &attributes, pointersTo(words).data(),
+                                    pointersTo(variables).data());
+    posix_spawn_file_actions_destroy(&files);
+    posix_spawnattr_destroy(&attributes);
+    if (failure == 0)
+        return true;
+    m_pid = -1;
+    m_socket.reset();
+    errno = failure;
+    return false;
+}
+
+QByteArray Conversation::read() const
+{
+    std::array<char, 16384> piece;
+    for (;;) {
+        const ssize_t got = recv(m_socket.get(), piece.data(), piece.size(), 0);
+        if (got < 0 && errno == EINTR)
+            continue;
+        return got > 0 ? QByteArray(piece.data(), got) : QByteArray();
+    }
+}
+
+bool Conversation::write(const char *bytes, std::size_t count) const
+{
+    while (count > 0) {
+        const ssize_t sent = send(m_socket.get(), bytes, count, MSG_NOSIGNAL);
+        if (sent < 0 && errno == EINTR)
+            continue;
+        if (sent <= 0)
+            return false;
+        bytes += sent;
+        count -= static_cast<std::size_t>(sent);
+    }
+    return true;
+}
+
+void Conversation::hangUp() const
+{
+    if (m_socket.isOpen())
+        shutdown(m_socket.get(), SHUT_RDWR);
+}
+
+int Conversation::hangUpAndWait()
+{
+    hangUp();
+    return waitUntilExit();
+}
+
+int Conversation::waitUntilExit()
+{
+    if (m_pid < 0)
+        return -1;
+    int status = 0;
+    pid_t collected = -1;
+    do {
+        collected = waitpid(m_pid, &status, 0);
+    } while (collected < 0 && errno == EINTR);
+    m_pid = -1;
+    if (collected < 0)
+        return -1;
+    return WIFSIGNALED(status) ? 128 + WTERMSIG(status) : WEXITSTATUS(status);
+}
+
+} // namespace platform

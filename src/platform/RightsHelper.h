@@ -1,0 +1,66 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <functional>
+#include <memory>
+#include <optional>
+
+namespace platform {
+
+/**
+ * Administrator rights in hand: the privileged helper, running as root at the other end of a socket. While one exists this
+ * process is not dumpable, so that no other process of the user can reach into it. Destroying it gives the rights back;
+ * tools that still run are ended then.
+ *
+ * Thread-safe. The helper may die at any time; then every question about it is answered with "no" or an error at once.
+ */
+class RightsHelper
+{
+public:
+    /** How a tool ended: what it was, its status (0 is success, 128 and more a signal) and what it said about it. */
+    struct ToolEnd
+    {
+        QString tool;
+        int status = 0;
+        QString errorText;
+        [[nodiscard]] bool ok() const { return status == 0; }
+    };
+    /** Called on a thread of the helper's own, once for every tool that did not end well, also by the helper's end. */
+    using Complaint = std::function<void(const ToolEnd &)>;
+
+    /** A tool on its way, for waitFor(). */
+    struct Ticket
+    {
+        int error = 0; ///< 0 when it was started, else an errno; EPIPE when the helper is gone
+        quint32 number = 0;
+    };
+
+    /**
+     * Asks for the rights through pkexec and blocks while the user is asked, as long as that takes. Nothing when they were
+     * refused or dismissed, when there is nobody to ask, or no polkit on this machine.
+     */
+    [[nodiscard]] static std::shared_ptr<RightsHelper> start(Complaint complaint);
+    ~RightsHelper();
+    RightsHelper(const RightsHelper &) = delete;
+    RightsHelper &operator=(const RightsHelper &) = delete;
+
+    [[nodiscard]] bool isAlive() const;
+    /** Gives the rights back now, whoever still holds this object. Blocks until the helper has let go. */
+    void end();
+    /** Returns as soon as the tool is started. Folders on the way that are links are resolved here: the helper goes
+        through none. */
+    [[nodiscard]] Ticket run(const QString &tool, const QStringList &arguments);
+    /** Blocks until that tool has ended; each ticket once. */
+    [[nodiscard]] ToolEnd waitFor(const Ticket &ticket);
+
+    /** Where the helper lies: in the application's bundle. */
+    [[nodiscard]] static QString path();
+
+private:
+    struct Private;
+    explicit RightsHelper(std::unique_ptr<Private> d);
+    std::unique_ptr<Private> d;
+};
+
+} // namespace platform

@@ -1,0 +1,270 @@
+#include "platform/ZipFormat.h"
+
+#include "platform/AppleDouble.h"
+#include "platform/FileOutcome.h"
+#include "platform/FinderInfo.h"
+#include "platform/FolderReader.h"
+#include "platform/NativePath.h"
+#include "platform/PathAt.h"
+
+#include <algorithm>
+#include <archive.h>
+#include <archive_entry.h>
+#include <array>
+#include <cerrno>
+#include <climits>
+#include <cmath>
+#include <cstring>
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace platform {
+namespace {
+
+constexpr qsizetype pieceSize = qsizetype{256} * 1024;
+/// Bits a byte, of eight: pictures, film and archives lie above, and packing them once more only takes time.
+constexpr double densest = 7.9;
+/// Below this a sample says too little.
+constexpr qsizetype smallestSample = 16384;
+
+double bitsPerByte(const QByteArray &sample, qsizetype size)
+{
+    std::array<qsizetype, 256> counts{};
+    for (qsizetype i = 0; i < size; ++i)
+        ++counts[static_cast<uchar>(sample[i])];
+    double bits = 0;
+    for (const qsizetype count : counts) {
+        if (count > 0)
+            bits -= static_cast<double>(count) * std::log2(static_cast<double>(count) / static_cast<double>(size));
+    }
+    return bits / static_cast<double>(size);
+}
+
+qsizetype readPiece(int file, QByteArray &piece)
+{
+    qsizetype filled = 0;
+    while (filled < piece.size()) {
+        const ssize_t got = read(file, piece.data() + filled, static_cast<std::size_t>(piece.size() - filled));
+        if (got < 0 && errno == EINTR)
+            continue;
+        if (got < 0)
+            return -1;
+        if (got == 0)
+            break;
+        filled += got;
+    }
+    return filled;
+}
+
+struct EntryCloser
+{
+    void operator()(archive_entry *entry) const { archive_entry_free(entry); }
+};
+
+/// Walks what is to be packed, by descriptor.
+class Compression
+{
+public:
+    Compression(const QString &path, const QString &archivePath)
+        : m_above(parentPath(path)), m_writer(archivePath)
+    {
+        raiseDescriptorLimit();
+        struct stat info;
+        const PathAt archiveAt(archivePath);
+        if (fstatat(archiveAt.folder(), archiveAt.name(), &info, 0) == 0)
+            m_archive = info;
+        const PathAt at(m_above);
+        const UniqueDescriptor parent(openat(at.folder(), at.name(), O_PATH | O_DIRECTORY | O_CLOEXEC));
+        take(parent.get(), toNative(lastComponent(path)), {});
+    }
+
+    CompressReport run()
+    {
+        if (m_report.problem.isNull() && !m_writer.finish())
+            m_report.problem = m_writer.problem();
+        return m_report;
+    }
+
+private:
+    void fail(const QByteArray &name)
+    {
+        m_report.problem = FileOutcome::fromErrno(joined(m_above, fromNative(name))).description();
+    }
+
+    void take(int folder, const QByteArray &entry, const QByteArray &above)
+    {
+        if (!m_report.problem.isNull())
+            return;
+        const QByteArray name = above.isEmpty() ? entry : above + '/' + entry;
+        struct stat info;
+        if (fstatat(folder, entry.constData(), &info, AT_SYMLINK_NOFOLLOW) != 0)
+            return fail(name);
+        if (info.st_dev == m_archive.st_dev && info.st_ino == m_archive.st_ino)
+            return; // the archive grows inside the folder that is packed
+        if (!S_ISREG(info.st_mode) && !S_ISDIR(info.st_mode) && !S_ISLNK(info.st_mode)) {
+            m_report.skipped.append(fromNative(name));
+            return;
+        }
+        QByteArray target(S_ISLNK(info.st_mode) ? PATH_MAX : 0, '\0');
+        UniqueDescriptor opened;
+        if (S_ISLNK(info.st_mode))
+            target.truncate(qMax<qsizetype>(
+                0, readlinkat(folder, entry.constData(), target.data(), static_cast<std::size_t>(target.size()))));
+        else
+            opened.reset(openat(folder, entry.constData(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+        if (!S_ISLNK(info.st_mode) && !opened.isOpen())
+            return fail(name);
+        m_writer.addItem(name, info, target, opened.get());
+        if (opened.isOpen())
+            m_writer.addFlags(name, flagsWordOf(opened.get()));
+        m_report.problem = m_writer.problem();
+        if (S_ISDIR(info.st_mode))
+            takeContents(opened.get(), name);
+    }
+
+    void takeContents(int folder, const QByteArray &name)
+    {
+        std::vector<RawEntry> entries;
+        if (!readFolder(folder, entries))
+            return fail(name);
+        std::sort(entries.begin(), entries.end(), [](const RawEntry &a, const RawEntry &b) { return a.name < b.name; });
+        for (const RawEntry &entry : entries)
+            take(folder, QByteArray::fromStdString(entry.name), name);
+    }
+
+    QString m_above;
+    ZipWriter m_writer;
+    struct stat m_archive{};
+    CompressReport m_report;
+};
+
+} // namespace
+
+CompressReport compressZipDirectly(const QString &path, const QString &archivePath)
+{
+    return Compression(path, archivePath).run();
+}
+
+void ZipWriter::Closer::operator()(archive *handle) const
+{
+    archive_write_free(handle);
+}
+
+ZipWriter::ZipWriter(const QString &path) : m_archive(archive_write_new()), m_piece(pieceSize, '\0')
+{
+    archive_write_set_format_zip(m_archive.get());
+    archive_write_set_options(m_archive.get(), "hdrcharset=UTF-8");
+    archive_write_set_bytes_per_block(m_archive.get(), static_cast<int>(pieceSize));
+    archive_write_set_bytes_in_last_block(m_archive.get(), 1);
+    check(archive_write_open_filename(m_archive.get(), toNative(path).constData()) == ARCHIVE_OK);
+}
+
+ZipWriter::~ZipWriter() = default;
+
+void ZipWriter::check(bool good)
+{
+    if (good || !m_problem.isNull())
+        return;
+    const char *text = archive_error_string(m_archive.get());
+    m_problem = text ? QString::fromUtf8(text) : QStringLiteral("unknown error");
+}
+
+bool ZipWriter::addHeader(archive_entry *entry, const QByteArray &name, const struct stat &info)
+{
+    if (!m_problem.isNull())
+        return false;
+    archive_entry_copy_stat(entry, &info);
+    if (name.isValidUtf8())
+        archive_entry_set_pathname_utf8(entry, name.constData());
+    else
+        archive_entry_copy_pathname(entry, name.constData());
+    check(archive_write_header(m_archive.get(), entry) >= ARCHIVE_WARN);
+    return m_problem.isNull();
+}
+
+void ZipWriter::addContents(const QByteArray &name, const struct stat &info, const QByteArray &contents)
+{
+    const std::unique_ptr<archive_entry, EntryCloser> entry(archive_entry_new());
+    archive_write_zip_set_compression_deflate(m_archive.get());
+    if (addHeader(entry.get(), name, info) && !contents.isEmpty())
+        check(archive_write_data(m_archive.get(), contents.constData(), static_cast<std::size_t>(contents.size())) ==
+              contents.size());
+}
+
+void ZipWriter::addItem(const QByteArray &name, const struct stat &info, const QByteArray &linkTarget, int file)
+{
+    const std::unique_ptr<archive_entry, EntryCloser> entry(archive_entry_new());
+    if (!linkTarget.isEmpty())
+        archive_entry_copy_symlink(entry.get(), linkTarget.constData());
+    if (!S_ISREG(info.st_mode)) {
+        static_cast<void>(addHeader(entry.get(), name, info));
+        return;
+    }
+    // The first piece decides how the file is stored, so it is read before the header is written.
+    const qsizetype first = readPiece(file, m_piece);
+    if (first < 0 || lseek(file, 0, SEEK_SET) < 0) {
+        m_problem = FileOutcome::fromErrno(fromNative(name)).description();
+        return;
+    }
+    if (first >= smallestSample && bitsPerByte(m_piece, qMin<qsizetype>(first, 65536)) > densest)
+        archive_write_zip_set_compression_store(m_archive.get());
+    else
+        archive_write_zip_set_compression_deflate(m_archive.get());
+    if (addHeader(entry.get(), name, info))
+        pumpFile(file, name, info.st_size);
+}
+
+void ZipWriter::pumpFile(int file, const QByteArray &name, qint64 size)
+{
+    while (size > 0 && m_problem.isNull()) {
+        const qsizetype got = readPiece(file, m_piece);
+        if (got <= 0) { // a file that shrank would pass for the whole one
+            m_problem = FileOutcome(got < 0 ? errno : ESTALE, fromNative(name)).description();
+            return;
+        }
+        const auto wanted = static_cast<std::size_t>(qMin<qint64>(got, size));
+        check(archive_write_data(m_archive.get(), m_piece.constData(), wanted) == static_cast<la_ssize_t>(wanted));
+        size -= static_cast<qint64>(wanted);
+    }
+}
+
+void ZipWriter::addFlags(const QByteArray &name, quint16 flagsWord)
+{
+    if (flagsWord == 0)
+        return;
+    const qsizetype start = name.lastIndexOf('/') + 1;
+    const QByteArray contents = appleDoubleWithFlags(flagsWord);
+    struct stat info{};
+    info.st_mode = S_IFREG | 0644;
+    info.st_size = contents.size();
+    info.st_mtime = time(nullptr);
+    addContents("__MACOSX/" + name.first(start) + "._" + name.mid(start), info, contents);
+}
+
+void ZipWriter::addFolder(const QString &name, quint16 flagsWord)
+{
+    struct stat info{};
+    info.st_mode = S_IFDIR | 0755;
+    info.st_mtime = time(nullptr);
+    addContents(toNative(name), info, {});
+    addFlags(toNative(name), flagsWord);
+}
+
+void ZipWriter::addFile(const QString &name, const QByteArray &contents, quint16 flagsWord)
+{
+    struct stat info{};
+    info.st_mode = S_IFREG | 0644;
+    info.st_size = contents.size();
+    info.st_mtime = time(nullptr);
+    addContents(toNative(name), info, contents);
+    addFlags(toNative(name), flagsWord);
+}
+
+bool ZipWriter::finish()
+{
+    if (m_problem.isNull())
+        check(archive_write_close(m_archive.get()) == ARCHIVE_OK);
+    return m_problem.isNull();
+}
+
+} // namespace platform

@@ -1,0 +1,326 @@
+#include "platform/AppleDouble.h"
+#include "platform/FileSystem.h"
+#include "platform/FinderInfo.h"
+#include "platform/FolderReader.h"
+#include "platform/NativePath.h"
+#include "platform/PathAt.h"
+#include "platform/ZipFormat.h"
+
+#include <QUuid>
+#include <archive.h>
+#include <archive_entry.h>
+#include <cerrno>
+#include <dirent.h>
+#include <fcntl.h>
+#include <map>
+#include <unistd.h>
+#include <vector>
+
+namespace platform {
+namespace {
+
+constexpr quint16 labelMask = 0x000E;
+constexpr std::size_t blockSize = std::size_t{256} * 1024;
+constexpr std::size_t largestAppleDouble = std::size_t{1} << 20;
+/// An archive that unpacks to more than both is taken for a trap: no project file packs that well.
+constexpr quint64 alwaysAllowed = quint64{1} << 30;
+constexpr quint64 largestRatio = 100;
+
+struct ReadCloser
+{
+    void operator()(archive *handle) const { archive_read_free(handle); }
+};
+
+bool staysInside(const QByteArray &name)
+{
+    return !name.isEmpty() && !name.startsWith('/') && !name.split('/').contains("..");
+}
+
+/// Whether a link at the entry's place stays below the destination. Steps upwards count only at the beginning: after a
+/// step down they would start from wherever that step, perhaps a link of the archive, leads.
+bool linkStaysInside(const QByteArray &name, const QByteArray &target)
+{
+    if (target.startsWith('/'))
+        return false;
+    qsizetype depth = name.count('/');
+    bool descended = false;
+    for (const QByteArray &step : target.split('/')) {
+        if (step == "..") {
+            if (descended || --depth < 0)
+                return false;
+        } else if (!step.isEmpty() && step != ".") {
+            descended = true;
+        }
+    }
+    return true;
+}
+
+struct FolderDates
+{
+    mode_t mode;
+    timespec modified;
+};
+
+/// Unpacks into a folder of its own, and only what is whole moves on from there.
+class Extraction
+{
+public:
+    Extraction(const QString &archivePath, QString destination)
+        : m_destination(std::move(destination)),
+          m_place(joined(m_destination,
+                         QStringLiteral(".tessaro-") + QUuid::createUuid().toString(QUuid::WithoutBraces))),
+          m_allowed(qMax(alwaysAllowed, largestRatio * fileSizeOf(archivePath))), m_reader(archive_read_new())
+    {
+        raiseDescriptorLimit();
+        if (const FileOutcome made = makeNewFolder(m_place); !made.ok()) {
+            m_report.problem = made.description();
+            return;
+        }
+        const PathAt at(m_place);
+        m_root.reset(openat(at.folder(), at.name(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+        archive_read_support_format_zip(m_reader.get());
+        if (archive_read_open_filename(m_reader.get(), toNative(archivePath).constData(), blockSize) != ARCHIVE_OK)
+            failReading({});
+    }
+
+    ~Extraction()
+    {
+        m_parent.reset();
+        m_root.reset();
+        static_cast<void>(removeOwnTree(m_place).ok());
+    }
+    Extraction(const Extraction &) = delete;
+    Extraction &operator=(const Extraction &) = delete;
+
+    ExtractReport run()
+    {
+        archive_entry *entry = nullptr;
+        while (m_report.problem.isNull()) {
+            const int status = archive_read_next_header(m_reader.get(), &entry);
+            if (status == ARCHIVE_EOF)
+                break;
+            if (status < ARCHIVE_WARN)
+                failReading({});
+            else
+                take(entry);
+        }
+        if (m_report.problem.isNull()) {
+            putLabels();
+            putFolderDates();
+            moveOn({});
+        }
+        return m_report;
+    }
+
+private:
+    void failReading(const QByteArray &name)
+    {
+        const char *text = archive_error_string(m_reader.get());
+        const QString why = text ? QString::fromUtf8(text) : QStringLiteral("unknown error");
+        m_report.problem = name.isEmpty() ? why : forDisplay(fromNative(name)) + QStringLiteral(": ") + why;
+    }
+    void failWriting(const QByteArray &name) { m_report.problem = FileOutcome::fromErrno(fromNative(name)).description(); }
+    void refuse(const QByteArray &name) { m_report.refused.append(fromNative(name)); }
+
+    void take(archive_entry *entry)
+    {
+        const char *utf8 = archive_entry_pathname_utf8(entry);
+        QByteArray name = utf8 ? utf8 : archive_entry_pathname(entry);
+        if (archive_entry_is_encrypted(entry)) {
+            m_report.problem = forDisplay(fromNative(name)) + QStringLiteral(": the archive is encrypted");
+            return;
+        }
+        if (name.startsWith("__MACOSX/"))
+            return takeLabel(name.mid(9));
+        const char *link = archive_entry_symlink_utf8(entry);
+        const QByteArray target = link ? link : archive_entry_symlink(entry);
+        if (!staysInside(name) || !linkStaysInside(name, target) || archive_entry_hardlink(entry))
+            return refuse(name);
+        while (name.endsWith('/'))
+            name.chop(1);
+        const int parent = parentOf(name);
+        if (parent < 0)
+            return refuse(name);
+        const QByteArray own = name.mid(name.lastIndexOf('/') + 1);
+        if (!target.isEmpty()) {
+            if (symlinkat(target.constData(), parent, own.constData()) != 0)
+                refuse(name);
+        } else if (archive_entry_filetype(entry) == AE_IFDIR) {
+            if (makeFolder(parent, own))
+                m_folders[name] = {archive_entry_perm(entry) & 0777U, {archive_entry_mtime(entry), 0}};
+            else
+                refuse(name);
+        } else {
+            writeFile(entry, name, parent, own);
+        }
+    }
+
+    static bool makeFolder(int parent, const QByteArray &name)
+    {
+        if (mkdirat(parent, name.constData(), 0700) == 0)
+            return true;
+        struct stat info;
+        return errno == EEXIST && fstatat(parent, name.constData(), &info, AT_SYMLINK_NOFOLLOW) == 0 &&
+               S_ISDIR(info.st_mode);
+    }
+
+    /// The open folder that the entry goes into, made as far as it is missing; -1 when something else is in the way.
+    int parentOf(const QByteArray &name)
+    {
+        const QByteArray folder = name.first(qMax<qsizetype>(0, name.lastIndexOf('/')));
+        if (folder.isEmpty())
+            return m_root.get();
+        if (m_parent.isOpen() && folder == m_parentName)
+            return m_parent.get();
+        UniqueDescriptor at(dup(m_root.get()));
+        for (const QByteArray &step : folder.split('/')) {
+            if (step.isEmpty() || step == ".")
+                continue;
+            if (!makeFolder(at.get(), step))
+                return -1;
+            UniqueDescriptor next = openFolder(at.get(), step.constData());
+            at = std::move(next);
+            if (!at.isOpen())
+                return -1;
+        }
+        m_parent = std::move(at);
+        m_parentName = folder;
+        return m_parent.get();
+    }
+
+    void writeFile(archive_entry *entry, const QByteArray &name, int parent, const QByteArray &own)
+    {
+        const int flags = O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC;
+        UniqueDescriptor file(openat(parent, own.constData(), flags, 0600));
+        if (!file.isOpen()) {
+            if (errno == EEXIST)
+                return refuse(name);
+            return failWriting(name);
+        }
+        if (!writeContents(name, file.get()))
+            return;
+        const timespec times[2] = {{0, UTIME_NOW}, {archive_entry_mtime(entry), archive_entry_mtime_nsec(entry)}};
+        if (fchmod(file.get(), archive_entry_perm(entry) & 0777U) != 0 ||
+            (archive_entry_mtime_is_set(entry) && futimens(file.get(), times) != 0) || file.closeChecked() != 0)
+            failWriting(name);
+    }
+
+    bool writeContents(const QByteArray &name, int file)
+    {
+        const void *piece = nullptr;
+        std::size_t size = 0;
+        la_int64_t offset = 0;
+        for (;;) {
+            const int status = archive_read_data_block(m_reader.get(), &piece, &size, &offset);
+            if (status == ARCHIVE_EOF)
+                return true;
+            m_unpacked += size;
+            if (status < ARCHIVE_WARN)
+                failReading(name);
+            else if (m_unpacked > m_allowed)
+                m_report.problem = forDisplay(fromNative(name)) + QStringLiteral(": unpacks to far more than an honest archive");
+            else if (!writeAll(file, static_cast<const char *>(piece), size, offset))
+                failWriting(name);
+            if (!m_report.problem.isNull())
+                return false;
+        }
+    }
+
+    static bool writeAll(int file, const char *bytes, std::size_t count, off_t offset)
+    {
+        while (count > 0) {
+            const ssize_t written = pwrite(file, bytes, count, offset);
+            if (written < 0 && errno == EINTR)
+                continue;
+            if (written <= 0)
+                return false;
+            bytes += written;
+            offset += written;
+            count -= static_cast<std::size_t>(written);
+        }
+        return true;
+    }
+
+    /// "Project.tzt/Files/._Footage" carries the flags of "Project.tzt/Files/Footage".
+    void takeLabel(const QByteArray &name)
+    {
+        QByteArray bytes(static_cast<qsizetype>(largestAppleDouble), '\0');
+        const la_ssize_t got = archive_read_data(m_reader.get(), bytes.data(), largestAppleDouble);
+        if (got < 0)
+            return failReading("__MACOSX/" + name);
+        bytes.truncate(got);
+        const qsizetype start = name.lastIndexOf('/') + 1;
+        const std::optional<quint16> flags = flagsFromAppleDouble(bytes);
+        if (flags && staysInside(name) && name.mid(start, 2) == "._")
+            m_labels[name.first(start) + name.mid(start + 2)] = *flags;
+    }
+
+    void putLabels()
+    {
+        for (const auto &[name, flags] : m_labels) {
+            const qsizetype slash = name.lastIndexOf('/');
+            // Not by parentOf(): a label makes no folders.
+            UniqueDescriptor at(dup(m_root.get()));
+            for (const QByteArray &step : name.first(qMax<qsizetype>(0, slash)).split('/')) {
+                if (!step.isEmpty() && at.isOpen())
+                    at.reset(openFolder(at.get(), step.constData()).release());
+            }
+            const UniqueDescriptor item(at.isOpen() ? openat(at.get(), name.constData() + slash + 1,
+                                                             O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC)
+                                                    : -1);
+            if (item.isOpen())
+                setFlagsWord(item.get(), flags, labelMask | bundleBit);
+        }
+    }
+
+    /// Deepest first: what is done inside a folder changes its dates.
+    void putFolderDates()
+    {
+        for (auto at = m_folders.rbegin(); at != m_folders.rend(); ++at) {
+            const int parent = parentOf(at->first);
+            const QByteArray own = at->first.mid(at->first.lastIndexOf('/') + 1);
+            const UniqueDescriptor folder = parent >= 0 ? openFolder(parent, own.constData()) : UniqueDescriptor();
+            const timespec times[2] = {{0, UTIME_NOW}, at->second.modified};
+            if (!folder.isOpen() || fchmod(folder.get(), at->second.mode) != 0 || futimens(folder.get(), times) != 0)
+                return failWriting(at->first);
+        }
+    }
+
+    /// Everything in this folder of the place moves to the same folder of the destination. Folders that stand there
+    /// already take in what is new; nothing is replaced.
+    void moveOn(const QString &below)
+    {
+        const QString from = joined(m_place, below);
+        for (const FolderEntry &entry : listFolder(from).value_or(QList<FolderEntry>())) {
+            const QString name = below.isEmpty() ? entry.name : joined(below, entry.name);
+            const QString target = joined(m_destination, name);
+            if (entry.kind == FileKind::Folder && kindOf(target) == FileKind::Folder)
+                moveOn(name);
+            else if (const FileOutcome moved = moveItem(joined(m_place, name), target); moved.errorNumber() == EEXIST)
+                m_report.refused.append(name);
+            else if (!moved.ok())
+                m_report.problem = moved.description();
+        }
+    }
+
+    QString m_destination;
+    QString m_place;
+    quint64 m_allowed;
+    quint64 m_unpacked = 0;
+    std::unique_ptr<archive, ReadCloser> m_reader;
+    UniqueDescriptor m_root;
+    UniqueDescriptor m_parent; ///< the folder of the last entry, which mostly is the folder of the next
+    QByteArray m_parentName;
+    std::map<QByteArray, quint16> m_labels;
+    std::map<QByteArray, FolderDates> m_folders;
+    ExtractReport m_report;
+};
+
+} // namespace
+
+ExtractReport extractZipDirectly(const QString &archivePath, const QString &destination)
+{
+    return Extraction(archivePath, destination).run();
+}
+
+} // namespace platform

@@ -1,0 +1,168 @@
+// The privileged helper, as far as that can be seen without rights: what it takes for a message, what it takes for a
+// request, and what it needs to start at all.
+#include "helper/Plan.h"
+#include "helper/Protocol.h"
+#include "platform/Desktop.h"
+#include "support/TemporaryHome.h"
+
+#include <QCoreApplication>
+#include <QProcess>
+#include <QTest>
+#include <cerrno>
+#include <random>
+#include <sys/stat.h>
+#include <unistd.h>
+
+using namespace helper;
+using Result = Decoder::Result;
+
+namespace {
+
+std::vector<std::string> words(const QStringList &texts)
+{
+    std::vector<std::string> native;
+    for (const QString &text : texts)
+        native.push_back(text.toStdString());
+    return native;
+}
+
+} // namespace
+
+class TestHelper : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { m_home.emplace(); }
+
+    void messagesComeBack()
+    {
+        const Message sent{MessageType::Run, 0xFFFFFFFF, -2, {"/bin/cp", "", std::string(100'000, '\xC3')}};
+        const auto bytes = encode(sent);
+        QVERIFY(bytes);
+        Decoder decoder;
+        Message got;
+        for (int round = 0; round < 2; ++round) { // the second begins where the first ended
+            for (std::size_t i = 0; i < bytes->size(); ++i) {
+                QVERIFY(decoder.next(got) == Result::Incomplete);
+                decoder.add(bytes->data() + i, 1);
+            }
+            QVERIFY(decoder.next(got) == Result::Complete);
+            QVERIFY(got == sent);
+        }
+        QVERIFY(!encode({MessageType::Run, 1, 0, {std::string("a\0b", 3)}}));
+        QVERIFY(!encode({MessageType::Run, 1, 0, {std::string(maximumSize, 'x')}}));
+        QVERIFY(!encode({MessageType::Run, 1, 0, std::vector<std::string>(maximumTexts + 1)}));
+    }
+
+    /// Whatever arrives: never a crash, never a message beyond the bounds, never more memory than one message.
+    void survivesAnything()
+    {
+        std::mt19937 random(20261121);
+        const std::string good = *encode({MessageType::Run, 7, 0, {"/bin/mv", "-f", "/a", "/b"}});
+        int complete = 0;
+        int broken = 0;
+        for (int i = 0; i < 60'000; ++i) {
+            std::string bytes = i % 3 == 0 ? std::string(random() % 64, '\0') : good;
+            if (i % 3 == 0)
+                std::generate(bytes.begin(), bytes.end(), [&] { return static_cast<char>(random()); });
+            for (auto flips = 1 + random() % 4; i % 3 != 0 && flips > 0; --flips)
+                bytes[random() % bytes.size()] = static_cast<char>(random());
+            if (i % 5 == 0)
+                bytes.resize(random() % (bytes.size() + 1));
+            Decoder decoder;
+            for (std::size_t at = 0; at < bytes.size();) {
+                const std::size_t piece = std::min<std::size_t>(1 + random() % 20, bytes.size() - at);
+                decoder.add(bytes.data() + at, piece);
+                at += piece;
+                Message message;
+                const Result result = decoder.next(message);
+                complete += result == Result::Complete;
+                broken += result == Result::Broken;
+                if (result == Result::Complete)
+                    QVERIFY(message.texts.size() <= maximumTexts && encode(message));
+            }
+        }
+        QVERIFY2(complete > 1000 && broken > 1000, "The fuzzing hit only one side");
+    }
+
+    void refuses_data()
+    {
+        QTest::addColumn<QString>("tool");
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<int>("error");
+        const auto row = [](const char *name, const QString &tool, const QStringList &arguments, int error) {
+            QTest::newRow(name) << tool << arguments << error;
+        };
+        row("a shell", "/bin/sh", {"-c", "true"}, EACCES);
+        row("a relative tool", "rm", {"-Rdf", "%/x"}, EACCES);
+        row("another option", "/bin/rm", {"-Rf", "%/x"}, EACCES);
+        row("one path too many", "/bin/rm", {"-Rdf", "%/x", "%/y"}, EACCES);
+        row("an option in place of a path", "/bin/rm", {"-Rdf", "--no-preserve-root"}, EINVAL);
+        row("a relative path", "/bin/mkdir", {"-p", "x"}, EINVAL);
+        row("the root", "/bin/rm", {"-Rdf", "/"}, EPERM);
+        row("the root, by dots", "/bin/rm", {"-Rdf", "/usr/.."}, EINVAL);
+        row("a system folder", "/bin/rm", {"-Rdf", "/usr"}, EPERM);
+        row("with a slash behind", "/bin/rm", {"-Rdf", "/usr///"}, EPERM);
+        row("by dots", "/bin/rm", {"-Rdf", "/etc/../etc"}, EPERM);
+        row("by dots that end there", "/bin/rm", {"-Rdf", "/etc/ssl/.."}, EINVAL);
+        row("one of its own folders", "/bin/mv", {"-f", "/usr/bin", "%/x"}, EPERM);
+        row("as a destination", "/bin/cp", {"-f", "-p", "-R", "%/x", "/etc"}, EPERM);
+        row("by a link to it", "/bin/rm", {"-Rdf", "%/link"}, EPERM);
+        row("by a link on the way", "/bin/rm", {"-Rdf", "%/link/share"}, ENOTDIR);
+        row("by a link and dots", "/bin/rm", {"-Rdf", "%/link/../usr"}, ENOTDIR);
+        row("the home", "/bin/rm", {"-Rdf", "%"}, EPERM);
+        row("a folder of the home", "/bin/mv", {"-f", "%/Documents", "%/x"}, EPERM);
+        row("a folder of its library", "/bin/rm", {"-Rdf", "%/Library/Preferences"}, EPERM);
+        row("dots after what is missing", "/bin/mkdir", {"-p", "%/missing/../x"}, EINVAL);
+    }
+    void refuses()
+    {
+        QFETCH(QString, tool);
+        QFETCH(QStringList, arguments);
+        makeHome();
+        arguments.replaceInStrings("%", m_home->path());
+        Plan plan;
+        QTEST(prepare(tool.toStdString(), words(arguments), m_home->path().toStdString(), plan), "error");
+    }
+
+    void pinsWhatItTakes()
+    {
+        makeHome();
+        writeFile(m_home->file("deep/down/x"), "x");
+        Plan plan;
+        const QString path = m_home->path() + "/deep//./down/../down/x";
+        QCOMPARE(prepare("/bin/mv", words({"-f", path, m_home->path() + "/new/a/b"}), m_home->path().toStdString(), plan), 0);
+        QCOMPARE(plan.arguments, words({"-f", "/proc/self/fd/10/x", "/proc/self/fd/11/new/a/b"}));
+        // Exchanged for a link after the check: the folder that was checked is the one that is used.
+        QVERIFY(rename(m_home->file("deep/down").toUtf8(), m_home->file("aside").toUtf8()) == 0);
+        QVERIFY(symlink("/etc", m_home->file("deep/down").toUtf8()) == 0);
+        struct stat info;
+        QCOMPARE(fstatat(plan.folders[0].get(), "x", &info, 0), 0);
+        // Reading a standard folder harms nobody.
+        QCOMPARE(prepare("/bin/cp", words({"-f", "-p", "-R", m_home->path() + "/Documents", m_home->path() + "/x"}),
+                         m_home->path().toStdString(), plan),
+                 0);
+    }
+
+    void startsOnlyAsItShould()
+    {
+        QProcess run;
+        run.start(TESSARO_HELPER, QStringList{});
+        QVERIFY(run.waitForFinished());
+        QCOMPARE(run.exitCode(), 2);
+        QVERIFY(run.readAllStandardOutput().isEmpty());
+    }
+
+private:
+    void makeHome()
+    {
+        for (const char *folder : {"Documents/x", "Library/Preferences/x"})
+            static_cast<void>(m_home->file(folder)); // makes the folders above it
+        static_cast<void>(symlink("/usr", m_home->file("link").toUtf8()));
+    }
+
+    std::optional<TemporaryHome> m_home;
+};
+TESSARO_TEST_MAIN(QCoreApplication, TestHelper)
+#include "test_helper.moc"
