@@ -5,8 +5,8 @@
 // Three take turns, each into a new destination: `cp -a` as a process; a creation in a program that runs already, as in
 // the window (claim, copy, renaming, dates); and `Tessaro create` as a process, with its start-up. Nothing is deleted before
 // the end, because creating files soon after a large deletion is slow on ext4 and would make every ratio 1.
+#include "Timing.h"
 #include "app/ProjectCreation.h"
-#include "platform/ChildProcess.h"
 #include "platform/Desktop.h"
 #include "platform/FileSystem.h"
 #include "platform/NativePath.h"
@@ -16,25 +16,10 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QTemporaryDir>
-#include <QTextStream>
-#include <algorithm>
-#include <chrono>
-#include <vector>
 
 namespace {
 
 constexpr int rounds = 7;
-
-double secondsOf(const QString &tool, const QStringList &arguments)
-{
-    const auto start = std::chrono::steady_clock::now();
-    platform::ChildProcess child(tool, arguments);
-    const bool started = child.start(platform::ChildProcess::Output::Discarded,
-                                     platform::ChildProcess::ErrorOutput::Discarded);
-    if (!started || child.waitUntilExit() != 0)
-        qFatal("%s failed", qPrintable(tool));
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
-}
 
 void makeTemplate(const QString &files, int count)
 {
@@ -51,12 +36,6 @@ void makeTemplate(const QString &files, int count)
     }
 }
 
-double median(std::vector<double> values)
-{
-    std::sort(values.begin(), values.end());
-    return values[values.size() / 2];
-}
-
 class SilentHost : public CreationHost
 {
     void startProcessing() override {}
@@ -69,21 +48,11 @@ class SilentHost : public CreationHost
 
 double secondsOfCreation(const QString &templateName, const QString &destination)
 {
-    const auto start = std::chrono::steady_clock::now();
-    SilentHost host;
-    if (!ProjectCreation(host).createTemplate(templateName, destination).ok())
-        qFatal("The creation failed");
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
-}
-
-void print(const char *what, std::vector<double> seconds, const std::vector<double> &theirs)
-{
-    std::vector<double> ratios;
-    for (std::size_t i = 0; i < seconds.size(); ++i)
-        ratios.push_back(seconds[i] / theirs[i]);
-    const auto [least, most] = std::minmax_element(ratios.begin(), ratios.end());
-    QTextStream(stdout) << "  " << what << ' ' << median(seconds) * 1000 << " ms, ratio to cp -a " << median(ratios)
-                        << " (" << *least << " to " << *most << ")\n";
+    return timing::secondsOf([&] {
+        SilentHost host;
+        if (!ProjectCreation(host).createTemplate(templateName, destination).ok())
+            qFatal("The creation failed");
+    });
 }
 
 void measure(const QString &work, const QString &library, int count)
@@ -99,18 +68,18 @@ void measure(const QString &work, const QString &library, int count)
         const QString target = work + QStringLiteral("/%1-%2").arg(count).arg(round);
         if (!platform::makeFolders(target + "/command").ok())
             qFatal("Cannot make %s", qPrintable(target));
-        const double copy = secondsOf("/bin/cp", {"-a", files, target + "/cp"});
+        const double copy = timing::secondsOf("/bin/cp", {"-a", files, target + "/cp"});
         const double creation = secondsOfCreation(name, target + "/running/Bench");
-        const double command = secondsOf(program, {"create", "--in", target + "/command", "--template", name});
+        const double command = timing::secondsOf(program, {"create", "--in", target + "/command", "--template", name});
         if (round < 0)
             continue; // the first round fills the caches
         copies.push_back(copy);
         creations.push_back(creation);
         commands.push_back(command);
     }
-    QTextStream(stdout) << count << " files: cp -a " << median(copies) * 1000 << " ms\n";
-    print("in a running program", creations, copies);
-    print("Tessaro create", commands, copies);
+    QTextStream(stdout) << count << " files: cp -a " << timing::median(copies) * 1000 << " ms\n";
+    timing::printRatio("in a running program", creations, "cp -a", copies);
+    timing::printRatio("Tessaro create", commands, "cp -a", copies);
 }
 
 } // namespace

@@ -1,6 +1,6 @@
 #include "platform/FileCopy.h"
 
-#include "platform/UniqueDescriptor.h"
+#include "platform/FolderReader.h"
 
 #include <array>
 #include <cerrno>
@@ -181,13 +181,10 @@ EntryResult copyRegular(int sourceFolder, const char *from, int destinationFolde
                         CopyMonitor *monitor)
 {
     EntryResult result;
-    // Non-blocking: were the file replaced by a FIFO since it was listed, the open must not wait for a writer.
-    const UniqueDescriptor source(openat(sourceFolder, from, O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+    const UniqueDescriptor source = openFile(sourceFolder, from);
     struct stat info;
     if (!source.isOpen() || fstat(source.get(), &info) != 0)
         return {errno, false, false};
-    if (!S_ISREG(info.st_mode))
-        return {ESTALE, false, false};
     const int flags = O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC;
     // Writable at first: attributes can be set on nothing else, whatever the mode is to be in the end.
     UniqueDescriptor destination(openat(destinationFolder, to, flags, (info.st_mode & 0777) | S_IWUSR));

@@ -7,11 +7,15 @@
 #include "platform/PathAt.h"
 #include "platform/TreeCopy.h"
 
+#include <algorithm>
+#include <atomic>
 #include <cerrno>
 #include <cstdio>
 #include <dirent.h>
 #include <fcntl.h>
+#include <mutex>
 #include <sys/stat.h>
+#include <thread>
 #include <unistd.h>
 
 namespace platform {
@@ -20,37 +24,80 @@ namespace {
 /// What happens at a folder whose mode keeps this process out.
 enum class Closed { Fails, IsOpened };
 
-FileOutcome removeBelow(int folder, const QString &path, Closed closed);
-
-FileOutcome removeEntry(int parent, const char *name, bool folder, const QString &path, Closed closed)
+/// Removes one tree. Where a folder holds several others, a second worker shares them: removing is mostly waiting.
+class TreeRemover
 {
-    if (folder) {
-        if (closed == Closed::IsOpened)
-            static_cast<void>(fchmodat(parent, name, 0700, 0) == 0);
-        const UniqueDescriptor opened = openFolder(parent, name);
-        if (!opened.isOpen() && errno != ENOENT)
-            return FileOutcome::fromErrno(path);
-        const FileOutcome below = opened.isOpen() ? removeBelow(opened.get(), path, closed) : FileOutcome();
-        if (!below.ok())
-            return below;
-    }
-    const bool gone = unlinkat(parent, name, folder ? AT_REMOVEDIR : 0) == 0 || errno == ENOENT;
-    return gone ? FileOutcome() : FileOutcome::fromErrno(path);
-}
+public:
+    explicit TreeRemover(Closed closed) : m_closed(closed) {}
 
-FileOutcome removeBelow(int folder, const QString &path, Closed closed)
-{
-    std::vector<RawEntry> entries;
-    if (!readFolder(folder, entries))
-        return FileOutcome::fromErrno(path);
-    for (const RawEntry &entry : entries) {
-        const FileOutcome removed =
-            removeEntry(folder, entry.name.c_str(), entry.type == DT_DIR, joined(path, fromNative(entry.name)), closed);
-        if (!removed.ok())
-            return removed;
+    /// The path, below which failures are named, is built only for them.
+    FileOutcome run(int parent, const char *name, bool folder, const QString &path)
+    {
+        removeEntry(parent, name, folder, {});
+        return m_error == 0 ? FileOutcome() : FileOutcome(m_error, joined(path, fromNative(m_failed)));
     }
-    return {};
-}
+
+private:
+    /// Below this many folders a second worker is not worth its start.
+    static constexpr std::size_t worthSharing = 4;
+
+    bool fail(int error, const std::string &below)
+    {
+        const std::scoped_lock lock(m_mutex);
+        if (m_error == 0) {
+            m_failed = below;
+            m_error = error;
+        }
+        return false;
+    }
+
+    bool removeEntry(int parent, const char *name, bool folder, const std::string &below)
+    {
+        if (folder) {
+            if (m_closed == Closed::IsOpened)
+                static_cast<void>(fchmodat(parent, name, 0700, 0) == 0);
+            const UniqueDescriptor opened = openFolder(parent, name);
+            if (!opened.isOpen() && errno != ENOENT)
+                return fail(errno, below);
+            if (opened.isOpen() && !removeBelow(opened.get(), below))
+                return false;
+        }
+        const bool gone = unlinkat(parent, name, folder ? AT_REMOVEDIR : 0) == 0 || errno == ENOENT;
+        return gone || fail(errno, below);
+    }
+
+    bool removeBelow(int folder, const std::string &below)
+    {
+        std::vector<RawEntry> entries;
+        if (!readFolder(folder, entries))
+            return fail(errno, below);
+        const auto folders = std::stable_partition(entries.begin(), entries.end(),
+                                                   [](const RawEntry &entry) { return entry.type != DT_DIR; });
+        std::atomic<std::size_t> next = 0;
+        const auto work = [&] {
+            for (std::size_t i = next++; i < entries.size() && m_error == 0; i = next++) {
+                const std::string &name = entries[i].name;
+                removeEntry(folder, name.c_str(), entries[i].type == DT_DIR, below.empty() ? name : below + '/' + name);
+            }
+        };
+        const auto shareable = static_cast<std::size_t>(entries.end() - folders);
+        std::thread second;
+        if (shareable >= worthSharing && !m_isShared.exchange(true))
+            second = std::thread(work);
+        work();
+        if (second.joinable()) {
+            second.join();
+            m_isShared = false;
+        }
+        return m_error == 0;
+    }
+
+    Closed m_closed;
+    std::atomic<bool> m_isShared = false;
+    std::mutex m_mutex;
+    std::atomic<int> m_error = 0;
+    std::string m_failed;
+};
 
 FileOutcome removeItem(const QString &path, Closed closed)
 {
@@ -58,7 +105,7 @@ FileOutcome removeItem(const QString &path, Closed closed)
     const FileKind kind = kindOf(path);
     const PathAt at(path);
     return kind == FileKind::Missing ? FileOutcome()
-                                     : removeEntry(at.folder(), at.name(), kind == FileKind::Folder, path, closed);
+                                     : TreeRemover(closed).run(at.folder(), at.name(), kind == FileKind::Folder, path);
 }
 
 /// The rename itself, refusing to overwrite. File systems without that flag get a look first.

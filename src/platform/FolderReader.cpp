@@ -25,6 +25,25 @@ UniqueDescriptor openFolder(int parent, const char *name)
     return UniqueDescriptor(openat(parent, name, O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
 }
 
+UniqueDescriptor openFile(int parent, const char *name)
+{
+    struct stat info;
+    UniqueDescriptor file(openat(parent, name, O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+    if (!file.isOpen() && errno == EWOULDBLOCK) {
+        // Held first without opening it, so that it is still the plain file that was looked at when the open may wait.
+        const UniqueDescriptor held(openat(parent, name, O_PATH | O_NOFOLLOW | O_CLOEXEC));
+        const std::string again = "/proc/self/fd/" + std::to_string(held.get());
+        if (held.isOpen() && fstat(held.get(), &info) == 0 && S_ISREG(info.st_mode))
+            file.reset(open(again.c_str(), O_RDONLY | O_CLOEXEC));
+    }
+    if (!file.isOpen() || fstat(file.get(), &info) != 0)
+        return {};
+    if (S_ISREG(info.st_mode))
+        return file;
+    errno = ESTALE;
+    return {};
+}
+
 bool readFolder(int folder, std::vector<RawEntry> &entries)
 {
     // A descriptor of its own: closedir() closes what it was given, and the caller goes on to use the folder.

@@ -31,6 +31,7 @@ struct CompressReport
 {
     QString problem;     ///< why there is no whole archive; null when there is
     QStringList skipped; ///< what a zip archive cannot hold: sockets, FIFOs, devices
+    QStringList renamed; ///< names that are no UTF-8: written with U+FFFD for each byte that does not decode
 };
 
 /**

@@ -26,18 +26,33 @@ constexpr qsizetype pieceSize = qsizetype{256} * 1024;
 constexpr double densest = 7.9;
 /// Below this a sample says too little.
 constexpr qsizetype smallestSample = 16384;
+/// Looks at a file before it is stored as it is: a dense beginning alone may be a picture before a long text.
+constexpr int samples = 5;
 
-double bitsPerByte(const QByteArray &sample, qsizetype size)
+double bitsPerByte(const QByteArray &sample)
 {
     std::array<qsizetype, 256> counts{};
-    for (qsizetype i = 0; i < size; ++i)
-        ++counts[static_cast<uchar>(sample[i])];
+    for (const char byte : sample)
+        ++counts[static_cast<uchar>(byte)];
+    const auto size = static_cast<double>(sample.size());
     double bits = 0;
     for (const qsizetype count : counts) {
         if (count > 0)
-            bits -= static_cast<double>(count) * std::log2(static_cast<double>(count) / static_cast<double>(size));
+            bits -= static_cast<double>(count) * std::log2(static_cast<double>(count) / size);
     }
-    return bits / static_cast<double>(size);
+    return bits / size;
+}
+
+/// Whether packing the file would only take time. The descriptor's offset is left at its beginning.
+bool isDense(int file, qint64 size)
+{
+    QByteArray sample(smallestSample, '\0');
+    bool dense = size >= samples * smallestSample;
+    for (int i = 0; i < samples && dense; ++i) {
+        const ssize_t got = pread(file, sample.data(), smallestSample, (size - smallestSample) / (samples - 1) * i);
+        dense = got == smallestSample && bitsPerByte(sample) > densest;
+    }
+    return dense;
 }
 
 qsizetype readPiece(int file, QByteArray &piece)
@@ -111,9 +126,11 @@ private:
             target.truncate(qMax<qsizetype>(
                 0, readlinkat(folder, entry.constData(), target.data(), static_cast<std::size_t>(target.size()))));
         else
-            opened.reset(openat(folder, entry.constData(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+            opened = S_ISDIR(info.st_mode) ? openFolder(folder, entry.constData()) : openFile(folder, entry.constData());
         if (!S_ISLNK(info.st_mode) && !opened.isOpen())
             return fail(name);
+        if (!entry.isValidUtf8())
+            m_report.renamed.append(fromNative(name));
         m_writer.addItem(name, info, target, opened.get());
         if (opened.isOpen())
             m_writer.addFlags(name, flagsWordOf(opened.get()));
@@ -174,10 +191,7 @@ bool ZipWriter::addHeader(archive_entry *entry, const QByteArray &name, const st
     if (!m_problem.isNull())
         return false;
     archive_entry_copy_stat(entry, &info);
-    if (name.isValidUtf8())
-        archive_entry_set_pathname_utf8(entry, name.constData());
-    else
-        archive_entry_copy_pathname(entry, name.constData());
+    archive_entry_set_pathname_utf8(entry, forDisplay(fromNative(name)).toUtf8().constData());
     check(archive_write_header(m_archive.get(), entry) >= ARCHIVE_WARN);
     return m_problem.isNull();
 }
@@ -200,13 +214,7 @@ void ZipWriter::addItem(const QByteArray &name, const struct stat &info, const Q
         static_cast<void>(addHeader(entry.get(), name, info));
         return;
     }
-    // The first piece decides how the file is stored, so it is read before the header is written.
-    const qsizetype first = readPiece(file, m_piece);
-    if (first < 0 || lseek(file, 0, SEEK_SET) < 0) {
-        m_problem = FileOutcome::fromErrno(fromNative(name)).description();
-        return;
-    }
-    if (first >= smallestSample && bitsPerByte(m_piece, qMin<qsizetype>(first, 65536)) > densest)
+    if (isDense(file, info.st_size))
         archive_write_zip_set_compression_store(m_archive.get());
     else
         archive_write_zip_set_compression_deflate(m_archive.get());

@@ -78,7 +78,8 @@ public:
         }
         const PathAt at(m_place);
         m_root.reset(openat(at.folder(), at.name(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
-        archive_read_support_format_zip(m_reader.get());
+        // Only by its directory, at its end: an archive that was cut off has none.
+        archive_read_support_format_zip_seekable(m_reader.get());
         if (archive_read_open_filename(m_reader.get(), toNative(archivePath).constData(), blockSize) != ARCHIVE_OK)
             failReading({});
     }
@@ -118,6 +119,10 @@ private:
         const char *text = archive_error_string(m_reader.get());
         const QString why = text ? QString::fromUtf8(text) : QStringLiteral("unknown error");
         m_report.problem = name.isEmpty() ? why : forDisplay(fromNative(name)) + QStringLiteral(": ") + why;
+    }
+    void failAsTrap(const QByteArray &name)
+    {
+        m_report.problem = forDisplay(fromNative(name)) + QStringLiteral(": unpacks to far more than an honest archive");
     }
     void failWriting(const QByteArray &name) { m_report.problem = FileOutcome::fromErrno(fromNative(name)).description(); }
     void refuse(const QByteArray &name) { m_report.refused.append(fromNative(name)); }
@@ -197,6 +202,9 @@ private:
                 return refuse(name);
             return failWriting(name);
         }
+        const auto size = static_cast<quint64>(archive_entry_size_is_set(entry) ? archive_entry_size(entry) : 0);
+        if (size > m_allowed - qMin(m_allowed, m_unpacked))
+            return failAsTrap(name);
         if (!writeContents(name, file.get()))
             return;
         const timespec times[2] = {{0, UTIME_NOW}, {archive_entry_mtime(entry), archive_entry_mtime_nsec(entry)}};
@@ -215,10 +223,10 @@ private:
             if (status == ARCHIVE_EOF)
                 return true;
             m_unpacked += size;
-            if (status < ARCHIVE_WARN)
+            if (status < ARCHIVE_OK) // a wrong checksum is only a warning to the library
                 failReading(name);
             else if (m_unpacked > m_allowed)
-                m_report.problem = forDisplay(fromNative(name)) + QStringLiteral(": unpacks to far more than an honest archive");
+                failAsTrap(name);
             else if (!writeAll(file, static_cast<const char *>(piece), size, offset))
                 failWriting(name);
             if (!m_report.problem.isNull())

@@ -173,6 +173,8 @@ bool VTFileManager::compressFile(const QString &path, const QString &toDestinati
         platform::resultInBackground([&] { return platform::compressZip(path, growing); });
     for (const QString &skipped : report.skipped)
         VTLog::appendLog("Left out of the archive %@: %@", toDestinationFile, skipped);
+    for (const QString &renamed : report.renamed)
+        VTLog::appendLog("Name changed in the archive %@: %@", toDestinationFile, renamed);
     QString problem = report.problem;
     if (problem.isNull())
         problem = platform::moveItem(growing, toDestinationFile).description();

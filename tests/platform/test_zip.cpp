@@ -11,6 +11,8 @@
 #include <QTest>
 #include <archive.h>
 #include <archive_entry.h>
+#include <fcntl.h>
+#include <random>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -43,6 +45,14 @@ void writeArchive(const QString &path, const QList<Item> &items)
         archive_entry_free(entry);
     }
     archive_write_free(zip);
+}
+
+QByteArray noise(int size)
+{
+    QByteArray bytes(size, '\0');
+    std::mt19937 random(7);
+    std::generate(bytes.begin(), bytes.end(), [&] { return static_cast<char>(random()); });
+    return bytes;
 }
 
 QStringList namesBelow(const QString &folder, const QString &below = {})
@@ -106,6 +116,10 @@ private Q_SLOTS:
             << QList<Item>{{"a/b/", ""}, {"a/b/d", "../.."}, {"a/b/l", "d/../outside"}} << "a/b/l";
         QTest::newRow("one that becomes a link later")
             << QList<Item>{{"a/b/", ""}, {"a/b/l", "d/../outside"}, {"a/b/d", "../.."}} << "a/b/l";
+        QTest::newRow("a file where a folder is to be") << QList<Item>{{"a", ""}, {"a/evil", ""}} << "a/evil";
+        QTest::newRow("a folder where a file is") << QList<Item>{{"a", ""}, {"a/", ""}} << "a";
+        QTest::newRow("the same twice") << QList<Item>{{"a", ""}, {"a", ""}} << "a";
+        QTest::newRow("what stands there") << QList<Item>{{"there", ""}} << "there";
         QTest::newRow("label up") << QList<Item>{{"__MACOSX/../._outside", ""}} << "";
         QTest::newRow("label beside a link that was there") << QList<Item>{{"__MACOSX/there/._x", ""}} << "";
     }
@@ -147,17 +161,94 @@ private Q_SLOTS:
         QCOMPARE(flagsWordOf(out + "/d"), 12);
     }
 
-    void saysWhyItEnded()
+    /// Packed from disk and unpacked again: nothing is missing, and what cannot be packed is named.
+    void packsWhatLiesOnDisk()
     {
-        QVERIFY(!extractZip(m_home->file("missing.zip"), m_home->path()).ok());
-        ZipWriter good(m_home->file("cut.zip"));
-        good.addFile("x", QByteArray(100'000, 'x'), 0);
-        QVERIFY(good.finish());
-        writeFile(m_home->file("cut.zip"), readFile(m_home->file("cut.zip")).left(40));
-        QVERIFY(!extractZip(m_home->file("cut.zip"), m_home->path()).ok());
-        ZipWriter nowhere(m_home->path() + "/missing/a.zip");
-        nowhere.addFile("x", "x", 0);
-        QVERIFY(!nowhere.finish());
+        const QString tree = m_home->file("Tree \u00FC");
+        const QString odd = fromNative("bad\377\n.txt");
+        writeFile(tree + "/script.sh", "#!/bin/sh\n");
+        writeFile(tree + '/' + odd, "odd");
+        writeFile(tree + "/noise", noise(300'000));
+        QVERIFY(makeFolders(tree + "/empty").ok() && makeFolders(tree + "/closed").ok());
+        QVERIFY(setFlagsWord(tree + "/noise", 6, 0x000E) && setFlagsWord(tree + "/empty", 0x4C, 0xFFFF));
+        QVERIFY(symlink("../script.sh", toNative(tree + "/empty/link").constData()) == 0);
+        QVERIFY(mkfifo(toNative(tree + "/fifo").constData(), 0600) == 0);
+        chmod(toNative(tree + "/script.sh").constData(), 0750);
+        chmod(toNative(tree + "/closed").constData(), 0500);
+        const timespec times[2] = {{0, UTIME_NOW}, {981'173'106, 0}};
+        for (const char *dated : {"/script.sh", "/empty"})
+            utimensat(AT_FDCWD, toNative(tree + dated).constData(), times, 0);
+
+        const CompressReport packed = compressZip(tree, m_home->file("a.zip"));
+        QVERIFY2(packed.problem.isNull(), qPrintable(packed.problem));
+        QCOMPARE(packed.skipped, QStringList("Tree \u00FC/fifo"));
+        QCOMPARE(packed.renamed, QStringList("Tree \u00FC/" + odd));
+        QVERIFY(makeFolders(m_home->file("out")).ok());
+        const ExtractReport report = extractZip(m_home->file("a.zip"), m_home->file("out"));
+        QVERIFY2(report.ok(), qPrintable(report.problem + report.refused.join(' ')));
+        QVERIFY(removeTree(tree + "/fifo").ok());
+        const QString back = m_home->file("out/Tree \u00FC");
+        QVERIFY(moveItem(tree + '/' + odd, tree + '/' + forDisplay(odd)).ok());
+        QCOMPARE(namesBelow(back), namesBelow(tree));
+        for (const QString &name : namesBelow(tree)) {
+            struct stat before;
+            struct stat after;
+            QCOMPARE(lstat(toNative(joined(tree, name)).constData(), &before), 0);
+            QCOMPARE(lstat(toNative(joined(back, name)).constData(), &after), 0);
+            QCOMPARE(after.st_mode, before.st_mode);
+            QCOMPARE(after.st_mtim.tv_sec / 2, before.st_mtim.tv_sec / 2);
+            QCOMPARE(linkTarget(joined(back, name)), linkTarget(joined(tree, name)));
+            QCOMPARE(readFile(joined(back, name)), readFile(joined(tree, name)));
+            QCOMPARE(flagsWordOf(joined(back, name)) & 0x000E, flagsWordOf(joined(tree, name)) & 0x000E);
+        }
+        for (const QString &top : {tree, back})
+            chmod(toNative(top + "/closed").constData(), 0700);
+    }
+
+    void manyEntries()
+    {
+        ZipWriter zip(m_home->file("a.zip"));
+        for (int i = 0; i < 66'000; ++i)
+            zip.addFile(QStringLiteral("d/%1").arg(i), {}, 0);
+        QVERIFY(zip.finish());
+        QVERIFY(makeFolders(m_home->file("out")).ok());
+        QVERIFY(extractZip(m_home->file("a.zip"), m_home->file("out")).ok());
+        QCOMPARE(listFolder(m_home->file("out/d"))->size(), 66'000);
+    }
+
+    /// Whatever is wrong with it: it is said, and nothing of the archive stays behind.
+    void leavesNothingOfABadArchive()
+    {
+        {
+            ZipWriter zip(m_home->file("good.zip"));
+            zip.addFile("first", "good", 0);
+            zip.addFile("second", noise(50'000), 2);
+            zip.addFile("third", QByteArray(1000, 'x'), 0);
+            QVERIFY(zip.finish());
+        }
+        const QByteArray good = readFile(m_home->file("good.zip"));
+        const qsizetype directory = good.indexOf("PK\1\2");
+        QList<QByteArray> bad;
+        for (const double part : {0.0001, 0.3, 0.7, 0.95, 0.999})
+            bad.append(good.first(static_cast<qsizetype>(static_cast<double>(good.size()) * part)));
+        const auto patched = [&](qsizetype at, const QByteArray &bytes) {
+            QByteArray copy = good;
+            copy.replace(at, bytes.size(), bytes);
+            bad.append(copy);
+        };
+        patched(20'000, "\x55\xAA\x55");                                      // the checksum is wrong
+        patched(good.indexOf("PK\1\2", directory + 4) + 8, QByteArray("\1", 1)); // encrypted, says the directory
+        patched(good.indexOf("PK\1\2", directory + 4) + 24, "\xFF\xFF\xFF\xEF");  // 4 GB from 50 KB
+        QVERIFY(makeFolders(m_home->file("out")).ok());
+        for (const QByteArray &bytes : bad) {
+            writeFile(m_home->file("bad.zip"), bytes);
+            const ExtractReport report = extractZip(m_home->file("bad.zip"), m_home->file("out"));
+            QVERIFY2(!report.problem.isEmpty(), qPrintable(QString::number(bad.indexOf(bytes))));
+            QCOMPARE(namesBelow(m_home->file("out")), QStringList());
+        }
+        QVERIFY(!extractZip(m_home->file("missing.zip"), m_home->file("out")).ok());
+        QVERIFY(!compressZip(m_home->file("missing"), m_home->file("x.zip")).problem.isNull());
+        QVERIFY(!compressZip(m_home->file("out"), m_home->path() + "/missing/x.zip").problem.isNull());
     }
 
 private:

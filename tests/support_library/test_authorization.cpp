@@ -3,6 +3,7 @@
 #include "platform/Desktop.h"
 #include "platform/FileSystem.h"
 #include "platform/RightsHelper.h"
+#include "support/HeldFile.h"
 #include "support/TemporaryHome.h"
 #include "support/VTAuthorization.h"
 #include "support/VTFileManager.h"
@@ -20,8 +21,6 @@
 #include <QThread>
 #include <QTimer>
 #include <atomic>
-#include <csignal>
-#include <fcntl.h>
 #include <pwd.h>
 #include <sys/prctl.h>
 #include <sys/stat.h>
@@ -141,25 +140,6 @@ uid_t ownerOf(const QString &path)
     };
     return lstat(path.toUtf8(), &info) == 0 ? info.st_uid : uid_t(-1);
 }
-
-/// A file of one's own that whoever opens it has to wait for: as slow a copy as a test can wish for.
-class HeldFile
-{
-public:
-    explicit HeldFile(const QString &path)
-    {
-        std::signal(SIGIO, SIG_IGN);
-        writeFile(path, "held");
-        m_file = open(path.toUtf8(), O_RDWR | O_CLOEXEC);
-        isHeld = fcntl(m_file, F_SETLEASE, F_WRLCK) == 0;
-    }
-    ~HeldFile() { close(m_file); }
-    void letGo() const { fcntl(m_file, F_SETLEASE, F_UNLCK); }
-    bool isHeld;
-
-private:
-    int m_file;
-};
 
 QByteArray log()
 {
@@ -293,6 +273,25 @@ private Q_SLOTS:
             QCOMPARE(handle->run("/bin/rm", {"-Rdf", path}).error, EPERM);
         QCOMPARE(handle->run("/bin/sh", {"-c", "id"}).error, EACCES);
         QVERIFY(QFile::exists("/usr/bin/env"));
+    }
+
+    /// Where a drive has no room for a Trash, or no place, the user's own Trash takes the item, and nobody is asked.
+    void trashesFromAwkwardDrives()
+    {
+        QVERIFY(m_dialog.open(true));
+        writeFile("/run/drive/work/there.txt", "there");
+        for (const char *path : {"/run/drive/work/there.txt", "/run/full/last.txt"}) {
+            const QByteArray contents = readFile(path);
+            QVERIFY(VTFileManager::trashFile(path));
+            QVERIFY(!QFile::exists(path));
+            const QString name = QFileInfo(path).fileName();
+            const QString onDrive = QFileInfo(path).path() + "/.Trash-" + QString::number(getuid());
+            const QString home = QFileInfo(VTLocalPaths::trashDirectory()).path();
+            const QString trash = QFile::exists(onDrive + "/files/" + name) ? onDrive : home;
+            QCOMPARE(readFile(trash + "/files/" + name), contents);
+            QVERIFY(QFile::exists(trash + "/info/" + name + ".trashinfo"));
+        }
+        QCOMPARE(m_dialog.asked, 0);
     }
 
     void theWindowLivesWhileSomeoneThinks()
