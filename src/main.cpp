@@ -5,12 +5,14 @@
 #include "platform/Console.h"
 #include "platform/Desktop.h"
 #include "platform/NativePath.h"
+#include "platform/SingleInstance.h"
 #include "support/VTAlert.h"
 #include "support/VTLog.h"
 #include "ui/Icons.h"
 #include "ui/SheetPresenter.h"
 
 #include <QApplication>
+#include <QDir>
 #include <cstdlib>
 
 namespace {
@@ -23,7 +25,15 @@ QStringList wordsOf(int argc, char **argv)
     return words;
 }
 
-int runWindow(int &argc, char **argv)
+QStringList absolutePaths(const QStringList &files)
+{
+    QStringList paths;
+    for (const QString &file : files)
+        paths.append(QDir::cleanPath(file.startsWith(u'/') ? file : platform::joined(QDir::currentPath(), file)));
+    return paths;
+}
+
+int runWindow(int &argc, char **argv, const QStringList &files)
 {
     if (!platform::displayIsAvailable()) {
         platform::writeToStandardError("Tessaro: there is no display for the window; “Tessaro create” makes a project "
@@ -33,6 +43,9 @@ int runWindow(int &argc, char **argv)
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Tessaro"));
     QApplication::setDesktopFileName(QStringLiteral("com.vantrel.Tessaro"));
+    if (platform::SingleInstance::handOver(files))
+        return ExitStatus::done;
+    platform::SingleInstance instance;
     SheetPresenter sheets;
     VTAlert::setPresenter(&sheets);
     int status = ExitStatus::done;
@@ -45,6 +58,12 @@ int runWindow(int &argc, char **argv)
         else
             QObject::connect(delegate.mainWindow(), &MainWindow::firstPainted, &delegate,
                              &TessaroAppDelegate::applicationDidFinishLaunching);
+        using platform::SingleInstance;
+        QObject::connect(&instance, &SingleInstance::activated, &delegate, &TessaroAppDelegate::bringToFront);
+        QObject::connect(&instance, &SingleInstance::filesOpened, &delegate, &TessaroAppDelegate::openFiles);
+        if (!files.isEmpty())
+            QObject::connect(delegate.mainWindow(), &MainWindow::firstPainted, &delegate,
+                             [&] { delegate.openFiles(files); });
         delegate.mainWindow()->show();
         status = QApplication::exec();
     }
@@ -60,13 +79,8 @@ int runProgram(int argc, char **argv)
         platform::writeToStandardError("Tessaro: " + problem + "\nTessaro --help lists what it understands.\n");
         return ExitStatus::wrongUsage;
     }
-    if (!request->files.isEmpty()) {
-        platform::writeToStandardError("Tessaro: it does not take in template bundles yet. Put them into the template "
-                                       "library, beside the other templates.\n");
-        return ExitStatus::wrongUsage;
-    }
     if (request->verb == CommandRequest::Verb::Window)
-        return runWindow(argc, argv);
+        return runWindow(argc, argv, absolutePaths(request->files));
     const QCoreApplication application(argc, argv);
     return runCommand(*request);
 }

@@ -1,6 +1,7 @@
 #include "app/CommandLine.h"
 
 #include "app/CreateCommand.h"
+#include "app/TemplateCommand.h"
 #include "app/TerminalPresenter.h"
 #include "parameters/VTProjectTableController.h"
 #include "platform/ApplicationBundle.h"
@@ -48,6 +49,10 @@ private:
     bool readOption()
     {
         QString option = m_words[m_at];
+        if (m_request.verb == Verb::Template && (m_onlyArguments || !option.startsWith(u'-'))) {
+            m_request.arguments.append(option);
+            return true;
+        }
         m_inline = {};
         if (const qsizetype equals = option.indexOf(u'='); option.startsWith(QLatin1String("--")) && equals > 0) {
             m_inline = option.mid(equals + 1);
@@ -55,6 +60,8 @@ private:
         }
         if (option == u"--json")
             return takeSwitch(m_request.json);
+        if (m_request.verb == Verb::Template)
+            return readTemplateOption(option);
         if (m_request.verb != Verb::Create)
             return fail(text("%1 does not know “%2”.").arg(m_words[0], option));
         if (option == u"--overwrite")
@@ -68,6 +75,19 @@ private:
         if (option == u"--set")
             return takeSetting();
         return fail(text("create does not know “%1”.").arg(option));
+    }
+
+    bool readTemplateOption(const QString &option)
+    {
+        if (option == u"--")
+            return takeSwitch(m_onlyArguments);
+        if (option == u"--yes")
+            return takeSwitch(m_request.yes);
+        if (option == u"--unset")
+            return takeSwitch(m_request.unset);
+        if (option == u"--from")
+            return takeValue(m_request.fromFolder);
+        return fail(text("template does not know “%1”.").arg(option));
     }
 
     bool takeSwitch(bool &flag)
@@ -109,6 +129,7 @@ private:
     QString &m_problem;
     qsizetype m_at = 0;
     QString m_inline;
+    bool m_onlyArguments = false; ///< after "--": a name may begin with a dash
 };
 
 std::optional<Verb> verbOf(const QString &word)
@@ -116,7 +137,7 @@ std::optional<Verb> verbOf(const QString &word)
     static const QHash<QString, Verb> verbs{
         {"create", Verb::Create},   {"templates", Verb::Templates}, {"parameters", Verb::Parameters},
         {"--help", Verb::Help},     {"-h", Verb::Help},             {"help", Verb::Help},
-        {"--version", Verb::Version},
+        {"--version", Verb::Version}, {"template", Verb::Template}, {"clear-history", Verb::ClearHistory},
     };
     const auto verb = verbs.constFind(word);
     return verb == verbs.cend() ? std::nullopt : std::optional(*verb);
@@ -193,6 +214,14 @@ int listParameters(const CommandRequest &request)
     return ExitStatus::done;
 }
 
+int clearHistory()
+{
+    VTProjectTableController table;
+    table.awakeFromNib();
+    table.clearHistory();
+    return ExitStatus::done;
+}
+
 } // namespace
 
 std::optional<CommandRequest> readCommandLine(const QStringList &words, QString &problem)
@@ -210,7 +239,11 @@ std::optional<CommandRequest> readCommandLine(const QStringList &words, QString 
         return std::nullopt;
     }
     request.verb = *verb;
-    return WordReader(words, request, problem).readOptions() ? std::optional(request) : std::nullopt;
+    if (!WordReader(words, request, problem).readOptions())
+        return std::nullopt;
+    if (request.verb == Verb::Template)
+        problem = TemplateCommand::problemOf(request);
+    return problem.isNull() ? std::optional(request) : std::nullopt;
 }
 
 QString helpText()
@@ -228,13 +261,28 @@ QString helpText()
                 "      --json                print one JSON object instead of the project's path\n"
                 "  Tessaro templates         the templates, one a line; the default is marked with a star\n"
                 "      --json\n"
+                "  Tessaro template new NAME             an empty template\n"
+                "  Tessaro template duplicate NAME\n"
+                "  Tessaro template rename OLD NEW\n"
+                "  Tessaro template remove NAME [--yes]  moves it to the Trash; without --yes nothing is done\n"
+                "  Tessaro template default [NAME]       marks the default template, or prints it\n"
+                "      --unset                           takes the mark away\n"
+                "  Tessaro template show NAME [--json]   its tree\n"
+                "  Tessaro template import PATH...       takes in bundles (NAME.tzt); one of the same name goes to the\n"
+                "                                        Trash\n"
+                "  Tessaro template structure NAME --from FOLDER\n"
+                "                                        makes the folder's folders in the template, without files\n"
+                "  Tessaro template restore [--yes]      the templates that ship with Tessaro; changed ones go to the\n"
+                "                                        Trash\n"
+                "  Tessaro clear-history     forgets the values typed before\n"
+                "  Tessaro FILE.tzt          takes the template in and shows it\n"
                 "  Tessaro parameters        title, kind and value of each parameter; a / marks those that begin a\n"
                 "      --json                folder level\n"
                 "  Tessaro --help            this text\n"
                 "  Tessaro --version\n"
                 "\n"
-                "Exit status: 0 done; 1 failed, or partly failed; 2 wrong usage; 3 the project exists and was not\n"
-                "overwritten, the command was cancelled, or the administrator's rights were refused.\n");
+                "Exit status: 0 done; 1 failed, or partly failed; 2 wrong usage; 3 the project or template exists and was\n"
+                "not overwritten, the command was cancelled (--yes says yes), or the administrator's rights were refused.\n");
 }
 
 int runCommand(const CommandRequest &request)
@@ -254,7 +302,7 @@ int runCommand(const CommandRequest &request)
     else
         VTLog::createNewLog();
     settings::registerDefaults();
-    TerminalPresenter presenter(request.overwrite);
+    TerminalPresenter presenter(request.overwrite || request.yes);
     VTAlert::setPresenter(&presenter);
     if (settings::standard().equalsOne(settings::requireAdminPassword) &&
         !VTAuthorization::sharedController().authStart()) {
@@ -264,6 +312,10 @@ int runCommand(const CommandRequest &request)
     int status = ExitStatus::done;
     if (request.verb == Verb::Create)
         status = CreateCommand(request, presenter).run();
+    else if (request.verb == Verb::Template)
+        status = TemplateCommand(request, presenter).run();
+    else if (request.verb == Verb::ClearHistory)
+        status = clearHistory();
     else if (request.verb == Verb::Templates)
         status = listTemplates(request, presenter);
     else

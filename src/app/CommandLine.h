@@ -6,7 +6,7 @@
 /** What a command line asks for. A plain value. */
 struct CommandRequest
 {
-    enum class Verb { Window, Create, Templates, Parameters, Help, Version };
+    enum class Verb { Window, Create, Templates, Template, Parameters, ClearHistory, Help, Version };
 
     Verb verb = Verb::Window;
     QStringList files; ///< for the window
@@ -17,6 +17,11 @@ struct CommandRequest
     QList<std::pair<QString, QString>> values;
     bool overwrite = false;
     bool dryRun = false;
+    // template only
+    QStringList arguments; ///< what is to be done, then what with
+    QString fromFolder;
+    bool yes = false;
+    bool unset = false;
 };
 
 /** Exit status of every command. */

@@ -25,10 +25,6 @@ MainWindow::MainWindow(TessaroAppDelegate &delegate) : m_delegate(delegate), m_u
     m_ui->tableView->setItemDelegate(new ValueCellDelegate(m_ui->tableView));
     m_ui->warningImage->setPixmap(icons::named("warning").pixmap(warningSide, warningSide));
     m_ui->emptyParameters->setContents("empty-parameters", tr("No parameters yet"), tr("Use the Standard Parameters"));
-    m_ui->emptyTemplates->setContents(
-        "empty-templates", tr("Templates are folders in your template library.\nWhat you put into a template's “Files” "
-                              "folder, every project made from it receives."),
-        tr("Show Template Library"));
     buildToolbar();
     buildMenus();
     connectPanes();
@@ -71,7 +67,6 @@ void MainWindow::connectPanes()
     connect(m_ui->createButton, &QPushButton::clicked, &m_delegate, &TessaroAppDelegate::createNewProject);
     connect(m_ui->projectTemplatePopUp, &QComboBox::activated, &m_delegate, &TessaroAppDelegate::changeProjectTemplate);
     connect(m_ui->emptyParameters, &EmptyState::activated, &m_delegate, &TessaroAppDelegate::useStandardParameters);
-    connect(m_ui->emptyTemplates, &EmptyState::activated, &m_delegate, &TessaroAppDelegate::showTemplateLibrary);
     connect(m_ui->installTemplates, &QPushButton::clicked, &m_delegate, &TessaroAppDelegate::installStandardTemplates);
     connect(m_ui->showButton, &QPushButton::clicked, this, [this] { m_delegate.showProject(m_created); });
 }
@@ -82,6 +77,11 @@ void MainWindow::connectTable(VTProjectTableController &controller)
         {m_ui->tableView, m_ui->namePreviewLabel, m_ui->previewPathControl, m_ui->spinner, m_ui->warningImage});
     connect(&controller, &VTProjectTableController::processingChanged, this, &MainWindow::setProcessing);
     connect(&controller, &VTProjectTableController::emptinessChanged, this, &MainWindow::setParametersEmpty);
+}
+
+TemplatePane &MainWindow::templatePane() const
+{
+    return *m_ui->viewTemplate;
 }
 
 void MainWindow::showPane(Pane pane)

@@ -6,6 +6,7 @@
 
 class QAction;
 class Spinner;
+class TemplatePane;
 class TessaroAppDelegate;
 class VTProjectTableController;
 
@@ -23,6 +24,8 @@ public:
     ~MainWindow() override;
 
     void connectTable(VTProjectTableController &controller);
+
+    [[nodiscard]] TemplatePane &templatePane() const;
 
     enum class Pane { Project, Templates };
     void showPane(Pane pane);

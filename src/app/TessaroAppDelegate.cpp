@@ -6,12 +6,14 @@
 #include "parameters/VTProjectTableController.h"
 #include "platform/ApplicationBundle.h"
 #include "platform/Desktop.h"
+#include "platform/MainThread.h"
 #include "support/Notifications.h"
 #include "support/Settings.h"
 #include "support/VTAlert.h"
 #include "support/VTAuthorization.h"
 #include "support/VTLog.h"
 #include "templates/TemplateChoice.h"
+#include "templates/TemplatePane.h"
 #include "templates/VTDataController.h"
 
 #include <QApplication>
@@ -31,6 +33,8 @@ TessaroAppDelegate::TessaroAppDelegate()
 
 TessaroAppDelegate::~TessaroAppDelegate()
 {
+    while (m_imports > 0) // a template that is half in the library would look like a whole one
+        platform::MainThread::turnLoop(std::chrono::milliseconds(50));
     if (m_tableController) // a value that is being typed when the window closes counts, too
         m_tableController->finishEditing();
     VTDataController::sharedController().setWindow(nullptr);
@@ -47,7 +51,10 @@ bool TessaroAppDelegate::awakeFromNib()
     m_window = std::make_unique<MainWindow>(*this);
     m_window->connectTable(*m_tableController);
     VTDataController::sharedController().setWindow(m_window.get());
+    connect(&m_window->templatePane().tableController(), &VTTemplateTableController::populateTemplatePopUp, this,
+            &TessaroAppDelegate::populateTemplatePopUp);
     m_tableController->awakeFromNib();
+    importOldTessaroTemplate();
     populateTemplatePopUp();
     if (!platform::registeredApplication(siblingApplication).isNull())
         m_window->removeProductFamilyItem();
@@ -80,6 +87,7 @@ QStringList TessaroAppDelegate::toolbarSelectableItemIdentifiers() const
 void TessaroAppDelegate::toolbarNewProjectAction()
 {
     VTLog::appendLog("Showing project pane");
+    m_window->templatePane().finishEditing();
     m_window->showPane(MainWindow::Pane::Project);
 }
 
@@ -88,6 +96,10 @@ void TessaroAppDelegate::toolbarTemplateAction()
     VTLog::appendLog("Showing template pane");
     m_tableController->finishEditing();
     m_window->showPane(MainWindow::Pane::Templates);
+    if (!std::exchange(m_templatesShown, true))
+        m_window->templatePane().awakeFromNib();
+    else
+        m_window->templatePane().tableController().switchedToView();
 }
 
 void TessaroAppDelegate::changeProjectTemplate()
@@ -152,5 +164,6 @@ void TessaroAppDelegate::showProject(const QString &project)
 void TessaroAppDelegate::quit()
 {
     m_tableController->finishEditing();
+    m_window->templatePane().finishEditing();
     QApplication::quit();
 }

@@ -42,6 +42,12 @@ public:
     [[nodiscard]] QString pathNameFromParameters() const;
     [[nodiscard]] QString projectNameFromParameters() const;
 
+    /** Takes in a template bundle, in the background, and shows it. False, and nothing happens, for any other file. */
+    bool openFile(const QString &path);
+    /** The same for several; what is no template is said. */
+    void openFiles(const QStringList &paths);
+    void bringToFront();
+
     /** Creates the project of the current parameters out of the template. */
     void createTemplate(const QString &templateName, const QString &atPath);
 
@@ -52,6 +58,11 @@ public Q_SLOTS:
     /** The create action: checks the parameters, finds the destination, creates. */
     void createNewProject();
     void destinationBrowseDidEnd(int returnCode);
+
+    void importTemplate();
+    void restoreDefaultTemplates();
+    void clearHistory();
+    void newTemplate();
 
     void useStandardParameters();
     void installStandardTemplates();
@@ -77,12 +88,15 @@ private:
     void quitIfWanted() override;
     [[nodiscard]] QWidget *window() const override;
 
+    void importOldTessaroTemplate();
     [[nodiscard]] bool parametersAreComplete();
     [[nodiscard]] bool mayOverwriteAtFixedLocation(const QString &destination, const QString &relativePath);
     void askForDestination();
 
     int m_awakeCount = 0;
     bool m_creating = false;
+    bool m_templatesShown = false; ///< the pane is filled when it is first shown: that would only slow the start
+    int m_imports = 0; ///< bundles that are being taken in
     std::unique_ptr<MainWindow> m_window;
     std::unique_ptr<VTProjectTableController> m_tableController;
     QPointer<VTSavePanel> m_savePanel;

@@ -25,6 +25,8 @@ inline const QString autoExpandFolders = QStringLiteral("autoExpandFolders");   
 inline const QString firstRun = QStringLiteral("firstRun");                                   // boolean
 inline const QString requireAdminPassword = QStringLiteral("requireAdminPassword");           // on when equal to 1
 inline const QString requireAdminPasswordForPrefs = QStringLiteral("requireAdminPasswordForPrefs"); // the same
+inline const QString requireAdminPasswordForEditing = QStringLiteral("requireAdminPasswordForEditing"); // the same
+inline const QString templateListWidth = QStringLiteral("templateListWidth"); // pixels: the list beside the tree
 inline const QString webAddresses = QStringLiteral("webAddresses"); // dictionary: page name to address, see HelpPages
 
 /** The one store of this process, on com.vantrel.Tessaro.plist in the user's and the machine's preferences folder. */

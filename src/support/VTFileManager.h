@@ -92,6 +92,9 @@ public:
     [[nodiscard]] static std::optional<LabelColor> finderColorForPath(const QString &path);
     [[nodiscard]] static std::optional<LabelColor> finderColorForIndex(int index);
 
+    /** The label's name for people, "red"; null for what is no label. */
+    [[nodiscard]] static QString labelName(int index);
+
     // The locked flag; errors are ignored, links left alone.
     [[nodiscard]] static bool isFileLocked(const QString &path);
     static void lockFile(const QString &path);

@@ -152,6 +152,17 @@ bool VTFileManager::copyFile(const QString &source, const QString &toPath, Secon
     return !isMissing(toPath);
 }
 
+namespace {
+
+/// The tool moves a file into a folder that stands at the destination, and callers rely on it; but never onto a namesake.
+bool wouldMoveInto(const QString &source, const QString &toPath)
+{
+    return kindOf(source) != FileKind::Folder && kindOf(toPath) == FileKind::Folder &&
+           isMissing(platform::joined(toPath, platform::lastComponent(source)));
+}
+
+} // namespace
+
 bool VTFileManager::moveFile(const QString &source, const QString &toPath, ShouldAuth shouldAuth)
 {
     unlockFile(toPath);
@@ -171,7 +182,7 @@ bool VTFileManager::moveFile(const QString &source, const QString &toPath, Shoul
     if (moved.ok())
         return true;
     VTLog::appendLog("Error moving file: %@. Authorizing...", moved.description());
-    if (moved.errorNumber() == EINVAL || wouldMergeFolders(source, toPath) ||
+    if (moved.errorNumber() == EINVAL || (wouldMergeFolders(source, toPath) && !wouldMoveInto(source, toPath)) ||
         (moved.errorNumber() == EEXIST && differOnlyInCase(source, toPath)))
         return false;
     return fallBackToTool(shouldAuth, moved, VTAuthorization::moveCommand(source, toPath),

@@ -9,6 +9,7 @@
 #include "platform/ZipArchive.h"
 #include "support/VTLog.h"
 
+#include <QCoreApplication>
 #include <QUuid>
 #include <array>
 
@@ -116,6 +117,17 @@ std::optional<LabelColor> VTFileManager::finderColorForIndex(int index)
     if (index < 2 || index > 15)
         return std::nullopt;
     return labelColors[static_cast<std::size_t>(index) / 2];
+}
+
+QString VTFileManager::labelName(int index)
+{
+    static constexpr std::array names{QT_TRANSLATE_NOOP("Labels", "grey"),   QT_TRANSLATE_NOOP("Labels", "green"),
+                                      QT_TRANSLATE_NOOP("Labels", "purple"), QT_TRANSLATE_NOOP("Labels", "blue"),
+                                      QT_TRANSLATE_NOOP("Labels", "yellow"), QT_TRANSLATE_NOOP("Labels", "red"),
+                                      QT_TRANSLATE_NOOP("Labels", "orange")};
+    if (index < 2 || index > 15)
+        return {};
+    return QCoreApplication::translate("Labels", names[static_cast<std::size_t>(index) / 2 - 1]);
 }
 
 bool VTFileManager::isFileLocked(const QString &path)

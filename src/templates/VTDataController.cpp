@@ -57,9 +57,14 @@ QString VTDataController::templateLocation()
                                       QStringLiteral("Vantrel/Tessaro/Templates"));
 }
 
+QString VTDataController::bundlePath(const QString &templateName)
+{
+    return templateLocation() + platform::formatString("/%@.tzt", templateName);
+}
+
 QString VTDataController::filesFolder(const QString &templateName)
 {
-    return templateLocation() + platform::formatString("/%@.tzt/Files", templateName);
+    return bundlePath(templateName) + QStringLiteral("/Files");
 }
 
 QStringList VTDataController::templates() const

@@ -2,6 +2,7 @@
 
 #include <QMutex>
 #include <QStringList>
+#include <atomic>
 
 class QWidget;
 
@@ -23,10 +24,12 @@ public:
 
     /** The window that questions and messages hang on; not owned. */
     void setWindow(QWidget *window) { m_window = window; }
+    [[nodiscard]] QWidget *window() const { return m_window; }
 
     /** The user's choice, else the folder in the user's application support. Nothing is made. */
     [[nodiscard]] static QString templateLocation();
-    /** The tree of the named template in the library. */
+    /** The named template's folder in the library, and its tree in there. */
+    [[nodiscard]] static QString bundlePath(const QString &templateName);
     [[nodiscard]] static QString filesFolder(const QString &templateName);
     /** The list last built, in listing order. */
     [[nodiscard]] QStringList templates() const;
@@ -46,5 +49,5 @@ private:
 
     mutable QMutex m_mutex;
     QStringList m_templates;
-    QWidget *m_window = nullptr;
+    std::atomic<QWidget *> m_window = nullptr; ///< imports ask on threads of their own
 };

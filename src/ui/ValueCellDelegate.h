@@ -13,6 +13,10 @@ enum : int {
     Items,                     ///< QStringList: what a history or a choice offers
     Secondary,                 ///< bool: filled in by the program, drawn fainter
     AccessibleName,            ///< QString: what the editor is called
+    LabelColor,                ///< QColor behind the whole row; invalid without a label
+    StemLength,                ///< int: how much of a name is selected when it is edited; invalid for all
+    Subtitle,                  ///< QString: a second, smaller line
+    SubtitleColor,             ///< QColor of that line
 };
 }
 

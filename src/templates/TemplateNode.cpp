@@ -1,0 +1,177 @@
+#include "templates/TemplateNode.h"
+
+#include "platform/FileSystem.h"
+#include "platform/NativePath.h"
+#include "platform/Packages.h"
+#include "support/VTFileManager.h"
+
+#include <QDataStream>
+#include <QIODevice>
+
+using platform::FileKind;
+using platform::FolderEntry;
+
+namespace {
+
+/// Deeper than any path can be, and shallow enough to be decoded by recursion.
+constexpr int deepestArchive = 2100;
+
+/// Whether the link leads to a folder that its own path goes through, however that is called.
+bool leadsBack(const QString &link)
+{
+    const auto target = platform::identityOf(link + QStringLiteral("/."));
+    for (QString above = platform::parentPath(link); target; above = platform::parentPath(above)) {
+        if (platform::identityOf(above + QStringLiteral("/.")) == target)
+            return true;
+        if (above.isEmpty() || above == u"/")
+            return false;
+    }
+    return false;
+}
+
+void encode(QDataStream &stream, const TemplateNode &node)
+{
+    stream << node.isFolderItem() << node.name() << node.filename();
+    if (!node.isFolderItem())
+        return;
+    const auto &children = static_cast<const VTFolderItem &>(node).children();
+    stream << static_cast<quint32>(children.size());
+    for (const auto &child : children)
+        encode(stream, *child);
+}
+
+std::unique_ptr<TemplateNode> decode(QDataStream &stream, int depth);
+
+bool decodeList(QDataStream &stream, TemplateNodes &nodes, int depth)
+{
+    quint32 count = 0;
+    stream >> count;
+    for (quint32 i = 0; i < count && stream.status() == QDataStream::Ok; ++i) {
+        auto node = decode(stream, depth);
+        if (!node)
+            return false;
+        nodes.push_back(std::move(node));
+    }
+    return stream.status() == QDataStream::Ok;
+}
+
+std::unique_ptr<TemplateNode> decode(QDataStream &stream, int depth)
+{
+    bool isFolder = false;
+    QString name;
+    QString filename;
+    stream >> isFolder >> name >> filename;
+    if (stream.status() != QDataStream::Ok || depth > deepestArchive)
+        return nullptr;
+    if (!isFolder)
+        return std::make_unique<VTFileItem>(name, filename);
+    TemplateNodes children;
+    if (!decodeList(stream, children, depth + 1))
+        return nullptr;
+    return std::make_unique<VTFolderItem>(name, filename, std::move(children));
+}
+
+} // namespace
+
+TemplateNode::TemplateNode(const QString &path, VTFolderItem *parent)
+    : m_parent(parent), m_name(platform::lastComponent(path)), m_filename(path)
+{}
+
+void TemplateNode::rename(const QString &newPath)
+{
+    m_filename = newPath;
+    m_name = platform::lastComponent(newPath);
+}
+
+int TemplateNode::colorIndex() const
+{
+    return VTFileManager::finderColorIndexForPath(m_filename);
+}
+
+std::unique_ptr<VTFileItem> VTFileItem::fileItemWithPath(const QString &path, VTFolderItem *parent)
+{
+    return std::unique_ptr<VTFileItem>(new VTFileItem(path, parent));
+}
+
+std::unique_ptr<VTFolderItem> VTFolderItem::folderItemWithPath(const QString &path, VTFolderItem *parent)
+{
+    std::unique_ptr<VTFolderItem> folder(new VTFolderItem(path, parent));
+    folder->populateChildren();
+    return folder;
+}
+
+void VTFolderItem::rename(const QString &newPath)
+{
+    for (const auto &child : m_children)
+        child->rename(platform::joined(newPath, child->name()));
+    TemplateNode::rename(newPath);
+}
+
+void VTFolderItem::setChildren(TemplateNodes children)
+{
+    m_children = std::move(children);
+    adopt(m_children, this);
+}
+
+void VTFolderItem::populateChildren()
+{
+    setChildren(nodesInFolder(filename(), this));
+}
+
+void adopt(TemplateNodes &nodes, VTFolderItem *parent)
+{
+    int row = 0;
+    for (const auto &node : nodes) {
+        node->m_parent = parent;
+        node->m_row = row++;
+    }
+}
+
+TemplateNodes nodesInFolder(const QString &folder, VTFolderItem *parent)
+{
+    TemplateNodes nodes;
+    const QList<FolderEntry> entries = platform::listFolder(folder).value_or(QList<FolderEntry>());
+    nodes.reserve(static_cast<std::size_t>(entries.size()));
+    for (const FolderEntry &entry : entries) {
+        const QString path = platform::joined(folder, entry.name);
+        const bool isLink = entry.kind == FileKind::Link;
+        const bool leadsToFolder = entry.kind == FileKind::Folder || (isLink && platform::leadsToFolder(path));
+        if (leadsToFolder && !platform::isPackage(path)) {
+            nodes.push_back(isLink && leadsBack(path)
+                                ? std::make_unique<VTFolderItem>(entry.name, path)
+                                : std::unique_ptr<VTFolderItem>(VTFolderItem::folderItemWithPath(path, parent)));
+        } else if (!entry.name.startsWith(u'.')) {
+            nodes.push_back(VTFileItem::fileItemWithPath(path, parent));
+        }
+    }
+    adopt(nodes, parent);
+    return nodes;
+}
+
+TemplateNode *nodeWithFilename(const QString &filename, const TemplateNodes &nodes)
+{
+    for (const auto &node : nodes) {
+        if (node->filename() == filename)
+            return node.get();
+        if (node->isFolderItem() && filename.startsWith(node->filename()))
+            return nodeWithFilename(filename, static_cast<const VTFolderItem &>(*node).children());
+    }
+    return nullptr;
+}
+
+QByteArray archivedNodes(const std::vector<const TemplateNode *> &nodes)
+{
+    QByteArray archive;
+    QDataStream stream(&archive, QIODevice::WriteOnly);
+    stream << static_cast<quint32>(nodes.size());
+    for (const TemplateNode *node : nodes)
+        encode(stream, *node);
+    return archive;
+}
+
+TemplateNodes nodesFromArchive(const QByteArray &archive)
+{
+    QDataStream stream(archive);
+    TemplateNodes nodes;
+    return decodeList(stream, nodes, 0) ? std::move(nodes) : TemplateNodes();
+}

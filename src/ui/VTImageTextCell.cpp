@@ -1,0 +1,145 @@
+#include "ui/VTImageTextCell.h"
+
+#include "ui/ValueCellDelegate.h"
+
+#include <QApplication>
+#include <QFontMetrics>
+#include <QLineEdit>
+#include <QPainter>
+#include <QTimer>
+#include <cmath>
+
+namespace {
+
+constexpr int gap = 3;
+constexpr int strip = 7; ///< beside the icon's width, what is cut off for it
+constexpr int subtitleReserve = 50;
+constexpr int rowPadding = 4;
+/// On every label, in every palette: at least 9 to 1.
+const QColor textOnLabel(0x1a, 0x1a, 0x1a);
+
+QSize imageSize(const QModelIndex &index)
+{
+    return index.data(Qt::DecorationRole).isValid() ? QSize(VTImageTextCell::iconSide, VTImageTextCell::iconSide) : QSize();
+}
+
+QColor textColor(const QStyleOptionViewItem &option, const QModelIndex &index)
+{
+    const bool isSelected = option.state.testFlag(QStyle::State_Selected);
+    if (!isSelected && index.data(CellRole::LabelColor).isValid())
+        return textOnLabel;
+    const auto group = option.state.testFlag(QStyle::State_Enabled) ? QPalette::Active : QPalette::Disabled;
+    return option.palette.color(group, isSelected ? QPalette::HighlightedText : QPalette::Text);
+}
+
+void drawSubtitle(QPainter &painter, const QRect &frame, const QStyleOptionViewItem &option, const QModelIndex &index)
+{
+    const QString subtitle = index.data(CellRole::Subtitle).toString();
+    if (subtitle.isEmpty())
+        return;
+    QFont font = option.font;
+    font.setPointSizeF(font.pointSizeF() * 0.85);
+    const QFontMetrics metrics(font);
+    const QVariant color = index.data(CellRole::SubtitleColor);
+    const bool isSelected = option.state.testFlag(QStyle::State_Selected);
+    painter.setFont(font);
+    painter.setPen(isSelected ? QColor(Qt::white) : color.isValid() ? color.value<QColor>() : QColor(Qt::gray));
+    const int width = metrics.horizontalAdvance(subtitle);
+    const QString shown = VTImageTextCell::shortenedSubtitle(subtitle, width, frame.width() - subtitleReserve);
+    painter.drawText(QPoint(frame.x() + 2, frame.bottom() - metrics.descent()), shown);
+}
+
+} // namespace
+
+QSize VTImageTextCell::cellSize(const QSize &inherited, const QSize &image)
+{
+    return inherited + QSize(qMax(0, image.width()) + gap, 0);
+}
+
+QRect VTImageTextCell::imageRectForBounds(const QRect &bounds, const QSize &image)
+{
+    if (image.isEmpty())
+        return {};
+    return {QPoint(bounds.x() + gap, static_cast<int>(std::ceil((bounds.height() - image.height()) * 0.5))), image};
+}
+
+QRect VTImageTextCell::titleRectForBounds(const QRect &bounds, const QSize &image, bool hasSubtitle)
+{
+    if (image.isEmpty())
+        return {};
+    const int shift = image.width() + gap;
+    return {bounds.x() + shift, bounds.y() - (hasSubtitle ? shift : image.width()), bounds.width() - shift, bounds.height()};
+}
+
+QRect VTImageTextCell::textFrame(const QRect &frame, const QSize &image)
+{
+    return frame.adjusted(qMax(0, image.width()) + strip, 0, 0, 0);
+}
+
+QString VTImageTextCell::shortenedSubtitle(const QString &subtitle, int width, int available)
+{
+    if (width <= available)
+        return subtitle;
+    const double average = static_cast<double>(width) / static_cast<double>(subtitle.size());
+    return subtitle.first(qMax<qsizetype>(0, static_cast<qsizetype>(available / average))) + QStringLiteral("...");
+}
+
+void VTImageTextCell::paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const
+{
+    QStyleOptionViewItem row = option;
+    initStyleOption(&row, index);
+    row.text.clear();
+    row.icon = {};
+    const QStyle *style = row.widget ? row.widget->style() : QApplication::style();
+    style->drawControl(QStyle::CE_ItemViewItem, &row, painter, row.widget); // selection, focus and hover only
+
+    const QSize image = imageSize(index);
+    QRect frame = option.rect;
+    painter->save();
+    if (!image.isEmpty()) {
+        const int y = frame.y() + static_cast<int>(std::ceil((frame.height() - image.height()) * 0.5));
+        const auto mode = option.state.testFlag(QStyle::State_Enabled) ? QIcon::Normal : QIcon::Disabled;
+        index.data(Qt::DecorationRole).value<QIcon>().paint(painter, {QPoint(frame.x() + gap, y), image}, Qt::AlignCenter,
+                                                            mode);
+    }
+    frame = textFrame(frame, image);
+    painter->setFont(row.font);
+    painter->setPen(textColor(option, index));
+    const QString title = index.data(Qt::DisplayRole).toString().replace(u'\n', u' ').replace(u'\r', u' ');
+    painter->drawText(frame, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine,
+                      row.fontMetrics.elidedText(title, Qt::ElideRight, frame.width()));
+    drawSubtitle(*painter, frame, option, index);
+    painter->restore();
+}
+
+QSize VTImageTextCell::sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const
+{
+    const QSize text(option.fontMetrics.horizontalAdvance(index.data(Qt::DisplayRole).toString()) + strip,
+                     qMax(option.fontMetrics.height(), iconSide) + rowPadding);
+    return cellSize(text, imageSize(index));
+}
+
+QWidget *VTImageTextCell::createEditor(QWidget *parent, const QStyleOptionViewItem &, const QModelIndex &index) const
+{
+    auto *editor = new QLineEdit(parent);
+    editor->setFrame(false);
+    editor->setAutoFillBackground(true);
+    editor->setAccessibleName(tr("Name of %1").arg(index.data(Qt::DisplayRole).toString()));
+    return editor;
+}
+
+void VTImageTextCell::setEditorData(QWidget *editor, const QModelIndex &index) const
+{
+    QStyledItemDelegate::setEditorData(editor, index);
+    const QVariant stem = index.data(CellRole::StemLength);
+    auto *line = qobject_cast<QLineEdit *>(editor);
+    // The view selects everything right after this.
+    if (line && stem.isValid())
+        QTimer::singleShot(0, line, [line, stem] { line->setSelection(0, stem.toInt()); });
+}
+
+void VTImageTextCell::updateEditorGeometry(QWidget *editor, const QStyleOptionViewItem &option,
+                                           const QModelIndex &index) const
+{
+    editor->setGeometry(textFrame(option.rect, imageSize(index)).adjusted(-2, 0, 0, 0));
+}
