@@ -12,21 +12,27 @@ namespace helper {
 namespace {
 
 /// The ways in which the application calls its tools. Nothing else is run, so no option can make more of a tool.
+enum class Role {
+    Read,      ///< left as it is
+    Changed,   ///< the item itself, never what it may lead to
+    Written,   ///< where something is put: no link, neither now nor when the tool runs
+    NewFolder, ///< may be missing with the folders above it
+};
 struct Usage
 {
     const char *tool;
     std::vector<std::string> options;
-    std::size_t paths;
-    bool firstIsOnlyRead;
+    std::vector<Role> paths;
+    std::vector<std::string> ontoNothing; ///< added where no folder stands at the destination: it is to stay so
 };
 
 const std::array<Usage, 6> usages{{
-    {"/bin/cp", {"-f", "-p", "-R"}, 2, true},
-    {"/bin/mv", {"-f"}, 2, false},
-    {"/bin/mkdir", {"-p"}, 1, false},
-    {"/bin/rm", {"-Rdf"}, 1, false},
-    {"/bin/rm", {"-R", "-f"}, 1, false},
-    {"/usr/bin/touch", {"-c"}, 1, false},
+    {"/bin/cp", {"-f", "-p", "-R"}, {Role::Read, Role::Written}, {"-T", "--remove-destination"}},
+    {"/bin/mv", {"-f"}, {Role::Changed, Role::Written}, {"-T"}},
+    {"/bin/mkdir", {"-p"}, {Role::NewFolder}, {}},
+    {"/bin/rm", {"-Rdf"}, {Role::Changed}, {}},
+    {"/bin/rm", {"-R", "-f"}, {Role::Changed}, {}},
+    {"/usr/bin/touch", {"-c"}, {Role::Written}, {}},
 }};
 
 /// Folders that are refused themselves, and of which every folder right inside is refused too.
@@ -122,9 +128,44 @@ int pin(const std::string &path, Descriptor &folder, std::string &rest)
     return 0;
 }
 
+/// Makes what is missing above the last component, through no link that appears meanwhile.
+int makeFoldersAbove(Descriptor &folder, std::string &rest)
+{
+    for (std::size_t slash = rest.find('/'); slash != std::string::npos; slash = rest.find('/')) {
+        const std::string step = rest.substr(0, slash);
+        if (mkdirat(folder.get(), step.c_str(), 0755) != 0 && errno != EEXIST)
+            return errno;
+        Descriptor deeper(openat(folder.get(), step.c_str(), O_PATH | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+        if (!deeper.isOpen())
+            return errno;
+        folder = std::move(deeper);
+        rest.erase(0, slash + 1);
+    }
+    return 0;
+}
+
+/// A folder that stands there is held open and written into; what is no folder must not become one, or a link.
+int holdDestination(Descriptor &folder, std::string &rest, bool &isFolder)
+{
+    struct stat info;
+    if (fstatat(folder.get(), rest.c_str(), &info, AT_SYMLINK_NOFOLLOW) != 0)
+        return 0;
+    if (S_ISLNK(info.st_mode))
+        return ELOOP;
+    if (!S_ISDIR(info.st_mode))
+        return 0;
+    Descriptor held(openat(folder.get(), rest.c_str(), O_PATH | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+    if (!held.isOpen())
+        return errno;
+    folder = std::move(held);
+    rest = ".";
+    isFolder = true;
+    return 0;
+}
+
 bool isCalledSo(const Usage &usage, const std::string &tool, const std::vector<std::string> &arguments)
 {
-    return tool == usage.tool && arguments.size() == usage.options.size() + usage.paths &&
+    return tool == usage.tool && arguments.size() == usage.options.size() + usage.paths.size() &&
            std::equal(usage.options.begin(), usage.options.end(), arguments.begin());
 }
 
@@ -148,14 +189,24 @@ int prepare(const std::string &tool, const std::vector<std::string> &arguments, 
     if (access(tool.c_str(), X_OK) != 0)
         return ENOENT;
     plan = {tool, usage->options, {}, {}};
-    for (std::size_t i = usage->options.size(); i < arguments.size(); ++i) {
+    for (std::size_t i = 0; i < usage->paths.size(); ++i) {
+        const Role role = usage->paths[i];
         Descriptor folder;
         std::string rest;
-        if (const int failure = pin(arguments[i], folder, rest); failure != 0)
+        int failure = pin(arguments[usage->options.size() + i], folder, rest);
+        if (failure == 0 && role != Role::Read)
+            failure = refusalOf(folder.get(), rest, home);
+        if (failure == 0 && role == Role::NewFolder)
+            failure = makeFoldersAbove(folder, rest);
+        else if (failure == 0 && rest.find('/') != std::string::npos)
+            failure = ENOENT;
+        bool isFolder = false;
+        if (failure == 0 && role == Role::Written)
+            failure = holdDestination(folder, rest, isFolder);
+        if (failure != 0)
             return failure;
-        const bool isOnlyRead = usage->firstIsOnlyRead && i == usage->options.size();
-        if (const int refusal = isOnlyRead ? 0 : refusalOf(folder.get(), rest, home); refusal != 0)
-            return refusal;
+        if (role == Role::Written && !isFolder)
+            plan.arguments.insert(plan.arguments.begin(), usage->ontoNothing.begin(), usage->ontoNothing.end());
         const auto number = Plan::firstFolder + static_cast<int>(plan.folders.size());
         plan.arguments.push_back("/proc/self/fd/" + std::to_string(number) + '/' + rest);
         plan.folderNames.push_back(nameOf(folder));

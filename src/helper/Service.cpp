@@ -107,9 +107,10 @@ bool Service::collectEnded()
         }
         if (at->second.errorOutput() >= 0)
             at->second.readErrorOutput();
-        if (!send({MessageType::Ended, at->first, exitStatus(status), {at->second.errorText()}}))
+        const Message ended{MessageType::Ended, at->first, exitStatus(status), {at->second.errorText()}};
+        at = m_tools.erase(at); // before anything can fail: its number is no longer its own
+        if (!send(ended))
             return false;
-        at = m_tools.erase(at);
     }
     return true;
 }

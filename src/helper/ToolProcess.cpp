@@ -71,6 +71,7 @@ std::string ToolProcess::errorText() const
              at = text.find(inside, at + m_folderNames[i].size()))
             text.replace(at, inside.size(), m_folderNames[i]);
     }
+    text.resize(std::min(text.size(), maximumErrorText)); // the folders' names may be long
     return text;
 }
 

@@ -90,7 +90,7 @@ CopyOperation::Ref CopyOperation::start(const QString &source, const QString &de
     Running::all().enter(operation.get());
     std::thread([operation, source, destination, reports = std::move(reports)] {
         const auto begin = std::chrono::steady_clock::now();
-        const TreeSize total = measureTree(source);
+        const TreeSize total = measureTree(source, operation->m_monitor.cancelled);
         FileOutcome outcome;
         {
             const Ticker ticker([&] {

@@ -4,6 +4,7 @@
 
 #include <QList>
 #include <QString>
+#include <atomic>
 #include <functional>
 #include <optional>
 
@@ -71,8 +72,8 @@ struct TreeSize
     quint64 bytes = 0; ///< of plain files, holes included
     quint64 items = 0;
 };
-/** The item and all below it; no link is followed, what cannot be read is left out. */
-[[nodiscard]] TreeSize measureTree(const QString &path);
+/** The item and all below it; no link is followed, what cannot be read is left out. Ends early when cancelled. */
+[[nodiscard]] TreeSize measureTree(const QString &path, const std::atomic<bool> &cancelled);
 
 /**
  * Gives every item below the folder today's dates, never through a link, the folder itself left out. Each folder is

@@ -27,6 +27,17 @@ enum class Closed { Fails, IsOpened };
 /// Removes one tree. Where a folder holds several others, a second worker shares them: removing is mostly waiting.
 class TreeRemover
 {
+    /// Opens its owner's folder to the owner first; never one behind a link.
+    static UniqueDescriptor openClosedFolder(int parent, const char *name)
+    {
+        const UniqueDescriptor held(openat(parent, name, O_PATH | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+        const std::string path = "/proc/self/fd/" + std::to_string(held.get());
+        if (held.isOpen() && chmod(path.c_str(), 0700) == 0)
+            return openFolder(parent, name);
+        errno = EACCES;
+        return {};
+    }
+
 public:
     explicit TreeRemover(Closed closed) : m_closed(closed) {}
 
@@ -54,9 +65,9 @@ private:
     bool removeEntry(int parent, const char *name, bool folder, const std::string &below)
     {
         if (folder) {
-            if (m_closed == Closed::IsOpened)
-                static_cast<void>(fchmodat(parent, name, 0700, 0) == 0);
-            const UniqueDescriptor opened = openFolder(parent, name);
+            UniqueDescriptor opened = openFolder(parent, name);
+            if (!opened.isOpen() && errno == EACCES && m_closed == Closed::IsOpened)
+                opened = openClosedFolder(parent, name);
             if (!opened.isOpen() && errno != ENOENT)
                 return fail(errno, below);
             if (opened.isOpen() && !removeBelow(opened.get(), below))
@@ -123,10 +134,10 @@ bool renameWithoutReplacing(const PathAt &from, const PathAt &to)
     return renameat(from.folder(), from.name(), to.folder(), to.name()) == 0;
 }
 
-void measureEntry(int parent, const char *name, TreeSize &size)
+void measureEntry(int parent, const char *name, TreeSize &size, const std::atomic<bool> &cancelled)
 {
     struct stat info;
-    if (fstatat(parent, name, &info, AT_SYMLINK_NOFOLLOW) != 0)
+    if (cancelled || fstatat(parent, name, &info, AT_SYMLINK_NOFOLLOW) != 0)
         return;
     ++size.items;
     if (S_ISREG(info.st_mode))
@@ -138,7 +149,7 @@ void measureEntry(int parent, const char *name, TreeSize &size)
     if (!folder.isOpen() || !readFolder(folder.get(), entries))
         return;
     for (const RawEntry &entry : entries)
-        measureEntry(folder.get(), entry.name.c_str(), size);
+        measureEntry(folder.get(), entry.name.c_str(), size, cancelled);
 }
 
 struct Toucher
@@ -195,12 +206,12 @@ FileOutcome moveItem(const QString &source, const QString &destination)
     return copied.ok() ? removeTree(source) : copied;
 }
 
-TreeSize measureTree(const QString &path)
+TreeSize measureTree(const QString &path, const std::atomic<bool> &cancelled)
 {
     raiseDescriptorLimit();
     TreeSize size;
     const PathAt at(path);
-    measureEntry(at.folder(), at.name(), size);
+    measureEntry(at.folder(), at.name(), size, cancelled);
     return size;
 }
 

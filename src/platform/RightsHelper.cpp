@@ -29,7 +29,7 @@ QByteArrayList plainEnvironment()
 }
 
 /// The path with the links on the way to its last component resolved; as it is where this user cannot look.
-QString withoutLinks(const QString &path)
+QString resolved(const QString &path)
 {
     QString existing = parentPath(path);
     QString rest = lastComponent(path);
@@ -228,11 +228,19 @@ bool RightsHelper::isAlive() const
     return d->alive;
 }
 
+QStringList RightsHelper::withoutLinks(const QStringList &arguments)
+{
+    QStringList paths;
+    for (const QString &argument : arguments)
+        paths.append(argument.startsWith(u'/') ? resolved(argument) : argument);
+    return paths;
+}
+
 RightsHelper::Ticket RightsHelper::run(const QString &tool, const QStringList &arguments)
 {
     Message request{MessageType::Run, 0, 0, {toNative(tool).toStdString()}};
     for (const QString &argument : arguments)
-        request.texts.push_back(toNative(argument.startsWith(u'/') ? withoutLinks(argument) : argument).toStdString());
+        request.texts.push_back(toNative(argument).toStdString());
     Ticket ticket;
     {
         const std::scoped_lock lock(d->mutex);

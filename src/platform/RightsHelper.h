@@ -48,8 +48,10 @@ public:
     [[nodiscard]] bool isAlive() const;
     /** Gives the rights back now, whoever still holds this object. Blocks until the helper has let go. */
     void end();
-    /** Returns as soon as the tool is started. Folders on the way that are links are resolved here: the helper goes
-        through none. */
+    /** The arguments with the links on the way to their last components resolved. To be done before anybody is asked: the
+        helper goes through no link, so that what is exchanged for one later is refused. */
+    [[nodiscard]] static QStringList withoutLinks(const QStringList &arguments);
+    /** Blocks until the tool is started, which may take as long as others run. */
     [[nodiscard]] Ticket run(const QString &tool, const QStringList &arguments);
     /** Blocks until that tool has ended; each ticket once. */
     [[nodiscard]] ToolEnd waitFor(const Ticket &ticket);

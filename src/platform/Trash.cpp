@@ -6,12 +6,13 @@
 #include "platform/FileSystem.h"
 #include "platform/LocalTime.h"
 #include "platform/NativePath.h"
+#include "platform/PathAt.h"
 
 #include <QFile>
 #include <QLibrary>
-#include <QSaveFile>
 #include <QStandardPaths>
 #include <ctime>
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -122,12 +123,11 @@ void noteInTrash(const QString &target, const QString &originalPath)
     const QString info = parentPath(parentPath(target)) + QStringLiteral("/info/") + lastComponent(target);
     if (!makeFolders(parentPath(info)).ok())
         return;
-    QSaveFile file(info + QStringLiteral(".trashinfo"));
-    if (!file.open(QIODevice::WriteOnly))
-        return;
-    file.write("[Trash Info]\nPath=" + toNative(originalPath).toPercentEncoding("/") + "\nDeletionDate=" +
-               formatDate(QStringLiteral("%Y-%m-%dT%H:%M:%S"), std::time(nullptr)).toLatin1() + '\n');
-    file.commit();
+    const QByteArray note = "[Trash Info]\nPath=" + toNative(originalPath).toPercentEncoding("/") + "\nDeletionDate=" +
+                            formatDate(QStringLiteral("%Y-%m-%dT%H:%M:%S"), std::time(nullptr)).toLatin1() + '\n';
+    const PathAt at(info + QStringLiteral(".trashinfo")); // by its bytes, as the item is called
+    const UniqueDescriptor file(openat(at.folder(), at.name(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
+    static_cast<void>(file.isOpen() && write(file.get(), note.constData(), static_cast<std::size_t>(note.size())) > 0);
 }
 
 } // namespace platform

@@ -6,6 +6,7 @@
 #include "platform/PathAt.h"
 #include "platform/ZipFormat.h"
 
+#include <QSet>
 #include <QUuid>
 #include <archive.h>
 #include <archive_entry.h>
@@ -13,6 +14,7 @@
 #include <dirent.h>
 #include <fcntl.h>
 #include <map>
+#include <optional>
 #include <unistd.h>
 #include <vector>
 
@@ -55,11 +57,32 @@ bool linkStaysInside(const QByteArray &name, const QByteArray &target)
     return true;
 }
 
-struct FolderDates
+/// What a folder gets when everything is in its place; until then it is open to its owner.
+struct FolderFinish
 {
-    mode_t mode;
-    timespec modified;
+    mode_t mode = 0777;
+    std::optional<timespec> modified;
 };
+
+/// Without the steps that lead nowhere: "./a//b/" is "a/b".
+QByteArray normalised(const QByteArray &name)
+{
+    QByteArrayList steps = name.split('/');
+    steps.removeIf([](const QByteArray &step) { return step.isEmpty() || step == "."; });
+    return (name.startsWith('/') ? "/" : "") + steps.join('/');
+}
+
+/// What the umask leaves of a new folder's mode; asking is setting, for all threads, so it is read where it is shown.
+mode_t newFolderMode(const UniqueDescriptor &place)
+{
+    static constexpr char probe[] = ".mode";
+    struct stat info;
+    const bool made = mkdirat(place.get(), probe, 0777) == 0;
+    const bool seen = made && fstatat(place.get(), probe, &info, AT_SYMLINK_NOFOLLOW) == 0;
+    if (made)
+        unlinkat(place.get(), probe, AT_REMOVEDIR);
+    return seen ? info.st_mode & 0777 : 0755;
+}
 
 /// Unpacks into a folder of its own, and only what is whole moves on from there.
 class Extraction
@@ -107,9 +130,12 @@ public:
         }
         if (m_report.problem.isNull()) {
             putLabels();
-            putFolderDates();
             moveOn({});
         }
+        if (m_report.problem.isNull())
+            finishFolders();
+        else
+            takeBack();
         return m_report;
     }
 
@@ -139,10 +165,12 @@ private:
             return takeLabel(name.mid(9));
         const char *link = archive_entry_symlink_utf8(entry);
         const QByteArray target = link ? link : archive_entry_symlink(entry);
+        const QByteArray written = name;
+        name = normalised(name);
+        if (name.isEmpty() && staysInside(written))
+            return; // the destination itself
         if (!staysInside(name) || !linkStaysInside(name, target) || archive_entry_hardlink(entry))
-            return refuse(name);
-        while (name.endsWith('/'))
-            name.chop(1);
+            return refuse(written);
         const int parent = parentOf(name);
         if (parent < 0)
             return refuse(name);
@@ -152,7 +180,7 @@ private:
                 refuse(name);
         } else if (archive_entry_filetype(entry) == AE_IFDIR) {
             if (makeFolder(parent, own))
-                m_folders[name] = {archive_entry_perm(entry) & 0777U, {archive_entry_mtime(entry), 0}};
+                m_folders[name] = {archive_entry_perm(entry) & 0777U, timespec{archive_entry_mtime(entry), 0}};
             else
                 refuse(name);
         } else {
@@ -177,12 +205,13 @@ private:
             return m_root.get();
         if (m_parent.isOpen() && folder == m_parentName)
             return m_parent.get();
-        UniqueDescriptor at(dup(m_root.get()));
+        UniqueDescriptor at(fcntl(m_root.get(), F_DUPFD_CLOEXEC, 0));
+        QByteArray sofar;
         for (const QByteArray &step : folder.split('/')) {
-            if (step.isEmpty() || step == ".")
-                continue;
             if (!makeFolder(at.get(), step))
                 return -1;
+            sofar += (sofar.isEmpty() ? "" : "/") + step;
+            m_folders.try_emplace(sofar, FolderFinish{newFolderMode(m_root), std::nullopt}); // it may have no entry
             UniqueDescriptor next = openFolder(at.get(), step.constData());
             at = std::move(next);
             if (!at.isOpen())
@@ -268,46 +297,77 @@ private:
         for (const auto &[name, flags] : m_labels) {
             const qsizetype slash = name.lastIndexOf('/');
             // Not by parentOf(): a label makes no folders.
-            UniqueDescriptor at(dup(m_root.get()));
+            UniqueDescriptor at(fcntl(m_root.get(), F_DUPFD_CLOEXEC, 0));
             for (const QByteArray &step : name.first(qMax<qsizetype>(0, slash)).split('/')) {
                 if (!step.isEmpty() && at.isOpen())
                     at.reset(openFolder(at.get(), step.constData()).release());
             }
-            const UniqueDescriptor item(at.isOpen() ? openat(at.get(), name.constData() + slash + 1,
-                                                             O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC)
-                                                    : -1);
-            if (item.isOpen())
-                setFlagsWord(item.get(), flags, labelMask | bundleBit);
+            if (at.isOpen())
+                putLabel(at.get(), name.constData() + slash + 1, flags);
         }
     }
 
-    /// Deepest first: what is done inside a folder changes its dates.
-    void putFolderDates()
+    /// An item that its owner may not write to is made writable for as long as it takes.
+    static void putLabel(int parent, const char *name, quint16 flags)
+    {
+        struct stat info;
+        if (fstatat(parent, name, &info, AT_SYMLINK_NOFOLLOW) != 0 || S_ISLNK(info.st_mode))
+            return;
+        const bool isClosed = (info.st_mode & 0600) != 0600;
+        if (isClosed)
+            fchmodat(parent, name, info.st_mode | 0600, 0);
+        const UniqueDescriptor item(openat(parent, name, O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+        if (item.isOpen())
+            setFlagsWord(item.get(), flags, labelMask | bundleBit);
+        if (isClosed)
+            fchmodat(parent, name, info.st_mode & 0777, 0);
+    }
+
+    /// Deepest first: what is done inside a folder changes its dates. Folders that stood there before stay as they are.
+    void finishFolders()
     {
         for (auto at = m_folders.rbegin(); at != m_folders.rend(); ++at) {
-            const int parent = parentOf(at->first);
-            const QByteArray own = at->first.mid(at->first.lastIndexOf('/') + 1);
-            const UniqueDescriptor folder = parent >= 0 ? openFolder(parent, own.constData()) : UniqueDescriptor();
-            const timespec times[2] = {{0, UTIME_NOW}, at->second.modified};
-            if (!folder.isOpen() || fchmod(folder.get(), at->second.mode) != 0 || futimens(folder.get(), times) != 0)
-                return failWriting(at->first);
+            const QString name = fromNative(at->first);
+            if (m_merged.contains(name) || m_report.refused.contains(name))
+                continue;
+            const PathAt path(joined(m_destination, name));
+            const UniqueDescriptor folder = openFolder(path.folder(), path.name());
+            const timespec times[2] = {{0, UTIME_NOW}, at->second.modified.value_or(timespec{0, UTIME_OMIT})};
+            if (folder.isOpen() && (futimens(folder.get(), times) != 0 || fchmod(folder.get(), at->second.mode) != 0))
+                m_report.refused.append(name);
         }
+    }
+
+    void takeBack()
+    {
+        for (const QString &path : std::as_const(m_moved))
+            static_cast<void>(removeOwnTree(path).ok());
     }
 
     /// Everything in this folder of the place moves to the same folder of the destination. Folders that stand there
     /// already take in what is new; nothing is replaced.
     void moveOn(const QString &below)
     {
-        const QString from = joined(m_place, below);
-        for (const FolderEntry &entry : listFolder(from).value_or(QList<FolderEntry>())) {
+        const auto entries = listFolder(joined(m_place, below));
+        if (!entries) {
+            m_report.problem = FileOutcome::fromErrno(joined(m_place, below)).description();
+            return;
+        }
+        for (const FolderEntry &entry : *entries) {
+            if (!m_report.problem.isNull())
+                return;
             const QString name = below.isEmpty() ? entry.name : joined(below, entry.name);
             const QString target = joined(m_destination, name);
-            if (entry.kind == FileKind::Folder && kindOf(target) == FileKind::Folder)
+            if (entry.kind == FileKind::Folder && kindOf(target) == FileKind::Folder) {
+                m_merged.insert(name);
                 moveOn(name);
-            else if (const FileOutcome moved = moveItem(joined(m_place, name), target); moved.errorNumber() == EEXIST)
+            } else if (const FileOutcome moved = moveItem(joined(m_place, name), target); moved.ok()) {
+                m_moved.append(target);
+            } else if (moved.errorNumber() == EEXIST) {
                 m_report.refused.append(name);
-            else if (!moved.ok())
+            } else {
                 m_report.problem = moved.description();
+            }
         }
     }
 
@@ -320,7 +380,9 @@ private:
     UniqueDescriptor m_parent; ///< the folder of the last entry, which mostly is the folder of the next
     QByteArray m_parentName;
     std::map<QByteArray, quint16> m_labels;
-    std::map<QByteArray, FolderDates> m_folders;
+    std::map<QByteArray, FolderFinish> m_folders;
+    QSet<QString> m_merged; ///< folders that stood in the destination before
+    QStringList m_moved;    ///< what has arrived there
     ExtractReport m_report;
 };
 

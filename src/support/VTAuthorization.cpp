@@ -145,10 +145,14 @@ bool VTAuthorization::obtainWith(const QString &user, const platform::Secret &pa
 void VTAuthorization::authEnd()
 {
     lastTool.reset();
-    const Rights rights = authRef();
+    Rights rights = authRef();
     setAuthRef(nullptr);
-    if (rights) // others may still hold it, waiting for their tools
-        platform::performInBackground([&] { rights->end(); });
+    if (!rights)
+        return;
+    platform::performInBackground([&] {
+        rights->end(); // others may still hold it, waiting for their tools
+        rights.reset();
+    });
 }
 
 int VTAuthorization::authExecTask(const QString &tool, const QStringList &parameters, Async async)
@@ -165,12 +169,13 @@ int VTAuthorization::authExecTask(const QString &tool, const QStringList &parame
             VTTask::runTask(tool, parameters);
         return 0;
     }
+    const QStringList resolved = platform::RightsHelper::withoutLinks(parameters);
     if (!authStart())
         return noRights;
     const Rights rights = authRef();
     if (!rights)
         return noRights; // given back by another thread meanwhile
-    const platform::RightsHelper::Ticket ticket = rights->run(tool, parameters);
+    const auto ticket = platform::resultInBackground([&] { return rights->run(tool, resolved); });
     if (ticket.error != 0) {
         const platform::FileOutcome refusal(ticket.error, tool + u' ' + parameters.join(u' '));
         VTLog::appendLog("Administrator tool refused: %@", refusal.description());

@@ -139,7 +139,8 @@ bool VTFileManager::copyFile(const QString &source, const QString &toPath, Shoul
     if (fallBackToTool(shouldAuth, copied, VTAuthorization::copyCommand(source, toPath),
                        [&] { return VTAuthorization::sharedController().authCopyFile(source, toPath); }))
         return true;
-    if (isNew) // on a full disk the tool leaves what it got to
+    const bool wasOwnTool = platform::isSuperUser() || !copied.needsRights();
+    if (isNew && wasOwnTool) // on a full disk the tool leaves what it got to
         static_cast<void>(platform::resultInBackground([&] { return platform::removeOwnTree(toPath); }));
     return false;
 }
@@ -245,9 +246,10 @@ bool VTFileManager::trashFile(const QString &path, ShouldAuth shouldAuth)
     }
     if (platform::isSuperUser() || !platform::moveNeedsRights(path))
         return false;
-    if (!authorization.authTrashFile(path) || !authorization.lastToolSucceeded())
+    const QString free = authorization.trashTarget(path); // the tool may have begun to fill the first
+    if (!authorization.authMoveFile(path, free) || !authorization.lastToolSucceeded())
         return false;
-    platform::noteInTrash(target, path);
+    platform::noteInTrash(free, path);
     return true;
 }
 

@@ -115,23 +115,23 @@ void copyLabels(const QStringList &sources, const QString &relative, const QStri
     }
 }
 
-void collectLeaves(const QString &folder, QList<platform::FileIdentity> &entered, QStringList &leaves)
+/// False for a folder that its own path has gone through: a link back up would never end.
+bool collectLeaves(const QString &folder, QList<platform::FileIdentity> &entered, QStringList &leaves)
 {
     const auto identity = platform::identityOf(folder + QStringLiteral("/."));
-    if (!identity || entered.contains(*identity)) // a link back up would never end
-        return;
+    if (!identity || entered.contains(*identity))
+        return false;
     entered.append(*identity);
     bool hasFolders = false;
     for (const auto &entry : platform::listFolder(folder).value_or(QList<platform::FolderEntry>())) {
         const QString path = joined(folder, entry.name);
-        if (!VTFileManager::isDirectoryAtPath(path) || platform::isPackage(path))
-            continue;
-        collectLeaves(path, entered, leaves);
-        hasFolders = true;
+        if (VTFileManager::isDirectoryAtPath(path) && !platform::isPackage(path))
+            hasFolders = collectLeaves(path, entered, leaves) || hasFolders;
     }
     if (!hasFolders)
         leaves.append(folder);
     entered.removeLast();
+    return true;
 }
 
 } // namespace
@@ -152,7 +152,7 @@ QStringList importjobs::subFoldersInDirectory(const QString &folder)
 {
     QStringList leaves;
     QList<platform::FileIdentity> entered;
-    collectLeaves(folder, entered, leaves);
+    static_cast<void>(collectLeaves(folder, entered, leaves));
     return leaves.isEmpty() ? QStringList{folder} : leaves;
 }
 

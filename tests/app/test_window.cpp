@@ -7,6 +7,7 @@
 #include "platform/NativePath.h"
 #include "support/Records.h"
 #include "support/Settings.h"
+#include "support/SheetAnswerer.h"
 #include "support/TemporaryHome.h"
 #include "support/VTAlert.h"
 #include "ui/SheetPresenter.h"
@@ -18,47 +19,10 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMessageBox>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
 #include <QTimer>
-
-namespace {
-
-/// Waits for sheets and answers them, one after the other, by the titles of their buttons.
-class SheetAnswerer : public QObject
-{
-public:
-    explicit SheetAnswerer(QStringList titles)
-        : buttons(std::move(titles))
-    {
-        connect(&m_timer, &QTimer::timeout, this, &SheetAnswerer::look);
-        m_timer.start(5);
-    }
-    QStringList buttons; ///< still to be pressed
-    QStringList seen;
-
-private:
-    void look()
-    {
-        for (QWidget *widget : QApplication::topLevelWidgets()) {
-            auto *box = qobject_cast<QMessageBox *>(widget);
-            if (!box || !box->isVisible() || buttons.isEmpty())
-                continue;
-            for (QAbstractButton *button : box->buttons()) {
-                if (button->text().remove('&') != buttons.constFirst())
-                    continue;
-                seen << box->text() + '|' + box->informativeText();
-                buttons.removeFirst();
-                return button->click();
-            }
-        }
-    }
-    QTimer m_timer;
-};
-
-} // namespace
 
 class TestWindow : public QObject
 {

@@ -3,6 +3,7 @@
 #include "helper/Plan.h"
 #include "helper/Protocol.h"
 #include "platform/Desktop.h"
+#include "platform/FileSystem.h"
 #include "support/TemporaryHome.h"
 
 #include <QCoreApplication>
@@ -114,6 +115,10 @@ private Q_SLOTS:
         row("the home", "/bin/rm", {"-Rdf", "%"}, EPERM);
         row("a folder of the home", "/bin/mv", {"-f", "%/Documents", "%/x"}, EPERM);
         row("a folder of its library", "/bin/rm", {"-Rdf", "%/Library/Preferences"}, EPERM);
+        row("onto a link", "/bin/mv", {"-f", "%/Documents/x", "%/link"}, EPERM);
+        row("onto a link to a file", "/bin/cp", {"-f", "-p", "-R", "%/Documents/x", "%/crontab"}, ELOOP);
+        row("dating a link", "/usr/bin/touch", {"-c", "%/crontab"}, ELOOP);
+        row("into what is missing", "/bin/cp", {"-f", "-p", "-R", "%/Documents/x", "%/no/such/x"}, ENOENT);
         row("dots after what is missing", "/bin/mkdir", {"-p", "%/missing/../x"}, EINVAL);
     }
     void refuses()
@@ -132,13 +137,21 @@ private Q_SLOTS:
         writeFile(m_home->file("deep/down/x"), "x");
         Plan plan;
         const QString path = m_home->path() + "/deep//./down/../down/x";
-        QCOMPARE(prepare("/bin/mv", words({"-f", path, m_home->path() + "/new/a/b"}), m_home->path().toStdString(), plan), 0);
-        QCOMPARE(plan.arguments, words({"-f", "/proc/self/fd/10/x", "/proc/self/fd/11/new/a/b"}));
+        QCOMPARE(prepare("/bin/mv", words({"-f", path, m_home->path() + "/b"}), m_home->path().toStdString(), plan), 0);
+        QCOMPARE(plan.arguments, words({"-T", "-f", "/proc/self/fd/10/x", "/proc/self/fd/11/b"}));
         // Exchanged for a link after the check: the folder that was checked is the one that is used.
         QVERIFY(rename(m_home->file("deep/down").toUtf8(), m_home->file("aside").toUtf8()) == 0);
         QVERIFY(symlink("/etc", m_home->file("deep/down").toUtf8()) == 0);
         struct stat info;
         QCOMPARE(fstatat(plan.folders[0].get(), "x", &info, 0), 0);
+        // A folder that stands there is held itself, so that no link can take its place.
+        QVERIFY(platform::makeFolders(m_home->file("there")).ok());
+        QCOMPARE(prepare("/bin/mv", words({"-f", m_home->path() + "/aside/x", m_home->path() + "/there"}),
+                         m_home->path().toStdString(), plan),
+                 0);
+        QCOMPARE(plan.arguments, words({"-f", "/proc/self/fd/10/x", "/proc/self/fd/11/."}));
+        QCOMPARE(prepare("/bin/mkdir", words({"-p", m_home->path() + "/new/a/b"}), m_home->path().toStdString(), plan), 0);
+        QCOMPARE(plan.arguments, words({"-p", "/proc/self/fd/10/b"}));
         // Reading a standard folder harms nobody.
         QCOMPARE(prepare("/bin/cp", words({"-f", "-p", "-R", m_home->path() + "/Documents", m_home->path() + "/x"}),
                          m_home->path().toStdString(), plan),
@@ -160,6 +173,7 @@ private:
         for (const char *folder : {"Documents/x", "Library/Preferences/x"})
             static_cast<void>(m_home->file(folder)); // makes the folders above it
         static_cast<void>(symlink("/usr", m_home->file("link").toUtf8()));
+        static_cast<void>(symlink("/etc/hosts", m_home->file("crontab").toUtf8()));
     }
 
     std::optional<TemporaryHome> m_home;

@@ -109,6 +109,8 @@ private Q_SLOTS:
         QTest::newRow("up on the way") << QList<Item>{{"a/../../evil", ""}} << "a/../../evil";
         QTest::newRow("up, as a folder") << QList<Item>{{"../evil/", ""}} << "../evil/";
         QTest::newRow("absolute") << QList<Item>{{"/tmp/evil", ""}} << "/tmp/evil";
+        QTest::newRow("link out, hidden by dots") << QList<Item>{{"./././l", "../outside"}} << "./././l";
+        QTest::newRow("link out, hidden by slashes") << QList<Item>{{"a//b", "../../outside"}} << "a//b";
         QTest::newRow("absolute link") << QList<Item>{{"l", "/tmp"}} << "l";
         QTest::newRow("link out and in again") << QList<Item>{{"l", "../out/x"}} << "l";
         QTest::newRow("through a good link") << QList<Item>{{"d/", ""}, {"l", "d"}, {"l/evil", ""}} << "l/evil";
@@ -118,6 +120,7 @@ private Q_SLOTS:
             << QList<Item>{{"a/b/", ""}, {"a/b/l", "d/../outside"}, {"a/b/d", "../.."}} << "a/b/l";
         QTest::newRow("a file where a folder is to be") << QList<Item>{{"a", ""}, {"a/evil", ""}} << "a/evil";
         QTest::newRow("a folder where a file is") << QList<Item>{{"a", ""}, {"a/", ""}} << "a";
+        QTest::newRow("the destination itself") << QList<Item>{{"./", ""}} << "";
         QTest::newRow("the same twice") << QList<Item>{{"a", ""}, {"a", ""}} << "a";
         QTest::newRow("what stands there") << QList<Item>{{"there", ""}} << "there";
         QTest::newRow("label up") << QList<Item>{{"__MACOSX/../._outside", ""}} << "";
@@ -175,6 +178,7 @@ private Q_SLOTS:
         QVERIFY(mkfifo(toNative(tree + "/fifo").constData(), 0600) == 0);
         chmod(toNative(tree + "/script.sh").constData(), 0750);
         chmod(toNative(tree + "/closed").constData(), 0500);
+        chmod(toNative(tree + "/noise").constData(), 0444); // a label on what its owner may only read
         const timespec times[2] = {{0, UTIME_NOW}, {981'173'106, 0}};
         for (const char *dated : {"/script.sh", "/empty"})
             utimensat(AT_FDCWD, toNative(tree + dated).constData(), times, 0);

@@ -294,6 +294,20 @@ private Q_SLOTS:
         QCOMPARE(m_dialog.asked, 0);
     }
 
+    /// Someone waits for the dialog to plant a link where root is about to write.
+    void plantedLinksAreNotFollowed()
+    {
+        QVERIFY(m_dialog.open(true));
+        writeFile(m_home.file("src/secret"), "evil");
+        QCOMPARE(chmod(m_home.file("src/secret").toUtf8(), 0), 0);
+        const QString planted = m_home.file("planted/target");
+        m_dialog.thinksFor = 100;
+        QTimer::singleShot(50, this, [&] { QCOMPARE(symlink("/run/studio/library/theirs.txt", planted.toUtf8()), 0); });
+        QVERIFY(!VTFileManager::copyFile(m_home.file("src/secret"), planted));
+        QCOMPARE(readFile(library + "/theirs.txt"), "root's own\n");
+        QCOMPARE(ownerOf(library + "/theirs.txt"), 0u);
+    }
+
     void theWindowLivesWhileSomeoneThinks()
     {
         QVERIFY(m_dialog.open(true));

@@ -1,0 +1,340 @@
+// The template pane in a real window: what is done there with mouse and keys, and what the disk and a project made of it say.
+#include "app/MainWindow.h"
+#include "app/TessaroAppDelegate.h"
+#include "platform/Desktop.h"
+#include "platform/FileSystem.h"
+#include "platform/NativePath.h"
+#include "support/Records.h"
+#include "support/Settings.h"
+#include "support/SheetAnswerer.h"
+#include "support/TemporaryHome.h"
+#include "support/VTAlert.h"
+#include "support/VTFileManager.h"
+#include "templates/TemplatePane.h"
+#include "templates/VTDataController.h"
+#include "ui/SheetPresenter.h"
+#include "ui/Spinner.h"
+#include "ui/VTOutlineView.h"
+#include "ui/VTTableView.h"
+
+#include <QLineEdit>
+#include <QMimeData>
+#include <QTest>
+#include <QUrl>
+#include <unistd.h>
+
+using platform::joined;
+using platform::targetExists;
+
+class TestTemplatePane : public QObject
+{
+    Q_OBJECT
+
+    SheetPresenter m_sheets;
+    std::unique_ptr<QTemporaryDir> m_work;
+    std::unique_ptr<TessaroAppDelegate> m_delegate;
+
+    MainWindow &window() const { return *m_delegate->mainWindow(); }
+    template <typename Widget> Widget *part(const char *name) const
+    {
+        return window().findChild<Widget *>(QLatin1String(name));
+    }
+    VTTemplateOutlineController &editor() const { return window().templatePane().outlineController(); }
+    VTTemplateTableController &list() const { return window().templatePane().tableController(); }
+    VTColoredOutlineView *outline() const { return part<VTColoredOutlineView>("outlineView"); }
+    QString files(const QString &path = {}) const
+    {
+        return joined(joined(editor().baseFilename(), "Files"), path);
+    }
+    QModelIndex row(const QString &path) const { return editor().model().indexOf(editor().itemFromFilename(files(path))); }
+    void select(const QStringList &paths) const
+    {
+        outline()->clearSelection();
+        for (const QString &path : paths) {
+            QVERIFY2(row(path).isValid(), qPrintable(path));
+            outline()->selectionModel()->setCurrentIndex(row(path), QItemSelectionModel::Select);
+        }
+        outline()->setFocus();
+    }
+    QString selected() const
+    {
+        const QModelIndexList rows = outline()->selectionModel()->selectedRows();
+        return rows.isEmpty() ? QString() : TemplateTreeModel::nodeAt(rows.first())->name();
+    }
+    /// As a drag ends: on the target, null for the root.
+    bool drop(QMimeData *data, const QString &target) const
+    {
+        const std::unique_ptr<QMimeData> owner(data);
+        const QModelIndex index = target.isNull() ? QModelIndex() : row(target);
+        return editor().model().dropMimeData(data, Qt::MoveAction, -1, -1, index);
+    }
+    QMimeData *dragged(const QStringList &paths) const
+    {
+        QModelIndexList indexes;
+        for (const QString &path : paths)
+            indexes.append(row(path));
+        return editor().model().mimeData(indexes);
+    }
+    static QMimeData *fromOutside(const QStringList &paths)
+    {
+        auto *data = new QMimeData;
+        QList<QUrl> addresses;
+        for (const QString &path : paths)
+            addresses.append(QUrl::fromLocalFile(path));
+        data->setUrls(addresses);
+        return data;
+    }
+    void type(const QString &text) const
+    {
+        QTRY_VERIFY(qobject_cast<QLineEdit *>(QApplication::focusWidget()));
+        QCoreApplication::processEvents(); // the stem gets selected
+        QTest::keyClicks(QApplication::focusWidget(), text);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    }
+    void key(QWidget *widget, int key, Qt::KeyboardModifiers modifiers = {}) const
+    {
+        QTest::keyClick(widget, static_cast<Qt::Key>(key), modifiers);
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        settings::registerDefaults();
+        VTAlert::setPresenter(&m_sheets);
+        m_work = std::make_unique<QTemporaryDir>();
+        auto &defaults = settings::standard();
+        for (const QString &name : {settings::defaultTemplate, settings::selectedProjectTemplate})
+            defaults.removeValue(name);
+        defaults.setValue(settings::firstRun, false);
+        defaults.setValue(settings::templateLocation, m_work->filePath("Library"));
+        defaults.setValue(settings::useFixedProjectLocation, 1LL);
+        defaults.setValue(settings::fixedProjectLocationPath, m_work->filePath("Projects"));
+        defaults.setValue(settings::autoOpenFolder, 0LL);
+        defaults.setValue(settings::filenameTemplate, QVariantList{record({{"title", "Title"}, {"val", "Promo"}})});
+        writeFile(m_work->filePath("Library/Film.tzt/Files/A/x.txt"), "x");
+        writeFile(m_work->filePath("Library/Film.tzt/Files/B/y.txt"), "y");
+        writeFile(m_work->filePath("Library/Film.tzt/Files/top.txt"), "top");
+        open();
+    }
+    void open()
+    {
+        m_delegate = std::make_unique<TessaroAppDelegate>();
+        QVERIFY(m_delegate->awakeFromNib());
+        window().show();
+        QVERIFY(QTest::qWaitForWindowActive(&window()));
+        m_delegate->toolbarTemplateAction();
+        QCOMPARE(list().selectedTemplate(), QString("Film"));
+    }
+    void cleanup() { m_delegate.reset(); }
+
+    /// The whole way, through the keyboard alone.
+    void fromAnEmptyTemplateToAProject()
+    {
+        key(&window(), Qt::Key_N, Qt::ControlModifier);
+        type("Feature");
+        QTRY_COMPARE(list().selectedTemplate(), QString("Feature"));
+        QVERIFY(editor().dataArray().empty());
+        outline()->setFocus();
+        key(outline(), Qt::Key_N, Qt::ControlModifier | Qt::ShiftModifier);
+        type("Footage");
+        QTRY_VERIFY(row("Footage").isValid());
+        key(outline(), Qt::Key_N, Qt::ControlModifier | Qt::ShiftModifier); // inside the selected one
+        type("Day 1");
+        QTRY_VERIFY(row("Footage/Day 1").isValid());
+        QVERIFY(targetExists(files("Footage/Day 1")));
+        key(outline(), Qt::Key_2, Qt::ControlModifier | Qt::AltModifier);
+        QCOMPARE(VTFileManager::finderColorIndexForPath(files("Footage/Day 1")), 4);
+        QVERIFY(selected().isNull()); // colouring ends the selection
+        // A project item from the menu: it is called "Template" and its stem is edited.
+        select({"Footage"});
+        key(outline(), Qt::Key_Escape);
+        editor().addProject(joined(m_work->path(), "Library/Film.tzt/Files/top.txt"));
+        QTRY_VERIFY(qobject_cast<QLineEdit *>(QApplication::focusWidget()));
+        QCoreApplication::processEvents();
+        QCOMPARE(qobject_cast<QLineEdit *>(QApplication::focusWidget())->selectedText(), QString("Template"));
+        key(QApplication::focusWidget(), Qt::Key_Escape);
+        QVERIFY(targetExists(files("Footage/Template.txt")));
+        select({"Footage/Template.txt"});
+        key(outline(), Qt::Key_D, Qt::ControlModifier);
+        QTRY_VERIFY(row("Footage/Template Duplicate.txt").isValid());
+        QCOMPARE(selected(), QString("Template.txt")); // the user's place is kept
+        key(outline(), Qt::Key_F2);
+        type("Notes template");
+        QTRY_VERIFY(targetExists(files("Footage/Notes template.txt"))); // the extension stayed
+        SheetAnswerer answers({"Remove"});
+        select({"Footage/Template Duplicate.txt"});
+        key(outline(), Qt::Key_Delete);
+        QTRY_VERIFY(!row("Footage/Template Duplicate.txt").isValid());
+        QCOMPARE(answers.seen, QStringList("Are you sure you wish to remove this item?|This cannot be undone."));
+
+        list().toggleDefault();
+        QCOMPARE(window().selectedTemplate(), QString("Feature"));
+        key(&window(), Qt::Key_1, Qt::ControlModifier);
+        m_delegate->createNewProject();
+        const QString project = m_work->filePath("Projects/Promo");
+        QVERIFY(targetExists(project + "/Footage/Day 1"));
+        QCOMPARE(VTFileManager::finderColorIndexForPath(project + "/Footage/Day 1"), 4);
+        QCOMPARE(readFile(project + "/Footage/Notes Promo.txt"), "top");
+    }
+
+    void theList()
+    {
+        auto *table = part<VTTableView>("templateTable");
+        table->setFocus();
+        key(table, Qt::Key_D, Qt::ControlModifier);
+        type("Copy");
+        QTRY_COMPARE(list().selectedTemplate(), QString("Copy"));
+        QCOMPARE(readFile(files("A/x.txt")), "x");
+        QCOMPARE(window().shownTemplates(), QStringList({"Copy", "Film"}));
+        SheetAnswerer answers({"OK", "Cancel", "Remove"});
+        key(table, Qt::Key_F2);
+        type("Film");
+        QTRY_COMPARE(answers.seen.size(), 1);
+        QVERIFY(answers.seen[0].startsWith("Template already exists|You cannot rename this template to Film "));
+        table->setFocus();
+        key(table, Qt::Key_Backspace);
+        QTRY_COMPARE(answers.seen.size(), 2);
+        QCOMPARE(list().rowCount(), 2);
+        key(table, Qt::Key_Delete);
+        QTRY_COMPARE(list().rowCount(), 1);
+        QTRY_COMPARE(list().selectedTemplate(), QString("Film")); // the neighbour, loaded
+        QVERIFY(row("A").isValid());
+        QCOMPARE(window().shownTemplates(), QStringList("Film"));
+    }
+
+    void draggingInside()
+    {
+        // Onto a file: refused. Into the folder it is in already, onto itself: nothing happens.
+        QVERIFY(!drop(dragged({"top.txt"}), "A/x.txt"));
+        QVERIFY(drop(dragged({"A/x.txt", "A"}), "A") && drop(dragged({"top.txt"}), {}));
+        QCoreApplication::processEvents();
+        QVERIFY(row("A/x.txt").isValid() && row("top.txt").isValid());
+        QVERIFY(drop(dragged({"top.txt"}), "A"));
+        QTRY_VERIFY(row("A/top.txt").isValid());
+        QVERIFY(!row("top.txt").isValid());
+        // Into its own descendant: refused, and what stands there is not deleted for it.
+        writeFile(files("A/B/A/kept"), "kept");
+        editor().populateTemplateStructure();
+        SheetAnswerer answers({"OK", "Ignore", "Overwrite"});
+        QVERIFY(drop(dragged({"A"}), "A/B"));
+        QTRY_COMPARE(answers.seen.size(), 1);
+        QVERIFY(answers.seen[0].startsWith("Unable to move file "));
+        QCOMPARE(readFile(files("A/B/A/kept")), "kept");
+        // A namesake is asked about: with no, both stay; with yes, the one there goes.
+        QVERIFY(drop(dragged({"B"}), "A"));
+        QTRY_COMPARE(answers.seen.size(), 2);
+        QCOMPARE(answers.seen[1], QString("B already exists. Overwrite?|This cannot be undone."));
+        QTRY_VERIFY(row("B/y.txt").isValid() && row("A/B/A/kept").isValid());
+        QVERIFY(drop(dragged({"B"}), "A"));
+        QTRY_VERIFY(row("A/B/y.txt").isValid());
+        QVERIFY(!targetExists(files("B")) && !targetExists(files("A/B/A")));
+        QVERIFY(answers.buttons.isEmpty());
+    }
+
+    void severalAtOnce()
+    {
+        writeFile(files("B/x.txt"), "other x");
+        editor().populateTemplateStructure();
+        const std::unique_ptr<QMimeData> both(dragged({"A/x.txt", "B/x.txt", "A"}));
+        QVERIFY(unlink(files("top.txt").toUtf8()) == 0);
+        // "A" carries its x along; the file that vanished is said; the two of one name are asked about.
+        SheetAnswerer answers({"OK"});
+        QVERIFY(drop(dragged({"top.txt"}), "B"));
+        QTRY_COMPARE(answers.seen.size(), 1);
+        QTRY_VERIFY(!row("top.txt").isValid());
+        writeFile(files("C/.keep"), {});
+        editor().populateTemplateStructure();
+        auto *data = new QMimeData;
+        data->setData(TemplateTreeModel::VTPboardType, both->data(TemplateTreeModel::VTPboardType));
+        QVERIFY(drop(data, "C"));
+        QTRY_VERIFY(row("C/A/x.txt").isValid());
+        QCOMPARE(readFile(files("C/x.txt")), "other x");
+        QCOMPARE(readFile(files("C/A/x.txt")), "x");
+    }
+
+    void droppingFromOutside()
+    {
+        for (int i = 0; i < 300; ++i)
+            writeFile(m_work->filePath("in/Many/%1").arg(i), "n");
+        writeFile(m_work->filePath("in/x.txt"), "new x");
+        // Onto a file it lands beside it; a name that is taken is asked about on the job's thread.
+        SheetAnswerer answers({"Overwrite"});
+        QVERIFY(drop(fromOutside({m_work->filePath("in/x.txt"), m_work->filePath("in/Many")}), "A/x.txt"));
+        QTRY_VERIFY(row("A/Many/299").isValid());
+        QCOMPARE(readFile(files("A/x.txt")), "new x");
+        QVERIFY(targetExists(m_work->filePath("in/x.txt"))); // copied, not moved
+        // Two imports at once into one folder, onto the root; the spinner turns until both are through.
+        editor().copyFilesOnThread({{m_work->filePath("in/Many")}, files("B")});
+        editor().createFolderStructureOnThread({{m_work->filePath("in")}, files("B")});
+        QTRY_VERIFY(part<Spinner>("importSpinner")->isSpinning());
+        editor().waitForImports();
+        QVERIFY(!part<Spinner>("importSpinner")->isSpinning());
+        QVERIFY(row("B/Many/0").isValid() && row("B/in/Many").isValid() && !row("B/in/Many/0").isValid());
+    }
+
+    void namesAsTheyAreTyped()
+    {
+        SheetAnswerer answers({"OK", "OK"});
+        const auto rename = [&](const QString &path, const QString &typed) {
+            outline()->model()->setData(row(path), typed, Qt::EditRole);
+            QCoreApplication::processEvents();
+        };
+        rename("A", " :/ ");
+        QTRY_COMPARE(answers.seen, QStringList("Invalid filename|You must enter a filename without invalid characters."));
+        rename("A", "B");
+        QTRY_COMPARE(answers.seen.size(), 2);
+        QVERIFY(answers.seen[1].startsWith("Item already exists|"));
+        rename("A", "a");
+        QTRY_VERIFY(row("a/x.txt").isValid()); // letter case alone, and all below follows
+        QVERIFY(targetExists(files("a/x.txt")) && !targetExists(files("A")));
+        const QString strange = QString::fromUtf8("\u202Eright to left \u05D0\nline");
+        rename("a", strange);
+        QTRY_VERIFY(row(strange + "/x.txt").isValid());
+        // Edited by another program between the click and the action.
+        QVERIFY(platform::removeTree(files("B")).ok());
+        SheetAnswerer gone({"OK"});
+        rename("B", "C");
+        QTRY_COMPARE(gone.seen.size(), 1);
+    }
+
+    void comesFromElsewhere()
+    {
+        writeFile(m_work->filePath("in/Doc.TZT/Files/d"), "d");
+        QVERIFY(!m_delegate->openFile(m_work->filePath("in")));
+        m_delegate->toolbarNewProjectAction();
+        QVERIFY(rename(m_work->filePath("in/Doc.TZT").toUtf8(), m_work->filePath("in/Doc.tzt").toUtf8()) == 0);
+        QVERIFY(m_delegate->openFile(m_work->filePath("in/Doc.tzt/")));
+        QTRY_COMPARE(list().selectedTemplate(), QString("Doc"));
+        QCOMPARE(window().shownPane(), MainWindow::Pane::Templates);
+        QTRY_VERIFY(row("d").isValid());
+        // The drive with the library is gone: the pane says what the disk says.
+        QVERIFY(::rename(m_work->filePath("Library").toUtf8(), m_work->filePath("Unplugged").toUtf8()) == 0);
+        editor().populateTemplateStructure();
+        QVERIFY(editor().dataArray().empty());
+        SheetAnswerer answers({"Restore"});
+        m_delegate->restoreDefaultTemplates();
+        QVERIFY(list().rowCount() > 3);
+    }
+
+    /// The first version's template, moved in once.
+    void theFirstVersionsTemplate()
+    {
+        m_delegate.reset();
+        const QString old = qEnvironmentVariable("HOME") + "/Library/Application Support/Tessaro/Template";
+        writeFile(old + "/Sub/x", "x");
+        writeFile(old + "/y", "y");
+        writeFile(old + "/.hidden", {});
+        open();
+        const QString moved = VTDataController::filesFolder("Tessaro 1.0 Template");
+        QVERIFY(targetExists(moved + "/Sub/x") && targetExists(moved + "/y") && !targetExists(moved + "/.hidden"));
+        QVERIFY(targetExists(old + "/.hidden")); // not empty: left where it is
+        writeFile(old + "/z", "z");
+        m_delegate.reset();
+        open();
+        QVERIFY(targetExists(old + "/z") && !targetExists(moved + "/z"));
+        QVERIFY(platform::removeTree(platform::parentPath(old)).ok());
+    }
+};
+
+TESSARO_TEST_MAIN(QApplication, TestTemplatePane)
+#include "test_template_pane.moc"

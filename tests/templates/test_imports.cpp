@@ -1,0 +1,180 @@
+// Imports into a template, and changes to the library: nothing is lost on the way, whatever is answered.
+#include "platform/Desktop.h"
+#include "platform/FileSystem.h"
+#include "platform/NativePath.h"
+#include "support/AlertPresenter.h"
+#include "support/Settings.h"
+#include "support/TemporaryHome.h"
+#include "support/VTAlert.h"
+#include "support/VTFileManager.h"
+#include "support/VTLog.h"
+#include "templates/ImportJobs.h"
+#include "templates/TemplateLibrary.h"
+#include "templates/VTDataController.h"
+
+#include <QCoreApplication>
+#include <QTest>
+#include <unistd.h>
+
+using library::Outcome;
+using platform::joined;
+using platform::targetExists;
+
+namespace {
+
+/// Answers what it is told to, in turn; the last answer stays.
+class Answers : public AlertPresenter
+{
+public:
+    QList<int> answers;
+    QStringList asked;
+    void present(const Sheet &sheet, std::function<void(int)> answer) override
+    {
+        asked << sheet.messageText;
+        const bool isQuestion = !sheet.alternateButton.isNull();
+        answer(!isQuestion || answers.isEmpty() ? 1 : answers.size() > 1 ? answers.takeFirst() : answers.first());
+    }
+    void orderOut(const VTAlert *) override {}
+};
+
+const ImportHost nobody{[] {}, [](const QString &) {}, [] {}};
+
+} // namespace
+
+class TestImports : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        static_cast<void>(m_home.file("Library/Logs/x"));
+        VTLog::createNewLog();
+    }
+    void init()
+    {
+        for (const char *folder : {"in", "Templates", ".local/share/Trash"})
+            QVERIFY(platform::removeTree(joined(m_home.path(), folder)).ok());
+        settings::standard().setValue(settings::templateLocation, joined(m_home.path(), "Templates"));
+        QVERIFY(platform::makeFolders(m_files).ok() && platform::makeFolders(m_in).ok());
+        m_answers = std::make_unique<Answers>();
+        VTAlert::setPresenter(m_answers.get());
+    }
+    void cleanup() { VTAlert::setPresenter(nullptr); }
+
+    void asksBeforeItOverwrites()
+    {
+        for (const char *name : {"a", "b", "c"})
+            writeFile(joined(m_in, name), "new");
+        const QStringList sources{joined(m_in, "a"), joined(m_in, "b"), joined(m_in, "c")};
+        const auto contents = [&] { return readFile(m_files + "/a") + readFile(m_files + "/b") + readFile(m_files + "/c"); };
+        const auto run = [&](QList<int> answers) {
+            for (const char *name : {"a", "b"})
+                writeFile(joined(m_files, name), "old");
+            QVERIFY(platform::removeTree(m_files + "/c").ok());
+            m_answers->answers = std::move(answers);
+            m_answers->asked.clear();
+            static_cast<void>(importjobs::copyFiles({sources, m_files}, nobody));
+        };
+        run({-1, 1});
+        QCOMPARE(contents(), QByteArray("oldnewnew"));
+        QCOMPARE(m_answers->asked, QStringList({"a already exists in this location. Are you sure you wish to overwrite it?",
+                                                "b already exists in this location. Are you sure you wish to overwrite it?"}));
+        run({0}); // all
+        QCOMPARE(contents(), QByteArray("newnewnew"));
+        QCOMPARE(m_answers->asked.size(), 1);
+    }
+
+    /// Drops that would delete what they are to copy.
+    void neverDestroysItsSource()
+    {
+        writeFile(m_files + "/A/A/x", "deep");
+        writeFile(m_files + "/kept", "kept");
+        QCOMPARE(symlink("Files", platform::toNative(joined(platform::parentPath(m_files), "Alias")).constData()), 0);
+        const QString alias = joined(platform::parentPath(m_files), "Alias");
+        QVERIFY(importjobs::copyFiles({{m_files + "/kept", alias + "/kept"}, m_files}, nobody)); // onto itself
+        QVERIFY(!importjobs::copyFiles({{m_files + "/A/A"}, m_files}, nobody)); // would replace the folder it lies in
+        QVERIFY(!importjobs::copyFiles({{joined(m_home.path(), "Templates")}, m_files}, nobody)); // holds the destination
+        writeFile(m_files + "/gone", "still here");
+        QVERIFY(!importjobs::copyFiles({{joined(m_in, "gone")}, m_files}, nobody)); // vanished meanwhile
+        QCOMPARE(m_answers->asked.filter("overwrite"), QStringList());
+        QCOMPARE(m_answers->asked.size(), 3);
+        QCOMPARE(readFile(m_files + "/kept") + readFile(m_files + "/A/A/x") + readFile(m_files + "/gone"),
+                 QByteArray("keptdeepstill here"));
+        QVERIFY(!targetExists(m_files + "/Templates"));
+    }
+
+    void takesOnlyTheFolders()
+    {
+        for (const char *name : {"A/B/C/x", "A/D/y", "A/Show.app/Contents/x", "A/.hidden/z", "Empty/file"})
+            writeFile(joined(m_in, name), "x");
+        QCOMPARE(symlink("..", platform::toNative(m_in + "/A/D/up").constData()), 0);
+        VTFileManager::setFinderColorIndex(6, m_in + "/A/B");
+        VTFileManager::setFinderColorIndex(10, m_in);
+        QCOMPARE(importjobs::structurePaths({m_in + "/A", m_in + "/Empty"}),
+                 QStringList({"/A/.hidden", "/A/B/C", "/A/D", m_in + "/Empty"}));
+        QVERIFY(importjobs::createFolderStructure({{m_in + "/A"}, m_files}, nobody));
+        QVERIFY(targetExists(m_files + "/A/B/C") && targetExists(m_files + "/A/D"));
+        QVERIFY(!targetExists(m_files + "/A/B/C/x") && !targetExists(m_files + "/A/Show.app"));
+        QCOMPARE(VTFileManager::finderColorIndexForPath(m_files + "/A/B"), 6);
+        QCOMPARE(VTFileManager::finderColorIndexForPath(m_files), 10); // the chosen folder's parent, as it must stay
+    }
+
+    void theLibrary()
+    {
+        auto &store = VTDataController::sharedController();
+        const auto names = [&] {
+            store.populateTemplates();
+            return store.templates();
+        };
+        QCOMPARE(library::createTemplate("Untitled").name, QString("Untitled"));
+        QCOMPARE(library::createTemplate("Untitled").name, QString("Untitled 2"));
+        QCOMPARE(library::duplicateTemplate("Film").name, QString("Film Duplicate"));
+        QCOMPARE(library::duplicateTemplate("Film").name, QString("Film Duplicate 2"));
+        settings::standard().setValue(settings::defaultTemplate, "Film");
+        QCOMPARE(library::renameTemplate("Film", "Untitled").outcome, Outcome::Declined);
+        QCOMPARE(library::renameTemplate("Film", " :/ ").outcome, Outcome::Declined);
+        QCOMPARE(library::renameTemplate("Film", "Film").outcome, Outcome::Unchanged);
+        QCOMPARE(library::renameTemplate("Film", QString(300, 'n')).outcome, Outcome::Failed);
+        QVERIFY(library::renameTemplate("Film", "film").isDone());
+        QVERIFY(library::isDefaultTemplate("film"));
+        // On this file system the other letter case may be another template: it is never overwritten.
+        writeFile(VTDataController::filesFolder("Film") + "/mine", "mine");
+        QVERIFY(!library::renameTemplate("film", "Film").isDone());
+        QCOMPARE(readFile(VTDataController::filesFolder("Film") + "/mine"), QByteArray("mine"));
+        QVERIFY(names().contains("film"));
+
+        m_answers->answers = {0};
+        QCOMPARE(library::removeTemplate("film").outcome, Outcome::Declined);
+        m_answers->answers = {1};
+        QVERIFY(library::removeTemplate("film").isDone());
+        QVERIFY(!names().contains("film") && targetExists(joined(m_home.path(), ".local/share/Trash/files/film.tzt")));
+        QCOMPARE(settings::standard().string(settings::defaultTemplate), QString("film")); // the mark stays
+    }
+
+    void bundlesComeIn()
+    {
+        writeFile(m_in + "/Film.tzt/Files/new", "new");
+        writeFile(m_files + "/old", "old");
+        QVERIFY(library::addTemplate(m_in + "/Film.tzt/").isDone());
+        QVERIFY(targetExists(m_files + "/new") && !targetExists(m_files + "/old"));
+        QVERIFY(targetExists(joined(m_home.path(), ".local/share/Trash/files/Film.tzt/Files/old")));
+        QCOMPARE(library::addTemplate(VTDataController::bundlePath("Film")).outcome, Outcome::Unchanged);
+        // By another name, or no folder at all: what stands there stays.
+        QCOMPARE(symlink("Templates", platform::toNative(joined(m_home.path(), "Alias")).constData()), 0);
+        QCOMPARE(library::addTemplate(joined(m_home.path(), "Alias/Film.tzt")).outcome, Outcome::Unchanged);
+        QVERIFY(platform::removeTree(m_in + "/Film.tzt").ok());
+        writeFile(m_in + "/Film.tzt", "a plain file");
+        QCOMPARE(library::addTemplate(m_in + "/Film.tzt").outcome, Outcome::Failed);
+        QVERIFY(targetExists(m_files + "/new"));
+    }
+
+private:
+    const TemporaryHome m_home;
+    const QString m_files = joined(m_home.path(), "Templates/Film.tzt/Files");
+    const QString m_in = joined(m_home.path(), "in");
+    std::unique_ptr<Answers> m_answers;
+};
+
+TESSARO_TEST_MAIN(QCoreApplication, TestImports)
+#include "test_imports.moc"
