@@ -51,7 +51,7 @@ QAction *addTo(QWidget &widget, const QString &text, const QList<QKeySequence> &
 {
     auto *action = new QAction(text, &widget);
     action->setShortcuts(keys);
-    action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    action->setShortcutContext(Qt::WidgetShortcut); // not while a name is typed, whose editor is a child of the view
     widget.addAction(action);
     return action;
 }
@@ -187,7 +187,7 @@ void TemplatePane::buildLabels()
         const QString name = tag == 0 ? tr("No label") : tr("Label %1").arg(VTFileManager::labelName(tag * 2));
         auto *action = new QAction(name, this);
         action->setShortcut(Qt::CTRL | Qt::ALT | static_cast<Qt::Key>(Qt::Key_0 + tag));
-        action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+        action->setShortcutContext(Qt::WidgetShortcut);
         m_ui->outlineView->addAction(action);
         connect(action, &QAction::triggered, &m_outline, [this, tag] { m_outline.colorCodeFiles(tag); });
         m_labels.append(action);

@@ -4,6 +4,7 @@
 #include "platform/Desktop.h"
 #include "platform/FileSystem.h"
 #include "platform/NativePath.h"
+#include "support/HeldFile.h"
 #include "support/Records.h"
 #include "support/Settings.h"
 #include "support/SheetAnswerer.h"
@@ -264,9 +265,12 @@ private Q_SLOTS:
         QCOMPARE(readFile(files("A/x.txt")), "new x");
         QVERIFY(targetExists(m_work->filePath("in/x.txt"))); // copied, not moved
         // Two imports at once into one folder, onto the root; the spinner turns until both are through.
-        editor().copyFilesOnThread({{m_work->filePath("in/Many")}, files("B")});
+        const HeldFile held(m_work->filePath("held"));
+        editor().copyFilesOnThread({{m_work->filePath("in/Many"), m_work->filePath("held")}, files("B")});
         editor().createFolderStructureOnThread({{m_work->filePath("in")}, files("B")});
-        QTRY_VERIFY(part<Spinner>("importSpinner")->isSpinning());
+        QTRY_VERIFY(row("B/in/Many").isValid());
+        QVERIFY(part<Spinner>("importSpinner")->isSpinning());
+        held.letGo();
         editor().waitForImports();
         QVERIFY(!part<Spinner>("importSpinner")->isSpinning());
         QVERIFY(row("B/Many/0").isValid() && row("B/in/Many").isValid() && !row("B/in/Many/0").isValid());
