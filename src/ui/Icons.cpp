@@ -83,8 +83,10 @@ QIcon named(const char *name, Tone tone)
     static QHash<QString, QIcon> made;
     const QString text = QString::fromLatin1(name);
     QIcon &icon = made[text + (tone == Tone::Secondary ? u'~' : u' ')];
-    if (icon.isNull())
+    if (icon.isNull()) {
         icon = QIcon(new PaletteIconEngine(text, tone));
+        icon.setIsMask(true); // may be drawn in any colour
+    }
     return icon;
 }
 

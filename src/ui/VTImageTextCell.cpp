@@ -32,6 +32,28 @@ QColor textColor(const QStyleOptionViewItem &option, const QModelIndex &index)
     return option.palette.color(group, isSelected ? QPalette::HighlightedText : QPalette::Text);
 }
 
+/// An icon of the program's own takes the text's colour on a label, which is the same in every palette.
+void drawIcon(QPainter &painter, const QRect &place, const QStyleOptionViewItem &option, const QModelIndex &index)
+{
+    const auto icon = index.data(Qt::DecorationRole).value<QIcon>();
+    const bool isSelected = option.state.testFlag(QStyle::State_Selected);
+    const auto mode = !option.state.testFlag(QStyle::State_Enabled) ? QIcon::Disabled
+                      : isSelected                                  ? QIcon::Selected
+                                                                    : QIcon::Normal;
+    if (isSelected || !icon.isMask() || !index.data(CellRole::LabelColor).isValid())
+        return icon.paint(&painter, place, Qt::AlignCenter, mode);
+    const qreal ratio = painter.device()->devicePixelRatioF();
+    QPixmap pixmap(place.size() * ratio);
+    pixmap.setDevicePixelRatio(ratio);
+    pixmap.fill(Qt::transparent);
+    QPainter tinting(&pixmap);
+    icon.paint(&tinting, QRect(QPoint(), place.size()), Qt::AlignCenter, mode);
+    tinting.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    tinting.fillRect(QRect(QPoint(), place.size()), textOnLabel);
+    tinting.end();
+    painter.drawPixmap(place, pixmap);
+}
+
 void drawSubtitle(QPainter &painter, const QRect &frame, const QStyleOptionViewItem &option, const QModelIndex &index)
 {
     const QString subtitle = index.data(CellRole::Subtitle).toString();
@@ -98,11 +120,7 @@ void VTImageTextCell::paint(QPainter *painter, const QStyleOptionViewItem &optio
     painter->save();
     if (!image.isEmpty()) {
         const int y = frame.y() + static_cast<int>(std::ceil((frame.height() - image.height()) * 0.5));
-        const auto mode = !option.state.testFlag(QStyle::State_Enabled)   ? QIcon::Disabled
-                          : option.state.testFlag(QStyle::State_Selected) ? QIcon::Selected
-                                                                          : QIcon::Normal;
-        index.data(Qt::DecorationRole).value<QIcon>().paint(painter, {QPoint(frame.x() + gap, y), image}, Qt::AlignCenter,
-                                                            mode);
+        drawIcon(*painter, {QPoint(frame.x() + gap, y), image}, option, index);
     }
     frame = textFrame(frame, image);
     painter->setFont(row.font);

@@ -50,7 +50,9 @@ void VTOutlineView::paintEvent(QPaintEvent *event)
     if (m_placeholder.isEmpty() || !model() || model()->rowCount() > 0)
         return;
     QPainter painter(viewport());
-    painter.setPen(palette().color(QPalette::PlaceholderText));
+    QColor faint = palette().color(QPalette::Text); // not every palette's own placeholder colour can be read
+    faint.setAlphaF(0.6F);
+    painter.setPen(faint);
     painter.drawText(viewport()->rect().marginsRemoved(QMargins() + placeholderMargin),
                      Qt::AlignCenter | Qt::TextWordWrap, m_placeholder);
 }
