@@ -76,6 +76,41 @@ private Q_SLOTS:
         QVERIFY(platform::makeFolders(target()).ok());
     }
 
+    void templates()
+    {
+        const QString library = m_home->filePath("Library/Application Support/Vantrel/Tessaro/Templates/");
+        QCOMPARE(run({"template", "new", "Film"}).output, library.toUtf8() + "Film.tzt\n");
+        QCOMPARE(run({"template", "new", "Film"}).status, 3);
+        QCOMPARE(run({"template", "new", "a/b"}).status, 2);
+        writeFile(m_home->filePath("from/A/B/x"), "x");
+        QCOMPARE(run({"template", "structure", "Film", "--from", "from"}).status, 0);
+        QCOMPARE(run({"template", "show", "Film"}).output,
+                 QByteArray("Film\n\u2514\u2500\u2500 from/\n    \u2514\u2500\u2500 A/\n        \u2514\u2500\u2500 B/\n"));
+        const auto tree = QJsonDocument::fromJson(run({"template", "show", "Film", "--json"}).output).object();
+        QCOMPARE(tree["items"].toArray()[0].toObject()["name"].toString(), "from");
+        QCOMPARE(run({"template", "default", "Film"}).status, 0);
+        QCOMPARE(run({"template", "rename", "Film", "Feature"}).status, 0);
+        QCOMPARE(run({"template", "default"}).output, QByteArray("Feature\n"));
+        QCOMPARE(run({"template", "duplicate", "Feature"}).status, 0);
+        QCOMPARE(run({"template", "remove", "Feature"}).status, 3); // nobody said yes
+        QVERIFY(platform::targetExists(library + "Feature.tzt"));
+        QCOMPARE(run({"template", "remove", "Feature", "--yes"}).status, 0);
+        QVERIFY(!platform::targetExists(library + "Feature.tzt"));
+        writeFile(m_home->filePath("Two.tzt/Files/x"), "x");
+        const Outcome imported = run({"template", "import", "Two.tzt", "none.tzt"});
+        QCOMPARE(imported.status, 1);
+        QVERIFY(imported.output.endsWith("Two.tzt\n") && imported.errors.contains("none.tzt is not a template"));
+        QCOMPARE(run({"template", "restore"}).status, 3);
+        QCOMPARE(run({"template", "remove"}).status, 2);
+        QCOMPARE(run({"clear-history"}).status, 0);
+        // Where an administrator has to agree and nobody can be asked: not done, and said so.
+        setSettings({{"requireAdminPasswordForEditing", 1}});
+        if (getuid() != 0) {
+            QCOMPARE(run({"template", "new", "Guarded"}).status, 3);
+            QCOMPARE(run({"template", "rename", "Two", "Too"}).status, 0); // not guarded in the window either
+        }
+    }
+
     void aFirstProject()
     {
         const Outcome made = createIn({"--set", "Client=Acme & Söhne", "--set", "Project title=Größe 🎬"});

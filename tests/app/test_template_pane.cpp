@@ -19,6 +19,7 @@
 #include "ui/VTTableView.h"
 
 #include <QLineEdit>
+#include <QProcess>
 #include <QMimeData>
 #include <QTest>
 #include <QUrl>
@@ -318,6 +319,28 @@ private Q_SLOTS:
         SheetAnswerer answers({"Restore"});
         m_delegate->restoreDefaultTemplates();
         QVERIFY(list().rowCount() > 3);
+    }
+
+    /// A second start hands its file to the first and ends; the first takes it in.
+    void intoTheRunningProgram()
+    {
+        m_delegate.reset();
+        const QString program = QCoreApplication::applicationDirPath() + "/Tessaro";
+        QProcess first;
+        first.start(program, QStringList{});
+        QVERIFY(first.waitForStarted());
+        QTRY_VERIFY_WITH_TIMEOUT(readFile(qEnvironmentVariable("HOME") + "/Library/Logs/Vantrel/Tessaro.1.log")
+                                     .contains("Showing project pane"), 20'000);
+        writeFile(m_work->filePath("in/N\u00FCll #1.tzt/Files/d"), "d");
+        QProcess second;
+        second.setWorkingDirectory(m_work->filePath("in"));
+        second.start(program, {"N\u00FCll #1.tzt"});
+        QVERIFY(second.waitForFinished(20'000));
+        QCOMPARE(second.exitCode(), 0);
+        QTRY_COMPARE_WITH_TIMEOUT(readFile(m_work->filePath("Library/N\u00FCll #1.tzt/Files/d")), "d", 20'000);
+        QCOMPARE(first.state(), QProcess::Running);
+        first.terminate();
+        QVERIFY(first.waitForFinished(20'000));
     }
 
     /// The first version's template, moved in once.
