@@ -4,6 +4,7 @@
 #include "platform/Desktop.h"
 #include "platform/FileSystem.h"
 #include "platform/NativePath.h"
+#include "platform/SingleInstance.h"
 #include "support/HeldFile.h"
 #include "support/Records.h"
 #include "support/Settings.h"
@@ -329,8 +330,7 @@ private Q_SLOTS:
         QProcess first;
         first.start(program, QStringList{});
         QVERIFY(first.waitForStarted());
-        QTRY_VERIFY_WITH_TIMEOUT(readFile(qEnvironmentVariable("HOME") + "/Library/Logs/Vantrel/Tessaro.1.log")
-                                     .contains("Showing project pane"), 20'000);
+        QTRY_VERIFY_WITH_TIMEOUT(platform::SingleInstance::handOver({}), 20'000);
         writeFile(m_work->filePath("in/N\u00FCll #1.tzt/Files/d"), "d");
         QProcess second;
         second.setWorkingDirectory(m_work->filePath("in"));
