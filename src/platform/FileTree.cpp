@@ -68,6 +68,8 @@ private:
             UniqueDescriptor opened = openFolder(parent, name);
             if (!opened.isOpen() && errno == EACCES && m_closed == Closed::IsOpened)
                 opened = openClosedFolder(parent, name);
+            if (opened.isOpen() && m_closed == Closed::IsOpened)
+                fchmod(opened.get(), 0700); // one that can be read may still refuse to let go of what is in it
             if (!opened.isOpen() && errno != ENOENT)
                 return fail(errno, below);
             if (opened.isOpen() && !removeBelow(opened.get(), below))

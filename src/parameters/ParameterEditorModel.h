@@ -1,0 +1,54 @@
+#pragma once
+
+#include "parameters/ParameterList.h"
+
+#include <QAbstractTableModel>
+
+/**
+ * The table in which the list of parameters itself is edited. It keeps no copy: every read goes to the stored list, every
+ * change is stored at once, and the project pane follows by the two notifications. Main thread only.
+ */
+class ParameterEditorModel : public QAbstractTableModel
+{
+    Q_OBJECT
+
+public:
+    /** The type under which dragged rows travel. */
+    inline static const QString VTPboardType = QStringLiteral("application/x-tessaro-parameter-rows");
+
+    using QAbstractTableModel::QAbstractTableModel;
+
+    [[nodiscard]] int rowCount(const QModelIndex &parent = {}) const override;
+    [[nodiscard]] int columnCount(const QModelIndex &parent = {}) const override;
+    [[nodiscard]] QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
+    [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+    bool setData(const QModelIndex &index, const QVariant &value, int role = Qt::EditRole) override;
+    [[nodiscard]] Qt::ItemFlags flags(const QModelIndex &index) const override;
+    [[nodiscard]] QStringList mimeTypes() const override;
+    [[nodiscard]] QMimeData *mimeData(const QModelIndexList &indexes) const override;
+    [[nodiscard]] Qt::DropActions supportedDropActions() const override;
+    [[nodiscard]] bool canDropMimeData(const QMimeData *data, Qt::DropAction action, int row, int column,
+                                       const QModelIndex &parent) const override;
+    bool dropMimeData(const QMimeData *data, Qt::DropAction action, int row, int column,
+                      const QModelIndex &parent) override;
+
+    /** Returns the new row. */
+    int addNewFilenameParam();
+    void remove(const QList<int> &rows);
+    /** The shipped list applies again. */
+    void restoreDefaultParams();
+    /** Shows the stored list anew: someone else may have changed it. */
+    void reload();
+
+    /** Tells the project pane that the list, or what its values depend on, has changed. */
+    static void notify();
+
+Q_SIGNALS:
+    /** The dragged rows have arrived. */
+    void rowsDropped(const QList<int> &rows);
+    /** After every change of the list. */
+    void listChanged();
+
+private:
+    void store(const FilenameParameters &list);
+};

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "parameters/FilenameParameter.h"
+
+#include <optional>
+
+/** The list of parameters as it is edited: what the editor shows and what its changes make of the list. Pure. */
+namespace editor {
+
+/** The record's key that a column shows. */
+enum class Column { Title, Kind, Default, Folder, History, Required, Locked };
+inline constexpr int columnCount = 7;
+[[nodiscard]] QString keyOf(Column column);
+
+/** The kinds in the order of their numbers; the second plain text, which is the same as the first, is not offered. */
+[[nodiscard]] QStringList kindNames();
+[[nodiscard]] QString nameOf(FilenameParameter::Kind kind);
+[[nodiscard]] std::optional<FilenameParameter::Kind> kindNamed(const QString &name);
+
+/** As shown: the first parameter always begins a folder, what the program fills in says "(auto)", a choice list keeps no
+    history. */
+[[nodiscard]] QVariant shownValue(const FilenameParameters &list, int row, Column column);
+[[nodiscard]] bool isEditable(const FilenameParameters &list, int row, Column column);
+
+[[nodiscard]] FilenameParameters withNewParameter(FilenameParameters list, const QString &title);
+[[nodiscard]] FilenameParameters withEntry(FilenameParameters list, int row, const QString &key, const QVariant &value);
+[[nodiscard]] FilenameParameters without(const FilenameParameters &list, const QList<int> &rows);
+
+struct Moved
+{
+    FilenameParameters list;
+    QList<int> selection; ///< where the moved ones are now
+};
+/**
+ * The rows dropped above a row of the list (its size: at the end). Several that are dropped together arrive in reverse
+ * order, and a row dropped just above itself goes to the end; both must stay. Nothing when no row is given.
+ */
+[[nodiscard]] std::optional<Moved> moved(const FilenameParameters &list, QList<int> rows, int dropRow);
+
+/** The date formats that are offered, in their order. */
+[[nodiscard]] QStringList dateFormats();
+
+/** One sentence when a list read from elsewhere cannot be one; null when it can. */
+[[nodiscard]] QString problemOf(const QVariant &list);
+
+} // namespace editor
