@@ -60,6 +60,7 @@ int runWindow(int &argc, char **argv, const QStringList &files)
                              &TessaroAppDelegate::applicationDidFinishLaunching);
         using platform::SingleInstance;
         QObject::connect(&instance, &SingleInstance::activated, &delegate, &TessaroAppDelegate::bringToFront);
+        QObject::connect(&instance, &SingleInstance::actionRequested, &delegate, &TessaroAppDelegate::performCommand);
         QObject::connect(&instance, &SingleInstance::filesOpened, &delegate, &TessaroAppDelegate::openFiles);
         if (!files.isEmpty())
             QObject::connect(delegate.mainWindow(), &MainWindow::firstPainted, &delegate,

@@ -1,6 +1,7 @@
 #include "app/CommandLine.h"
 
 #include "app/CreateCommand.h"
+#include "app/SettingsCommand.h"
 #include "app/TemplateCommand.h"
 #include "app/TerminalPresenter.h"
 #include "parameters/VTProjectTableController.h"
@@ -49,7 +50,9 @@ private:
     bool readOption()
     {
         QString option = m_words[m_at];
-        if (m_request.verb == Verb::Template && (m_onlyArguments || !option.startsWith(u'-'))) {
+        const bool takesWords = m_request.verb == Verb::Template || m_request.verb == Verb::Settings ||
+                                m_request.verb == Verb::Parameters;
+        if (takesWords && (m_request.withDashes || !option.startsWith(u'-') || isValue())) {
             m_request.arguments.append(option);
             return true;
         }
@@ -60,6 +63,10 @@ private:
         }
         if (option == u"--json")
             return takeSwitch(m_request.json);
+        if (takesWords && option == u"--")
+            return takeSwitch(m_request.withDashes);
+        if (takesWords && option == u"--yes")
+            return takeSwitch(m_request.yes);
         if (m_request.verb == Verb::Template)
             return readTemplateOption(option);
         if (m_request.verb != Verb::Create)
@@ -77,12 +84,15 @@ private:
         return fail(text("create does not know “%1”.").arg(option));
     }
 
+    /// `settings set separatorChar -`: a value may begin with a dash.
+    [[nodiscard]] bool isValue() const
+    {
+        return m_request.verb == Verb::Settings && m_request.arguments.size() == 2 &&
+               m_request.arguments.constFirst() == u"set";
+    }
+
     bool readTemplateOption(const QString &option)
     {
-        if (option == u"--")
-            return takeSwitch(m_onlyArguments);
-        if (option == u"--yes")
-            return takeSwitch(m_request.yes);
         if (option == u"--unset")
             return takeSwitch(m_request.unset);
         if (option == u"--from")
@@ -129,7 +139,6 @@ private:
     QString &m_problem;
     qsizetype m_at = 0;
     QString m_inline;
-    bool m_onlyArguments = false; ///< after "--": a name may begin with a dash
 };
 
 std::optional<Verb> verbOf(const QString &word)
@@ -138,6 +147,7 @@ std::optional<Verb> verbOf(const QString &word)
         {"create", Verb::Create},   {"templates", Verb::Templates}, {"parameters", Verb::Parameters},
         {"--help", Verb::Help},     {"-h", Verb::Help},             {"help", Verb::Help},
         {"--version", Verb::Version}, {"template", Verb::Template}, {"clear-history", Verb::ClearHistory},
+        {"settings", Verb::Settings},
     };
     const auto verb = verbs.constFind(word);
     return verb == verbs.cend() ? std::nullopt : std::optional(*verb);
@@ -243,6 +253,8 @@ std::optional<CommandRequest> readCommandLine(const QStringList &words, QString 
         return std::nullopt;
     if (request.verb == Verb::Template)
         problem = TemplateCommand::problemOf(request);
+    else if (request.verb == Verb::Settings || request.verb == Verb::Parameters)
+        problem = SettingsCommand::problemOf(request);
     return problem.isNull() ? std::optional(request) : std::nullopt;
 }
 
@@ -278,6 +290,17 @@ QString helpText()
                 "  Tessaro FILE.tzt          takes the template in and shows it\n"
                 "  Tessaro parameters        title, kind and value of each parameter; a / marks those that begin a\n"
                 "      --json                folder level\n"
+                "  Tessaro parameters add TITLE [KIND [DEFAULT]]   kinds: text, counter, date, user, choice\n"
+                "  Tessaro parameters set TITLE KEY VALUE          keys: title, kind, default, folder, history,\n"
+                "                                                  required, locked\n"
+                "  Tessaro parameters move TITLE POSITION          counted from 1\n"
+                "  Tessaro parameters remove TITLE [--yes]\n"
+                "  Tessaro parameters export FILE                  as a property list\n"
+                "  Tessaro parameters import FILE [--yes]          replaces the whole list\n"
+                "  Tessaro settings [--json]                       each setting with its value and meaning\n"
+                "  Tessaro settings get KEY\n"
+                "  Tessaro settings set KEY VALUE                  checked before it is stored\n"
+                "  Tessaro settings unset KEY                      the default applies again\n"
                 "  Tessaro --help            this text\n"
                 "  Tessaro --version\n"
                 "\n"
@@ -314,6 +337,8 @@ int runCommand(const CommandRequest &request)
         status = CreateCommand(request, presenter).run();
     else if (request.verb == Verb::Template)
         status = TemplateCommand(request, presenter).run();
+    else if (request.verb == Verb::Settings || !request.arguments.isEmpty())
+        status = SettingsCommand(request).run();
     else if (request.verb == Verb::ClearHistory)
         status = clearHistory();
     else if (request.verb == Verb::Templates)

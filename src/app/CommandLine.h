@@ -6,7 +6,7 @@
 /** What a command line asks for. A plain value. */
 struct CommandRequest
 {
-    enum class Verb { Window, Create, Templates, Template, Parameters, ClearHistory, Help, Version };
+    enum class Verb { Window, Create, Templates, Template, Parameters, Settings, ClearHistory, Help, Version };
 
     Verb verb = Verb::Window;
     QStringList files; ///< for the window
@@ -17,11 +17,12 @@ struct CommandRequest
     QList<std::pair<QString, QString>> values;
     bool overwrite = false;
     bool dryRun = false;
-    // template only
+    // template, settings, parameters
     QStringList arguments; ///< what is to be done, then what with
     QString fromFolder;
     bool yes = false;
     bool unset = false;
+    bool withDashes = false; ///< "--" was there: what follows are plain words
 };
 
 /** Exit status of every command. */

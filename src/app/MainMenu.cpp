@@ -31,6 +31,7 @@ const QList<Menu> &menus()
         {TEXT("&Project"),
          {{TEXT("&Create Project"), "Ctrl+Return", &Delegate::createNewProject, true},
           {nullptr, nullptr, nullptr, false},
+          {TEXT("&Preferences…"), "Ctrl+,", &Delegate::showPreferences, true},
           {TEXT("Clear &History"), "", &Delegate::clearHistory, true},
           {nullptr, nullptr, nullptr, false},
           {TEXT("&Quit"), "Ctrl+Q", &Delegate::quit, true}}},
@@ -72,6 +73,7 @@ QList<QAction *> buildMenus(QMenuBar &menuBar, TessaroAppDelegate &delegate)
                 continue;
             }
             QAction *action = built->addAction(QCoreApplication::translate("MainMenu", item.text));
+            action->setObjectName(QString::fromLatin1(item.text).remove(u'&'));
             action->setShortcut(QKeySequence(QLatin1String(item.shortcut)));
             QObject::connect(action, &QAction::triggered, &delegate, item.slot);
             if (item.waitsForCreation)

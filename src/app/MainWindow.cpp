@@ -151,9 +151,20 @@ void MainWindow::setProcessing(bool processing)
         control->setEnabled(!processing);
     for (QAction *action : std::as_const(m_busyActions))
         action->setEnabled(!processing);
+    if (!processing && m_preferencesOpen)
+        setPreferencesOpen(true);
     m_ui->createButton->setEnabled(!processing && m_ui->projectTemplatePopUp->count() > 0);
     if (!processing && m_focusBefore)
         m_focusBefore->setFocus();
+}
+
+void MainWindow::setPreferencesOpen(bool open)
+{
+    m_preferencesOpen = open;
+    for (QAction *action : std::as_const(m_busyActions)) {
+        if (action->objectName().startsWith(QLatin1String("Preferences")))
+            action->setEnabled(!open);
+    }
 }
 
 void MainWindow::setParametersEmpty(bool empty)

@@ -43,6 +43,8 @@ public:
     /** A line at the bottom that says what was created, with a button that shows it; a null path clears it. */
     void showCreated(const QString &project);
     void setProcessing(bool processing);
+    /** Their menu item is disabled while they are. */
+    void setPreferencesOpen(bool open);
     /** Explains the save panel. */
     [[nodiscard]] QWidget *makeBrowseAccessory(const QString &relativePath);
 
@@ -69,4 +71,5 @@ private:
     QPointer<QWidget> m_focusBefore; ///< what had the focus when the controls were dimmed
     QString m_created;
     bool m_painted = false;
+    bool m_preferencesOpen = false;
 };

@@ -7,6 +7,7 @@
 #include "platform/ApplicationBundle.h"
 #include "platform/Desktop.h"
 #include "platform/MainThread.h"
+#include "preferences/VTPreferenceController.h"
 #include "support/Notifications.h"
 #include "support/Settings.h"
 #include "support/VTAlert.h"
@@ -33,6 +34,7 @@ TessaroAppDelegate::TessaroAppDelegate()
 
 TessaroAppDelegate::~TessaroAppDelegate()
 {
+    delete m_preferences; // it speaks to the window when it goes
     while (m_imports > 0) // a template that is half in the library would look like a whole one
         platform::MainThread::turnLoop(std::chrono::milliseconds(50));
     if (m_tableController) // a value that is being typed when the window closes counts, too

@@ -9,6 +9,7 @@
 
 class MainWindow;
 class VTProjectTableController;
+class VTPreferenceController;
 class VTSavePanel;
 
 /**
@@ -64,6 +65,13 @@ public Q_SLOTS:
     void clearHistory();
     void newTemplate();
 
+    void showPreferences();
+    void enablePrefsMenu();
+    void disablePrefsMenu();
+    /** Carries out a command of the shortcut keys' list by its identifier; one that is not known is logged. */
+    void performCommand(const QString &identifier);
+    void beginNewProject();
+
     void useStandardParameters();
     void installStandardTemplates();
     void showTemplateLibrary();
@@ -100,4 +108,5 @@ private:
     std::unique_ptr<MainWindow> m_window;
     std::unique_ptr<VTProjectTableController> m_tableController;
     QPointer<VTSavePanel> m_savePanel;
+    QPointer<VTPreferenceController> m_preferences;
 };

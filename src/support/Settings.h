@@ -2,7 +2,9 @@
 
 #include "platform/UserDefaults.h"
 
+#include <QList>
 #include <QString>
+#include <optional>
 
 /**
  * The settings of the program: their keys, each with the type it is read as, and the store that holds them. A default is
@@ -28,6 +30,19 @@ inline const QString requireAdminPasswordForPrefs = QStringLiteral("requireAdmin
 inline const QString requireAdminPasswordForEditing = QStringLiteral("requireAdminPasswordForEditing"); // the same
 inline const QString templateListWidth = QStringLiteral("templateListWidth"); // pixels: the list beside the tree
 inline const QString webAddresses = QStringLiteral("webAddresses"); // dictionary: page name to address, see HelpPages
+
+/** A setting that a person may read and change from outside the window. */
+struct Known
+{
+    enum class Type { Text, Path, Switch, Boolean, Separator, DateFormat };
+    QString key;
+    Type type;
+    const char *meaning;      ///< in a few words; to be translated in the context "Settings"
+    bool isProtection;        ///< machine-wide; switching it off needs an administrator
+};
+[[nodiscard]] const QList<Known> &known();
+/** The value as it is stored, from what was typed. Nothing, with one sentence, when it is not one of the type. */
+[[nodiscard]] std::optional<QVariant> valueFromText(const Known &setting, const QString &text, QString &problem);
 
 /** The one store of this process, on com.vantrel.Tessaro.plist in the user's and the machine's preferences folder. */
 [[nodiscard]] platform::UserDefaults &standard();

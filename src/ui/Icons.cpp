@@ -51,9 +51,8 @@ private:
     {
         const QPalette palette = QApplication::palette();
         const auto group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
-        const bool isSelected = mode == QIcon::Selected; // on the highlight both colours are that of its text
-        const QColor text = palette.color(group, isSelected ? QPalette::HighlightedText : QPalette::WindowText);
-        const QColor accent = mode == QIcon::Disabled || isSelected ? text : palette.color(QPalette::Highlight);
+        const QColor text = palette.color(group, QPalette::WindowText);
+        const QColor accent = mode == QIcon::Disabled ? text : palette.color(QPalette::Highlight);
         const QString key = QStringLiteral("tessaro-%1-%2-%3x%4@%5-%6-%7")
                                 .arg(m_name, text.name(), QString::number(size.width()), QString::number(size.height()),
                                      QString::number(ratio), accent.name(), QString::number(static_cast<int>(m_tone)));

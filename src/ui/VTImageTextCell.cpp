@@ -32,15 +32,14 @@ QColor textColor(const QStyleOptionViewItem &option, const QModelIndex &index)
     return option.palette.color(group, isSelected ? QPalette::HighlightedText : QPalette::Text);
 }
 
-/// An icon of the program's own takes the text's colour on a label, which is the same in every palette.
+/// An icon of the program's own takes the text's colour on the highlight, and on a label, which is the same in every
+/// palette.
 void drawIcon(QPainter &painter, const QRect &place, const QStyleOptionViewItem &option, const QModelIndex &index)
 {
     const auto icon = index.data(Qt::DecorationRole).value<QIcon>();
-    const bool isSelected = option.state.testFlag(QStyle::State_Selected);
-    const auto mode = !option.state.testFlag(QStyle::State_Enabled) ? QIcon::Disabled
-                      : isSelected                                  ? QIcon::Selected
-                                                                    : QIcon::Normal;
-    if (isSelected || !icon.isMask() || !index.data(CellRole::LabelColor).isValid())
+    const bool isPlain = !option.state.testFlag(QStyle::State_Selected) && !index.data(CellRole::LabelColor).isValid();
+    const auto mode = option.state.testFlag(QStyle::State_Enabled) ? QIcon::Normal : QIcon::Disabled;
+    if (isPlain || !icon.isMask())
         return icon.paint(&painter, place, Qt::AlignCenter, mode);
     const qreal ratio = painter.device()->devicePixelRatioF();
     QPixmap pixmap(place.size() * ratio);
@@ -49,7 +48,7 @@ void drawIcon(QPainter &painter, const QRect &place, const QStyleOptionViewItem 
     QPainter tinting(&pixmap);
     icon.paint(&tinting, QRect(QPoint(), place.size()), Qt::AlignCenter, mode);
     tinting.setCompositionMode(QPainter::CompositionMode_SourceIn);
-    tinting.fillRect(QRect(QPoint(), place.size()), textOnLabel);
+    tinting.fillRect(QRect(QPoint(), place.size()), textColor(option, index));
     tinting.end();
     painter.drawPixmap(place, pixmap);
 }

@@ -1,0 +1,75 @@
+// The preferences, and commands that come from outside.
+#include "app/TessaroAppDelegate.h"
+
+#include "app/MainWindow.h"
+#include "parameters/VTProjectTableController.h"
+#include "preferences/VTPreferenceController.h"
+#include "support/Settings.h"
+#include "support/VTAuthorization.h"
+#include "support/VTLog.h"
+#include "templates/TemplatePane.h"
+
+#include <QHash>
+
+void TessaroAppDelegate::showPreferences()
+{
+    if (m_preferences) { // a command from outside may come while they are open
+        m_preferences->raise();
+        m_preferences->activateWindow();
+        return;
+    }
+    if (settings::standard().equalsOne(settings::requireAdminPasswordForPrefs)) {
+        auto &authorization = VTAuthorization::sharedController();
+        authorization.authEnd();
+        if (!authorization.authStart())
+            return;
+    }
+    m_tableController->finishEditing();
+    VTLog::appendLog("Showing preferences");
+    m_preferences = new VTPreferenceController(this, m_window.get());
+    connect(m_preferences, &VTPreferenceController::templateLocationChanged, this, [this] {
+        populateTemplatePopUp();
+        if (m_templatesShown)
+            m_window->templatePane().tableController().switchedToView();
+    });
+    m_preferences->setWindowFlag(Qt::Window);
+    m_preferences->show();
+    m_preferences->raise();
+    m_preferences->activateWindow();
+}
+
+void TessaroAppDelegate::enablePrefsMenu()
+{
+    m_window->setPreferencesOpen(false);
+}
+
+void TessaroAppDelegate::disablePrefsMenu()
+{
+    m_window->setPreferencesOpen(true);
+}
+
+void TessaroAppDelegate::performCommand(const QString &identifier)
+{
+    using Delegate = TessaroAppDelegate;
+    static const QHash<QString, void (Delegate::*)()> commands{
+        {"new-project", &Delegate::beginNewProject},          {"create-project", &Delegate::createNewProject},
+        {"show-project-pane", &Delegate::toolbarNewProjectAction}, {"show-template-pane", &Delegate::toolbarTemplateAction},
+        {"new-template", &Delegate::newTemplate},             {"import-template", &Delegate::importTemplate},
+        {"preferences", &Delegate::showPreferences},
+    };
+    const auto command = commands.constFind(identifier);
+    if (command == commands.cend()) {
+        VTLog::appendLog("Unknown command %@", identifier);
+        return;
+    }
+    if (m_creating)
+        return;
+    bringToFront();
+    (this->**command)();
+}
+
+void TessaroAppDelegate::beginNewProject()
+{
+    toolbarNewProjectAction();
+    m_tableController->editFirstItem();
+}

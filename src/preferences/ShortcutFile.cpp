@@ -1,0 +1,88 @@
+#include "preferences/ShortcutFile.h"
+
+#include "platform/PropertyList.h"
+#include "support/VTLocalPaths.h"
+
+#include <QFile>
+#include <QHash>
+#include <QSaveFile>
+
+namespace shortcuts {
+namespace {
+
+const QString watchlist = QStringLiteral("watchlist");
+
+bool belongsTo(const QVariantMap &entry, const Owner &owner)
+{
+    if (entry.value("bundleid").toString() != owner.bundleIdentifier)
+        return false;
+    return owner.commandIdentifier.isNull() ? entry.value("commandparams").toStringList() == owner.parameters
+                                            : entry.value("commandid").toString() == owner.commandIdentifier;
+}
+
+} // namespace
+
+QVariantMap without(QVariantMap file, const Owner &owner)
+{
+    QVariantList list = file.value(watchlist).toList();
+    for (qsizetype i = 0; i < list.size(); ++i) {
+        if (belongsTo(list[i].toMap(), owner)) {
+            list.removeAt(i); // only the first
+            break;
+        }
+    }
+    file.insert(watchlist, list);
+    return file;
+}
+
+QVariantMap withAssignment(QVariantMap file, const Owner &owner, const Shortcut &shortcut)
+{
+    QVariantMap entry{{"bundleid", owner.bundleIdentifier},
+                      {"keycode", qlonglong{shortcut.keyCode}},
+                      {"modifiers", qlonglong{shortcut.modifiers}}};
+    if (!owner.commandIdentifier.isNull())
+        entry.insert("commandid", owner.commandIdentifier);
+    if (!owner.parameters.isEmpty())
+        entry.insert("commandparams", QVariant(owner.parameters).toList());
+    QVariantMap result = without(std::move(file), owner);
+    result.insert(watchlist, result.value(watchlist).toList() + QVariantList{entry});
+    return result;
+}
+
+QHash<QString, Shortcut> assignmentsOf(const QVariantMap &file, const QString &bundleIdentifier)
+{
+    QHash<QString, Shortcut> found;
+    for (const QVariant &value : file.value(watchlist).toList()) {
+        const QVariantMap entry = value.toMap();
+        if (entry.value("bundleid").toString() == bundleIdentifier)
+            found.insert(entry.value("commandid").toString(), {static_cast<quint16>(entry.value("keycode").toUInt()),
+                                                               static_cast<quint16>(entry.value("modifiers").toUInt())});
+    }
+    return found;
+}
+
+QString filePath()
+{
+    return VTLocalPaths::prefsDirectory(VTLocalPaths::Domain::User) + QStringLiteral("/com.vantrel.shortcutkeys.plist");
+}
+
+Contents read()
+{
+    QFile file(filePath());
+    if (!file.exists())
+        return {};
+    const auto value = file.open(QIODevice::ReadOnly) ? platform::readPropertyList(file.readAll()) : std::nullopt;
+    const bool isDictionary = value && value->typeId() == QMetaType::QVariantMap;
+    const QVariantMap dictionary = isDictionary ? value->toMap() : QVariantMap();
+    const bool isShaped = !dictionary.contains(watchlist) || dictionary[watchlist].typeId() == QMetaType::QVariantList;
+    return {true, isDictionary && isShaped ? std::optional(dictionary) : std::nullopt};
+}
+
+bool write(const QVariantMap &file)
+{
+    const QByteArray bytes = platform::writePropertyList(file);
+    QSaveFile saving(filePath());
+    return !bytes.isEmpty() && saving.open(QIODevice::WriteOnly) && saving.write(bytes) == bytes.size() && saving.commit();
+}
+
+} // namespace shortcuts

@@ -1,0 +1,237 @@
+#include "preferences/VTShortcutKeyTableDelegate.h"
+
+#include "platform/ApplicationBundle.h"
+#include "platform/Console.h"
+#include "platform/FileSystem.h"
+#include "platform/FormatString.h"
+#include "platform/KeyboardLayout.h"
+#include "platform/NativePath.h"
+#include "platform/PropertyList.h"
+#include "platform/SessionNotification.h"
+#include "preferences/VTShortcutKeyTableview.h"
+#include "support/VTLocalPaths.h"
+#include "support/VTLog.h"
+#include "support/VTTask.h"
+#include "ui/Icons.h"
+#include "ui/ValueCellDelegate.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QLabel>
+
+using platform::printToConsole;
+
+namespace {
+
+struct KeyName
+{
+    char16_t character;
+    const char *name;
+};
+/// The navigation keys twice, as layouts give them; Return and Enter the wrong way round. Both must stay.
+constexpr KeyName keyNames[]{
+    {0xF700, "Up Arrow"}, {0xF701, "Down Arrow"}, {0xF702, "Left Arrow"}, {0xF703, "Right Arrow"}, {0xF729, "Home"},
+    {0xF72B, "End"},      {0xF72C, "Page Up"},    {0xF72D, "Page Down"},  {0x1E, "Up Arrow"},      {0x1F, "Down Arrow"},
+    {0x1C, "Left Arrow"}, {0x1D, "Right Arrow"},  {0x01, "Home"},         {0x04, "End"},           {0x0B, "Page Up"},
+    {0x0C, "Page Down"},  {0x03, "Return"},       {0x09, "Tab"},          {0x19, "Backtab"},       {0x0D, "Enter"},
+    {0x08, "Backspace"},  {0x7F, "Delete"},       {0x1B, "Escape"},       {0x20, "Space"},
+};
+
+QString ownIdentifier()
+{
+    return platform::ApplicationBundle::main().informationString(QStringLiteral("CFBundleIdentifier"));
+}
+
+QVariantList commandList()
+{
+    QFile file(platform::joined(platform::ApplicationBundle::main().path(), QStringLiteral("Contents/VTKeys.plist")));
+    const auto list = file.open(QIODevice::ReadOnly) ? platform::readPropertyList(file.readAll()) : std::nullopt;
+    return list ? list->toMap().value(QStringLiteral("VTKeys")).toList() : QVariantList();
+}
+
+QString nameOrUnknown(const shortcuts::Shortcut &shortcut)
+{
+    const QString name = VTShortcutKeyTableDelegate::nameForKeyCode(shortcut.keyCode, shortcut.modifiers);
+    return name.isNull() ? VTShortcutKeyTableDelegate::tr("Unknown") : name;
+}
+
+} // namespace
+
+VTShortcutKeyTableDelegate &VTShortcutKeyTableDelegate::sharedController()
+{
+    static auto *shared = new VTShortcutKeyTableDelegate;
+    return *shared;
+}
+
+QString VTShortcutKeyTableDelegate::managerPath()
+{
+    return VTLocalPaths::appSupportDirectory(VTLocalPaths::Domain::Local) +
+           QStringLiteral("/Vantrel/Shared Resources/VTShortcutKeyManager");
+}
+
+void VTShortcutKeyTableDelegate::setViews(VTShortcutKeyTableview *tableView, QLabel *versionAlertText)
+{
+    m_tableView = tableView;
+    const bool hasManager = platform::targetExists(managerPath());
+    versionAlertText->setVisible(!hasManager);
+    tableView->setEnabled(hasManager);
+    tableView->setModel(this);
+    connect(tableView, &VTShortcutKeyTableview::keyPressed, this, &VTShortcutKeyTableDelegate::keyChanged);
+    connect(tableView, &VTShortcutKeyTableview::cleared, this, &VTShortcutKeyTableDelegate::clearShortcutKey);
+    populateKeyData();
+}
+
+void VTShortcutKeyTableDelegate::populateKeyData()
+{
+    beginResetModel();
+    m_rows.clear();
+    const auto assigned = shortcuts::assignmentsOf(shortcuts::read().dictionary.value_or(QVariantMap()), ownIdentifier());
+    for (const QVariant &value : commandList()) {
+        const QVariantMap command = value.toMap();
+        Row row{command.value("id").toString(), command.value("description").toString(), {}};
+        if (row.identifier.isEmpty()) // nothing could ever call it
+            continue;
+        if (const auto shortcut = assigned.constFind(row.identifier); shortcut != assigned.cend())
+            row.keyName = nameOrUnknown(*shortcut);
+        m_rows.append(row);
+    }
+    endResetModel();
+}
+
+QString VTShortcutKeyTableDelegate::nameOfKeyText(const QString &text)
+{
+    for (const KeyName &entry : keyNames) {
+        if (!text.isEmpty() && text.front() == QChar(entry.character))
+            return QCoreApplication::translate("KeyNames", entry.name);
+    }
+    return text;
+}
+
+QString VTShortcutKeyTableDelegate::nameForKeyCode(quint16 keyCode, quint16 modifiers)
+{
+    const platform::KeyText key = platform::textOfKeyCode(keyCode);
+    if (!key.hasLayout)
+        printToConsole("Couldn't find a suitable keyboard layout from which to translate");
+    else if (!key.text)
+        printToConsole(platform::formatString("Couldn't find a translation for the '%d' key code", keyCode));
+    if (!key.text)
+        return {};
+    QString name;
+    for (const auto &[mask, text] : {std::pair{shortcuts::control, "Ctrl+"}, std::pair{shortcuts::shift, "Shift+"},
+                                     std::pair{shortcuts::option, "Alt+"}, std::pair{shortcuts::command, "Cmd+"}}) {
+        if ((modifiers & mask) != 0)
+            name += QLatin1String(text);
+    }
+    const QString keyText = nameOfKeyText(*key.text);
+    return name + (keyText.size() == 1 ? keyText.toUpper() : keyText);
+}
+
+shortcuts::Shortcut VTShortcutKeyTableDelegate::shortcutOf(quint16 keyCode, Qt::KeyboardModifiers modifiers)
+{
+    quint16 mask = 0;
+    for (const auto &[held, bit] :
+         {std::pair{Qt::ShiftModifier, shortcuts::shift}, std::pair{Qt::ControlModifier, shortcuts::control},
+          std::pair{Qt::AltModifier, shortcuts::option}, std::pair{Qt::MetaModifier, shortcuts::command}}) {
+        if (modifiers.testFlag(held))
+            mask |= bit;
+    }
+    return {keyCode, mask != 0 ? mask : static_cast<quint16>(shortcuts::shift | shortcuts::command)};
+}
+
+std::optional<QVariantMap> VTShortcutKeyTableDelegate::readForChange() const
+{
+    const shortcuts::Contents contents = shortcuts::read();
+    if (contents.exists && !contents.dictionary) // other programs' entries may still be saved out of it
+        VTLog::appendLog("The shortcut keys are not changed: %@ cannot be read. Please put it aside and try again.",
+                         shortcuts::filePath());
+    return contents.exists ? contents.dictionary : std::optional(QVariantMap());
+}
+
+bool VTShortcutKeyTableDelegate::store(const QVariantMap &file)
+{
+    if (!shortcuts::write(file)) {
+        VTLog::appendLog("Unable to write the shortcut keys: %@", shortcuts::filePath());
+        return false;
+    }
+    platform::postSessionNotification(QStringLiteral("VTShortcutKeysReload"));
+    return true;
+}
+
+void VTShortcutKeyTableDelegate::setUpManager()
+{
+    if (platform::targetExists(managerPath()))
+        VTTask::runTask(managerPath(), {QStringLiteral("-setup")});
+    else
+        printToConsole("Unable to setup shortcut keys - shortcut key manager doesn't exist. Please reinstall this software.");
+}
+
+bool VTShortcutKeyTableDelegate::setKeyboardShortcut(const QString &commandIdentifier, const QStringList &parameters,
+                                                     const shortcuts::Shortcut &shortcut)
+{
+    const auto file = readForChange();
+    if (!file || !store(shortcuts::withAssignment(*file, {ownIdentifier(), commandIdentifier, parameters}, shortcut)))
+        return false;
+    setUpManager();
+    return true;
+}
+
+void VTShortcutKeyTableDelegate::keyChanged(int row, quint16 keyCode, Qt::KeyboardModifiers modifiers)
+{
+    if (row < 0 || row >= m_rows.size())
+        return;
+    const shortcuts::Shortcut shortcut = shortcutOf(keyCode, modifiers);
+    if (setKeyboardShortcut(m_rows[row].identifier, {}, shortcut))
+        m_rows[row].keyName = nameOrUnknown(shortcut);
+    Q_EMIT dataChanged(index(row, ShortcutColumn), index(row, ShortcutColumn));
+}
+
+void VTShortcutKeyTableDelegate::clearShortcutKey()
+{
+    const auto selected = m_tableView ? m_tableView->firstSelectedRow() : std::nullopt;
+    if (selected && *selected < m_rows.size()) {
+        const bool exists = shortcuts::read().exists;
+        const auto file = exists ? readForChange() : std::nullopt;
+        const bool cleared = file && store(shortcuts::without(*file, {ownIdentifier(), m_rows[*selected].identifier, {}}));
+        if (cleared || !exists)
+            m_rows[*selected].keyName = QString();
+    }
+    if (!m_rows.isEmpty())
+        Q_EMIT dataChanged(index(0, ShortcutColumn), index(static_cast<int>(m_rows.size()) - 1, ShortcutColumn));
+    setUpManager();
+}
+
+int VTShortcutKeyTableDelegate::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
+}
+
+int VTShortcutKeyTableDelegate::columnCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : ColumnCount;
+}
+
+QVariant VTShortcutKeyTableDelegate::data(const QModelIndex &index, int role) const
+{
+    const Row row = m_rows.value(index.row());
+    const bool isShortcut = index.column() == ShortcutColumn;
+    if (role == Qt::DisplayRole)
+        return isShortcut ? row.keyName : row.description;
+    if (role == Qt::DecorationRole && !isShortcut)
+        return icons::application();
+    if (role == Qt::AccessibleTextRole)
+        return isShortcut ? (row.keyName.isNull() ? tr("no shortcut") : row.keyName) : row.description;
+    return {};
+}
+
+QVariant VTShortcutKeyTableDelegate::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
+        return {};
+    return section == ShortcutColumn ? tr("Shortcut") : tr("Command");
+}
+
+Qt::ItemFlags VTShortcutKeyTableDelegate::flags(const QModelIndex &index) const
+{
+    const Qt::ItemFlags flags = QAbstractTableModel::flags(index);
+    return index.column() == ShortcutColumn ? flags | Qt::ItemIsEditable : flags;
+}
