@@ -57,6 +57,7 @@ VTPreferenceController::VTPreferenceController(QObject *delegate, QWidget *paren
 
 VTPreferenceController::~VTPreferenceController()
 {
+    hide(); // takes what is being typed while there is still something to take it to
     tellDelegate("enablePrefsMenu");
 }
 

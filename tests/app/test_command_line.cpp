@@ -111,6 +111,43 @@ private Q_SLOTS:
         }
     }
 
+    void settingsAndParameters()
+    {
+        QCOMPARE(run({"settings", "set", "separatorChar", "-"}).status, 0);
+        QCOMPARE(run({"settings", "get", "separatorChar"}).output, QByteArray("-\n"));
+        for (const QStringList &bad : {QStringList{"separatorChar", "a/b"}, {"autoQuit", "maybe"}, {"dateFormat", "%"},
+                                       {"templateLocation", "relative"}, {"no such key", "1"}})
+            QCOMPARE(run(QStringList{"settings", "set"} + bad).status, 2);
+        QCOMPARE(run({"settings", "unset", "separatorChar"}).status, 0);
+        const auto all = QJsonDocument::fromJson(run({"settings", "--json"}).output).object();
+        QCOMPARE(all["separatorChar"].toString(), "_");
+
+        QCOMPARE(run({"parameters", "add", "Reel", "choice", "A,B"}).status, 0);
+        QCOMPARE(run({"parameters", "move", "Reel", "1"}).status, 0);
+        QCOMPARE(run({"parameters", "set", "Reel", "required", "on"}).status, 0);
+        QCOMPARE(run({"parameters", "set", "Reel", "kind", "no kind"}).status, 2);
+        QCOMPARE(run({"parameters", "move", "Reel", "99"}).status, 2);
+        const auto first = [&] {
+            return QJsonDocument::fromJson(run({"parameters", "--json"}).output).array()[0].toObject();
+        };
+        QCOMPARE(first()["title"].toString(), "Reel");
+        QVERIFY(first()["required"].toBool() && first()["choices"].toArray().size() == 2);
+        QCOMPARE(run({"parameters", "export", "list.plist"}).status, 0);
+        QCOMPARE(run({"parameters", "remove", "Reel"}).status, 3);
+        QCOMPARE(run({"parameters", "remove", "Reel", "--yes"}).status, 0);
+        writeFile(m_home->filePath("bad.plist"), "not one");
+        QCOMPARE(run({"parameters", "import", "bad.plist", "--yes"}).status, 1);
+        QCOMPARE(run({"parameters", "import", "list.plist", "--yes"}).status, 0);
+        QCOMPARE(first()["title"].toString(), "Reel");
+        if (getuid() == 0)
+            return;
+        setSettings({{"requireAdminPasswordForPrefs", 1}}); // as the window's preferences are
+        QCOMPARE(run({"settings", "set", "autoQuit", "on"}).status, 3);
+        QCOMPARE(run({"parameters", "add", "X"}).status, 3);
+        QCOMPARE(run({"settings", "get", "autoQuit"}).status, 0);
+        QCOMPARE(run({"settings", "unset", "requireAdminPasswordForPrefs"}).status, 3);
+    }
+
     void aFirstProject()
     {
         const Outcome made = createIn({"--set", "Client=Acme & Söhne", "--set", "Project title=Größe 🎬"});

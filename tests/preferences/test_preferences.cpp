@@ -1,0 +1,256 @@
+// The preferences in a real window: what is set there is what is stored, and it is in force at once.
+#include "app/MainWindow.h"
+#include "app/TessaroAppDelegate.h"
+#include "parameters/VTProjectTableController.h"
+#include "platform/Desktop.h"
+#include "platform/FileSystem.h"
+#include "platform/NativePath.h"
+#include "platform/PropertyList.h"
+#include "preferences/VTPreferenceController.h"
+#include "support/Records.h"
+#include "support/Settings.h"
+#include "support/SheetAnswerer.h"
+#include "support/TemporaryHome.h"
+#include "support/VTAlert.h"
+#include "support/VTLocalPaths.h"
+#include "templates/VTDataController.h"
+#include "ui/PathControl.h"
+#include "ui/SheetPresenter.h"
+#include "ui/VTTableView.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QStackedWidget>
+#include <QTest>
+#include <QToolButton>
+#include <unistd.h>
+
+using platform::joined;
+using platform::targetExists;
+
+class TestPreferences : public QObject
+{
+    Q_OBJECT
+
+    SheetPresenter m_sheets;
+    std::unique_ptr<QTemporaryDir> m_work;
+    std::unique_ptr<TessaroAppDelegate> m_delegate;
+
+    VTPreferenceController *preferences() const
+    {
+        return m_delegate->mainWindow()->findChild<VTPreferenceController *>();
+    }
+    template <typename Widget> Widget *part(const char *name) const
+    {
+        return preferences()->findChild<Widget *>(QLatin1String(name));
+    }
+    QVariant stored(const QString &key) const
+    {
+        const QString file = VTLocalPaths::prefsDirectory(VTLocalPaths::Domain::User) + "/com.vantrel.Tessaro.plist";
+        return platform::readPropertyList(readFile(file))->toMap().value(key);
+    }
+    void open() const
+    {
+        m_delegate->showPreferences();
+        QVERIFY(QTest::qWaitForWindowActive(preferences()));
+    }
+    void typePath(const char *field, const QString &path) const
+    {
+        auto *line = part<QLineEdit>(field);
+        line->setFocus();
+        line->selectAll();
+        QTest::keyClicks(line, path);
+        QTest::keyClick(line, Qt::Key_Return);
+    }
+    QString library(const QString &path = {}) const { return joined(m_work->filePath("Library"), path); }
+
+private Q_SLOTS:
+    void init()
+    {
+        settings::registerDefaults();
+        VTAlert::setPresenter(&m_sheets);
+        m_work = std::make_unique<QTemporaryDir>();
+        for (const settings::Known &setting : settings::known())
+            settings::standard().removeValue(setting.key);
+        settings::standard().setValue(settings::firstRun, false);
+        settings::standard().setValue(settings::templateLocation, library());
+        settings::standard().setValue(settings::filenameTemplate,
+                                      QVariantList{record({{"title", "Client"}, {"val", "Acme"}}),
+                                                   record({{"title", "Title"}, {"val", "Promo"}})});
+        writeFile(library("A.tzt/Files/x"), "x");
+        m_delegate = std::make_unique<TessaroAppDelegate>();
+        QVERIFY(m_delegate->awakeFromNib());
+        m_delegate->mainWindow()->show();
+    }
+    void cleanup() { m_delegate.reset(); }
+
+    void oneAtATime()
+    {
+        QAction *menu = nullptr;
+        for (QAction *action : m_delegate->mainWindow()->findChildren<QAction *>()) {
+            if (action->objectName().startsWith("Preferences"))
+                menu = action;
+        }
+        QVERIFY(menu && menu->isEnabled());
+        open();
+        QVERIFY(!menu->isEnabled());
+        QCOMPARE(preferences()->toolbarSelectableItemIdentifiers(),
+                 QStringList({"general", "project", "parameters", "hotkeys"}));
+        preferences()->toolbarHotkeys();
+        const QPointer<VTPreferenceController> first = preferences();
+        m_delegate->performCommand("preferences"); // from outside: the same window
+        QCOMPARE(preferences(), first);
+        QTest::keyClick(first, Qt::Key_Escape);
+        QTRY_VERIFY(!first);
+        QVERIFY(menu->isEnabled());
+        open();
+        QCOMPARE(part<QStackedWidget>("panes")->currentIndex(), 0); // General first, whatever was shown last
+    }
+
+    void switches()
+    {
+        open();
+        const auto toggle = [&](const char *name) { part<QCheckBox>(name)->click(); };
+        toggle("autoOpenFolder");
+        toggle("autoQuit");
+        toggle("autoExpandFolders");
+        preferences()->toolbarProject();
+        toggle("useFixedProjectLocation");
+        toggle("strictNaming");
+        QCOMPARE(stored(settings::autoOpenFolder), QVariant(0LL));
+        QCOMPARE(stored(settings::autoQuit), QVariant(1LL));
+        QCOMPARE(stored(settings::autoExpandFolders), QVariant(0LL));
+        QCOMPARE(stored(settings::useFixedProjectLocation), QVariant(1LL));
+        QCOMPARE(stored(settings::strictNaming), QVariant(true));
+        // Protections: on without a question; off only with a password, and nobody is there to give one.
+        preferences()->toolbarGeneral();
+        toggle("prefsAdminPassEditing");
+        QVERIFY(settings::standard().equalsOne(settings::requireAdminPasswordForEditing));
+        if (getuid() == 0)
+            return; // who is asked nothing
+        toggle("prefsAdminPassEditing");
+        QTRY_VERIFY(part<QCheckBox>("prefsAdminPassEditing")->isChecked());
+        QVERIFY(settings::standard().equalsOne(settings::requireAdminPasswordForEditing));
+    }
+
+    void theLibraryMoves()
+    {
+        writeFile(library("b.TZT/Files/y"), "y");
+        writeFile(library("notes.txt"), "mine");
+        writeFile(m_work->filePath("New/A.tzt/Files/other"), "other"); // in the way: nothing is replaced
+        open();
+        SheetAnswerer answers({"Move", "OK"});
+        typePath("prefsTemplatePath", m_work->filePath("New/"));
+        QTRY_VERIFY(answers.buttons.isEmpty());
+        QVERIFY(answers.seen[0].startsWith("Would you like to move your templates to the new location?|Any templates"));
+        QVERIFY(answers.seen[1].startsWith("Unable to move file " + library("A.tzt")));
+        QVERIFY(targetExists(m_work->filePath("New/b.TZT/Files/y")) && targetExists(library("A.tzt/Files/x")));
+        QVERIFY(targetExists(m_work->filePath("New/A.tzt/Files/other")) && targetExists(library("notes.txt")));
+        QCOMPARE(stored(settings::templateLocation), QVariant(m_work->filePath("New")));
+        QCOMPARE(m_delegate->mainWindow()->shownTemplates(), QStringList({"A", "b"}));
+        // Into a folder inside the old one, made for it.
+        SheetAnswerer inside({"Move"});
+        typePath("prefsTemplatePath", m_work->filePath("New/Deeper/Still"));
+        QTRY_COMPARE(m_delegate->mainWindow()->shownTemplates(), QStringList({"A", "b"}));
+        QVERIFY(targetExists(m_work->filePath("New/Deeper/Still/A.tzt/Files/other")));
+        QVERIFY(!targetExists(m_work->filePath("New/A.tzt")));
+    }
+
+    void placesThatCannotBeUsed_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::newRow("relative") << "Templates";
+        QTest::newRow("a file") << "%/a file";
+        QTest::newRow("empty") << " ";
+    }
+    void placesThatCannotBeUsed()
+    {
+        QFETCH(QString, path);
+        writeFile(m_work->filePath("a file"), "x");
+        open();
+        for (const char *field : {"prefsTemplatePath", "prefsFixedPath"}) {
+            SheetAnswerer answers({"OK"});
+            preferences()->toolbarGeneral();
+            if (QLatin1String(field) == "prefsFixedPath")
+                preferences()->toolbarProject();
+            const QString before = part<QLineEdit>(field)->text();
+            typePath(field, QString(path).replace('%', m_work->path()));
+            QTRY_COMPARE(answers.seen.size(), 1);
+            QCOMPARE(part<QLineEdit>(field)->text(), before);
+        }
+        QCOMPARE(stored(settings::templateLocation), QVariant(library()));
+        typePath("prefsFixedPath", "~/Projects here");
+        QTRY_COMPARE(stored(settings::fixedProjectLocationPath), QVariant(VTLocalPaths::userDirectory() + "/Projects here"));
+        QVERIFY(targetExists(VTLocalPaths::userDirectory() + "/Projects here"));
+    }
+
+    void parametersInForceAtOnce()
+    {
+        open();
+        preferences()->toolbarParameters();
+        auto *preview = part<PathControl>("parametersPreview");
+        QCOMPARE(preview->path(), QString("/Acme_Promo"));
+        part<QToolButton>("addParameter")->click();
+        QTRY_VERIFY(qobject_cast<QLineEdit *>(QApplication::focusWidget()));
+        QTest::keyClicks(QApplication::focusWidget(), "Reel");
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+        QTRY_COMPARE(stored(settings::filenameTemplate).toList()[2].toMap()["title"], QVariant("Reel"));
+        QCOMPARE(m_delegate->tableController().rowCount(), 3);
+        auto *table = part<VTTableView>("parameterTable");
+        table->model()->setData(table->model()->index(1, static_cast<int>(editor::Column::Folder)), Qt::Checked,
+                                Qt::CheckStateRole);
+        QCOMPARE(preview->path(), QString("/Acme/Promo"));
+        part<QComboBox>("separator")->setEditText("-");
+        QCOMPARE(stored(settings::separatorChar), QVariant("-"));
+        auto *separator = part<QComboBox>("separator")->lineEdit();
+        separator->setFocus();
+        separator->selectAll();
+        QTest::keyClicks(separator, "x/:");
+        QCOMPARE(stored(settings::separatorChar), QVariant("x")); // what no name can hold cannot be typed
+
+        SheetAnswerer answers({"Cancel", "Remove"});
+        for (const int left : {3, 2}) {
+            table->selectRow(table->model()->rowCount() - 1);
+            part<QToolButton>("removeParameter")->click();
+            QTRY_COMPARE(table->model()->rowCount(), left);
+        }
+        QVERIFY(answers.buttons.isEmpty());
+        part<QPushButton>("restoreParameters")->click();
+        QVERIFY(m_delegate->tableController().rowCount() > 3);
+    }
+
+    void dateFormats()
+    {
+        open();
+        preferences()->toolbarParameters();
+        auto *popUp = part<QComboBox>("dateFormatPopUp");
+        auto *custom = part<QLineEdit>("dateFormatText");
+        QCOMPARE(popUp->count(), 11);
+        QVERIFY(custom->isHidden());
+        popUp->setCurrentIndex(6);
+        Q_EMIT popUp->activated(6);
+        QCOMPARE(stored(settings::dateFormat), QVariant("%Y-%m"));
+        popUp->setCurrentIndex(10);
+        Q_EMIT popUp->activated(10);
+        QVERIFY(!custom->isHidden());
+        custom->setText("%d.%m.");
+        QCOMPARE(stored(settings::dateFormat), QVariant("%d.%m."));
+        for (const char *bad : {"", "%", "plain"}) {
+            custom->setText(bad);
+            QVERIFY2(!part<QLabel>("hintDate")->text().startsWith("Today"), bad);
+        }
+        custom->setText("%Y/%m");
+        QVERIFY(part<QLabel>("hintDate")->text().startsWith("Slashes"));
+        preferences()->close();
+        QTRY_VERIFY(!preferences());
+        open();
+        QCOMPARE(part<QComboBox>("dateFormatPopUp")->currentText(), QString("Custom"));
+        QCOMPARE(part<QLineEdit>("dateFormatText")->text(), QString("%Y/%m"));
+    }
+};
+
+TESSARO_TEST_MAIN(QApplication, TestPreferences)
+#include "test_preferences.moc"

@@ -1,0 +1,197 @@
+// Shortcut keys: what is stored among other programs' entries, what a key is called in each layout, and who is told.
+#include "platform/Desktop.h"
+#include "platform/FileSystem.h"
+#include "platform/PropertyList.h"
+#include "preferences/VTShortcutKeyContainerView.h"
+#include "preferences/VTShortcutKeyTableDelegate.h"
+#include "preferences/VTShortcutKeyTableview.h"
+#include "support/TemporaryHome.h"
+#include "support/VTLog.h"
+
+#include <QApplication>
+#include <QDBusConnection>
+#include <QLabel>
+#include <QProcess>
+#include <QTest>
+#include <sys/stat.h>
+#include <unistd.h>
+
+using Delegate = VTShortcutKeyTableDelegate;
+using shortcuts::Shortcut;
+
+namespace {
+
+const QVariantMap theirs{{"bundleid", "com.vantrel.Clipwell"}, {"commandid", "new-project"}, {"keycode", 9LL},
+                         {"modifiers", 256LL}};
+const QVariantMap byParameters{{"bundleid", "com.vantrel.Tessaro"},
+                               {"commandparams", QVariantList{"a", "b"}},
+                               {"keycode", 10LL},
+                               {"modifiers", 256LL}};
+const QVariantMap gone{{"bundleid", "com.vantrel.Tessaro"}, {"commandid", "no longer there"}, {"keycode", 11LL},
+                       {"modifiers", 256LL}};
+
+QVariantMap entry(const QString &command, int keyCode, int modifiers)
+{
+    return {{"bundleid", "com.vantrel.Tessaro"},
+            {"commandid", command},
+            {"keycode", qlonglong{keyCode}},
+            {"modifiers", qlonglong{modifiers}}};
+}
+
+} // namespace
+
+class TestShortcuts : public QObject
+{
+    Q_OBJECT
+
+public Q_SLOTS:
+    void reloaded() { ++m_reloads; }
+
+private:
+    int m_reloads = 0;
+    const TemporaryHome m_home; ///< one for all: the controller lives as long as the process
+
+    void setLayout(const QStringList &arguments) const { QCOMPARE(QProcess::execute("setxkbmap", arguments), 0); }
+    QVariantList watchlist() const { return shortcuts::read().dictionary->value("watchlist").toList(); }
+    QString nameInTable(int row) const
+    {
+        auto &table = Delegate::sharedController();
+        table.populateKeyData();
+        return table.index(row, Delegate::ShortcutColumn).data().toString();
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        static_cast<void>(m_home.file("Library/Preferences/x"));
+        QVERIFY(platform::removeTree(shortcuts::filePath()).ok());
+        setLayout({"us"});
+    }
+
+    void othersLoseNothing()
+    {
+        QVERIFY(shortcuts::write({{"watchlist", QVariantList{entry("new-project", 1, 768), theirs, byParameters, gone}},
+                                  {"another key", QVariantList{1LL, true, "1"}}}));
+        auto &table = Delegate::sharedController();
+        QDBusConnection::sessionBus().connect({}, {}, "com.vantrel.Notifications", "VTShortcutKeysReload", this,
+                                              SLOT(reloaded()));
+        QVERIFY(table.setKeyboardShortcut("new-project", {}, {39, 768}));
+        QCOMPARE(watchlist(), QVariantList({theirs, byParameters, gone, entry("new-project", 39, 768)}));
+        QVERIFY(table.setKeyboardShortcut(QString(), {"a", "b"}, {40, 256}));
+        QCOMPARE(watchlist().size(), 4);
+        QCOMPARE(watchlist()[3].toMap()["keycode"], QVariant(40LL));
+        QCOMPARE(watchlist()[3].toMap()["commandparams"].toStringList(), QStringList({"a", "b"}));
+        QCOMPARE(shortcuts::read().dictionary->value("another key"), QVariant(QVariantList{1LL, true, "1"}));
+        QTRY_COMPARE(m_reloads, 2);
+        QCOMPARE(nameInTable(0), QString("Shift+Cmd+S"));
+        QCOMPARE(shortcuts::without(*shortcuts::read().dictionary, {"com.vantrel.Tessaro", "new-project", {}})
+                     .value("watchlist").toList(),
+                 QVariantList({theirs, gone, watchlist()[3]}));
+    }
+
+    /// Damaged, of a wrong shape, or not to be written: left as it is.
+    void whatCannotBeReadIsNotReplaced()
+    {
+        auto &table = Delegate::sharedController();
+        for (const QByteArray &bad :
+             {QByteArray("<plist><dict><key>watch"), platform::writePropertyList(QVariantList{1LL}),
+              platform::writePropertyList(QVariantMap{{"watchlist", "text"}})}) {
+            writeFile(shortcuts::filePath(), bad);
+            QVERIFY(!table.setKeyboardShortcut("new-project", {}, {39, 768}));
+            table.clearShortcutKey();
+            QCOMPARE(readFile(shortcuts::filePath()), bad);
+        }
+        if (geteuid() == 0)
+            return;
+        QVERIFY(platform::removeTree(shortcuts::filePath()).ok());
+        QCOMPARE(chmod(m_home.file("Library/Preferences").toUtf8(), 0500), 0);
+        QVERIFY(!table.setKeyboardShortcut("new-project", {}, {39, 768}));
+        QCOMPARE(chmod(m_home.file("Library/Preferences").toUtf8(), 0700), 0);
+    }
+
+    void keysAreCalledAsTheyAreLabelled()
+    {
+        const auto name = [](quint16 keyCode) { return Delegate::nameForKeyCode(keyCode, shortcuts::option); };
+        QCOMPARE(name(29), QString("Alt+Y"));
+        QCOMPARE(name(24), QString("Alt+Q"));
+        setLayout({"de"});
+        QCOMPARE(name(29), QString("Alt+Z"));
+        QCOMPARE(name(48), QString::fromUtf8("Alt+\u00C4"));
+        setLayout({"fr"});
+        QCOMPARE(name(24), QString("Alt+A"));
+        setLayout({"us", "dvorak"});
+        QCOMPARE(name(39), QString("Alt+O"));
+        setLayout({"us"});
+        QCOMPARE(name(111), QString("Alt+Up Arrow"));
+        QCOMPARE(name(65), QString("Alt+Space"));
+        QCOMPARE(name(23), QString("Alt+Tab"));
+        QCOMPARE(name(9), QString("Alt+Escape"));
+        QCOMPARE(name(71), QString("Alt+F5"));
+        QCOMPARE(name(87), QString("Alt+1")); // the keypad's
+        QCOMPARE(Delegate::nameForKeyCode(39, 0x1B00), QString("Ctrl+Shift+Alt+Cmd+S"));
+        QVERIFY(Delegate::nameForKeyCode(50, 0).isNull()); // Shift by itself
+        QCOMPARE(Delegate::nameOfKeyText(QString(QChar(0x1E))), QString("Up Arrow"));
+        QCOMPARE(Delegate::nameOfKeyText("\x03"), QString("Return"));
+        QCOMPARE(Delegate::nameOfKeyText("%"), QString("%"));
+    }
+
+    void bareKeysGetModifiers()
+    {
+        QCOMPARE(Delegate::shortcutOf(39, {}).modifiers, 0x300);
+        QCOMPARE(Delegate::shortcutOf(39, Qt::AltModifier).modifiers, 0x800);
+        QCOMPARE(Delegate::shortcutOf(39, Qt::ControlModifier | Qt::MetaModifier).modifiers, 0x1100);
+    }
+
+    void withoutTheManager()
+    {
+        if (platform::targetExists(Delegate::managerPath()))
+            QSKIP("This computer has a shortcut key manager");
+        VTShortcutKeyContainerView container;
+        QVERIFY(!container.findChild<VTShortcutKeyTableview *>()->isEnabled());
+        QVERIFY(!container.findChild<QLabel *>("versionAlertText")->isHidden());
+    }
+
+    /// With the manager, in a window: keys are captured, whichever they are, and it is run after each change.
+    void capturesEveryKey()
+    {
+        if (geteuid() != 0)
+            return; // only the super-user can put the manager where it belongs
+        const QString manager = Delegate::managerPath();
+        const bool hadLibrary = platform::targetExists("/Library");
+        writeFile(manager, "#!/bin/sh\necho \"$@\" >>\"$HOME/ran\"\n");
+        QCOMPARE(chmod(manager.toUtf8(), 0755), 0);
+        {
+            VTShortcutKeyContainerView container;
+            container.show();
+            QVERIFY(QTest::qWaitForWindowActive(&container));
+            auto *table = container.findChild<VTShortcutKeyTableview *>();
+            QVERIFY(table->isEnabled() && container.findChild<QLabel *>("versionAlertText")->isHidden());
+            int row = 0;
+            for (const Qt::Key key : {Qt::Key_S, Qt::Key_Tab, Qt::Key_Return, Qt::Key_Escape}) {
+                table->selectRow(row);
+                table->setFocus();
+                QTest::keyClick(table, Qt::Key_Return);
+                auto *editor = table->findChild<VTShortcutKeyFieldEditor *>();
+                QVERIFY(editor);
+                editor->setFocus();
+                const quint32 code = key == Qt::Key_S ? 39 : key == Qt::Key_Tab ? 23 : key == Qt::Key_Return ? 36 : 9;
+                QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, code, 0, 0);
+                QCoreApplication::sendEvent(editor, &press);
+                QTRY_VERIFY(!table->findChild<VTShortcutKeyFieldEditor *>());
+                ++row;
+            }
+            QCOMPARE(nameInTable(0), QString("Shift+Cmd+S"));
+            QCOMPARE(nameInTable(2), QString("Shift+Cmd+Enter"));
+            QCOMPARE(nameInTable(3), QString("Shift+Cmd+Escape"));
+            table->selectRow(0);
+            QTest::keyClick(table, Qt::Key_Delete);
+            QVERIFY(nameInTable(0).isEmpty());
+            QCOMPARE(watchlist().size(), 3);
+            QCOMPARE(readFile(m_home.file("ran")), QByteArray("-setup\n").repeated(5));
+        }
+        QVERIFY(platform::removeTree(hadLibrary ? manager : QString("/Library")).ok());
+    }
+};
+
+TESSARO_TEST_MAIN(QApplication, TestShortcuts)
+#include "test_shortcuts.moc"
