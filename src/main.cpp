@@ -2,11 +2,15 @@
 #include "app/CommandLine.h"
 #include "app/MainWindow.h"
 #include "app/TessaroAppDelegate.h"
+#include "platform/ApplicationBundle.h"
 #include "platform/Console.h"
+#include "platform/CrashReport.h"
 #include "platform/Desktop.h"
+#include "platform/FileSystem.h"
 #include "platform/NativePath.h"
 #include "platform/SingleInstance.h"
 #include "support/VTAlert.h"
+#include "support/VTLocalPaths.h"
 #include "support/VTLog.h"
 #include "ui/Icons.h"
 #include "ui/SheetPresenter.h"
@@ -91,6 +95,10 @@ int runProgram(int argc, char **argv)
 int main(int argc, char **argv)
 {
     platform::prepareLocale();
+    const QString reports = VTLocalPaths::logDirectory(VTLocalPaths::Domain::User) + QStringLiteral("/DiagnosticReports");
+    if (platform::makeFolders(reports).ok())
+        platform::writeCrashReports(reports, QStringLiteral("Tessaro"),
+                                    platform::ApplicationBundle::main().informationString("CFBundleShortVersionString"));
     const int status = runProgram(argc, argv);
     VTLog::finishWriting();
     return status;

@@ -2,6 +2,7 @@
 
 #include "app/CreateCommand.h"
 #include "app/SettingsCommand.h"
+#include "app/SupportCommand.h"
 #include "app/TemplateCommand.h"
 #include "app/TerminalPresenter.h"
 #include "parameters/VTProjectTableController.h"
@@ -51,7 +52,8 @@ private:
     {
         QString option = m_words[m_at];
         const bool takesWords = m_request.verb == Verb::Template || m_request.verb == Verb::Settings ||
-                                m_request.verb == Verb::Parameters;
+                                m_request.verb == Verb::Parameters || m_request.verb == Verb::Logs ||
+                                m_request.verb == Verb::Updates;
         if (takesWords && (m_request.withDashes || !option.startsWith(u'-') || isValue())) {
             m_request.arguments.append(option);
             return true;
@@ -67,6 +69,8 @@ private:
             return takeSwitch(m_request.withDashes);
         if (takesWords && option == u"--yes")
             return takeSwitch(m_request.yes);
+        if (m_request.verb == Verb::Logs)
+            return readLogsOption(option);
         if (m_request.verb == Verb::Template)
             return readTemplateOption(option);
         if (m_request.verb != Verb::Create)
@@ -89,6 +93,23 @@ private:
     {
         return m_request.verb == Verb::Settings && m_request.arguments.size() == 2 &&
                m_request.arguments.constFirst() == u"set";
+    }
+
+    bool readLogsOption(const QString &option)
+    {
+        if (option == u"--task")
+            return takeSwitch(m_request.task);
+        if (option == u"--path")
+            return takeSwitch(m_request.path);
+        if (option == u"--to")
+            return takeValue(m_request.toFolder);
+        QString file;
+        if (option != u"--include")
+            return fail(text("logs does not know “%1”.").arg(option));
+        if (!takeValue(file))
+            return false;
+        m_request.include.append(file);
+        return true;
     }
 
     bool readTemplateOption(const QString &option)
@@ -147,7 +168,7 @@ std::optional<Verb> verbOf(const QString &word)
         {"create", Verb::Create},   {"templates", Verb::Templates}, {"parameters", Verb::Parameters},
         {"--help", Verb::Help},     {"-h", Verb::Help},             {"help", Verb::Help},
         {"--version", Verb::Version}, {"template", Verb::Template}, {"clear-history", Verb::ClearHistory},
-        {"settings", Verb::Settings},
+        {"settings", Verb::Settings}, {"logs", Verb::Logs}, {"updates", Verb::Updates},
     };
     const auto verb = verbs.constFind(word);
     return verb == verbs.cend() ? std::nullopt : std::optional(*verb);
@@ -253,6 +274,8 @@ std::optional<CommandRequest> readCommandLine(const QStringList &words, QString 
         return std::nullopt;
     if (request.verb == Verb::Template)
         problem = TemplateCommand::problemOf(request);
+    else if (request.verb == Verb::Logs || request.verb == Verb::Updates)
+        problem = SupportCommand::problemOf(request);
     else if (request.verb == Verb::Settings || request.verb == Verb::Parameters)
         problem = SettingsCommand::problemOf(request);
     return problem.isNull() ? std::optional(request) : std::nullopt;
@@ -301,6 +324,11 @@ QString helpText()
                 "  Tessaro settings get KEY\n"
                 "  Tessaro settings set KEY VALUE                  checked before it is stored\n"
                 "  Tessaro settings unset KEY                      the default applies again\n"
+                "  Tessaro logs [--task] [--path]                  the log of the window, or of commands; or where it is\n"
+                "  Tessaro logs gather [--to FOLDER] [--include FILE]...\n"
+                "                                                  logs, crash reports and settings in one archive, for a\n"
+                "                                                  support request; on the desktop unless told otherwise\n"
+                "  Tessaro updates check                           starts the updater's silent check\n"
                 "  Tessaro --help            this text\n"
                 "  Tessaro --version\n"
                 "\n"
@@ -322,8 +350,8 @@ int runCommand(const CommandRequest &request)
     }
     if (request.dryRun) // a dry run changes nothing, the log neither
         VTLog::sharedController().setLoggingDisabled(true);
-    else
-        VTLog::createNewLog();
+    else if (request.verb != Verb::Logs) // whose log is to be seen, not a new one
+        VTLog::createNewTaskLog();
     settings::registerDefaults();
     TerminalPresenter presenter(request.overwrite || request.yes);
     VTAlert::setPresenter(&presenter);
@@ -337,6 +365,8 @@ int runCommand(const CommandRequest &request)
         status = CreateCommand(request, presenter).run();
     else if (request.verb == Verb::Template)
         status = TemplateCommand(request, presenter).run();
+    else if (request.verb == Verb::Logs || request.verb == Verb::Updates)
+        status = SupportCommand(request).run();
     else if (request.verb == Verb::Settings || !request.arguments.isEmpty())
         status = SettingsCommand(request).run();
     else if (request.verb == Verb::ClearHistory)

@@ -6,7 +6,7 @@
 /** What a command line asks for. A plain value. */
 struct CommandRequest
 {
-    enum class Verb { Window, Create, Templates, Template, Parameters, Settings, ClearHistory, Help, Version };
+    enum class Verb { Window, Create, Templates, Template, Parameters, Settings, Logs, Updates, ClearHistory, Help, Version };
 
     Verb verb = Verb::Window;
     QStringList files; ///< for the window
@@ -22,6 +22,10 @@ struct CommandRequest
     QString fromFolder;
     bool yes = false;
     bool unset = false;
+    bool task = false;         ///< logs: the task log
+    bool path = false;         ///< logs: only where it is
+    QString toFolder;          ///< logs gather: null for the desktop
+    QStringList include;       ///< logs gather
     bool withDashes = false; ///< "--" was there: what follows are plain words
 };
 

@@ -2,6 +2,8 @@
 #include "app/TessaroAppDelegate.h"
 
 #include "app/MainWindow.h"
+#include "diagnostics/VTBugReporter.h"
+#include "diagnostics/VTSoftwareUpdate.h"
 #include "parameters/ProjectNaming.h"
 #include "parameters/VTProjectTableController.h"
 #include "platform/ApplicationBundle.h"
@@ -28,6 +30,7 @@ const QString siblingApplication = QStringLiteral("com.vantrel.Clipwell");
 
 TessaroAppDelegate::TessaroAppDelegate()
 {
+    VTBugReporter::startBugReporter(); // what it finds is the last run's, and so goes into the last run's log
     VTLog::createNewLog();
     settings::registerDefaults();
 }
@@ -49,6 +52,7 @@ bool TessaroAppDelegate::awakeFromNib()
     if (settings::standard().equalsOne(settings::requireAdminPassword) &&
         !VTAuthorization::sharedController().authStart())
         return false;
+    VTSoftwareUpdate().startup();
     m_tableController = std::make_unique<VTProjectTableController>();
     m_window = std::make_unique<MainWindow>(*this);
     m_window->connectTable(*m_tableController);

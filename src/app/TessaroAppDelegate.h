@@ -77,6 +77,10 @@ public Q_SLOTS:
     void showTemplateLibrary();
     void showProject(const QString &project);
 
+    void checkForUpdates();
+    void viewLog();
+    void viewTaskLog();
+    void gatherLogs();
     void helpUserManual();
     void helpAppHome();
     void helpMoreProducts();

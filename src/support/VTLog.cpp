@@ -8,6 +8,7 @@
 #include "platform/NativePath.h"
 #include "platform/PropertyList.h"
 #include "platform/Users.h"
+#include "support/GlobalSettings.h"
 #include "support/VTLocalPaths.h"
 
 #include <QFile>
@@ -28,26 +29,14 @@ QString userLogFolder()
     return VTLocalPaths::libraryDirectory(VTLocalPaths::Domain::User) + QStringLiteral("/Logs/Vantrel");
 }
 
-QString generationPath(const QString &folder, const QString &name, int generation)
+QString generationPath(const QString &folder, const QString &name, int generation, bool isTask)
 {
-    return joined(folder, QStringLiteral("%1.%2.log").arg(name).arg(generation));
+    return joined(folder, QStringLiteral("%1.%2%3.log").arg(name).arg(generation).arg(isTask ? ".task" : ""));
 }
 
-/// The string "1" or a true number or boolean; any other value leaves logging on.
 bool isSwitchedOff()
 {
-    QFile file(VTLocalPaths::prefsDirectory(VTLocalPaths::Domain::User) + QStringLiteral("/com.vantrel.global.plist"));
-    if (!file.open(QIODevice::ReadOnly))
-        return false;
-    const QVariantMap shared = platform::readPropertyList(file.readAll()).value_or(QVariant()).toMap();
-    const QVariant value = shared.value(QStringLiteral("disable-logging"));
-    switch (value.typeId()) {
-    case QMetaType::QString: return value.toString() == u"1";
-    case QMetaType::Bool:
-    case QMetaType::LongLong:
-    case QMetaType::Double: return value.toDouble() == 1.0;
-    default: return false;
-    }
+    return globalsettings::isOn(QStringLiteral("disable-logging"));
 }
 
 QString header()
@@ -86,7 +75,13 @@ void VTLog::setAppName(const QString &name)
 QString VTLog::currentLogPath() const
 {
     const QString local = VTLocalPaths::libraryDirectory(VTLocalPaths::Domain::Local) + QStringLiteral("/Logs/Vantrel");
-    return generationPath(platform::isSuperUser() ? local : userLogFolder(), appName(), 1);
+    return generationPath(platform::isSuperUser() ? local : userLogFolder(), appName(), 1, m_isTask);
+}
+
+void VTLog::createNewTaskLog()
+{
+    sharedController().m_isTask = true;
+    createNewLog();
 }
 
 void VTLog::createNewLog(const QString &name)
@@ -127,11 +122,11 @@ void VTLog::startNewLog(const QString &name)
 bool VTLog::shiftGenerations(const QString &folder) const
 {
     const QString name = appName();
-    const platform::FileOutcome removed = platform::removeTree(generationPath(folder, name, generations));
+    const platform::FileOutcome removed = platform::removeTree(generationPath(folder, name, generations, m_isTask));
     static_cast<void>(removed); // the move that follows tells when it stands in the way
     for (int i = generations - 1; i >= 1; --i) {
-        const QString from = generationPath(folder, name, i);
-        const QString to = generationPath(folder, name, i + 1);
+        const QString from = generationPath(folder, name, i, m_isTask);
+        const QString to = generationPath(folder, name, i + 1, m_isTask);
         if (platform::targetExists(from) && !platform::moveItem(from, to).ok()) {
             printToConsole(platform::formatString("Unable to move file %@ to %@", from, to));
             return false;

@@ -23,6 +23,8 @@ public:
 
     /** Rotates the generations and starts a new file with its header. The first name given stays for the process. */
     static void createNewLog(const QString &name = {});
+    /** The same for a run without a window: "<name>.1.task.log", with generations of its own. */
+    static void createNewTaskLog();
 
     /**
      * Formats, trims and queues one message. On disk when it returns, if the message is not empty, at most 99 characters
@@ -72,4 +74,5 @@ private:
     std::atomic<quint64> m_bytesWritten = 0;
     std::atomic<quint64> m_bytesInQueue = 0;
     std::atomic<bool> m_loggingDisabled = false;
+    std::atomic<bool> m_isTask = false;
 };

@@ -1,0 +1,154 @@
+#include "diagnostics/VTBugReporter.h"
+
+#include "platform/ApplicationBundle.h"
+#include "platform/ApplicationLauncher.h"
+#include "platform/Console.h"
+#include "platform/FileSystem.h"
+#include "platform/MainThread.h"
+#include "platform/NativePath.h"
+#include "platform/PropertyList.h"
+#include "support/GlobalSettings.h"
+#include "support/Settings.h"
+#include "support/VTException.h"
+#include "support/VTLocalPaths.h"
+#include "support/VTLog.h"
+#include "support/VTTask.h"
+
+#include <QCoreApplication>
+#include <QDateTime>
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+
+using platform::joined;
+
+namespace {
+
+const QString launchKey = QStringLiteral("launch");
+const QString exitKey = QStringLiteral("exit");
+const QString reporterIdentifier = QStringLiteral("com.vantrel.BugReporter");
+
+QVariantMap recordAt(const QString &path)
+{
+    QFile file(path);
+    const auto list = file.open(QIODevice::ReadOnly) ? platform::readPropertyList(file.readAll()) : std::nullopt;
+    return list ? list->toMap() : QVariantMap();
+}
+
+QDateTime recorded(const QString &plistPath, const QString &key)
+{
+    return (plistPath.isNull() ? settings::standard().value(key) : recordAt(plistPath).value(key)).toDateTime();
+}
+
+void record(const QString &plistPath, const QString &key)
+{
+    const QDateTime now = QDateTime::currentDateTimeUtc();
+    if (plistPath.isNull()) {
+        settings::standard().setValue(key, now);
+        return;
+    }
+    QVariantMap entries = recordAt(plistPath); // what else stands in there stays
+    entries.insert(key, now);
+    QSaveFile file(plistPath);
+    const QByteArray bytes = platform::writePropertyList(entries);
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
+        VTLog::appendLog("Unable to record the launch in %@: %@", plistPath, file.errorString());
+    VTBugReporter::chownPlist(plistPath);
+}
+
+/// The last report of the application in the folder, if it is newer than the launch.
+QString newReportIn(const QString &folder, const QString &name, const QDateTime &launch)
+{
+    QString last;
+    for (const auto &entry : platform::listFolder(folder).value_or(QList<platform::FolderEntry>())) {
+        if (entry.name.startsWith(name + u'_', Qt::CaseInsensitive))
+            last = joined(folder, entry.name);
+    }
+    const QFileInfo info(last);
+    return !last.isNull() && info.exists() && info.lastModified() > launch ? last : QString();
+}
+
+void handOver(const QString &report)
+{
+    const auto &bundle = platform::ApplicationBundle::main();
+    const QString shipped = bundle.resource(QStringLiteral("Bug Reporter.app"));
+    if (const QString program = shipped.isNull() ? QString() : platform::executableOf(shipped); !program.isNull())
+        return VTTask::runTaskAndReturn(program, {report});
+    const QString entry = platform::registeredApplication(reporterIdentifier);
+    if (entry.isNull() || !platform::openWithDesktopEntry(entry, report))
+        VTLog::appendLog("There is no bug reporter to open %@ with", report);
+}
+
+QString check(const QString &givenName, const QString &plistPath)
+{
+    const QDateTime launch = recorded(plistPath, launchKey);
+    if (!launch.isValid())
+        return {};
+    const QString name = givenName.isNull()
+                             ? platform::ApplicationBundle::main().informationString(QStringLiteral("CFBundleName"))
+                             : givenName;
+    if (const QDateTime exit = recorded(plistPath, exitKey); exit.isValid() && exit >= launch)
+        return {};
+    QString report;
+    for (const QString &folder : VTBugReporter::reportFolders()) {
+        report = newReportIn(folder, name, launch);
+        if (!report.isNull())
+            break;
+    }
+    if (report.isNull())
+        return {};
+    VTLog::appendLog("Application crashed on last launch");
+    if (globalsettings::isOn(QStringLiteral("disable-crash-reporter")))
+        VTLog::appendLogAndPrint("Crash reporter disabled");
+    else
+        handOver(report);
+    return report;
+}
+
+} // namespace
+
+QStringList VTBugReporter::reportFolders()
+{
+    QStringList folders;
+    for (const auto domain : {VTLocalPaths::Domain::User, VTLocalPaths::Domain::Local}) {
+        for (const char *name : {"CrashReporter", "DiagnosticReports"})
+            folders.append(joined(VTLocalPaths::logDirectory(domain), QLatin1String(name)));
+    }
+    return folders;
+}
+
+QString VTBugReporter::checkForCrashes(const QString &name, const QString &plistPath)
+{
+    try {
+        return check(name, plistPath);
+    } catch (const std::exception &exception) {
+        VTException::logException({QString::fromLatin1(typeid(exception).name()), QString::fromUtf8(exception.what())},
+                                  "checkForCrashes:plistPath:");
+    }
+    return {};
+}
+
+void VTBugReporter::startBugReporter(const QString &name, const QString &plistPath, const Delegate &delegate)
+{
+    const QString report = checkForCrashes(name, plistPath);
+    if (!report.isNull() && delegate)
+        QMetaObject::invokeMethod(
+            QCoreApplication::instance(), [delegate, report] { delegate(report); }, Qt::QueuedConnection);
+    record(plistPath, launchKey);
+}
+
+void VTBugReporter::stopBugReporter(const QString &plistPath)
+{
+    record(plistPath, exitKey);
+}
+
+void VTBugReporter::chownPlist(const QString &path)
+{
+    const QStringList steps = path.split(u'/', Qt::SkipEmptyParts);
+    const qsizetype users = steps.indexOf(QStringLiteral("Users"));
+    if (users < 0 || users + 1 >= steps.size())
+        return;
+    const QString tool = QStringLiteral("/usr/sbin/chown");
+    const bool isThere = platform::isExecutableFile(tool);
+    VTTask::runTask(isThere ? tool : QStringLiteral("/bin/chown"), {steps[users + 1], path});
+}

@@ -1,0 +1,213 @@
+#include "diagnostics/VTTroubleshootingUtils.h"
+
+#include "platform/Console.h"
+#include "platform/Desktop.h"
+#include "platform/FileSystem.h"
+#include "platform/FormatString.h"
+#include "platform/LocalTime.h"
+#include "platform/MainThread.h"
+#include "platform/NativePath.h"
+#include "platform/TreeCopy.h"
+#include "support/VTAlert.h"
+#include "support/VTFileManager.h"
+#include "support/VTLocalPaths.h"
+#include "support/VTLog.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <ctime>
+#include <functional>
+
+using platform::formatString;
+using platform::joined;
+using platform::printToConsole;
+using Domain = VTLocalPaths::Domain;
+
+namespace {
+
+QString text(const char *source)
+{
+    return QCoreApplication::translate("VTTroubleshootingUtils", source);
+}
+
+void tell(const QString &message, const QString &informative)
+{
+    VTAlert::alertSheetWithMessageText(message, informative, nullptr);
+}
+
+QString logFolder(Domain domain)
+{
+    return VTLocalPaths::libraryDirectory(domain) + QStringLiteral("/Logs/Vantrel");
+}
+
+bool view(const QString &path, const QString &hint)
+{
+    if (VTFileManager::fileExistsAtPath(path))
+        return platform::openWithDefaultApplication(path);
+    tell(text("No log found"), hint);
+    return false;
+}
+
+/// Collects files into one folder, each below its own path, and counts them.
+class Gathering
+{
+public:
+    explicit Gathering(QString folder) : m_folder(std::move(folder)) {}
+
+    bool prepare()
+    {
+        // The temporary folder is everybody's: what stands there is removed, never followed, and the folder is new.
+        if (const auto removed = platform::removeOwnTree(m_folder); !removed.ok())
+            return fail("Error removing existing folder: %@", removed.description());
+        if (const auto made = platform::makeNewFolder(m_folder); !made.ok())
+            return fail("Error creating temp folder: %@", made.description());
+        return true;
+    }
+
+    bool takeMatching(const QString &folder, const std::function<bool(const QString &)> &belongs)
+    {
+        for (const auto &entry : platform::listFolder(folder).value_or(QList<platform::FolderEntry>())) {
+            if (belongs(entry.name) && !take(folder, entry.name))
+                return false;
+        }
+        return true;
+    }
+
+    bool take(const QString &folder, const QString &name, const char *complaint = "Unable to copy log: %@")
+    {
+        const QString source = joined(folder, name);
+        const QString target = joined(m_folder + folder, name);
+        if (platform::kindOf(target) != platform::FileKind::Missing)
+            return true; // two names matched it
+        const QString real = platform::kindOf(source) == platform::FileKind::Link && platform::targetExists(source)
+                                 ? QFileInfo(source).canonicalFilePath()
+                                 : source;
+        platform::FileOutcome outcome = platform::makeFolders(m_folder + folder);
+        if (outcome.ok())
+            outcome = platform::copyItem(real, target);
+        if (!outcome.ok())
+            return fail(complaint, outcome.description());
+        ++m_count;
+        return true;
+    }
+
+    [[nodiscard]] int count() const { return m_count; }
+
+private:
+    static bool fail(const char *message, const QString &why)
+    {
+        printToConsole(formatString(message, why));
+        return false;
+    }
+
+    QString m_folder;
+    int m_count = 0;
+};
+
+QString preferenceFile(const QString &folder, const QString &application)
+{
+    QString plain = application;
+    plain.remove(u' ');
+    for (const QString &name : {formatString("com.vantrel.%@.plist", plain), formatString("com.vantrel.%@.plist", plain.toLower())}) {
+        if (platform::targetExists(joined(folder, name)))
+            return name;
+    }
+    return {};
+}
+
+bool gatherDomain(Gathering &gathering, Domain domain, const QStringList &names)
+{
+    const auto any = [&](const std::function<bool(const QString &)> &matches) {
+        return std::any_of(names.begin(), names.end(), matches);
+    };
+    const auto isLog = [&](const QString &file) {
+        return any([&](const QString &name) { return file.startsWith(name) && file.endsWith(QLatin1String(".log")); });
+    };
+    const auto isReport = [&](const QString &file) {
+        return any([&](const QString &name) {
+            return file.startsWith(name + u'_') && file.endsWith(QLatin1String(".crash"));
+        });
+    };
+    if (!gathering.takeMatching(logFolder(domain), isLog))
+        return false;
+    for (const char *folder : {"CrashReporter", "DiagnosticReports"}) {
+        if (!gathering.takeMatching(joined(VTLocalPaths::logDirectory(domain), QLatin1String(folder)), isReport))
+            return false;
+    }
+    const QString preferences = VTLocalPaths::prefsDirectory(domain);
+    for (const QString &name : names) {
+        const QString file = preferenceFile(preferences, name);
+        if (!file.isNull() && !gathering.take(preferences, file))
+            return false;
+    }
+    return true;
+}
+
+QString archivePath(const QString &folder, const QString &application)
+{
+    const QString path = joined(folder, formatString("%@ Logs.zip", application));
+    if (platform::kindOf(path) == platform::FileKind::Missing)
+        return path;
+    return platform::withoutExtension(path) +
+           formatString("_%@.zip", platform::formatDate("%Y%m%d%H%M%S", std::time(nullptr)));
+}
+
+} // namespace
+
+QString VTTroubleshootingUtils::logPath(const QString &name)
+{
+    return logFolder(Domain::User) + formatString("/%@.1.log", name);
+}
+
+QString VTTroubleshootingUtils::taskLogPath(const QString &name)
+{
+    return logFolder(Domain::User) + formatString("/%@.1.task.log", name);
+}
+
+bool VTTroubleshootingUtils::viewLogForApp(const QString &name)
+{
+    return view(logPath(name), text("You must perform a task before viewing the log."));
+}
+
+bool VTTroubleshootingUtils::viewTaskLogForApp(const QString &name)
+{
+    return view(taskLogPath(name), text("You must run the application as a task (e.g. through Cronwick) before viewing a log."));
+}
+
+QString VTTroubleshootingUtils::gatherLogsForApps(const QStringList &names, Silent silent,
+                                                  const QStringList &additionalFiles, const QString &toFolder)
+{
+    if (names.isEmpty() || names.constFirst().isNull())
+        return {};
+    VTLog::finishWriting();
+    const QString folder = joined(VTLocalPaths::tempDirectory(), QStringLiteral("VT_App_Logs"));
+    Gathering gathering(folder);
+    const bool gathered = platform::resultInBackground([&] {
+        if (!gathering.prepare())
+            return false;
+        for (const Domain domain : {Domain::User, Domain::Local}) {
+            if (!gatherDomain(gathering, domain, names))
+                return false;
+        }
+        return std::all_of(additionalFiles.begin(), additionalFiles.end(), [&](const QString &file) {
+            return gathering.take(platform::parentPath(file), platform::lastComponent(file), "Unable to copy file: %@");
+        });
+    });
+    if (!gathered)
+        return {};
+    if (gathering.count() == 0) {
+        if (silent == Silent::No)
+            tell(text("No logs found"), text("There were no logs available to gather."));
+        return {};
+    }
+    const QString desktop = toFolder.isNull() ? VTLocalPaths::desktopDirectory() : toFolder;
+    const QString archive = archivePath(desktop, names.constFirst());
+    const bool hasDesktop = VTFileManager::fileExistsAtPath(desktop) || VTFileManager::createDirectory(desktop);
+    const bool packed = hasDesktop && VTFileManager::compressFile(folder, archive);
+    static_cast<void>(platform::removeOwnTree(folder).ok());
+    if (silent == Silent::No)
+        packed ? tell(text("Logs gathered successfully"), text("The gathered logs were placed on your desktop."))
+               : tell(text("Logs could not be gathered"), text("Please check your file permissions."));
+    return packed ? archive : QString();
+}
