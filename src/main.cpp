@@ -6,7 +6,6 @@
 #include "platform/Console.h"
 #include "platform/CrashReport.h"
 #include "platform/Desktop.h"
-#include "platform/FileSystem.h"
 #include "platform/NativePath.h"
 #include "platform/SingleInstance.h"
 #include "support/VTAlert.h"
@@ -96,9 +95,8 @@ int main(int argc, char **argv)
 {
     platform::prepareLocale();
     const QString reports = VTLocalPaths::logDirectory(VTLocalPaths::Domain::User) + QStringLiteral("/DiagnosticReports");
-    if (platform::makeFolders(reports).ok())
-        platform::writeCrashReports(reports, QStringLiteral("Tessaro"),
-                                    platform::ApplicationBundle::main().informationString("CFBundleShortVersionString"));
+    platform::writeCrashReports(reports, QStringLiteral("Tessaro"),
+                                platform::ApplicationBundle::main().informationString("CFBundleShortVersionString"));
     const int status = runProgram(argc, argv);
     VTLog::finishWriting();
     return status;

@@ -101,8 +101,19 @@ void appendNumber(char *&at, const char *end, int number, int digits)
     append(at, end, text.data());
 }
 
+/// Only now, so that a program that never crashes leaves no empty folder behind.
+void makeFolders()
+{
+    for (char *slash = std::strchr(prepared.pathStart.data() + 1, '/'); slash; slash = std::strchr(slash + 1, '/')) {
+        *slash = '\0';
+        mkdir(prepared.pathStart.data(), 0700);
+        *slash = '/';
+    }
+}
+
 int openReport(const Civil &now)
 {
+    makeFolders();
     static std::array<char, 4096> path;
     char *at = path.data();
     const char *end = path.data() + path.size() - 1;

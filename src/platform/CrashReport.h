@@ -6,7 +6,7 @@ namespace platform {
 
 /**
  * Writes a report when this process crashes: on SIGSEGV, SIGABRT, SIGBUS, SIGFPE and SIGILL, and so on an uncaught exception.
- * The report "<name>_<date>_<host>.crash" in the folder holds version, system, signal, address, the threads' names, a
+ * The report "<name>_<date>_<host>.crash" in the folder, which is made when it is needed, holds version, system, signal, address, the threads' names, a
  * backtrace and the map of the loaded files, from which scripts/resolve-crash.sh makes functions and lines. Then the signal
  * goes on to the system.
  *

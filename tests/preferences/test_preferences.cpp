@@ -103,6 +103,7 @@ private Q_SLOTS:
         const QPointer<VTPreferenceController> first = preferences();
         m_delegate->performCommand("preferences"); // from outside: the same window
         QCOMPARE(preferences(), first);
+        QVERIFY(QTest::qWaitForWindowActive(first));
         QTest::keyClick(first, Qt::Key_Escape);
         QTRY_VERIFY(!first);
         QVERIFY(menu->isEnabled());
