@@ -15,7 +15,6 @@
 #include "ui/SheetPresenter.h"
 
 #include <QApplication>
-#include <QDir>
 #include <cstdlib>
 
 namespace {
@@ -26,14 +25,6 @@ QStringList wordsOf(int argc, char **argv)
     for (int i = 1; i < argc; ++i)
         words.append(platform::fromNative(argv[i])); // byte for byte: a path need not be valid UTF-8
     return words;
-}
-
-QStringList absolutePaths(const QStringList &files)
-{
-    QStringList paths;
-    for (const QString &file : files)
-        paths.append(QDir::cleanPath(file.startsWith(u'/') ? file : platform::joined(QDir::currentPath(), file)));
-    return paths;
 }
 
 int runWindow(int &argc, char **argv, const QStringList &files)
@@ -84,7 +75,12 @@ int runProgram(int argc, char **argv)
         return ExitStatus::wrongUsage;
     }
     if (request->verb == CommandRequest::Verb::Window)
-        return runWindow(argc, argv, absolutePaths(request->files));
+        {
+        QStringList files;
+        for (const QString &file : request->files)
+            files.append(absolutePath(file));
+        return runWindow(argc, argv, files);
+    }
     const QCoreApplication application(argc, argv);
     return runCommand(*request);
 }

@@ -17,6 +17,7 @@
 #include "templates/VTDataController.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -279,6 +280,11 @@ std::optional<CommandRequest> readCommandLine(const QStringList &words, QString 
     else if (request.verb == Verb::Settings || request.verb == Verb::Parameters)
         problem = SettingsCommand::problemOf(request);
     return problem.isNull() ? std::optional(request) : std::nullopt;
+}
+
+QString absolutePath(const QString &path)
+{
+    return QDir::cleanPath(path.startsWith(u'/') ? path : platform::joined(QDir::currentPath(), path));
 }
 
 QString helpText()

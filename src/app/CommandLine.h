@@ -42,5 +42,8 @@ inline constexpr int notOverwritten = 3; ///< exists and was not overwritten, or
 
 [[nodiscard]] QString helpText();
 
+/** Relative to the current folder, "." and ".." resolved as text. */
+[[nodiscard]] QString absolutePath(const QString &path);
+
 /** Carries out a command without a window; an application object without a display exists. Returns the exit status. */
 [[nodiscard]] int runCommand(const CommandRequest &request);

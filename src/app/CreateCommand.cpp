@@ -14,7 +14,6 @@
 #include "templates/VTDataController.h"
 
 #include <QCoreApplication>
-#include <QDir>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -31,12 +30,6 @@ QString text(const char *source)
 QString listed(const QStringList &names)
 {
     return names.isEmpty() ? text("There are none.") : text("There are: %1.").arg(names.join(QStringLiteral(", ")));
-}
-
-/// Relative to the current folder, "." and ".." resolved as text.
-QString absolute(const QString &path)
-{
-    return QDir::cleanPath(path.startsWith(u'/') ? path : joined(QDir::currentPath(), path));
 }
 
 } // namespace
@@ -183,7 +176,7 @@ bool CreateCommand::findDestination()
             return false;
         }
     } else {
-        folder = absolute(folder);
+        folder = absolutePath(folder);
         if (!VTFileManager::isDirectoryAtPath(folder)) {
             // Not made: the path may be that of a drive that is not plugged in.
             const bool exists = VTFileManager::fileExistsAtPath(folder);

@@ -7,7 +7,6 @@
 #include "support/VTFileManager.h"
 
 #include <QCoreApplication>
-#include <QDir>
 #include <QFile>
 
 namespace {
@@ -17,11 +16,6 @@ const QString ownName = QStringLiteral("Tessaro");
 QString text(const char *source)
 {
     return QCoreApplication::translate("SupportCommand", source);
-}
-
-QString absolute(const QString &path)
-{
-    return QDir::cleanPath(path.startsWith(u'/') ? path : platform::joined(QDir::currentPath(), path));
 }
 
 int refuse(const QString &problem)
@@ -72,11 +66,11 @@ int SupportCommand::gather()
 {
     QStringList files;
     for (const QString &file : m_request.include) {
-        files.append(absolute(file));
+        files.append(absolutePath(file));
         if (!VTFileManager::fileExistsAtPath(files.constLast()))
             return refuse(text("%1 does not exist.").arg(files.constLast()));
     }
-    const QString folder = m_request.toFolder.isNull() ? QString() : absolute(m_request.toFolder);
+    const QString folder = m_request.toFolder.isNull() ? QString() : absolutePath(m_request.toFolder);
     if (!folder.isNull() && !VTFileManager::isDirectoryAtPath(folder))
         return refuse(text("%1 is not a folder.").arg(folder));
     using Silent = VTTroubleshootingUtils::Silent;

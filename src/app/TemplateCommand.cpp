@@ -12,7 +12,6 @@
 #include "templates/VTDataController.h"
 
 #include <QCoreApplication>
-#include <QDir>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -43,11 +42,6 @@ const QHash<QString, Action> &actions()
         {"import", {1, -1, false}},   {"structure", {1, 1, true}}, {"restore", {0, 0, false}},
     };
     return table;
-}
-
-QString absolute(const QString &path)
-{
-    return QDir::cleanPath(path.startsWith(u'/') ? path : platform::joined(QDir::currentPath(), path));
 }
 
 QJsonArray treeAsJson(const TemplateNodes &nodes)
@@ -207,7 +201,7 @@ int TemplateCommand::import()
 {
     int status = ExitStatus::done;
     for (const QString &path : m_request.arguments.mid(1)) {
-        const QString bundle = absolute(path);
+        const QString bundle = absolutePath(path);
         if (platform::extensionOf(bundle).toLower() != u"tzt") {
             platform::writeToStandardError(text("%1 is not a template: its name does not end in “.tzt”.\n").arg(bundle));
             status = ExitStatus::failed;
@@ -222,7 +216,7 @@ int TemplateCommand::structure()
 {
     if (!isKnown(argument(0)))
         return ExitStatus::wrongUsage;
-    const QString from = absolute(m_request.fromFolder);
+    const QString from = absolutePath(m_request.fromFolder);
     if (!VTFileManager::isDirectoryAtPath(from)) {
         platform::writeToStandardError(text("%1 is not a folder.\n").arg(from));
         return ExitStatus::failed;

@@ -26,7 +26,7 @@ echo 'polkit.addAdminRule(function() { return ["unix-user:administrator"]; });' 
 sed "s|@TESSARO_HELPER_PATH@|$helper|" "$policy" >/usr/share/polkit-1/actions/com.vantrel.Tessaro.policy
 mkdir -p /run/dbus /run/studio/library /run/drive /run/full
 mount -t tmpfs -o mode=755 tmpfs /run/drive # its root is not the editor's to write to
-install -d -o editor /run/drive/work
+install -d -o editor /run/drive/mine
 mount -t tmpfs -o size=64k,mode=1777 tmpfs /run/full
 echo keep >/run/full/last.txt && chown editor /run/full/last.txt
 dd if=/dev/zero of=/run/full/filler bs=1k 2>/dev/null || true

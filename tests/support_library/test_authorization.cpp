@@ -279,8 +279,8 @@ private Q_SLOTS:
     void trashesFromAwkwardDrives()
     {
         QVERIFY(m_dialog.open(true));
-        writeFile("/run/drive/work/there.txt", "there");
-        for (const char *path : {"/run/drive/work/there.txt", "/run/full/last.txt"}) {
+        writeFile("/run/drive/mine/there.txt", "there");
+        for (const char *path : {"/run/drive/mine/there.txt", "/run/full/last.txt"}) {
             const QByteArray contents = readFile(path);
             QVERIFY(VTFileManager::trashFile(path));
             QVERIFY(!QFile::exists(path));
