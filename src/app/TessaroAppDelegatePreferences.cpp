@@ -64,7 +64,8 @@ void TessaroAppDelegate::performCommand(const QString &identifier)
     }
     if (m_creating)
         return;
-    bringToFront();
+    if (!m_preferences || identifier != QLatin1String("preferences")) // they come to the front themselves
+        bringToFront();
     (this->**command)();
 }
 

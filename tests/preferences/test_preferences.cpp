@@ -103,9 +103,8 @@ private Q_SLOTS:
         const QPointer<VTPreferenceController> first = preferences();
         m_delegate->performCommand("preferences"); // from outside: the same window
         QCOMPARE(preferences(), first);
-        QVERIFY(QTest::qWaitForWindowActive(first));
-        QTest::keyClick(first, Qt::Key_Escape);
-        QTRY_VERIFY(!first);
+        // Pressed until it is heard: the window manager may still be changing its mind about which window is active.
+        QTRY_VERIFY(!first || (QTest::keyClick(first.data(), Qt::Key_Escape), !first));
         QVERIFY(menu->isEnabled());
         open();
         QCOMPARE(part<QStackedWidget>("panes")->currentIndex(), 0); // General first, whatever was shown last
