@@ -101,6 +101,7 @@ public:
         }
         const PathAt at(m_place);
         m_root.reset(openat(at.folder(), at.name(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+        m_newFolderMode = newFolderMode(m_root);
         // Only by its directory, at its end: an archive that was cut off has none.
         archive_read_support_format_zip_seekable(m_reader.get());
         if (archive_read_open_filename(m_reader.get(), toNative(archivePath).constData(), blockSize) != ARCHIVE_OK)
@@ -211,7 +212,7 @@ private:
             if (!makeFolder(at.get(), step))
                 return -1;
             sofar += (sofar.isEmpty() ? "" : "/") + step;
-            m_folders.try_emplace(sofar, FolderFinish{newFolderMode(m_root), std::nullopt}); // it may have no entry
+            m_folders.try_emplace(sofar, FolderFinish{m_newFolderMode, std::nullopt}); // it may have no entry
             UniqueDescriptor next = openFolder(at.get(), step.constData());
             at = std::move(next);
             if (!at.isOpen())
@@ -375,6 +376,7 @@ private:
     QString m_place;
     quint64 m_allowed;
     quint64 m_unpacked = 0;
+    mode_t m_newFolderMode = 0755;
     std::unique_ptr<archive, ReadCloser> m_reader;
     UniqueDescriptor m_root;
     UniqueDescriptor m_parent; ///< the folder of the last entry, which mostly is the folder of the next
