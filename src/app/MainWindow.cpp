@@ -4,6 +4,7 @@
 #include "app/TessaroAppDelegate.h"
 #include "parameters/VTProjectTableController.h"
 #include "platform/NativePath.h"
+#include "templates/TemplatePane.h"
 #include "ui/Icons.h"
 #include "ui/ValueCellDelegate.h"
 #include "ui_MainWindow.h"
@@ -79,16 +80,20 @@ void MainWindow::connectTable(VTProjectTableController &controller)
     connect(&controller, &VTProjectTableController::emptinessChanged, this, &MainWindow::setParametersEmpty);
 }
 
-TemplatePane &MainWindow::templatePane() const
+TemplatePane &MainWindow::templatePane()
 {
-    return *m_ui->viewTemplate;
+    if (!m_templatePane) {
+        m_templatePane = new TemplatePane(m_ui->panes);
+        m_ui->panes->addWidget(m_templatePane);
+    }
+    return *m_templatePane;
 }
 
 void MainWindow::showPane(Pane pane)
 {
     m_newProjectItem->setChecked(pane == Pane::Project);
     m_templatesItem->setChecked(pane == Pane::Templates);
-    m_ui->panes->setCurrentWidget(pane == Pane::Project ? m_ui->viewProject : m_ui->viewTemplate);
+    m_ui->panes->setCurrentWidget(pane == Pane::Project ? m_ui->viewProject : &templatePane());
 }
 
 MainWindow::Pane MainWindow::shownPane() const

@@ -25,7 +25,8 @@ public:
 
     void connectTable(VTProjectTableController &controller);
 
-    [[nodiscard]] TemplatePane &templatePane() const;
+    /** Made when it is first asked for: it would only slow the start. */
+    [[nodiscard]] TemplatePane &templatePane();
 
     enum class Pane { Project, Templates };
     void showPane(Pane pane);
@@ -64,6 +65,7 @@ private:
 
     TessaroAppDelegate &m_delegate;
     std::unique_ptr<Ui::MainWindow> m_ui;
+    TemplatePane *m_templatePane = nullptr;
     QAction *m_newProjectItem = nullptr;
     QAction *m_templatesItem = nullptr;
     QAction *m_productFamilyItem = nullptr;

@@ -57,8 +57,6 @@ bool TessaroAppDelegate::awakeFromNib()
     m_window = std::make_unique<MainWindow>(*this);
     m_window->connectTable(*m_tableController);
     VTDataController::sharedController().setWindow(m_window.get());
-    connect(&m_window->templatePane().tableController(), &VTTemplateTableController::populateTemplatePopUp, this,
-            &TessaroAppDelegate::populateTemplatePopUp);
     m_tableController->awakeFromNib();
     importOldTessaroTemplate();
     populateTemplatePopUp();
@@ -93,7 +91,8 @@ QStringList TessaroAppDelegate::toolbarSelectableItemIdentifiers() const
 void TessaroAppDelegate::toolbarNewProjectAction()
 {
     VTLog::appendLog("Showing project pane");
-    m_window->templatePane().finishEditing();
+    if (m_templatesShown)
+        m_window->templatePane().finishEditing();
     m_window->showPane(MainWindow::Pane::Project);
 }
 
@@ -102,10 +101,12 @@ void TessaroAppDelegate::toolbarTemplateAction()
     VTLog::appendLog("Showing template pane");
     m_tableController->finishEditing();
     m_window->showPane(MainWindow::Pane::Templates);
-    if (!std::exchange(m_templatesShown, true))
-        m_window->templatePane().awakeFromNib();
-    else
-        m_window->templatePane().tableController().switchedToView();
+    auto &pane = m_window->templatePane();
+    if (std::exchange(m_templatesShown, true))
+        return pane.tableController().switchedToView();
+    connect(&pane.tableController(), &VTTemplateTableController::populateTemplatePopUp, this,
+            &TessaroAppDelegate::populateTemplatePopUp);
+    pane.awakeFromNib();
 }
 
 void TessaroAppDelegate::changeProjectTemplate()
@@ -170,6 +171,7 @@ void TessaroAppDelegate::showProject(const QString &project)
 void TessaroAppDelegate::quit()
 {
     m_tableController->finishEditing();
-    m_window->templatePane().finishEditing();
+    if (m_templatesShown)
+        m_window->templatePane().finishEditing();
     QApplication::quit();
 }
