@@ -19,6 +19,8 @@
 #include "ui/VTOutlineView.h"
 #include "ui/VTTableView.h"
 
+#include <QDBusConnection>
+#include <QDBusMessage>
 #include <QLineEdit>
 #include <QProcess>
 #include <QMimeData>
@@ -338,6 +340,12 @@ private Q_SLOTS:
         QVERIFY(second.waitForFinished(20'000));
         QCOMPARE(second.exitCode(), 0);
         QTRY_COMPARE_WITH_TIMEOUT(readFile(m_work->filePath("Library/N\u00FCll #1.tzt/Files/d")), "d", 20'000);
+        // A command of the shortcut keys, by its identifier, as the desktop calls it.
+        auto command = QDBusMessage::createMethodCall("com.vantrel.Tessaro", "/com/vantrel/Tessaro",
+                                                      "org.freedesktop.Application", "ActivateAction");
+        command << "new-template" << QVariantList() << QVariantMap();
+        QCOMPARE(QDBusConnection::sessionBus().call(command).type(), QDBusMessage::ReplyMessage);
+        QTRY_VERIFY_WITH_TIMEOUT(targetExists(m_work->filePath("Library/Untitled.tzt/Files")), 20'000);
         QCOMPARE(first.state(), QProcess::Running);
         first.terminate();
         QVERIFY(first.waitForFinished(20'000));
