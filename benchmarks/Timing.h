@@ -10,8 +10,7 @@
 /** What the programs that measure share: one run's seconds, and ratios within one run. */
 namespace timing {
 
-template <typename Work>
-double secondsOf(Work work)
+template <typename Work> double secondsOf(Work work)
 {
     const auto start = std::chrono::steady_clock::now();
     work();
@@ -22,8 +21,8 @@ inline double secondsOf(const QString &tool, const QStringList &arguments)
 {
     return secondsOf([&] {
         platform::ChildProcess child(tool, arguments);
-        const bool started = child.start(platform::ChildProcess::Output::Discarded,
-                                         platform::ChildProcess::ErrorOutput::Discarded);
+        const bool started =
+            child.start(platform::ChildProcess::Output::Discarded, platform::ChildProcess::ErrorOutput::Discarded);
         if (!started || child.waitUntilExit() != 0)
             qFatal("%s failed", qPrintable(tool));
     });

@@ -2,9 +2,9 @@
 //
 //   bench_files [small|large]...       default: both
 //
-// small: 10,000 files of 2 KiB in 1,000 folders. large: one file of 2 GiB, half of it noise, half of it text; then a copy
-// of it that is cancelled. The two take turns, each into a new destination; nothing is deleted before the deletions are
-// measured, because creating files soon after a large one is slow on ext4 and would make every ratio 1.
+// small: 10,000 files of 2 KiB in 1,000 folders. large: one file of 2 GiB, half of it noise, half of it text; then a
+// copy of it that is cancelled. The two take turns, each into a new destination; nothing is deleted before the
+// deletions are measured, because creating files soon after a large one is slow on ext4 and would make every ratio 1.
 #include "Timing.h"
 #include "platform/CopyOperation.h"
 #include "platform/Desktop.h"
@@ -43,7 +43,8 @@ void makeLarge(const QString &folder)
     QByteArray noise(1 << 20, '\0');
     QByteArray text;
     while (text.size() < 1 << 20)
-        text += "Scene " + QByteArray::number(random.bounded(1000)) + ", take " + QByteArray::number(random.bounded(9)) + '\n';
+        text += "Scene " + QByteArray::number(random.bounded(1000)) + ", take " +
+                QByteArray::number(random.bounded(9)) + '\n';
     text.truncate(1 << 20);
     for (int i = 0; i < 1024; ++i) {
         for (qsizetype at = 0; at < noise.size(); at += 4)
@@ -68,11 +69,14 @@ void measure(const QString &work, const QString &kind, int rounds)
         std::vector<double> ours;
         std::vector<double> theirs;
     } copy, zip, unzip, remove;
-    const auto place = [&](const char *what, int round) { return tree + u'-' + what + QString::number(round); };
+    const auto place = [&](const char *what, int round) {
+        return tree + u'-' + what + QString::number(round);
+    };
     for (int round = -1; round < rounds; ++round) {
         Pair pair;
         pair.theirs.push_back(timing::secondsOf("/bin/cp", {"-a", tree, place("cp", round)}));
-        pair.ours.push_back(timing::secondsOf([&] { mustBeGood(platform::copyItem(tree, place("our", round)).description()); }));
+        pair.ours.push_back(
+            timing::secondsOf([&] { mustBeGood(platform::copyItem(tree, place("our", round)).description()); }));
         if (round < 0)
             continue; // the first round fills the caches
         copy.theirs.push_back(pair.theirs[0]);
@@ -109,8 +113,11 @@ void cancelCopy(const QString &tree, const QString &destination)
 {
     QEventLoop loop;
     std::chrono::steady_clock::time_point cancelled;
-    const auto copy = platform::CopyOperation::start(
-        tree, destination, {[](const auto &, const auto &) {}, [&](const auto &, const auto &) { loop.quit(); }});
+    const auto copy = platform::CopyOperation::start(tree, destination,
+                                                     {[](const auto &, const auto &) {},
+                                                      [&](const auto &, const auto &) {
+                                                          loop.quit();
+                                                      }});
     QTimer::singleShot(200, &loop, [&] {
         cancelled = std::chrono::steady_clock::now();
         copy->cancel();
@@ -118,7 +125,8 @@ void cancelCopy(const QString &tree, const QString &destination)
     loop.exec();
     const std::chrono::duration<double, std::milli> took = std::chrono::steady_clock::now() - cancelled;
     QTextStream(stdout) << "  a copy cancelled after 200 ms ended " << took.count() << " ms later and left "
-                        << (platform::kindOf(destination) == platform::FileKind::Missing ? "nothing" : "something") << '\n';
+                        << (platform::kindOf(destination) == platform::FileKind::Missing ? "nothing" : "something")
+                        << '\n';
 }
 
 } // namespace
@@ -134,5 +142,6 @@ int main(int argc, char **argv)
     for (const QString &kind : kinds)
         measure(QDir::current().absoluteFilePath(work.path()), kind, kind == u"small" ? 7 : 3);
     if (kinds.contains(u"large"))
-        cancelCopy(QDir::current().absoluteFilePath(work.path()) + "/large", QDir::current().absoluteFilePath(work.path()) + "/cut");
+        cancelCopy(QDir::current().absoluteFilePath(work.path()) + "/large",
+                   QDir::current().absoluteFilePath(work.path()) + "/cut");
 }

@@ -1,5 +1,5 @@
-// Loading a template of 100,000 entries into the structure editor against `find` over the same tree, in the same run; and
-// the longest time for which the window did not react while it loaded.
+// Loading a template of 100,000 entries into the structure editor against `find` over the same tree, in the same run;
+// and the longest time for which the window did not react while it loaded.
 //
 //   bench_tree [ENTRIES]...        default: 1000 100000, in a hundredth as many folders
 #include "Timing.h"

@@ -74,8 +74,7 @@ int runProgram(int argc, char **argv)
         platform::writeToStandardError("Tessaro: " + problem + "\nTessaro --help lists what it understands.\n");
         return ExitStatus::wrongUsage;
     }
-    if (request->verb == CommandRequest::Verb::Window)
-        {
+    if (request->verb == CommandRequest::Verb::Window) {
         QStringList files;
         for (const QString &file : request->files)
             files.append(absolutePath(file));
@@ -90,7 +89,8 @@ int runProgram(int argc, char **argv)
 int main(int argc, char **argv)
 {
     platform::prepareLocale();
-    const QString reports = VTLocalPaths::logDirectory(VTLocalPaths::Domain::User) + QStringLiteral("/DiagnosticReports");
+    const QString reports =
+        VTLocalPaths::logDirectory(VTLocalPaths::Domain::User) + QStringLiteral("/DiagnosticReports");
     platform::writeCrashReports(reports, QStringLiteral("Tessaro"),
                                 platform::ApplicationBundle::main().informationString("CFBundleShortVersionString"));
     const int status = runProgram(argc, argv);

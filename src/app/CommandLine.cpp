@@ -36,8 +36,11 @@ class WordReader
 {
 public:
     WordReader(const QStringList &words, CommandRequest &request, QString &problem)
-        : m_words(words), m_request(request), m_problem(problem)
-    {}
+        : m_words(words)
+        , m_request(request)
+        , m_problem(problem)
+    {
+    }
 
     bool readOptions()
     {
@@ -166,10 +169,18 @@ private:
 std::optional<Verb> verbOf(const QString &word)
 {
     static const QHash<QString, Verb> verbs{
-        {"create", Verb::Create},   {"templates", Verb::Templates}, {"parameters", Verb::Parameters},
-        {"--help", Verb::Help},     {"-h", Verb::Help},             {"help", Verb::Help},
-        {"--version", Verb::Version}, {"template", Verb::Template}, {"clear-history", Verb::ClearHistory},
-        {"settings", Verb::Settings}, {"logs", Verb::Logs}, {"updates", Verb::Updates},
+        {"create", Verb::Create},
+        {"templates", Verb::Templates},
+        {"parameters", Verb::Parameters},
+        {"--help", Verb::Help},
+        {"-h", Verb::Help},
+        {"help", Verb::Help},
+        {"--version", Verb::Version},
+        {"template", Verb::Template},
+        {"clear-history", Verb::ClearHistory},
+        {"settings", Verb::Settings},
+        {"logs", Verb::Logs},
+        {"updates", Verb::Updates},
     };
     const auto verb = verbs.constFind(word);
     return verb == verbs.cend() ? std::nullopt : std::optional(*verb);
@@ -189,7 +200,8 @@ int listTemplates(const CommandRequest &request, const TerminalPresenter &presen
     QJsonArray list;
     QString lines;
     for (const QString &name : store.templates()) {
-        list.append(QJsonObject{{"name", platform::forDisplay(name)}, {"default", name == marked}, {"next", name == next}});
+        list.append(
+            QJsonObject{{"name", platform::forDisplay(name)}, {"default", name == marked}, {"next", name == next}});
         lines += (name == marked ? QStringLiteral("* ") : QStringLiteral("  ")) + name + u'\n';
     }
     if (request.json)
@@ -202,22 +214,24 @@ int listTemplates(const CommandRequest &request, const TerminalPresenter &presen
 QString kindName(FilenameParameter::Kind kind)
 {
     switch (kind) {
-    case FilenameParameter::Kind::Counter: return QStringLiteral("counter");
-    case FilenameParameter::Kind::Date: return QStringLiteral("date");
-    case FilenameParameter::Kind::UserName: return QStringLiteral("user");
-    case FilenameParameter::Kind::Choice: return QStringLiteral("choice");
-    default: return QStringLiteral("text");
+    case FilenameParameter::Kind::Counter:
+        return QStringLiteral("counter");
+    case FilenameParameter::Kind::Date:
+        return QStringLiteral("date");
+    case FilenameParameter::Kind::UserName:
+        return QStringLiteral("user");
+    case FilenameParameter::Kind::Choice:
+        return QStringLiteral("choice");
+    default:
+        return QStringLiteral("text");
     }
 }
 
 QJsonObject parameterObject(const FilenameParameter &parameter)
 {
-    QJsonObject object{{"title", parameter.title()},
-                       {"kind", kindName(parameter.kind())},
-                       {"value", parameter.value()},
-                       {"beginsFolder", parameter.beginsFolder()},
-                       {"required", parameter.isRequired()},
-                       {"locked", parameter.isLocked()}};
+    QJsonObject object{{"title", parameter.title()},         {"kind", kindName(parameter.kind())},
+                       {"value", parameter.value()},         {"beginsFolder", parameter.beginsFolder()},
+                       {"required", parameter.isRequired()}, {"locked", parameter.isLocked()}};
     if (parameter.kind() == FilenameParameter::Kind::Choice)
         object.insert("choices", QJsonArray::fromStringList(parameter.choices()));
     return object;
@@ -289,57 +303,58 @@ QString absolutePath(const QString &path)
 
 QString helpText()
 {
-    return text("Tessaro starts media and production projects from templates.\n"
-                "\n"
-                "  Tessaro                   the window\n"
-                "  Tessaro create            a project, without a window\n"
-                "      --template NAME       the template (default: the one the window would choose)\n"
-                "      --in FOLDER           the folder to create the project in (default: the fixed project location,\n"
-                "                            when it is switched on)\n"
-                "      --set TITLE=VALUE     a parameter's value, as if typed into its row; may be repeated\n"
-                "      --overwrite           move an existing project of the name to the Trash first\n"
-                "      --dry-run             print what would be made and change nothing\n"
-                "      --json                print one JSON object instead of the project's path\n"
-                "  Tessaro templates         the templates, one a line; the default is marked with a star\n"
-                "      --json\n"
-                "  Tessaro template new NAME             an empty template\n"
-                "  Tessaro template duplicate NAME\n"
-                "  Tessaro template rename OLD NEW\n"
-                "  Tessaro template remove NAME [--yes]  moves it to the Trash; without --yes nothing is done\n"
-                "  Tessaro template default [NAME]       marks the default template, or prints it\n"
-                "      --unset                           takes the mark away\n"
-                "  Tessaro template show NAME [--json]   its tree\n"
-                "  Tessaro template import PATH...       takes in bundles (NAME.tzt); one of the same name goes to the\n"
-                "                                        Trash\n"
-                "  Tessaro template structure NAME --from FOLDER\n"
-                "                                        makes the folder's folders in the template, without files\n"
-                "  Tessaro template restore [--yes]      the templates that ship with Tessaro; changed ones go to the\n"
-                "                                        Trash\n"
-                "  Tessaro clear-history     forgets the values typed before\n"
-                "  Tessaro FILE.tzt          takes the template in and shows it\n"
-                "  Tessaro parameters        title, kind and value of each parameter; a / marks those that begin a\n"
-                "      --json                folder level\n"
-                "  Tessaro parameters add TITLE [KIND [DEFAULT]]   kinds: text, counter, date, user, choice\n"
-                "  Tessaro parameters set TITLE KEY VALUE          keys: title, kind, default, folder, history,\n"
-                "                                                  required, locked\n"
-                "  Tessaro parameters move TITLE POSITION          counted from 1\n"
-                "  Tessaro parameters remove TITLE [--yes]\n"
-                "  Tessaro parameters export FILE                  as a property list\n"
-                "  Tessaro parameters import FILE [--yes]          replaces the whole list\n"
-                "  Tessaro settings [--json]                       each setting with its value and meaning\n"
-                "  Tessaro settings get KEY\n"
-                "  Tessaro settings set KEY VALUE                  checked before it is stored\n"
-                "  Tessaro settings unset KEY                      the default applies again\n"
-                "  Tessaro logs [--task] [--path]                  the log of the window, or of commands; or where it is\n"
-                "  Tessaro logs gather [--to FOLDER] [--include FILE]...\n"
-                "                                                  logs, crash reports and settings in one archive, for a\n"
-                "                                                  support request; on the desktop unless told otherwise\n"
-                "  Tessaro updates check                           starts the updater's silent check\n"
-                "  Tessaro --help            this text\n"
-                "  Tessaro --version\n"
-                "\n"
-                "Exit status: 0 done; 1 failed, or partly failed; 2 wrong usage; 3 the project or template exists and was\n"
-                "not overwritten, the command was cancelled (--yes says yes), or the administrator's rights were refused.\n");
+    return text(
+        "Tessaro starts media and production projects from templates.\n"
+        "\n"
+        "  Tessaro                   the window\n"
+        "  Tessaro create            a project, without a window\n"
+        "      --template NAME       the template (default: the one the window would choose)\n"
+        "      --in FOLDER           the folder to create the project in (default: the fixed project location,\n"
+        "                            when it is switched on)\n"
+        "      --set TITLE=VALUE     a parameter's value, as if typed into its row; may be repeated\n"
+        "      --overwrite           move an existing project of the name to the Trash first\n"
+        "      --dry-run             print what would be made and change nothing\n"
+        "      --json                print one JSON object instead of the project's path\n"
+        "  Tessaro templates         the templates, one a line; the default is marked with a star\n"
+        "      --json\n"
+        "  Tessaro template new NAME             an empty template\n"
+        "  Tessaro template duplicate NAME\n"
+        "  Tessaro template rename OLD NEW\n"
+        "  Tessaro template remove NAME [--yes]  moves it to the Trash; without --yes nothing is done\n"
+        "  Tessaro template default [NAME]       marks the default template, or prints it\n"
+        "      --unset                           takes the mark away\n"
+        "  Tessaro template show NAME [--json]   its tree\n"
+        "  Tessaro template import PATH...       takes in bundles (NAME.tzt); one of the same name goes to the\n"
+        "                                        Trash\n"
+        "  Tessaro template structure NAME --from FOLDER\n"
+        "                                        makes the folder's folders in the template, without files\n"
+        "  Tessaro template restore [--yes]      the templates that ship with Tessaro; changed ones go to the\n"
+        "                                        Trash\n"
+        "  Tessaro clear-history     forgets the values typed before\n"
+        "  Tessaro FILE.tzt          takes the template in and shows it\n"
+        "  Tessaro parameters        title, kind and value of each parameter; a / marks those that begin a\n"
+        "      --json                folder level\n"
+        "  Tessaro parameters add TITLE [KIND [DEFAULT]]   kinds: text, counter, date, user, choice\n"
+        "  Tessaro parameters set TITLE KEY VALUE          keys: title, kind, default, folder, history,\n"
+        "                                                  required, locked\n"
+        "  Tessaro parameters move TITLE POSITION          counted from 1\n"
+        "  Tessaro parameters remove TITLE [--yes]\n"
+        "  Tessaro parameters export FILE                  as a property list\n"
+        "  Tessaro parameters import FILE [--yes]          replaces the whole list\n"
+        "  Tessaro settings [--json]                       each setting with its value and meaning\n"
+        "  Tessaro settings get KEY\n"
+        "  Tessaro settings set KEY VALUE                  checked before it is stored\n"
+        "  Tessaro settings unset KEY                      the default applies again\n"
+        "  Tessaro logs [--task] [--path]                  the log of the window, or of commands; or where it is\n"
+        "  Tessaro logs gather [--to FOLDER] [--include FILE]...\n"
+        "                                                  logs, crash reports and settings in one archive, for a\n"
+        "                                                  support request; on the desktop unless told otherwise\n"
+        "  Tessaro updates check                           starts the updater's silent check\n"
+        "  Tessaro --help            this text\n"
+        "  Tessaro --version\n"
+        "\n"
+        "Exit status: 0 done; 1 failed, or partly failed; 2 wrong usage; 3 the project or template exists and was\n"
+        "not overwritten, the command was cancelled (--yes says yes), or the administrator's rights were refused.\n");
 }
 
 int runCommand(const CommandRequest &request)

@@ -6,7 +6,19 @@
 /** What a command line asks for. A plain value. */
 struct CommandRequest
 {
-    enum class Verb { Window, Create, Templates, Template, Parameters, Settings, Logs, Updates, ClearHistory, Help, Version };
+    enum class Verb {
+        Window,
+        Create,
+        Templates,
+        Template,
+        Parameters,
+        Settings,
+        Logs,
+        Updates,
+        ClearHistory,
+        Help,
+        Version
+    };
 
     Verb verb = Verb::Window;
     QStringList files; ///< for the window
@@ -22,10 +34,10 @@ struct CommandRequest
     QString fromFolder;
     bool yes = false;
     bool unset = false;
-    bool task = false;         ///< logs: the task log
-    bool path = false;         ///< logs: only where it is
-    QString toFolder;          ///< logs gather: null for the desktop
-    QStringList include;       ///< logs gather
+    bool task = false;       ///< logs: the task log
+    bool path = false;       ///< logs: only where it is
+    QString toFolder;        ///< logs gather: null for the desktop
+    QStringList include;     ///< logs gather
     bool withDashes = false; ///< "--" was there: what follows are plain words
 };
 
@@ -35,7 +47,7 @@ inline constexpr int done = 0;
 inline constexpr int failed = 1; ///< or partly failed
 inline constexpr int wrongUsage = 2;
 inline constexpr int notOverwritten = 3; ///< exists and was not overwritten, or cancelled, or rights refused
-}
+} // namespace ExitStatus
 
 /** Reads the words after the program's name. Nothing, with one sentence, when they cannot be understood. Pure. */
 [[nodiscard]] std::optional<CommandRequest> readCommandLine(const QStringList &words, QString &problem);

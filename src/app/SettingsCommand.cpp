@@ -26,10 +26,9 @@ struct Action
     int most;
     bool changes;
 };
-const QHash<QString, Action> settingsActions{
-    {"get", {1, 1, false}}, {"set", {2, 2, true}}, {"unset", {1, 1, true}}};
-const QHash<QString, Action> parameterActions{{"add", {1, 3, true}},    {"remove", {1, 1, true}},
-                                              {"move", {2, 2, true}},   {"set", {3, 3, true}},
+const QHash<QString, Action> settingsActions{{"get", {1, 1, false}}, {"set", {2, 2, true}}, {"unset", {1, 1, true}}};
+const QHash<QString, Action> parameterActions{{"add", {1, 3, true}},     {"remove", {1, 1, true}},
+                                              {"move", {2, 2, true}},    {"set", {3, 3, true}},
                                               {"export", {1, 1, false}}, {"import", {1, 1, true}}};
 
 const QHash<QString, Action> &actionsOf(const CommandRequest &request)
@@ -43,9 +42,8 @@ const QHash<QString, FilenameParameter::Kind> kindWords{{"text", FilenameParamet
                                                         {"date", FilenameParameter::Kind::Date},
                                                         {"user", FilenameParameter::Kind::UserName},
                                                         {"choice", FilenameParameter::Kind::Choice}};
-const QHash<QString, QString> keyWords{{"title", "title"},         {"kind", "type"},
-                                       {"default", "defaultVal"},  {"folder", "folder"},
-                                       {"history", "saveHistory"}, {"required", "disallowEmpty"},
+const QHash<QString, QString> keyWords{{"title", "title"},   {"kind", "type"},           {"default", "defaultVal"},
+                                       {"folder", "folder"}, {"history", "saveHistory"}, {"required", "disallowEmpty"},
                                        {"locked", "locked"}};
 
 /// The value of a parameter's key from its word; nothing when it is none.
@@ -81,10 +79,9 @@ QString SettingsCommand::problemOf(const CommandRequest &request)
     if (action == actionsOf(request).cend())
         return text("There is no “%1” here.").arg(platform::forDisplay(what));
     const auto given = static_cast<int>(request.arguments.size()) - 1;
-    return given < action->least || given > action->most ? text("“%1” was given %2 words, which is not what it takes.")
-                                                               .arg(what)
-                                                               .arg(given)
-                                                         : QString();
+    return given < action->least || given > action->most
+               ? text("“%1” was given %2 words, which is not what it takes.").arg(what).arg(given)
+               : QString();
 }
 
 int SettingsCommand::run()
@@ -98,8 +95,8 @@ int SettingsCommand::run()
     if (m_request.verb == CommandRequest::Verb::Settings)
         return what == u"get" ? get() : what == u"set" ? set() : unset();
     static const QHash<QString, int (SettingsCommand::*)()> table{
-        {"add", &SettingsCommand::add},          {"remove", &SettingsCommand::remove},
-        {"move", &SettingsCommand::move},        {"set", &SettingsCommand::change},
+        {"add", &SettingsCommand::add},           {"remove", &SettingsCommand::remove},
+        {"move", &SettingsCommand::move},         {"set", &SettingsCommand::change},
         {"export", &SettingsCommand::exportList}, {"import", &SettingsCommand::importList}};
     return (this->*table[what])();
 }
@@ -181,17 +178,18 @@ std::optional<int> SettingsCommand::rowOf(const FilenameParameters &list, const 
     }
     if (rows.size() == 1)
         return rows.first();
-    refuse(ExitStatus::wrongUsage, (rows.isEmpty() ? text("There is no parameter “%1”.")
-                                                   : text("There are several parameters “%1”. Please give them titles of "
-                                                          "their own, in the window."))
-                                       .arg(title));
+    refuse(ExitStatus::wrongUsage,
+           (rows.isEmpty() ? text("There is no parameter “%1”.")
+                           : text("There are several parameters “%1”. Please give them titles of "
+                                  "their own, in the window."))
+               .arg(title));
     return std::nullopt;
 }
 
 int SettingsCommand::store(const FilenameParameters &list) const
 {
     return settings::standard().setValue(settings::filenameTemplate, variantFromParameters(list)) ? ExitStatus::done
-                                                                                                 : ExitStatus::failed;
+                                                                                                  : ExitStatus::failed;
 }
 
 int SettingsCommand::add()
@@ -218,7 +216,8 @@ int SettingsCommand::remove()
     if (!row)
         return ExitStatus::wrongUsage;
     if (!m_request.yes)
-        return refuse(ExitStatus::notOverwritten, text("Nothing was removed. This cannot be undone; say --yes to do it."));
+        return refuse(ExitStatus::notOverwritten,
+                      text("Nothing was removed. This cannot be undone; say --yes to do it."));
     return store(editor::without(list, {*row}));
 }
 
@@ -245,8 +244,9 @@ int SettingsCommand::change()
     const QString key = argument(1);
     const auto value = keyWords.contains(key) ? entryFromWord(key, argument(2)) : std::nullopt;
     if (!value)
-        return refuse(ExitStatus::wrongUsage, keyWords.contains(key) ? text("“%1” cannot be “%2”.").arg(key, argument(2))
-                                                                     : text("A parameter has no “%1”.").arg(key));
+        return refuse(ExitStatus::wrongUsage, keyWords.contains(key)
+                                                  ? text("“%1” cannot be “%2”.").arg(key, argument(2))
+                                                  : text("A parameter has no “%1”.").arg(key));
     return store(editor::withEntry(list, *row, keyWords[key], *value));
 }
 

@@ -4,11 +4,15 @@
 #include "parameters/FilenameParameter.h"
 #include "support/Settings.h"
 
-/** `Tessaro settings ...` and the changing forms of `Tessaro parameters ...`: what the preferences do, without a window. */
+/** `Tessaro settings ...` and the changing forms of `Tessaro parameters ...`: what the preferences do, without a
+ * window. */
 class SettingsCommand
 {
 public:
-    explicit SettingsCommand(const CommandRequest &request) : m_request(request) {}
+    explicit SettingsCommand(const CommandRequest &request)
+        : m_request(request)
+    {
+    }
 
     /** Returns the exit status. */
     [[nodiscard]] int run();

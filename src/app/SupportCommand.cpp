@@ -30,13 +30,14 @@ QString SupportCommand::problemOf(const CommandRequest &request)
 {
     const bool isLogs = request.verb == CommandRequest::Verb::Logs;
     const bool isGather = isLogs && request.arguments == QStringList(QStringLiteral("gather"));
-    const bool isKnown = isLogs ? isGather || request.arguments.isEmpty()
-                                : request.arguments == QStringList(QStringLiteral("check"));
+    const bool isKnown =
+        isLogs ? isGather || request.arguments.isEmpty() : request.arguments == QStringList(QStringLiteral("check"));
     if (!isKnown)
         return isLogs ? text("logs takes nothing, or “gather”.") : text("updates takes “check”.");
     if (!isGather && (!request.toFolder.isNull() || !request.include.isEmpty()))
         return text("--to and --include belong to logs gather.");
-    return isGather && (request.task || request.path) ? text("--task and --path do not belong to logs gather.") : QString();
+    return isGather && (request.task || request.path) ? text("--task and --path do not belong to logs gather.")
+                                                      : QString();
 }
 
 int SupportCommand::run()
@@ -49,8 +50,8 @@ int SupportCommand::run()
 
 int SupportCommand::showLog()
 {
-    const QString path = m_request.task ? VTTroubleshootingUtils::taskLogPath(ownName)
-                                        : VTTroubleshootingUtils::logPath(ownName);
+    const QString path =
+        m_request.task ? VTTroubleshootingUtils::taskLogPath(ownName) : VTTroubleshootingUtils::logPath(ownName);
     if (m_request.path) {
         platform::writeToStandardOutput(path + u'\n');
         return ExitStatus::done;

@@ -6,7 +6,10 @@
 class SupportCommand
 {
 public:
-    explicit SupportCommand(const CommandRequest &request) : m_request(request) {}
+    explicit SupportCommand(const CommandRequest &request)
+        : m_request(request)
+    {
+    }
 
     /** Returns the exit status. */
     [[nodiscard]] int run();

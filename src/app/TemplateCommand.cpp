@@ -25,8 +25,8 @@ QString text(const char *source)
     return QCoreApplication::translate("TemplateCommand", source);
 }
 
-/// What can be done, how many words each takes (-1: one or more), and whether an administrator may have to agree: the same
-/// actions as in the window.
+/// What can be done, how many words each takes (-1: one or more), and whether an administrator may have to agree: the
+/// same actions as in the window.
 struct Action
 {
     int least;
@@ -37,9 +37,9 @@ struct Action
 const QHash<QString, Action> &actions()
 {
     static const QHash<QString, Action> table{
-        {"new", {1, 1, true}},        {"duplicate", {1, 1, true}}, {"rename", {2, 2, false}},
-        {"remove", {1, 1, true}},     {"default", {0, 1, true}},   {"show", {1, 1, false}},
-        {"import", {1, -1, false}},   {"structure", {1, 1, true}}, {"restore", {0, 0, false}},
+        {"new", {1, 1, true}},      {"duplicate", {1, 1, true}}, {"rename", {2, 2, false}},
+        {"remove", {1, 1, true}},   {"default", {0, 1, true}},   {"show", {1, 1, false}},
+        {"import", {1, -1, false}}, {"structure", {1, 1, true}}, {"restore", {0, 0, false}},
     };
     return table;
 }
@@ -62,7 +62,8 @@ void drawTree(const TemplateNodes &nodes, const QString &indent, QString &lines)
 {
     for (const auto &node : nodes) {
         const bool isLast = &node == &nodes.back();
-        const QString name = platform::forDisplay(node->name()) + (node->isFolderItem() ? QStringLiteral("/") : QString());
+        const QString name =
+            platform::forDisplay(node->name()) + (node->isFolderItem() ? QStringLiteral("/") : QString());
         lines += indent + (isLast ? QStringLiteral("└── ") : QStringLiteral("├── ")) + name + u'\n';
         if (node->isFolderItem())
             drawTree(static_cast<const VTFolderItem &>(*node).children(),
@@ -76,9 +77,10 @@ QString TemplateCommand::problemOf(const CommandRequest &request)
 {
     const QString what = request.arguments.value(0);
     if (!actions().contains(what))
-        return what.isNull() ? text("template needs to be told what to do: new, duplicate, rename, remove, default, show, "
-                                    "import, structure or restore.")
-                             : text("template cannot “%1”.").arg(platform::forDisplay(what));
+        return what.isNull()
+                   ? text("template needs to be told what to do: new, duplicate, rename, remove, default, show, "
+                          "import, structure or restore.")
+                   : text("template cannot “%1”.").arg(platform::forDisplay(what));
     const Action action = actions()[what];
     const auto given = static_cast<int>(request.arguments.size()) - 1;
     if (given < action.least || (action.most >= 0 && given > action.most) || request.arguments.contains(QString()))
@@ -93,10 +95,10 @@ QString TemplateCommand::problemOf(const CommandRequest &request)
 int TemplateCommand::run()
 {
     static const QHash<QString, int (TemplateCommand::*)()> table{
-        {"new", &TemplateCommand::create},         {"duplicate", &TemplateCommand::duplicate},
-        {"rename", &TemplateCommand::rename},      {"remove", &TemplateCommand::remove},
+        {"new", &TemplateCommand::create},          {"duplicate", &TemplateCommand::duplicate},
+        {"rename", &TemplateCommand::rename},       {"remove", &TemplateCommand::remove},
         {"default", &TemplateCommand::markDefault}, {"show", &TemplateCommand::show},
-        {"import", &TemplateCommand::import},      {"structure", &TemplateCommand::structure},
+        {"import", &TemplateCommand::import},       {"structure", &TemplateCommand::structure},
         {"restore", &TemplateCommand::restore},
     };
     const QString what = m_request.arguments.constFirst();
@@ -122,10 +124,15 @@ bool TemplateCommand::isKnown(const QString &name) const
 int TemplateCommand::statusOf(const library::Result &result) const
 {
     switch (result.outcome) {
-    case Outcome::Done: platform::writeToStandardOutput(VTDataController::bundlePath(result.name) + u'\n'); [[fallthrough]];
-    case Outcome::Unchanged: return ExitStatus::done;
-    case Outcome::Declined: return ExitStatus::notOverwritten;
-    default: return ExitStatus::failed;
+    case Outcome::Done:
+        platform::writeToStandardOutput(VTDataController::bundlePath(result.name) + u'\n');
+        [[fallthrough]];
+    case Outcome::Unchanged:
+        return ExitStatus::done;
+    case Outcome::Declined:
+        return ExitStatus::notOverwritten;
+    default:
+        return ExitStatus::failed;
     }
 }
 
@@ -134,7 +141,8 @@ int TemplateCommand::create()
     const QString name = VTFileManager::validateFilename(argument(0));
     if (name != argument(0)) {
         platform::writeToStandardError(
-            text("“%1” cannot be a template's name. Leave out slashes, colons, and dots at the beginning.\n").arg(argument(0)));
+            text("“%1” cannot be a template's name. Leave out slashes, colons, and dots at the beginning.\n")
+                .arg(argument(0)));
         return ExitStatus::wrongUsage;
     }
     if (VTDataController::sharedController().templates().contains(name)) {
@@ -203,7 +211,8 @@ int TemplateCommand::import()
     for (const QString &path : m_request.arguments.mid(1)) {
         const QString bundle = absolutePath(path);
         if (platform::extensionOf(bundle).toLower() != u"tzt") {
-            platform::writeToStandardError(text("%1 is not a template: its name does not end in “.tzt”.\n").arg(bundle));
+            platform::writeToStandardError(
+                text("%1 is not a template: its name does not end in “.tzt”.\n").arg(bundle));
             status = ExitStatus::failed;
         } else if (const int one = statusOf(library::addTemplate(bundle)); one != ExitStatus::done) {
             status = one;
@@ -221,9 +230,10 @@ int TemplateCommand::structure()
         platform::writeToStandardError(text("%1 is not a folder.\n").arg(from));
         return ExitStatus::failed;
     }
-    const ImportHost nobody{[] {}, [](const QString &) {}, [] {}};
-    const bool done =
-        importjobs::createFolderStructure({{from}, VTDataController::filesFolder(argument(0))}, nobody);
+    const ImportHost nobody{[] {}, [](const QString &) {},
+                            [] {
+                            }};
+    const bool done = importjobs::createFolderStructure({{from}, VTDataController::filesFolder(argument(0))}, nobody);
     if (!done)
         platform::writeToStandardError(text("Not all folders could be made.\n"));
     return done ? ExitStatus::done : ExitStatus::failed;

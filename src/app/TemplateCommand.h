@@ -10,8 +10,10 @@ class TemplateCommand
 {
 public:
     TemplateCommand(const CommandRequest &request, const TerminalPresenter &presenter)
-        : m_request(request), m_presenter(presenter)
-    {}
+        : m_request(request)
+        , m_presenter(presenter)
+    {
+    }
 
     /** Returns the exit status. */
     [[nodiscard]] int run();

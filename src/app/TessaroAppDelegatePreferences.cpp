@@ -52,9 +52,12 @@ void TessaroAppDelegate::performCommand(const QString &identifier)
 {
     using Delegate = TessaroAppDelegate;
     static const QHash<QString, void (Delegate::*)()> commands{
-        {"new-project", &Delegate::beginNewProject},          {"create-project", &Delegate::createNewProject},
-        {"show-project-pane", &Delegate::toolbarNewProjectAction}, {"show-template-pane", &Delegate::toolbarTemplateAction},
-        {"new-template", &Delegate::newTemplate},             {"import-template", &Delegate::importTemplate},
+        {"new-project", &Delegate::beginNewProject},
+        {"create-project", &Delegate::createNewProject},
+        {"show-project-pane", &Delegate::toolbarNewProjectAction},
+        {"show-template-pane", &Delegate::toolbarTemplateAction},
+        {"new-template", &Delegate::newTemplate},
+        {"import-template", &Delegate::importTemplate},
         {"preferences", &Delegate::showPreferences},
     };
     const auto command = commands.constFind(identifier);

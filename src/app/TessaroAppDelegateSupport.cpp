@@ -16,7 +16,8 @@ void TessaroAppDelegate::checkForUpdates()
 {
     if (!VTSoftwareUpdate::manualUpdateCheck())
         VTAlert::alertSheetWithMessageText(tr("Updates cannot be looked for"),
-                                           tr("The software updater is not installed on this computer."), m_window.get());
+                                           tr("The software updater is not installed on this computer."),
+                                           m_window.get());
 }
 
 void TessaroAppDelegate::viewLog()

@@ -30,7 +30,8 @@ bool TessaroAppDelegate::openFile(const QString &path)
         return false;
     bringToFront();
     toolbarTemplateAction();
-    auto *thread = QThread::create([this, plain] { m_window->templatePane().tableController().addTemplateFromFile(plain); });
+    auto *thread =
+        QThread::create([this, plain] { m_window->templatePane().tableController().addTemplateFromFile(plain); });
     ++m_imports;
     connect(thread, &QThread::finished, this, [this, thread] {
         thread->deleteLater();
@@ -67,7 +68,8 @@ void TessaroAppDelegate::restoreDefaultTemplates()
 {
     const int answer = VTAlert::alertSheetWithMessageText(
         tr("Are you sure you wish to restore the default Tessaro templates?"), tr("Restore"), tr("Cancel"), {},
-        tr("This will restore the templates Tessaro ships with by default and will overwrite any modifications you have "
+        tr("This will restore the templates Tessaro ships with by default and will overwrite any modifications you "
+           "have "
            "made to them."),
         m_window.get(), VTAlert::Block::Yes);
     if (answer != VTAlert::defaultReturn)
@@ -80,11 +82,11 @@ void TessaroAppDelegate::restoreDefaultTemplates()
 void TessaroAppDelegate::clearHistory()
 {
     m_tableController->clearHistory();
-    VTAlert::alertSheetWithMessageText(
-        tr("History successfully cleared"),
-        tr("To switch history logging off entirely, go to Preferences and deselect Save History next to each parameter in "
-           "the Parameters tab."),
-        m_window.get());
+    VTAlert::alertSheetWithMessageText(tr("History successfully cleared"),
+                                       tr("To switch history logging off entirely, go to Preferences and deselect Save "
+                                          "History next to each parameter in "
+                                          "the Parameters tab."),
+                                       m_window.get());
 }
 
 void TessaroAppDelegate::newTemplate()

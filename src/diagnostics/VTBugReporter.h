@@ -5,9 +5,9 @@
 #include <functional>
 
 /**
- * Finds out at the start whether the last run crashed, and hands the newest report to the bug reporting application, which
- * lets the user send it. No state in memory: the launch record is in the settings, or in a property list at a given path.
- * Main thread.
+ * Finds out at the start whether the last run crashed, and hands the newest report to the bug reporting application,
+ * which lets the user send it. No state in memory: the launch record is in the settings, or in a property list at a
+ * given path. Main thread.
  */
 class VTBugReporter
 {
@@ -17,10 +17,12 @@ public:
     using Delegate = std::function<void(const QString &report)>;
 
     /** Checks, tells the delegate, and records this launch. Nulls: the bundle's name, the settings. */
-    static void startBugReporter(const QString &name = {}, const QString &plistPath = {}, const Delegate &delegate = {});
+    static void startBugReporter(const QString &name = {}, const QString &plistPath = {},
+                                 const Delegate &delegate = {});
     /** Records a clean end. */
     static void stopBugReporter(const QString &plistPath = {});
-    /** The report that was found, whether or not anything could be launched with it; null when the last run did not crash. */
+    /** The report that was found, whether or not anything could be launched with it; null when the last run did not
+     * crash. */
     static QString checkForCrashes(const QString &name = {}, const QString &plistPath = {});
     /** A record in somebody's home belongs to them: a path below "Users" goes to the user named there. */
     static void chownPlist(const QString &path);

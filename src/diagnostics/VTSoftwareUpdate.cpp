@@ -35,7 +35,8 @@ QString VTSoftwareUpdate::updaterPath()
 {
     const QString installed = joined(VTLocalPaths::applicationDirectory(VTLocalPaths::Domain::Local),
                                      QStringLiteral("Vantrel/") + updaterName);
-    const QString shipped = joined(ApplicationBundle::main().path(), QStringLiteral("Contents/Resources/") + updaterName);
+    const QString shipped =
+        joined(ApplicationBundle::main().path(), QStringLiteral("Contents/Resources/") + updaterName);
     if (versionOf(installed) >= versionOf(shipped))
         return installed;
     // Never out of the application's own bundle: the updater may have to replace that.

@@ -3,8 +3,8 @@
 #include <QString>
 
 /**
- * Starts the updater, a program of its own that the maker's applications share: the installed one, or the one that ships in
- * the bundle where that is newer, from a copy in the temporary folder. The program itself looks for nothing.
+ * Starts the updater, a program of its own that the maker's applications share: the installed one, or the one that
+ * ships in the bundle where that is newer, from a copy in the temporary folder. The program itself looks for nothing.
  */
 class VTSoftwareUpdate
 {

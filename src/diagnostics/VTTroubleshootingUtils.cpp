@@ -53,7 +53,10 @@ bool view(const QString &path, const QString &hint)
 class Gathering
 {
 public:
-    explicit Gathering(QString folder) : m_folder(std::move(folder)) {}
+    explicit Gathering(QString folder)
+        : m_folder(std::move(folder))
+    {
+    }
 
     bool prepare()
     {
@@ -109,7 +112,8 @@ QString preferenceFile(const QString &folder, const QString &application)
 {
     QString plain = application;
     plain.remove(u' ');
-    for (const QString &name : {formatString("com.vantrel.%@.plist", plain), formatString("com.vantrel.%@.plist", plain.toLower())}) {
+    for (const QString &name :
+         {formatString("com.vantrel.%@.plist", plain), formatString("com.vantrel.%@.plist", plain.toLower())}) {
         if (platform::targetExists(joined(folder, name)))
             return name;
     }
@@ -172,7 +176,8 @@ bool VTTroubleshootingUtils::viewLogForApp(const QString &name)
 
 bool VTTroubleshootingUtils::viewTaskLogForApp(const QString &name)
 {
-    return view(taskLogPath(name), text("You must run the application as a task (e.g. through Cronwick) before viewing a log."));
+    return view(taskLogPath(name),
+                text("You must run the application as a task (e.g. through Cronwick) before viewing a log."));
 }
 
 QString VTTroubleshootingUtils::gatherLogsForApps(const QStringList &names, Silent silent,

@@ -18,8 +18,8 @@ public:
     [[nodiscard]] static QString logPath(const QString &name);
     [[nodiscard]] static QString taskLogPath(const QString &name);
 
-    /** The archive is named after the first application; one that is there already stays. The folder is the desktop unless
-        another is given. Silent: no messages. The archive's path, null when there is none. */
+    /** The archive is named after the first application; one that is there already stays. The folder is the desktop
+       unless another is given. Silent: no messages. The archive's path, null when there is none. */
     static QString gatherLogsForApps(const QStringList &names, Silent silent = Silent::No,
                                      const QStringList &additionalFiles = {}, const QString &toFolder = {});
 };

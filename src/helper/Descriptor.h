@@ -9,9 +9,15 @@ namespace helper {
 class Descriptor
 {
 public:
-    explicit Descriptor(int number = -1) : m_number(number) {}
+    explicit Descriptor(int number = -1)
+        : m_number(number)
+    {
+    }
     ~Descriptor() { reset(); }
-    Descriptor(Descriptor &&other) noexcept : m_number(std::exchange(other.m_number, -1)) {}
+    Descriptor(Descriptor &&other) noexcept
+        : m_number(std::exchange(other.m_number, -1))
+    {
+    }
     Descriptor &operator=(Descriptor &&other) noexcept
     {
         reset(std::exchange(other.m_number, -1));

@@ -36,14 +36,27 @@ const std::array<Usage, 6> usages{{
 }};
 
 /// Folders that are refused themselves, and of which every folder right inside is refused too.
-constexpr std::array systemParents{"/",     "/usr",  "/usr/local", "/usr/share", "/var",         "/home",
-                                   "/etc",  "/media", "/mnt",      "/run",       "/Library",     "/var/lib"};
+constexpr std::array systemParents{"/",    "/usr",   "/usr/local", "/usr/share", "/var",     "/home",
+                                   "/etc", "/media", "/mnt",       "/run",       "/Library", "/var/lib"};
 /// The same below the home folder of the user who was asked for the password.
 constexpr std::array homeParents{"/Library"};
 /// Folders of the home that are refused themselves; the home folder, too.
-constexpr std::array homeFolders{"",        "/Desktop", "/Documents", "/Downloads", "/Movies", "/Music",
-                                 "/Pictures", "/Public", "/Sites",    "/Templates", "/Videos", "/Applications",
-                                 "/.local", "/.local/share", "/.local/share/Trash", "/.local/share/Trash/files",
+constexpr std::array homeFolders{"",
+                                 "/Desktop",
+                                 "/Documents",
+                                 "/Downloads",
+                                 "/Movies",
+                                 "/Music",
+                                 "/Pictures",
+                                 "/Public",
+                                 "/Sites",
+                                 "/Templates",
+                                 "/Videos",
+                                 "/Applications",
+                                 "/.local",
+                                 "/.local/share",
+                                 "/.local/share/Trash",
+                                 "/.local/share/Trash/files",
                                  "/.config"};
 
 bool isSame(const struct stat &a, const struct stat &b)
@@ -68,12 +81,18 @@ int refusalOf(int folder, const std::string &name, const std::string &home)
     struct stat parent;
     if (!above.isOpen() || fstat(above.get(), &parent) != 0)
         return EPERM;
-    const auto isSystem = [&](const std::string &path) { return isFolderAt(info, path) || isFolderAt(parent, path); };
+    const auto isSystem = [&](const std::string &path) {
+        return isFolderAt(info, path) || isFolderAt(parent, path);
+    };
     if (std::any_of(systemParents.begin(), systemParents.end(), isSystem))
         return EPERM;
     if (!home.empty()) {
-        const auto isHomes = [&](const char *below) { return isFolderAt(info, home + below); };
-        const auto isInHomes = [&](const char *below) { return isSystem(home + below); };
+        const auto isHomes = [&](const char *below) {
+            return isFolderAt(info, home + below);
+        };
+        const auto isInHomes = [&](const char *below) {
+            return isSystem(home + below);
+        };
         if (std::any_of(homeFolders.begin(), homeFolders.end(), isHomes) ||
             std::any_of(homeParents.begin(), homeParents.end(), isInHomes))
             return EPERM;
@@ -112,7 +131,8 @@ int pin(const std::string &path, Descriptor &folder, std::string &rest)
         return EPERM;
     std::size_t next = 0;
     for (; next + 1 < components.size(); ++next) {
-        Descriptor deeper(openat(folder.get(), components[next].c_str(), O_PATH | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+        Descriptor deeper(
+            openat(folder.get(), components[next].c_str(), O_PATH | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
         if (!deeper.isOpen() && errno != ENOENT)
             return errno;
         if (!deeper.isOpen())

@@ -23,10 +23,10 @@ struct Plan
 /**
  * Checks a request and pins its paths. 0, or the errno it is refused with:
  * EACCES for a tool that is not on the list or is not called in the one way that is; EINVAL for a path that is relative
- * or ends in ".."; ENOTDIR for a path that goes through a link, ELOOP for a destination that is one; ENOENT where a folder
- * on the way is missing; EPERM for a system or standard folder, whichever way it
- * was named; EBUSY for the root of a mounted drive; ENOENT for a tool that this system lacks. The home is that of the user on whose
- * behalf it is: its standard folders are refused too.
+ * or ends in ".."; ENOTDIR for a path that goes through a link, ELOOP for a destination that is one; ENOENT where a
+ * folder on the way is missing; EPERM for a system or standard folder, whichever way it was named; EBUSY for the root
+ * of a mounted drive; ENOENT for a tool that this system lacks. The home is that of the user on whose behalf it is: its
+ * standard folders are refused too.
  *
  * The list is closed: copy, move, create a folder, remove, date. A shell is not on it.
  */

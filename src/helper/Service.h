@@ -9,16 +9,20 @@
 namespace helper {
 
 /**
- * The helper at work: requests in, tools run, answers out, until the other end is gone. Then every tool that still runs is
- * ended. Runs on one thread.
+ * The helper at work: requests in, tools run, answers out, until the other end is gone. Then every tool that still runs
+ * is ended. Runs on one thread.
  */
 class Service
 {
 public:
     /** The stream, the signal descriptor that tells of ended children, and the home of whoever was asked. */
     Service(int input, int output, int childSignals, std::string home)
-        : m_input(input), m_output(output), m_childSignals(childSignals), m_home(std::move(home))
-    {}
+        : m_input(input)
+        , m_output(output)
+        , m_childSignals(childSignals)
+        , m_home(std::move(home))
+    {
+    }
 
     /** Returns when the stream has ended or holds what no application of ours would send. */
     void run();

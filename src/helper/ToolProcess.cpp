@@ -22,8 +22,8 @@ constexpr std::size_t maximumErrorText = 4096;
     sigset_t none;
     sigemptyset(&none);
     sigprocmask(SIG_SETMASK, &none, nullptr);
-    bool connected = dup2(null, STDIN_FILENO) >= 0 && dup2(null, STDOUT_FILENO) >= 0 &&
-                     dup2(errorOutput, STDERR_FILENO) >= 0;
+    bool connected =
+        dup2(null, STDIN_FILENO) >= 0 && dup2(null, STDOUT_FILENO) >= 0 && dup2(errorOutput, STDERR_FILENO) >= 0;
     // First out of the way of their final numbers, which may be in use by one another.
     std::array<int, 2> moved{-1, -1};
     for (std::size_t i = 0; i < plan.folders.size() && connected; ++i) {
@@ -87,7 +87,8 @@ void ToolProcess::readErrorOutput()
                 m_errorOutput.reset();
             return;
         }
-        m_errorText.append(piece.data(), std::min(static_cast<std::size_t>(got), maximumErrorText - m_errorText.size()));
+        m_errorText.append(piece.data(),
+                           std::min(static_cast<std::size_t>(got), maximumErrorText - m_errorText.size()));
     }
 }
 

@@ -1,5 +1,5 @@
-// The privileged helper: started through pkexec by an application of the user's, runs a closed list of tools as root for
-// as long as the application holds the other end of its standard input. It believes nothing that it inherits.
+// The privileged helper: started through pkexec by an application of the user's, runs a closed list of tools as root
+// for as long as the application holds the other end of its standard input. It believes nothing that it inherits.
 #include "helper/Service.h"
 
 #include <cerrno>
@@ -31,8 +31,8 @@ std::optional<uid_t> callerFromEnvironment()
 
 bool resetEnvironment()
 {
-    return clearenv() == 0 && setenv("PATH", "/usr/sbin:/usr/bin:/sbin:/bin", 1) == 0 && setenv("HOME", "/root", 1) == 0 &&
-           setenv("LC_ALL", "C.UTF-8", 1) == 0;
+    return clearenv() == 0 && setenv("PATH", "/usr/sbin:/usr/bin:/sbin:/bin", 1) == 0 &&
+           setenv("HOME", "/root", 1) == 0 && setenv("LC_ALL", "C.UTF-8", 1) == 0;
 }
 
 /// A limit that the caller lowered would cut a copy short.

@@ -45,8 +45,10 @@ QVariant ParameterEditorModel::data(const QModelIndex &index, int role) const
     const QVariant value = editor::shownValue(list, index.row(), column);
     switch (role) {
     case Qt::DisplayRole:
-    case Qt::EditRole: return isFlag(column) ? QVariant() : value;
-    case Qt::CheckStateRole: return isFlag(column) ? QVariant(value.toBool() ? Qt::Checked : Qt::Unchecked) : QVariant();
+    case Qt::EditRole:
+        return isFlag(column) ? QVariant() : value;
+    case Qt::CheckStateRole:
+        return isFlag(column) ? QVariant(value.toBool() ? Qt::Checked : Qt::Unchecked) : QVariant();
     case Qt::AccessibleTextRole:
         return headerData(index.column(), Qt::Horizontal, Qt::DisplayRole).toString() + QStringLiteral(": ") +
                (isFlag(column) ? (value.toBool() ? tr("on") : tr("off")) : value.toString());
@@ -54,11 +56,16 @@ QVariant ParameterEditorModel::data(const QModelIndex &index, int role) const
         return column == Column::Default && list.value(index.row()).kind() == FilenameParameter::Kind::Choice
                    ? tr("The choices, with commas between them; the first is the default.")
                    : QVariant();
-    case CellRole::Editor: return QVariant::fromValue(column == Column::Kind ? CellEditor::Choices : CellEditor::Text);
-    case CellRole::Items: return column == Column::Kind ? QVariant(editor::kindNames()) : QVariant();
-    case CellRole::Secondary: return !editor::isEditable(list, index.row(), column);
-    case CellRole::AccessibleName: return headerData(index.column(), Qt::Horizontal, Qt::DisplayRole);
-    default: return {};
+    case CellRole::Editor:
+        return QVariant::fromValue(column == Column::Kind ? CellEditor::Choices : CellEditor::Text);
+    case CellRole::Items:
+        return column == Column::Kind ? QVariant(editor::kindNames()) : QVariant();
+    case CellRole::Secondary:
+        return !editor::isEditable(list, index.row(), column);
+    case CellRole::AccessibleName:
+        return headerData(index.column(), Qt::Horizontal, Qt::DisplayRole);
+    default:
+        return {};
     }
 }
 

@@ -5,8 +5,8 @@
 #include <QAbstractTableModel>
 
 /**
- * The table in which the list of parameters itself is edited. It keeps no copy: every read goes to the stored list, every
- * change is stored at once, and the project pane follows by the two notifications. Main thread only.
+ * The table in which the list of parameters itself is edited. It keeps no copy: every read goes to the stored list,
+ * every change is stored at once, and the project pane follows by the two notifications. Main thread only.
  */
 class ParameterEditorModel : public QAbstractTableModel
 {

@@ -65,13 +65,20 @@ QVariant shownValue(const FilenameParameters &list, int row, Column column)
 {
     const FilenameParameter parameter = list.value(row);
     switch (column) {
-    case Column::Title: return parameter.title();
-    case Column::Kind: return nameOf(parameter.kind());
-    case Column::Default: return parameter.isAutomatic() ? text("(auto)") : parameter.defaultValue();
-    case Column::Folder: return row == 0 || parameter.beginsFolder();
-    case Column::History: return parameter.savesHistory();
-    case Column::Required: return parameter.isRequired();
-    case Column::Locked: return parameter.isLocked();
+    case Column::Title:
+        return parameter.title();
+    case Column::Kind:
+        return nameOf(parameter.kind());
+    case Column::Default:
+        return parameter.isAutomatic() ? text("(auto)") : parameter.defaultValue();
+    case Column::Folder:
+        return row == 0 || parameter.beginsFolder();
+    case Column::History:
+        return parameter.savesHistory();
+    case Column::Required:
+        return parameter.isRequired();
+    case Column::Locked:
+        return parameter.isLocked();
     }
     return {};
 }
@@ -80,10 +87,14 @@ bool isEditable(const FilenameParameters &list, int row, Column column)
 {
     const FilenameParameter parameter = list.value(row);
     switch (column) {
-    case Column::Folder: return row != 0;
-    case Column::Default: return !parameter.isAutomatic();
-    case Column::History: return parameter.kind() != Kind::Choice;
-    default: return true;
+    case Column::Folder:
+        return row != 0;
+    case Column::Default:
+        return !parameter.isAutomatic();
+    case Column::History:
+        return parameter.kind() != Kind::Choice;
+    default:
+        return true;
     }
 }
 

@@ -17,8 +17,8 @@ inline constexpr int columnCount = 7;
 [[nodiscard]] QString nameOf(FilenameParameter::Kind kind);
 [[nodiscard]] std::optional<FilenameParameter::Kind> kindNamed(const QString &name);
 
-/** As shown: the first parameter always begins a folder, what the program fills in says "(auto)", a choice list keeps no
-    history. */
+/** As shown: the first parameter always begins a folder, what the program fills in says "(auto)", a choice list keeps
+   no history. */
 [[nodiscard]] QVariant shownValue(const FilenameParameters &list, int row, Column column);
 [[nodiscard]] bool isEditable(const FilenameParameters &list, int row, Column column);
 

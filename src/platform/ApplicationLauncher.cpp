@@ -50,8 +50,7 @@ bool openWithDesktopEntry(const QString &desktopEntry, const QString &file)
     if (!isNamed)
         arguments.append(file);
     ChildProcess child(path, arguments); // collects itself in the background
-    return isExecutableFile(path) &&
-           child.start(ChildProcess::Output::Discarded, ChildProcess::ErrorOutput::Discarded);
+    return isExecutableFile(path) && child.start(ChildProcess::Output::Discarded, ChildProcess::ErrorOutput::Discarded);
 }
 
 } // namespace platform

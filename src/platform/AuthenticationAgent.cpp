@@ -102,7 +102,8 @@ void authenticate(const QByteArray &user, const QByteArray &cookie, const QByteA
     if (!conversation.start({polkitsHelper(), user}, {"LANG=C.UTF-8"}))
         return;
     const auto say = [&](const QByteArray &line) {
-        return conversation.write(line.constData(), static_cast<std::size_t>(line.size())) && conversation.write("\n", 1);
+        return conversation.write(line.constData(), static_cast<std::size_t>(line.size())) &&
+               conversation.write("\n", 1);
     };
     bool open = say(cookie);
     bool answered = false;
@@ -128,7 +129,11 @@ class AgentObject : public QObject, protected QDBusContext
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.PolicyKit1.AuthenticationAgent")
 
 public:
-    AgentObject(QString userName, const Secret &password) : m_userName(std::move(userName)), m_password(password) {}
+    AgentObject(QString userName, const Secret &password)
+        : m_userName(std::move(userName))
+        , m_password(password)
+    {
+    }
 
     int enlist()
     {
@@ -146,7 +151,8 @@ public:
     {
         {
             const QDBusConnection bus(connectionName);
-            call(bus, QStringLiteral("UnregisterAuthenticationAgent"), {QVariant::fromValue(thisProcess()), objectPath});
+            call(bus, QStringLiteral("UnregisterAuthenticationAgent"),
+                 {QVariant::fromValue(thisProcess()), objectPath});
         }
         QDBusConnection::disconnectFromBus(connectionName);
     }
@@ -157,13 +163,15 @@ public Q_SLOTS:
                              const QString &cookie, const QList<PolkitIdentity> &identities)
     {
         const std::optional<uid_t> user = idOf(m_userName);
-        const bool mayAnswer = user && std::any_of(identities.begin(), identities.end(), [&](const PolkitIdentity &one) {
-                                   return one.kind == u"unix-user" && one.details.value("uid").toUInt() == *user;
-                               });
+        const bool mayAnswer =
+            user && std::any_of(identities.begin(), identities.end(), [&](const PolkitIdentity &one) {
+                return one.kind == u"unix-user" && one.details.value("uid").toUInt() == *user;
+            });
         if (mayAnswer)
             authenticate(toNative(m_userName), cookie.toUtf8(), m_password.bytes());
         else
-            sendErrorReply(QStringLiteral("org.freedesktop.PolicyKit1.Error.Failed"), QStringLiteral("not an administrator"));
+            sendErrorReply(QStringLiteral("org.freedesktop.PolicyKit1.Error.Failed"),
+                           QStringLiteral("not an administrator"));
     }
     void CancelAuthentication(const QString &) {} // polkit's helper has been heard by then, or hears it itself
 
@@ -198,12 +206,14 @@ AuthenticationAgent::AuthenticationAgent(const QString &userName, const Secret &
     d->object = std::make_unique<AgentObject>(userName, password);
     d->object->moveToThread(&d->thread);
     d->thread.start();
-    QMetaObject::invokeMethod(d->object.get(), [this] { d->error = d->object->enlist(); }, Qt::BlockingQueuedConnection);
+    QMetaObject::invokeMethod(
+        d->object.get(), [this] { d->error = d->object->enlist(); }, Qt::BlockingQueuedConnection);
 }
 
 AuthenticationAgent::~AuthenticationAgent()
 {
-    QMetaObject::invokeMethod(d->object.get(), [this] { d->object->leave(); }, Qt::BlockingQueuedConnection);
+    QMetaObject::invokeMethod(
+        d->object.get(), [this] { d->object->leave(); }, Qt::BlockingQueuedConnection);
     d->thread.quit();
     d->thread.wait();
 }

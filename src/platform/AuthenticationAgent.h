@@ -22,7 +22,8 @@ public:
     AuthenticationAgent(const AuthenticationAgent &) = delete;
     AuthenticationAgent &operator=(const AuthenticationAgent &) = delete;
 
-    /** 0 when it is registered; else the number of the D-Bus error: no system bus, no polkit, another agent is there. */
+    /** 0 when it is registered; else the number of the D-Bus error: no system bus, no polkit, another agent is there.
+     */
     [[nodiscard]] int error() const;
 
 private:

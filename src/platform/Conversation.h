@@ -9,9 +9,9 @@
 namespace platform {
 
 /**
- * A child process whose standard input and output are the other end of one socket: no other process of the user can open
- * that, and writing to a child that is gone is an error instead of a signal. It gets an environment of its own and its
- * error output is discarded. Move it to where it is used; one thread may read while another writes.
+ * A child process whose standard input and output are the other end of one socket: no other process of the user can
+ * open that, and writing to a child that is gone is an error instead of a signal. It gets an environment of its own and
+ * its error output is discarded. Move it to where it is used; one thread may read while another writes.
  *
  * The child may run as root, where no signal of ours reaches it: it is ended by hanging up, and collected when it has
  * ended.

@@ -45,7 +45,10 @@ public:
     }
 
 private:
-    Running() { qAddPostRoutine([] { all().endAll(); }); }
+    Running()
+    {
+        qAddPostRoutine([] { all().endAll(); });
+    }
     std::mutex m_mutex;
     std::condition_variable m_changed;
     std::set<CopyOperation *> m_operations;
@@ -55,7 +58,10 @@ private:
 class Ticker
 {
 public:
-    explicit Ticker(std::function<void()> tick) : m_thread([this, tick = std::move(tick)] { work(tick); }) {}
+    explicit Ticker(std::function<void()> tick)
+        : m_thread([this, tick = std::move(tick)] { work(tick); })
+    {
+    }
     ~Ticker()
     {
         {

@@ -10,9 +10,9 @@
 namespace platform {
 
 /**
- * A copy on its way in the background, by the engine of TreeCopy.h. It keeps itself alive until it has reported its end.
- * Started and cancelled on the main thread, where it also reports; several may run at once. When the application ends
- * before it, it is cancelled and waited for, so that nothing half-written stays behind.
+ * A copy on its way in the background, by the engine of TreeCopy.h. It keeps itself alive until it has reported its
+ * end. Started and cancelled on the main thread, where it also reports; several may run at once. When the application
+ * ends before it, it is cancelled and waited for, so that nothing half-written stays behind.
  */
 class CopyOperation
 {
@@ -28,7 +28,7 @@ public:
     using Ref = std::shared_ptr<CopyOperation>;
     struct Reports
     {
-        std::function<void(const Ref &, const Progress &)> running; ///< at most once a second
+        std::function<void(const Ref &, const Progress &)> running;  ///< at most once a second
         std::function<void(const Ref &, const FileOutcome &)> ended; ///< exactly once; ECANCELED when it was cancelled
     };
 

@@ -5,8 +5,8 @@
 
 #include <QByteArray>
 #include <array>
-#include <cstdint>
 #include <csignal>
+#include <cstdint>
 #include <cstdlib>
 #include <cstring>
 #include <ctime>
@@ -33,8 +33,8 @@ struct Prepared
     std::array<char, 2048> pathStart{}; ///< folder and name, up to the date
     std::array<char, 256> pathEnd{};    ///< host and extension
     std::array<char, 1024> header{};
-    std::array<char, 512> exception{};  ///< written by the terminate handler, on the crashing thread
-    long zoneOffset = 0;                ///< seconds east of UTC
+    std::array<char, 512> exception{}; ///< written by the terminate handler, on the crashing thread
+    long zoneOffset = 0;               ///< seconds east of UTC
 };
 Prepared prepared;
 
@@ -82,8 +82,12 @@ Civil civilNow()
     const std::int64_t shifted = (5 * dayOfYear + 2) / 153;
     const auto month = static_cast<int>(shifted < 10 ? shifted + 3 : shifted - 9);
     const auto seconds = static_cast<int>(now % 86400);
-    return {static_cast<int>(yearOfEra + era * 400 + (month <= 2 ? 1 : 0)), month,
-            static_cast<int>(dayOfYear - (153 * shifted + 2) / 5 + 1), seconds / 3600, seconds / 60 % 60, seconds % 60};
+    return {static_cast<int>(yearOfEra + era * 400 + (month <= 2 ? 1 : 0)),
+            month,
+            static_cast<int>(dayOfYear - (153 * shifted + 2) / 5 + 1),
+            seconds / 3600,
+            seconds / 60 % 60,
+            seconds % 60};
 }
 
 void append(char *&at, const char *end, const char *text)
@@ -119,8 +123,9 @@ int openReport(const Civil &now)
     const char *end = path.data() + path.size() - 1;
     append(at, end, prepared.pathStart.data());
     appendNumber(at, end, now.year, 4);
-    for (const auto &[separator, number] : {std::pair{"-", now.month}, std::pair{"-", now.day}, std::pair{"-", now.hour},
-                                            std::pair{"", now.minute}, std::pair{"", now.second}}) {
+    for (const auto &[separator, number] :
+         {std::pair{"-", now.month}, std::pair{"-", now.day}, std::pair{"-", now.hour}, std::pair{"", now.minute},
+          std::pair{"", now.second}}) {
         append(at, end, separator);
         appendNumber(at, end, number, 2);
     }
@@ -131,12 +136,18 @@ int openReport(const Civil &now)
 const char *nameOf(int number)
 {
     switch (number) {
-    case SIGSEGV: return "SIGSEGV (invalid memory reference)";
-    case SIGABRT: return "SIGABRT (aborted)";
-    case SIGBUS: return "SIGBUS (bus error)";
-    case SIGFPE: return "SIGFPE (arithmetic error)";
-    case SIGILL: return "SIGILL (illegal instruction)";
-    default: return "unknown signal";
+    case SIGSEGV:
+        return "SIGSEGV (invalid memory reference)";
+    case SIGABRT:
+        return "SIGABRT (aborted)";
+    case SIGBUS:
+        return "SIGBUS (bus error)";
+    case SIGFPE:
+        return "SIGFPE (arithmetic error)";
+    case SIGILL:
+        return "SIGILL (illegal instruction)";
+    default:
+        return "unknown signal";
     }
 }
 
@@ -268,8 +279,7 @@ void onSignal(int number, siginfo_t *info, void *)
     std::abort();
 }
 
-template <std::size_t Size>
-void store(std::array<char, Size> &to, const QByteArray &text)
+template <std::size_t Size> void store(std::array<char, Size> &to, const QByteArray &text)
 {
     std::memcpy(to.data(), text.constData(), qMin<std::size_t>(static_cast<std::size_t>(text.size()), Size - 1));
 }
@@ -298,7 +308,9 @@ void writeCrashReports(const QString &folder, const QString &name, const QString
     own.ss_sp = stack;
     own.ss_size = stackSize;
     sigaltstack(&own, nullptr);
-    struct sigaction action{};
+    struct sigaction action
+    {
+    };
     action.sa_sigaction = onSignal;
     action.sa_flags = SA_SIGINFO | SA_ONSTACK;
     sigemptyset(&action.sa_mask);

@@ -39,7 +39,10 @@ class TreeRemover
     }
 
 public:
-    explicit TreeRemover(Closed closed) : m_closed(closed) {}
+    explicit TreeRemover(Closed closed)
+        : m_closed(closed)
+    {
+    }
 
     /// The path, below which failures are named, is built only for them.
     FileOutcome run(int parent, const char *name, bool folder, const QString &path)

@@ -10,14 +10,9 @@
 namespace platform {
 namespace {
 
-template <auto Free>
-struct Freer
+template <auto Free> struct Freer
 {
-    template <typename Handle>
-    void operator()(Handle *handle) const
-    {
-        Free(handle);
-    }
+    template <typename Handle> void operator()(Handle *handle) const { Free(handle); }
 };
 using Connection = std::unique_ptr<xcb_connection_t, Freer<xcb_disconnect>>;
 using Context = std::unique_ptr<xkb_context, Freer<xkb_context_unref>>;
@@ -27,12 +22,18 @@ using State = std::unique_ptr<xkb_state, Freer<xkb_state_unref>>;
 QString textOf(xkb_keysym_t symbol)
 {
     static const QHash<xkb_keysym_t, char16_t> withoutText{
-        {XKB_KEY_Up, FunctionKey::up},         {XKB_KEY_Down, FunctionKey::down},
-        {XKB_KEY_Left, FunctionKey::left},     {XKB_KEY_Right, FunctionKey::right},
-        {XKB_KEY_Home, FunctionKey::home},     {XKB_KEY_End, FunctionKey::end},
-        {XKB_KEY_Prior, FunctionKey::pageUp},  {XKB_KEY_Next, FunctionKey::pageDown},
-        {XKB_KEY_BackSpace, 0x08},             {XKB_KEY_Delete, 0x7F},
-        {XKB_KEY_ISO_Left_Tab, 0x19},          {XKB_KEY_Return, 0x0D},
+        {XKB_KEY_Up, FunctionKey::up},
+        {XKB_KEY_Down, FunctionKey::down},
+        {XKB_KEY_Left, FunctionKey::left},
+        {XKB_KEY_Right, FunctionKey::right},
+        {XKB_KEY_Home, FunctionKey::home},
+        {XKB_KEY_End, FunctionKey::end},
+        {XKB_KEY_Prior, FunctionKey::pageUp},
+        {XKB_KEY_Next, FunctionKey::pageDown},
+        {XKB_KEY_BackSpace, 0x08},
+        {XKB_KEY_Delete, 0x7F},
+        {XKB_KEY_ISO_Left_Tab, 0x19},
+        {XKB_KEY_Return, 0x0D},
         {XKB_KEY_KP_Enter, 0x03},
     };
     if (const auto found = withoutText.constFind(symbol); found != withoutText.cend())
@@ -56,8 +57,8 @@ KeyText textOfKeyCode(quint16 keyCode)
     const Context context(xkb_context_new(XKB_CONTEXT_NO_FLAGS));
     const int32_t device = xkb_x11_get_core_keyboard_device_id(connection.get());
     const Keymap keymap(context && device >= 0 ? xkb_x11_keymap_new_from_device(context.get(), connection.get(), device,
-                                                                               XKB_KEYMAP_COMPILE_NO_FLAGS)
-                                              : nullptr);
+                                                                                XKB_KEYMAP_COMPILE_NO_FLAGS)
+                                               : nullptr);
     const State state(keymap ? xkb_x11_state_new_from_device(keymap.get(), connection.get(), device) : nullptr);
     if (!state)
         return {};

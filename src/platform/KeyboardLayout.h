@@ -16,12 +16,12 @@ inline constexpr char16_t home = 0xF729;
 inline constexpr char16_t end = 0xF72B;
 inline constexpr char16_t pageUp = 0xF72C;
 inline constexpr char16_t pageDown = 0xF72D;
-}
+} // namespace FunctionKey
 
 struct KeyText
 {
-    bool hasLayout = false;       ///< false: there is no keyboard layout to ask (no X server)
-    std::optional<QString> text;  ///< without modifiers; nothing when the key gives none in this layout
+    bool hasLayout = false;      ///< false: there is no keyboard layout to ask (no X server)
+    std::optional<QString> text; ///< without modifiers; nothing when the key gives none in this layout
 };
 
 /** What the key of that hardware code gives in the layout that is in force at the moment of the call. Any thread. */

@@ -184,7 +184,8 @@ struct RightsHelper::Private
     }
 };
 
-RightsHelper::RightsHelper(std::unique_ptr<Private> parts) : d(std::move(parts))
+RightsHelper::RightsHelper(std::unique_ptr<Private> parts)
+    : d(std::move(parts))
 {
     d->alive = true;
     d->reader = std::thread([this] { d->readAnswers(); });
@@ -209,7 +210,8 @@ std::shared_ptr<RightsHelper> RightsHelper::start(Complaint complaint)
     auto parts = std::make_unique<Private>();
     parts->complaint = std::move(complaint);
     // Without its text agent: a question in a terminal that nobody looks at would wait for ever.
-    if (!parts->conversation.start({toNative(pkexec), "--disable-internal-agent", toNative(path())}, plainEnvironment()) ||
+    if (!parts->conversation.start({toNative(pkexec), "--disable-internal-agent", toNative(path())},
+                                   plainEnvironment()) ||
         !parts->awaitReady())
         return nullptr;
     return std::shared_ptr<RightsHelper>(new RightsHelper(std::move(parts)));

@@ -9,9 +9,9 @@
 namespace platform {
 
 /**
- * Administrator rights in hand: the privileged helper, running as root at the other end of a socket. While one exists this
- * process is not dumpable, so that no other process of the user can reach into it. Destroying it gives the rights back;
- * tools that still run are ended then.
+ * Administrator rights in hand: the privileged helper, running as root at the other end of a socket. While one exists
+ * this process is not dumpable, so that no other process of the user can reach into it. Destroying it gives the rights
+ * back; tools that still run are ended then.
  *
  * Thread-safe. The helper may die at any time; then every question about it is answered with "no" or an error at once.
  */
@@ -37,8 +37,8 @@ public:
     };
 
     /**
-     * Asks for the rights through pkexec and blocks while the user is asked, as long as that takes. Nothing when they were
-     * refused or dismissed, when there is nobody to ask, or no polkit on this machine.
+     * Asks for the rights through pkexec and blocks while the user is asked, as long as that takes. Nothing when they
+     * were refused or dismissed, when there is nobody to ask, or no polkit on this machine.
      */
     [[nodiscard]] static std::shared_ptr<RightsHelper> start(Complaint complaint);
     ~RightsHelper();
@@ -48,8 +48,8 @@ public:
     [[nodiscard]] bool isAlive() const;
     /** Gives the rights back now, whoever still holds this object. Blocks until the helper has let go. */
     void end();
-    /** The arguments with the links on the way to their last components resolved. To be done before anybody is asked: the
-        helper goes through no link, so that what is exchanged for one later is refused. */
+    /** The arguments with the links on the way to their last components resolved. To be done before anybody is asked:
+       the helper goes through no link, so that what is exchanged for one later is refused. */
     [[nodiscard]] static QStringList withoutLinks(const QStringList &arguments);
     /** Blocks until the tool is started, which may take as long as others run. */
     [[nodiscard]] Ticket run(const QString &tool, const QStringList &arguments);

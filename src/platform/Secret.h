@@ -9,7 +9,11 @@ namespace platform {
 class Secret
 {
 public:
-    explicit Secret(const QString &text) : m_bytes(text.toUtf8()) { m_bytes.detach(); }
+    explicit Secret(const QString &text)
+        : m_bytes(text.toUtf8())
+    {
+        m_bytes.detach();
+    }
     ~Secret();
     Secret(const Secret &) = delete;
     Secret &operator=(const Secret &) = delete;

@@ -32,7 +32,11 @@ class ApplicationObject : public QObject
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Application")
 
 public:
-    explicit ApplicationObject(SingleInstance &instance) : QObject(&instance), m_instance(instance) {}
+    explicit ApplicationObject(SingleInstance &instance)
+        : QObject(&instance)
+        , m_instance(instance)
+    {
+    }
 
 public Q_SLOTS:
     void Activate(const QVariantMap &) { Q_EMIT m_instance.activated(); }
@@ -73,7 +77,8 @@ bool SingleInstance::handOver(const QStringList &files)
     return bus.call(call, QDBus::Block, patience).type() == QDBusMessage::ReplyMessage;
 }
 
-SingleInstance::SingleInstance(QObject *parent) : QObject(parent)
+SingleInstance::SingleInstance(QObject *parent)
+    : QObject(parent)
 {
     auto bus = QDBusConnection::sessionBus();
     if (bus.isConnected() &&

@@ -81,7 +81,8 @@ class Compression
 {
 public:
     Compression(const QString &path, const QString &archivePath)
-        : m_above(parentPath(path)), m_writer(archivePath)
+        : m_above(parentPath(path))
+        , m_writer(archivePath)
     {
         raiseDescriptorLimit();
         struct stat info;
@@ -126,7 +127,8 @@ private:
             target.truncate(qMax<qsizetype>(
                 0, readlinkat(folder, entry.constData(), target.data(), static_cast<std::size_t>(target.size()))));
         else
-            opened = S_ISDIR(info.st_mode) ? openFolder(folder, entry.constData()) : openFile(folder, entry.constData());
+            opened =
+                S_ISDIR(info.st_mode) ? openFolder(folder, entry.constData()) : openFile(folder, entry.constData());
         if (!S_ISLNK(info.st_mode) && !opened.isOpen())
             return fail(name);
         if (!entry.isValidUtf8())
@@ -151,7 +153,9 @@ private:
 
     QString m_above;
     ZipWriter m_writer;
-    struct stat m_archive{};
+    struct stat m_archive
+    {
+    };
     CompressReport m_report;
 };
 
@@ -167,7 +171,9 @@ void ZipWriter::Closer::operator()(archive *handle) const
     archive_write_free(handle);
 }
 
-ZipWriter::ZipWriter(const QString &path) : m_archive(archive_write_new()), m_piece(pieceSize, '\0')
+ZipWriter::ZipWriter(const QString &path)
+    : m_archive(archive_write_new())
+    , m_piece(pieceSize, '\0')
 {
     archive_write_set_format_zip(m_archive.get());
     archive_write_set_options(m_archive.get(), "hdrcharset=UTF-8");
@@ -242,7 +248,9 @@ void ZipWriter::addFlags(const QByteArray &name, quint16 flagsWord)
         return;
     const qsizetype start = name.lastIndexOf('/') + 1;
     const QByteArray contents = appleDoubleWithFlags(flagsWord);
-    struct stat info{};
+    struct stat info
+    {
+    };
     info.st_mode = S_IFREG | 0644;
     info.st_size = contents.size();
     info.st_mtime = time(nullptr);
@@ -251,7 +259,9 @@ void ZipWriter::addFlags(const QByteArray &name, quint16 flagsWord)
 
 void ZipWriter::addFolder(const QString &name, quint16 flagsWord)
 {
-    struct stat info{};
+    struct stat info
+    {
+    };
     info.st_mode = S_IFDIR | 0755;
     info.st_mtime = time(nullptr);
     addContents(toNative(name), info, {});
@@ -260,7 +270,9 @@ void ZipWriter::addFolder(const QString &name, quint16 flagsWord)
 
 void ZipWriter::addFile(const QString &name, const QByteArray &contents, quint16 flagsWord)
 {
-    struct stat info{};
+    struct stat info
+    {
+    };
     info.st_mode = S_IFREG | 0644;
     info.st_size = contents.size();
     info.st_mtime = time(nullptr);

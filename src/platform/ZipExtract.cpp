@@ -89,10 +89,11 @@ class Extraction
 {
 public:
     Extraction(const QString &archivePath, QString destination)
-        : m_destination(std::move(destination)),
-          m_place(joined(m_destination,
-                         QStringLiteral(".tessaro-") + QUuid::createUuid().toString(QUuid::WithoutBraces))),
-          m_allowed(qMax(alwaysAllowed, largestRatio * fileSizeOf(archivePath))), m_reader(archive_read_new())
+        : m_destination(std::move(destination))
+        , m_place(
+              joined(m_destination, QStringLiteral(".tessaro-") + QUuid::createUuid().toString(QUuid::WithoutBraces)))
+        , m_allowed(qMax(alwaysAllowed, largestRatio * fileSizeOf(archivePath)))
+        , m_reader(archive_read_new())
     {
         raiseDescriptorLimit();
         if (const FileOutcome made = makeNewFolder(m_place); !made.ok()) {
@@ -149,9 +150,13 @@ private:
     }
     void failAsTrap(const QByteArray &name)
     {
-        m_report.problem = forDisplay(fromNative(name)) + QStringLiteral(": unpacks to far more than an honest archive");
+        m_report.problem =
+            forDisplay(fromNative(name)) + QStringLiteral(": unpacks to far more than an honest archive");
     }
-    void failWriting(const QByteArray &name) { m_report.problem = FileOutcome::fromErrno(fromNative(name)).description(); }
+    void failWriting(const QByteArray &name)
+    {
+        m_report.problem = FileOutcome::fromErrno(fromNative(name)).description();
+    }
     void refuse(const QByteArray &name) { m_report.refused.append(fromNative(name)); }
 
     void take(archive_entry *entry)

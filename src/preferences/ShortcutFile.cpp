@@ -55,8 +55,9 @@ QHash<QString, Shortcut> assignmentsOf(const QVariantMap &file, const QString &b
     for (const QVariant &value : file.value(watchlist).toList()) {
         const QVariantMap entry = value.toMap();
         if (entry.value("bundleid").toString() == bundleIdentifier)
-            found.insert(entry.value("commandid").toString(), {static_cast<quint16>(entry.value("keycode").toUInt()),
-                                                               static_cast<quint16>(entry.value("modifiers").toUInt())});
+            found.insert(entry.value("commandid").toString(),
+                         {static_cast<quint16>(entry.value("keycode").toUInt()),
+                          static_cast<quint16>(entry.value("modifiers").toUInt())});
     }
     return found;
 }
@@ -82,7 +83,8 @@ bool write(const QVariantMap &file)
 {
     const QByteArray bytes = platform::writePropertyList(file);
     QSaveFile saving(filePath());
-    return !bytes.isEmpty() && saving.open(QIODevice::WriteOnly) && saving.write(bytes) == bytes.size() && saving.commit();
+    return !bytes.isEmpty() && saving.open(QIODevice::WriteOnly) && saving.write(bytes) == bytes.size() &&
+           saving.commit();
 }
 
 } // namespace shortcuts

@@ -46,7 +46,9 @@ void dressHints(const QWidget &window)
 } // namespace
 
 VTPreferenceController::VTPreferenceController(QObject *delegate, QWidget *parent)
-    : QMainWindow(parent), m_ui(std::make_unique<Ui::Prefs_Dialog>()), m_delegate(delegate)
+    : QMainWindow(parent)
+    , m_ui(std::make_unique<Ui::Prefs_Dialog>())
+    , m_delegate(delegate)
 {
     setAttribute(Qt::WA_DeleteOnClose);
     m_ui->setupUi(this);
@@ -169,9 +171,8 @@ void VTPreferenceController::bindGeneral()
         if (m_ui->prefsTemplatePath->text() != platform::forDisplay(VTDataController::templateLocation()))
             modifyTemplatePath(m_ui->prefsTemplatePath->text());
     });
-    connect(m_ui->browseTemplates, &QPushButton::clicked, this, [this] {
-        browse(tr("Choose the Template Library"), &VTPreferenceController::modifyTemplatePath);
-    });
+    connect(m_ui->browseTemplates, &QPushButton::clicked, this,
+            [this] { browse(tr("Choose the Template Library"), &VTPreferenceController::modifyTemplatePath); });
     bindSwitch(m_ui->autoOpenFolder, settings::autoOpenFolder, 1LL, 0LL);
     bindSwitch(m_ui->autoQuit, settings::autoQuit, 1LL, 0LL);
     bindSwitch(m_ui->autoExpandFolders, settings::autoExpandFolders, 1LL, 0LL);
@@ -189,9 +190,8 @@ void VTPreferenceController::bindProject()
             modifyFixedPath(m_ui->prefsFixedPath->text());
         m_ui->prefsFixedPath->setModified(false);
     });
-    connect(m_ui->browseFixed, &QPushButton::clicked, this, [this] {
-        browse(tr("Choose the Project Location"), &VTPreferenceController::modifyFixedPath);
-    });
+    connect(m_ui->browseFixed, &QPushButton::clicked, this,
+            [this] { browse(tr("Choose the Project Location"), &VTPreferenceController::modifyFixedPath); });
     bindSwitch(m_ui->useFixedProjectLocation, settings::useFixedProjectLocation, 1LL, 0LL);
     m_ui->useFixedProjectLocation->setChecked(defaults.equalsOne(settings::useFixedProjectLocation));
     bindSwitch(m_ui->strictNaming, settings::strictNaming, true, false);
@@ -247,7 +247,8 @@ void VTPreferenceController::modifyTemplatePath(const QString &typed)
     }
     settings::standard().setValue(settings::templateLocation, path);
     makeFolder(path);
-    VTLog::appendLog("User changed template path from %@ to %@. Asking user to confirm moving over old files.", old, path);
+    VTLog::appendLog("User changed template path from %@ to %@. Asking user to confirm moving over old files.", old,
+                     path);
     if (!VTFileManager::isFolderEmpty(old))
         moveTemplates(old, path);
     VTDataController::sharedController().populateTemplates();

@@ -40,7 +40,8 @@ void VTPreferenceController::bindParameters()
     auto *header = table->horizontalHeader();
     header->setSectionResizeMode(QHeaderView::ResizeToContents);
     header->setSectionResizeMode(static_cast<int>(editor::Column::Kind), QHeaderView::Fixed);
-    table->setColumnWidth(static_cast<int>(editor::Column::Kind), fontMetrics().horizontalAdvance(tr("User name")) + 48);
+    table->setColumnWidth(static_cast<int>(editor::Column::Kind),
+                          fontMetrics().horizontalAdvance(tr("User name")) + 48);
     header->setSectionResizeMode(static_cast<int>(editor::Column::Title), QHeaderView::Stretch);
     header->setSectionResizeMode(static_cast<int>(editor::Column::Default), QHeaderView::Stretch);
     header->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
@@ -88,9 +89,9 @@ void VTPreferenceController::removeFilenameParam()
         rows.append(row.row());
     if (rows.isEmpty())
         return;
-    const int answer = VTAlert::alertSheetWithMessageText(tr("Are you sure you wish to remove this parameter?"),
-                                                          tr("Remove"), tr("Cancel"), {}, tr("This cannot be undone."),
-                                                          this, VTAlert::Block::Yes);
+    const int answer =
+        VTAlert::alertSheetWithMessageText(tr("Are you sure you wish to remove this parameter?"), tr("Remove"),
+                                           tr("Cancel"), {}, tr("This cannot be undone."), this, VTAlert::Block::Yes);
     if (answer == VTAlert::defaultReturn)
         m_parameters.remove(rows);
 }

@@ -3,7 +3,8 @@
 #include "preferences/VTShortcutKeyTableDelegate.h"
 #include "ui_VTShortcutKeyConfig.h"
 
-VTShortcutKeyContainerView::VTShortcutKeyContainerView(QWidget *parent) : QWidget(parent)
+VTShortcutKeyContainerView::VTShortcutKeyContainerView(QWidget *parent)
+    : QWidget(parent)
 {
     Ui::VTShortcutKeyConfig ui;
     ui.setupUi(this);

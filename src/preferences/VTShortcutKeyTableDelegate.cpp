@@ -85,7 +85,8 @@ void VTShortcutKeyTableDelegate::populateKeyData()
 {
     beginResetModel();
     m_rows.clear();
-    const auto assigned = shortcuts::assignmentsOf(shortcuts::read().dictionary.value_or(QVariantMap()), ownIdentifier());
+    const auto assigned =
+        shortcuts::assignmentsOf(shortcuts::read().dictionary.value_or(QVariantMap()), ownIdentifier());
     for (const QVariant &value : commandList()) {
         const QVariantMap command = value.toMap();
         Row row{command.value("id").toString(), command.value("description").toString(), {}};
@@ -162,7 +163,8 @@ void VTShortcutKeyTableDelegate::setUpManager()
     if (platform::targetExists(managerPath()))
         VTTask::runTask(managerPath(), {QStringLiteral("-setup")});
     else
-        printToConsole("Unable to setup shortcut keys - shortcut key manager doesn't exist. Please reinstall this software.");
+        printToConsole(
+            "Unable to setup shortcut keys - shortcut key manager doesn't exist. Please reinstall this software.");
 }
 
 bool VTShortcutKeyTableDelegate::setKeyboardShortcut(const QString &commandIdentifier, const QStringList &parameters,
@@ -191,7 +193,8 @@ void VTShortcutKeyTableDelegate::clearShortcutKey()
     if (selected && *selected < m_rows.size()) {
         const bool exists = shortcuts::read().exists;
         const auto file = exists ? readForChange() : std::nullopt;
-        const bool cleared = file && store(shortcuts::without(*file, {ownIdentifier(), m_rows[*selected].identifier, {}}));
+        const bool cleared =
+            file && store(shortcuts::without(*file, {ownIdentifier(), m_rows[*selected].identifier, {}}));
         if (cleared || !exists)
             m_rows[*selected].keyName = QString();
     }

@@ -9,8 +9,9 @@ class QLabel;
 class VTShortcutKeyTableview;
 
 /**
- * The commands and the keys that trigger them, in every program. The program does not watch the keyboard itself: a manager,
- * shared by the maker's applications, does, and is told of every change. One object for the whole process. Main thread only.
+ * The commands and the keys that trigger them, in every program. The program does not watch the keyboard itself: a
+ * manager, shared by the maker's applications, does, and is told of every change. One object for the whole process.
+ * Main thread only.
  */
 class VTShortcutKeyTableDelegate : public QAbstractTableModel
 {

@@ -17,7 +17,11 @@ bool isModifier(int key)
 class CapturingDelegate : public QStyledItemDelegate
 {
 public:
-    explicit CapturingDelegate(VTShortcutKeyTableview *view) : QStyledItemDelegate(view), m_view(view) {}
+    explicit CapturingDelegate(VTShortcutKeyTableview *view)
+        : QStyledItemDelegate(view)
+        , m_view(view)
+    {
+    }
 
     QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &, const QModelIndex &index) const override
     {
@@ -47,7 +51,8 @@ private:
 
 } // namespace
 
-VTShortcutKeyFieldEditor::VTShortcutKeyFieldEditor(QWidget *parent) : QWidget(parent)
+VTShortcutKeyFieldEditor::VTShortcutKeyFieldEditor(QWidget *parent)
+    : QWidget(parent)
 {
     setFocusPolicy(Qt::StrongFocus);
     setAutoFillBackground(true);
@@ -75,7 +80,8 @@ void VTShortcutKeyFieldEditor::paintEvent(QPaintEvent *)
     painter.drawText(rect().adjusted(4, 0, 0, 0), Qt::AlignVCenter | Qt::AlignLeft, tr("Press the keys…"));
 }
 
-VTShortcutKeyTableview::VTShortcutKeyTableview(QWidget *parent) : VTTableView(parent)
+VTShortcutKeyTableview::VTShortcutKeyTableview(QWidget *parent)
+    : VTTableView(parent)
 {
     setItemDelegate(new CapturingDelegate(this));
     setShowGrid(false);

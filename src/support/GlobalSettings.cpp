@@ -16,10 +16,14 @@ bool globalsettings::isOn(const QString &key)
 {
     const QVariant found = value(key);
     switch (found.typeId()) {
-    case QMetaType::QString: return found.toString() == u"1";
-    case QMetaType::Bool: return found.toBool();
+    case QMetaType::QString:
+        return found.toString() == u"1";
+    case QMetaType::Bool:
+        return found.toBool();
     case QMetaType::LongLong:
-    case QMetaType::Double: return found.toDouble() == 1;
-    default: return false;
+    case QMetaType::Double:
+        return found.toDouble() == 1;
+    default:
+        return false;
     }
 }

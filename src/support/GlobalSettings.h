@@ -2,8 +2,8 @@
 
 #include <QVariant>
 
-/** The settings that the maker's applications share: "com.vantrel.global.plist" in the user's preferences folder, which a
-    person or an installer edits. Read anew at each call. Any thread. */
+/** The settings that the maker's applications share: "com.vantrel.global.plist" in the user's preferences folder, which
+   a person or an installer edits. Read anew at each call. Any thread. */
 namespace globalsettings {
 
 /** Invalid without the key or a readable file. */

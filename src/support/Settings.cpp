@@ -31,9 +31,9 @@ QVariant shippedParameters()
 
 platform::UserDefaults &standard()
 {
-    static auto *defaults = new platform::UserDefaults(
-        preferencesFile(VTLocalPaths::Domain::User), preferencesFile(VTLocalPaths::Domain::Local),
-        [](const QString &problem) { VTLog::appendLog("%@", problem); });
+    static auto *defaults = new platform::UserDefaults(preferencesFile(VTLocalPaths::Domain::User),
+                                                       preferencesFile(VTLocalPaths::Domain::Local),
+                                                       [](const QString &problem) { VTLog::appendLog("%@", problem); });
     return *defaults;
 }
 
@@ -71,7 +71,8 @@ std::optional<QVariant> valueFromText(const Known &setting, const QString &text,
     static const QStringList off{"0", "off", "no", "false"};
     const bool isOn = on.contains(text.toLower());
     switch (setting.type) {
-    case Type::Text: return text;
+    case Type::Text:
+        return text;
     case Type::Path:
         return text.startsWith(u'/') ? std::optional<QVariant>(text)
                                      : say("A folder's whole path is needed, from the first slash on.");
@@ -98,7 +99,8 @@ void registerDefaults()
     using Domain = VTLocalPaths::Domain;
     standard().registerDefaults({
         {filenameTemplate, shippedParameters()},
-        {templateLocation, VTLocalPaths::appSupportDirectory(Domain::User) + QStringLiteral("/Vantrel/Tessaro/Templates")},
+        {templateLocation,
+         VTLocalPaths::appSupportDirectory(Domain::User) + QStringLiteral("/Vantrel/Tessaro/Templates")},
         {selectedProjectTemplate, QStringLiteral("Editing Template")},
         {autoOpenFolder, 1LL},
         {fixedProjectLocationPath, VTLocalPaths::documentDirectory(Domain::User)},

@@ -59,7 +59,8 @@ void logFailedTool(const platform::RightsHelper::ToolEnd &end)
 
 } // namespace
 
-VTAuthorization::VTAuthorization(UserInterface hasGUI) : m_hasGUI(hasGUI)
+VTAuthorization::VTAuthorization(UserInterface hasGUI)
+    : m_hasGUI(hasGUI)
 {
     // Nothing hands rights down to a process on this desktop; whoever runs it as root has them anyway.
     if (!platform::isSuperUser())

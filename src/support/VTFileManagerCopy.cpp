@@ -30,7 +30,8 @@ void tell(const QPointer<QObject> &delegate, const QByteArray &name, const QVari
     const QByteArray both = name + "(QVariantMap,platform::CopyOperation::Ref)";
     const QByteArray one = name + "(QVariantMap)";
     if (const int found = type->indexOfMethod(both); found >= 0)
-        type->method(found).invoke(delegate, Q_ARG(QVariantMap, record), Q_ARG(platform::CopyOperation::Ref, operation));
+        type->method(found).invoke(delegate, Q_ARG(QVariantMap, record),
+                                   Q_ARG(platform::CopyOperation::Ref, operation));
     else if (const int other = type->indexOfMethod(one); other >= 0)
         type->method(other).invoke(delegate, Q_ARG(QVariantMap, record));
 }
@@ -58,9 +59,10 @@ bool VTFileManager::copyFileWithProgress(const QString &source, const QString &d
     }
     const QString folder = platform::parentPath(destination);
     if (!fileExistsAtPath(folder) && !createDirectory(folder, createPatience)) {
-        platform::printToConsole(formatString("Unable to copy file %@ - destination directory %@ doesn't exist. Aborting "
-                                              "copy process...",
-                                              source, folder));
+        platform::printToConsole(
+            formatString("Unable to copy file %@ - destination directory %@ doesn't exist. Aborting "
+                         "copy process...",
+                         source, folder));
         return false;
     }
     QVariantMap record{{QStringLiteral("source"), source},
@@ -73,18 +75,17 @@ bool VTFileManager::copyFileWithProgress(const QString &source, const QString &d
         record.insert(QStringLiteral("object"), object);
     if (object2.isValid())
         record.insert(QStringLiteral("object2"), object2);
-    CopyOperation::start(
-        source, destination,
-        {[=](const FileOperation &operation, const CopyOperation::Progress &progress) {
-             tell(receiver, "fileOperationProgress", withProgress(record, progress), operation);
-         },
-         [=](const FileOperation &operation, const platform::FileOutcome &outcome) {
-             if (!outcome.ok() && outcome.errorNumber() != ECANCELED)
-                 VTLog::appendLog("Error copying file: %@", outcome.description());
-             QVariantMap last = record;
-             last.insert(QStringLiteral("stage"), Stage::complete);
-             tell(receiver, "fileOperationFinished", last, operation);
-         }});
+    CopyOperation::start(source, destination,
+                         {[=](const FileOperation &operation, const CopyOperation::Progress &progress) {
+                              tell(receiver, "fileOperationProgress", withProgress(record, progress), operation);
+                          },
+                          [=](const FileOperation &operation, const platform::FileOutcome &outcome) {
+                              if (!outcome.ok() && outcome.errorNumber() != ECANCELED)
+                                  VTLog::appendLog("Error copying file: %@", outcome.description());
+                              QVariantMap last = record;
+                              last.insert(QStringLiteral("stage"), Stage::complete);
+                              tell(receiver, "fileOperationFinished", last, operation);
+                          }});
     return true;
 }
 

@@ -24,13 +24,13 @@ constexpr quint16 labelMask = 0x000E;
 /// By the label's number, that is half the index.
 constexpr std::array<LabelColor, 8> labelColors{{
     {0, 0, 0},
-    {0, 0, 0.72},           // grey
-    {0.2056, 0.5, 0.85},    // green
-    {0.7917, 0.26, 0.86},   // purple
-    {0.5789, 0.56, 0.98},   // blue
-    {0.1388, 0.54, 0.95},   // yellow
-    {0.0083, 0.54, 1.0},    // red
-    {0.0888, 0.52, 0.98},   // orange
+    {0, 0, 0.72},         // grey
+    {0.2056, 0.5, 0.85},  // green
+    {0.7917, 0.26, 0.86}, // purple
+    {0.5789, 0.56, 0.98}, // blue
+    {0.1388, 0.54, 0.95}, // yellow
+    {0.0083, 0.54, 1.0},  // red
+    {0.0888, 0.52, 0.98}, // orange
 }};
 
 void setLockedBelow(const QString &folder, bool locked)

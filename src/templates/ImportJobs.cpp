@@ -173,9 +173,10 @@ bool importjobs::createFolderStructure(const ImportJob &job, const ImportHost &h
     VTLog::appendLog("Creating subdirectories: %@", paths.join(QStringLiteral(", ")));
     bool all = true;
     for (const QString &relative : paths) {
-        all = VTFileManager::createDirectory(job.destFolder + (relative.startsWith(u'/') ? QString() : QStringLiteral("/")) +
-                                                 relative,
-                                             patience) && all;
+        all =
+            VTFileManager::createDirectory(
+                job.destFolder + (relative.startsWith(u'/') ? QString() : QStringLiteral("/")) + relative, patience) &&
+            all;
         copyLabels(job.sourceFiles, relative, job.destFolder);
     }
     host.showFolder(QString());

@@ -13,14 +13,14 @@ struct ImportJob
 /** How a job is seen from outside. Called on the job's thread; what touches the window hands it to the main thread. */
 struct ImportHost
 {
-    std::function<void()> begin; ///< turn the spinner
+    std::function<void()> begin;                               ///< turn the spinner
     std::function<void(const QString &destFolder)> showFolder; ///< read the folder anew; null: the whole tree
     std::function<void()> end;
 };
 
 /**
- * The two imports. Both block the calling thread, which is a worker's in the window; several may run at once. Questions and
- * messages go through VTAlert. False when anything could not be brought in, or was left out on the user's word.
+ * The two imports. Both block the calling thread, which is a worker's in the window; several may run at once. Questions
+ * and messages go through VTAlert. False when anything could not be brought in, or was left out on the user's word.
  */
 namespace importjobs {
 
@@ -33,8 +33,8 @@ bool createFolderStructure(const ImportJob &job, const ImportHost &host);
 /** The folders below (links followed) that hold no further folders, depth first; the folder itself when it has none. */
 [[nodiscard]] QStringList subFoldersInDirectory(const QString &folder);
 
-/** What createFolderStructure() makes, below the destination. A folder without subfolders gives its whole absolute path:
-    this must stay. */
+/** What createFolderStructure() makes, below the destination. A folder without subfolders gives its whole absolute
+   path: this must stay. */
 [[nodiscard]] QStringList structurePaths(const QStringList &sources);
 
 } // namespace importjobs

@@ -70,8 +70,8 @@ Result duplicateTemplate(const QString &name)
 Result removeTemplate(const QString &name)
 {
     const int answer = VTAlert::alertSheetWithMessageText(
-        formatString(text("Are you sure you wish to remove the template '%@'?"), name), text("Remove"), text("Cancel"), {},
-        text("The template file will be placed in your Trash."), VTDataController::sharedController().window(),
+        formatString(text("Are you sure you wish to remove the template '%@'?"), name), text("Remove"), text("Cancel"),
+        {}, text("The template file will be placed in your Trash."), VTDataController::sharedController().window(),
         VTAlert::Block::Yes);
     if (answer != VTAlert::defaultReturn)
         return {Outcome::Declined, name};
@@ -96,8 +96,9 @@ Result renameTemplate(const QString &name, const QString &typed)
     const QString destination = VTDataController::bundlePath(cleaned);
     if (platform::kindOf(destination) != platform::FileKind::Missing && cleaned.toLower() != name.toLower()) {
         tell(text("Template already exists"),
-             formatString(text("You cannot rename this template to %@ because there is already a template with this name."),
-                          cleaned));
+             formatString(
+                 text("You cannot rename this template to %@ because there is already a template with this name."),
+                 cleaned));
         return {Outcome::Declined, name};
     }
     if (!VTFileManager::moveFile(source, destination, patience)) {
@@ -128,7 +129,8 @@ Result addTemplate(const QString &given)
     if (platform::identityOf(bundle) == platform::identityOf(destination)) // the library by another name
         return {Outcome::Unchanged, nameOf(bundle)};
     if (platform::kindOf(destination) != platform::FileKind::Missing)
-        static_cast<void>(VTFileManager::trashFile(destination, importPatience)); // if it stays, the copy fails and says so
+        static_cast<void>(
+            VTFileManager::trashFile(destination, importPatience)); // if it stays, the copy fails and says so
     if (VTFileManager::copyFile(bundle, destination, importPatience))
         return {Outcome::Done, nameOf(destination)};
     tell(formatString(text("Unable to copy file %@ to %@"), bundle, destination), checkDestination());

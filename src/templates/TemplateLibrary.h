@@ -3,8 +3,9 @@
 #include <QString>
 
 /**
- * Changes to the template library on disk: what the window's list and the command do. Failures are told through VTAlert and
- * logged; afterwards the caller builds the list anew, which shows what the disk holds. Block; main thread, but for add().
+ * Changes to the template library on disk: what the window's list and the command do. Failures are told through VTAlert
+ * and logged; afterwards the caller builds the list anew, which shows what the disk holds. Block; main thread, but for
+ * add().
  */
 namespace library {
 
@@ -30,8 +31,8 @@ Result duplicateTemplate(const QString &name);
 Result removeTemplate(const QString &name);
 /** A template that was the default stays it under its new name. */
 Result renameTemplate(const QString &name, const QString &typed);
-/** Brings a bundle into the library; one of the same name goes to the Trash. One that lies in the library is left alone.
-    Any thread. */
+/** Brings a bundle into the library; one of the same name goes to the Trash. One that lies in the library is left
+   alone. Any thread. */
 Result addTemplate(const QString &bundle);
 
 [[nodiscard]] bool isDefaultTemplate(const QString &name);

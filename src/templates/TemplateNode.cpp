@@ -73,7 +73,8 @@ std::unique_ptr<TemplateNode> decode(QDataStream &stream, int depth)
     return std::make_unique<VTFolderItem>(name, filename, std::move(children));
 }
 
-/// Reads one tree. Where a folder holds several others, a second worker shares them: a large tree is read in half the time.
+/// Reads one tree. Where a folder holds several others, a second worker shares them: a large tree is read in half the
+/// time.
 class TreeReader
 {
 public:
@@ -127,8 +128,11 @@ private:
 } // namespace
 
 TemplateNode::TemplateNode(const QString &path, VTFolderItem *parent)
-    : m_parent(parent), m_name(platform::lastComponent(path)), m_filename(path)
-{}
+    : m_parent(parent)
+    , m_name(platform::lastComponent(path))
+    , m_filename(path)
+{
+}
 
 void TemplateNode::rename(const QString &newPath)
 {

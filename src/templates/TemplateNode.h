@@ -10,9 +10,9 @@ class TemplateNode;
 using TemplateNodes = std::vector<std::unique_ptr<TemplateNode>>;
 
 /**
- * One item of a template's tree in memory: a picture of the disk, which is always the truth. It carries its path, by which
- * it is known, and no contents. Owned by its folder, or at the top by the structure editor. Belongs to one thread at a
- * time; reading the disk may happen on any.
+ * One item of a template's tree in memory: a picture of the disk, which is always the truth. It carries its path, by
+ * which it is known, and no contents. Owned by its folder, or at the top by the structure editor. Belongs to one thread
+ * at a time; reading the disk may happen on any.
  */
 class TemplateNode
 {
@@ -41,7 +41,11 @@ public:
 
 protected:
     TemplateNode(const QString &path, VTFolderItem *parent);
-    TemplateNode(QString name, QString filename) : m_name(std::move(name)), m_filename(std::move(filename)) {}
+    TemplateNode(QString name, QString filename)
+        : m_name(std::move(name))
+        , m_filename(std::move(filename))
+    {
+    }
 
 private:
     friend void adopt(TemplateNodes &nodes, VTFolderItem *parent);
@@ -56,7 +60,10 @@ class VTFileItem : public TemplateNode
 {
 public:
     [[nodiscard]] static std::unique_ptr<VTFileItem> fileItemWithPath(const QString &path, VTFolderItem *parent);
-    VTFileItem(QString name, QString filename) : TemplateNode(std::move(name), std::move(filename)) {}
+    VTFileItem(QString name, QString filename)
+        : TemplateNode(std::move(name), std::move(filename))
+    {
+    }
     [[nodiscard]] bool isFolderItem() const override { return false; }
 
 private:
@@ -70,8 +77,10 @@ public:
     [[nodiscard]] static std::unique_ptr<VTFolderItem> folderItemWithPath(const QString &path, VTFolderItem *parent);
     /** The children stay without a parent: such a folder is a picture of another one. */
     VTFolderItem(QString name, QString filename, TemplateNodes detached = {})
-        : TemplateNode(std::move(name), std::move(filename)), m_children(std::move(detached))
-    {}
+        : TemplateNode(std::move(name), std::move(filename))
+        , m_children(std::move(detached))
+    {
+    }
     [[nodiscard]] bool isFolderItem() const override { return true; }
     void rename(const QString &newPath) override;
 
@@ -86,9 +95,9 @@ private:
 };
 
 /**
- * The nodes of what lies in a folder, each with its whole subtree, in listing order; a folder that cannot be read is empty.
- * Folders are shown whatever their name, other items only when it does not begin with a dot. A link to a folder is read
- * through, unless it leads back to a folder that its own path goes through: that one stays empty.
+ * The nodes of what lies in a folder, each with its whole subtree, in listing order; a folder that cannot be read is
+ * empty. Folders are shown whatever their name, other items only when it does not begin with a dot. A link to a folder
+ * is read through, unless it leads back to a folder that its own path goes through: that one stays empty.
  */
 [[nodiscard]] TemplateNodes nodesInFolder(const QString &folder, VTFolderItem *parent);
 
@@ -96,11 +105,12 @@ private:
 void adopt(TemplateNodes &nodes, VTFolderItem *parent);
 
 /**
- * The node with the path, in the order of the lists. A folder whose path begins the searched one as plain text is searched
- * and nothing after it; this must stay: with "Shots" before "Shots Extra" the latter is not found.
+ * The node with the path, in the order of the lists. A folder whose path begins the searched one as plain text is
+ * searched and nothing after it; this must stay: with "Shots" before "Shots Extra" the latter is not found.
  */
 [[nodiscard]] TemplateNode *nodeWithFilename(const QString &filename, const TemplateNodes &nodes);
 
-/** The form in which dragged nodes travel within the program. What comes back has no parents. Nothing when it is damaged. */
+/** The form in which dragged nodes travel within the program. What comes back has no parents. Nothing when it is
+ * damaged. */
 [[nodiscard]] QByteArray archivedNodes(const std::vector<const TemplateNode *> &nodes);
 [[nodiscard]] TemplateNodes nodesFromArchive(const QByteArray &archive);

@@ -59,17 +59,19 @@ QAction *addTo(QWidget &widget, const QString &text, const QList<QKeySequence> &
 } // namespace
 
 TemplatePane::TemplatePane(QWidget *parent)
-    : QWidget(parent), m_ui(std::make_unique<Ui::TemplatePane>()), m_table(m_outline),
-      m_toggleDefault(new QAction(this)), m_addMenu(new QMenu(this))
+    : QWidget(parent)
+    , m_ui(std::make_unique<Ui::TemplatePane>())
+    , m_table(m_outline)
+    , m_toggleDefault(new QAction(this))
+    , m_addMenu(new QMenu(this))
 {
     m_ui->setupUi(this);
     m_ui->splitter->setStretchFactor(0, 0);
     m_ui->splitter->setStretchFactor(1, 1);
     const auto width = settings::standard().integer(settings::templateListWidth);
     m_ui->splitter->setSizes({width > 0 ? static_cast<int>(width) : defaultListWidth, 10'000});
-    connect(m_ui->splitter, &QSplitter::splitterMoved, this, [](int position) {
-        settings::standard().setValue(settings::templateListWidth, qlonglong{position});
-    });
+    connect(m_ui->splitter, &QSplitter::splitterMoved, this,
+            [](int position) { settings::standard().setValue(settings::templateListWidth, qlonglong{position}); });
     for (QToolButton *button : {m_ui->newTemplateButton, m_ui->addButton})
         button->setIcon(icons::named("add"));
     for (QToolButton *button : {m_ui->removeTemplateButton, m_ui->removeButton})
@@ -118,8 +120,8 @@ void TemplatePane::buildTable()
     menu->addSeparator();
     menu->addAction(m_toggleDefault);
     connect(m_toggleDefault, &QAction::triggered, &m_table, &Table::toggleDefault);
-    m_forTemplate += {m_toggleDefault,
-                      item(tr("&Show in File Manager"), {Qt::CTRL | Qt::Key_R}, &Table::revealTemplateInFinder)};
+    m_forTemplate +=
+        {m_toggleDefault, item(tr("&Show in File Manager"), {Qt::CTRL | Qt::Key_R}, &Table::revealTemplateInFinder)};
     table->setContextMenu(menu);
 
     connect(m_ui->newTemplateButton, &QToolButton::clicked, &m_table, &Table::createNewTemplate);

@@ -13,8 +13,8 @@ namespace Ui {
 class TemplatePane;
 }
 
-/** The template pane: the list beside the tree, their buttons, menus and keys. Draws and forwards; the two controllers, which
-    it owns, do the rest. */
+/** The template pane: the list beside the tree, their buttons, menus and keys. Draws and forwards; the two controllers,
+   which it owns, do the rest. */
 class TemplatePane : public QWidget
 {
     Q_OBJECT
@@ -46,7 +46,7 @@ private:
     VTTemplateTableController m_table;
     QAction *m_toggleDefault;
     QMenu *m_addMenu;
-    QList<QAction *> m_labels;          ///< none, then the seven
-    QList<QAction *> m_forTemplate;     ///< need a selected template
-    QList<QAction *> m_forItems;        ///< need selected items
+    QList<QAction *> m_labels;      ///< none, then the seven
+    QList<QAction *> m_forTemplate; ///< need a selected template
+    QList<QAction *> m_forItems;    ///< need selected items
 };

@@ -15,7 +15,7 @@ namespace {
 QVariant iconOf(const TemplateNode &node)
 {
     using Kind = fileicons::Kind;
-    const Kind kind = node.isFolderItem()                      ? Kind::Folder
+    const Kind kind = node.isFolderItem()                    ? Kind::Folder
                       : platform::isPackage(node.filename()) ? Kind::Package
                                                              : Kind::File;
     return fileicons::forName(node.name(), kind);
@@ -48,8 +48,10 @@ QVariant stemLength(const TemplateNode &node)
 } // namespace
 
 TemplateTreeModel::TemplateTreeModel(Handlers handlers, QObject *parent)
-    : QAbstractItemModel(parent), m_handlers(std::move(handlers))
-{}
+    : QAbstractItemModel(parent)
+    , m_handlers(std::move(handlers))
+{
+}
 
 void TemplateTreeModel::setNodes(TemplateNodes nodes)
 {
@@ -96,8 +98,8 @@ TemplateDrop TemplateTreeModel::dropOf(const QMimeData &data)
     TemplateDrop drop{data.hasUrls(), {}, {}};
     for (const QUrl &address : data.urls()) {
         if (address.isLocalFile()) // the bytes as they came: a name need not be UTF-8
-            drop.paths.append(platform::fromNative(
-                QByteArray::fromPercentEncoding(address.path(QUrl::FullyEncoded).toLatin1())));
+            drop.paths.append(
+                platform::fromNative(QByteArray::fromPercentEncoding(address.path(QUrl::FullyEncoded).toLatin1())));
     }
     return drop;
 }
@@ -146,12 +148,18 @@ QVariant TemplateTreeModel::data(const QModelIndex &index, int role) const
     const TemplateNode &node = *nodeAt(index);
     switch (role) {
     case Qt::DisplayRole:
-    case Qt::EditRole: return platform::forDisplay(node.name());
-    case Qt::DecorationRole: return iconOf(node);
-    case Qt::AccessibleTextRole: return spokenName(node);
-    case CellRole::LabelColor: return colorOf(node);
-    case CellRole::StemLength: return stemLength(node);
-    default: return {};
+    case Qt::EditRole:
+        return platform::forDisplay(node.name());
+    case Qt::DecorationRole:
+        return iconOf(node);
+    case Qt::AccessibleTextRole:
+        return spokenName(node);
+    case CellRole::LabelColor:
+        return colorOf(node);
+    case CellRole::StemLength:
+        return stemLength(node);
+    default:
+        return {};
     }
 }
 
@@ -173,7 +181,8 @@ Qt::ItemFlags TemplateTreeModel::flags(const QModelIndex &index) const
 {
     if (!index.isValid())
         return Qt::ItemIsDropEnabled;
-    return Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsEditable | Qt::ItemIsDragEnabled | Qt::ItemIsDropEnabled;
+    return Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsEditable | Qt::ItemIsDragEnabled |
+           Qt::ItemIsDropEnabled;
 }
 
 QStringList TemplateTreeModel::mimeTypes() const
@@ -206,7 +215,8 @@ Qt::DropActions TemplateTreeModel::supportedDragActions() const
     return Qt::MoveAction;
 }
 
-bool TemplateTreeModel::canDropMimeData(const QMimeData *data, Qt::DropAction, int, int, const QModelIndex &parent) const
+bool TemplateTreeModel::canDropMimeData(const QMimeData *data, Qt::DropAction, int, int,
+                                        const QModelIndex &parent) const
 {
     return m_handlers.validate(dropOf(*data), nodeAt(parent)) != DropOperation::Refused;
 }

@@ -20,8 +20,8 @@ struct TemplateDrop
 enum class DropOperation { Refused = 0, Copy = 1, Move = 16 };
 
 /**
- * The index mechanics of a template's tree, and nothing else: one column of names. What a name that was typed, or a drop,
- * means is asked of the handlers. Main thread only.
+ * The index mechanics of a template's tree, and nothing else: one column of names. What a name that was typed, or a
+ * drop, means is asked of the handlers. Main thread only.
  */
 class TemplateTreeModel : public QAbstractItemModel
 {

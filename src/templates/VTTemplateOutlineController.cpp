@@ -1,10 +1,10 @@
 // The structure editor: set-up, reading the tree, and keeping the user's place in it.
 #include "templates/VTTemplateOutlineController.h"
 
+#include "platform/ApplicationBundle.h"
 #include "platform/FileSystem.h"
 #include "platform/MainThread.h"
 #include "platform/NativePath.h"
-#include "platform/ApplicationBundle.h"
 #include "platform/Packages.h"
 #include "support/Settings.h"
 #include "support/VTLocalPaths.h"
@@ -55,12 +55,14 @@ bool expandsAll()
 } // namespace
 
 VTTemplateOutlineController::VTTemplateOutlineController(QObject *parent)
-    : QObject(parent), m_model({[this](const QString &path, const QString &typed) { rename(path, typed); },
-                                [this](const TemplateDrop &drop, const TemplateNode *target) {
-                                    return validateDrop(drop, target);
-                                },
-                                [this](const TemplateDrop &drop, const QString &target) { acceptDrop(drop, target); }})
-{}
+    : QObject(parent)
+    , m_model({[this](const QString &path, const QString &typed) { rename(path, typed); },
+               [this](const TemplateDrop &drop, const TemplateNode *target) { return validateDrop(drop, target); },
+               [this](const TemplateDrop &drop, const QString &target) {
+                   acceptDrop(drop, target);
+               }})
+{
+}
 
 VTTemplateOutlineController::~VTTemplateOutlineController()
 {
@@ -306,14 +308,24 @@ void VTTemplateOutlineController::startJob(const ImportJob &job, bool (*work)(co
     const auto waiting = platform::Waiting::Yes;
     ImportHost host;
     host.begin = [this, waiting] {
-        MainThread::perform([this] { if (m_spinning++ == 0) m_views.spinner->start(); }, waiting);
+        MainThread::perform(
+            [this] {
+                if (m_spinning++ == 0)
+                    m_views.spinner->start();
+            },
+            waiting);
     };
     host.showFolder = [this, waiting](const QString &folder) {
         MainThread::perform([this, folder] { folder.isNull() ? populateTemplateStructure() : rereadFolder(folder); },
                             waiting);
     };
     host.end = [this, waiting] {
-        MainThread::perform([this] { if (--m_spinning == 0) m_views.spinner->stop(); }, waiting);
+        MainThread::perform(
+            [this] {
+                if (--m_spinning == 0)
+                    m_views.spinner->stop();
+            },
+            waiting);
     };
     ++m_jobs;
     auto *thread = QThread::create([job, host, work] { work(job, host); });

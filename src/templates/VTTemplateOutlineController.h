@@ -14,9 +14,9 @@ class Spinner;
 class VTColoredOutlineView;
 
 /**
- * The structure editor: shows a template's tree and changes it. Every change is made on disk first; then the tree is read
- * anew, and what was open, selected and in sight stays so where it still exists. Main thread only; reading happens on a
- * worker while the window stays alive, imports run on threads of their own.
+ * The structure editor: shows a template's tree and changes it. Every change is made on disk first; then the tree is
+ * read anew, and what was open, selected and in sight stays so where it still exists. Main thread only; reading happens
+ * on a worker while the window stays alive, imports run on threads of their own.
  */
 class VTTemplateOutlineController : public QObject
 {

@@ -113,7 +113,8 @@ void VTTemplateOutlineController::addProject(const QString &source)
     VTLog::appendLog("Creating duplicate of project %@...", source);
     insertIntoTargets([&](const QString &folder) {
         // Not translated: creating a project replaces the word in the name.
-        const QString path = VTFileManager::uniqueFilename(joined(folder, withExtensionOf(QStringLiteral("Template"), source)));
+        const QString path =
+            VTFileManager::uniqueFilename(joined(folder, withExtensionOf(QStringLiteral("Template"), source)));
         VTLog::appendLog("Creating project at %@", path);
         if (VTFileManager::copyFile(source, path, patience))
             return path;
@@ -141,7 +142,8 @@ void VTTemplateOutlineController::showImportFolderStructureDialog()
 
 void VTTemplateOutlineController::showImportPanel(bool foldersOnly)
 {
-    auto *panel = new ImportPanel(window(), foldersOnly ? ImportPanel::Takes::Folders : ImportPanel::Takes::FilesAndFolders);
+    auto *panel =
+        new ImportPanel(window(), foldersOnly ? ImportPanel::Takes::Folders : ImportPanel::Takes::FilesAndFolders);
     panel->setWindowTitle(foldersOnly ? tr("Import Folder Structure") : tr("Import Files and Folders"));
     connect(panel, &QDialog::accepted, this, [this, panel, foldersOnly] {
         const ImportJob job{panel->chosen(), importDestination()};
@@ -165,9 +167,9 @@ void VTTemplateOutlineController::removeFiles()
     if (paths.isEmpty() || !editingIsAllowed())
         return;
     const QString what = paths.size() == 1 ? tr("this item") : tr("these items");
-    const int answer =
-        VTAlert::alertSheetWithMessageText(formatString(tr("Are you sure you wish to remove %@?"), what), tr("Remove"),
-                                           tr("Cancel"), {}, tr("This cannot be undone."), window(), VTAlert::Block::Yes);
+    const int answer = VTAlert::alertSheetWithMessageText(formatString(tr("Are you sure you wish to remove %@?"), what),
+                                                          tr("Remove"), tr("Cancel"), {}, tr("This cannot be undone."),
+                                                          window(), VTAlert::Block::Yes);
     if (answer != VTAlert::defaultReturn)
         return;
     for (const QString &path : std::as_const(paths)) {
@@ -214,8 +216,9 @@ void VTTemplateOutlineController::rename(const QString &path, const QString &typ
     if (platform::kindOf(renamed) != platform::FileKind::Missing && renamed.toLower() != path.toLower()) {
         VTAlert::alertSheetWithMessageText(
             tr("Item already exists"),
-            formatString(tr("You cannot rename this item to %@ because there is already a file or folder with this name."),
-                         cleaned),
+            formatString(
+                tr("You cannot rename this item to %@ because there is already a file or folder with this name."),
+                cleaned),
             window());
         return;
     }

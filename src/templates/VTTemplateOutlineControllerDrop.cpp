@@ -39,11 +39,10 @@ void tellUnableToMove(const QString &source, const QString &target)
 bool mayOverwrite(const QString &name)
 {
     using Outline = VTTemplateOutlineController;
-    return VTAlert::alertSheetWithMessageText(formatString(Outline::tr("%@ already exists. Overwrite?"), name),
-                                              Outline::tr("Overwrite"), Outline::tr("Ignore"), {},
-                                              Outline::tr("This cannot be undone."),
-                                              VTDataController::sharedController().window(),
-                                              VTAlert::Block::Yes) == VTAlert::defaultReturn;
+    return VTAlert::alertSheetWithMessageText(
+               formatString(Outline::tr("%@ already exists. Overwrite?"), name), Outline::tr("Overwrite"),
+               Outline::tr("Ignore"), {}, Outline::tr("This cannot be undone."),
+               VTDataController::sharedController().window(), VTAlert::Block::Yes) == VTAlert::defaultReturn;
 }
 
 } // namespace
@@ -104,8 +103,8 @@ bool VTTemplateOutlineController::acceptDrop(const TemplateDrop &drop, const QSt
     return true;
 }
 
-/// Moves one item on disk. False when it was skipped: it is there already, or the user said no. An item is never deleted
-/// to make room for one that cannot be moved.
+/// Moves one item on disk. False when it was skipped: it is there already, or the user said no. An item is never
+/// deleted to make room for one that cannot be moved.
 bool VTTemplateOutlineController::moveInside(const TemplateNode &dragged, const QString &folder, QStringList &moved)
 {
     const QString source = dragged.filename();

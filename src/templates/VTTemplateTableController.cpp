@@ -25,8 +25,10 @@ VTDataController &store()
 } // namespace
 
 VTTemplateTableController::VTTemplateTableController(VTTemplateOutlineController &outlineController, QObject *parent)
-    : QAbstractListModel(parent), m_outlineController(outlineController)
-{}
+    : QAbstractListModel(parent)
+    , m_outlineController(outlineController)
+{
+}
 
 void VTTemplateTableController::setViews(VTTableView *tableView, QAction *menuItemToggleDefault)
 {
@@ -102,7 +104,8 @@ QString VTTemplateTableController::selectedTemplate() const
 void VTTemplateTableController::selectRow(const QString &name)
 {
     const QModelIndex row = index(static_cast<int>(m_names.indexOf(name)));
-    m_tableView->selectionModel()->setCurrentIndex(row, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    m_tableView->selectionModel()->setCurrentIndex(row,
+                                                   QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
     m_tableView->scrollTo(row);
 }
 
@@ -240,11 +243,14 @@ QVariant VTTemplateTableController::data(const QModelIndex &index, int role) con
     const bool isDefault = isDefaultTemplate(name);
     switch (role) {
     case Qt::DisplayRole:
-    case Qt::EditRole: return platform::forDisplay(name);
-    case Qt::DecorationRole: return icons::named(isDefault ? "star" : "package");
+    case Qt::EditRole:
+        return platform::forDisplay(name);
+    case Qt::DecorationRole:
+        return icons::named(isDefault ? "star" : "package");
     case Qt::AccessibleTextRole:
         return isDefault ? tr("%1, the default template").arg(platform::forDisplay(name)) : platform::forDisplay(name);
-    default: return {};
+    default:
+        return {};
     }
 }
 

@@ -8,9 +8,9 @@ class VTTableView;
 class VTTemplateOutlineController;
 
 /**
- * The list of templates: its rows are the store's names, in their order, and it holds none of its own. Selecting a row loads
- * that template into the structure editor. Every change is made on disk first and the list is read anew. Main thread only,
- * but for addTemplateFromFile().
+ * The list of templates: its rows are the store's names, in their order, and it holds none of its own. Selecting a row
+ * loads that template into the structure editor. Every change is made on disk first and the list is read anew. Main
+ * thread only, but for addTemplateFromFile().
  */
 class VTTemplateTableController : public QAbstractListModel
 {
@@ -67,7 +67,7 @@ private:
     VTTemplateOutlineController &m_outlineController;
     QPointer<VTTableView> m_tableView;
     QPointer<QAction> m_menuItemToggleDefault;
-    QStringList m_names; ///< what the view was last told of the store's list
-    QString m_loaded;    ///< the template that the editor shows
+    QStringList m_names;   ///< what the view was last told of the store's list
+    QString m_loaded;      ///< the template that the editor shows
     bool m_isStale = true; ///< what the editor shows is to be read anew, even if it is the same template
 };

@@ -4,14 +4,17 @@
 #include <QFileInfo>
 
 ImportPanel::ImportPanel(QWidget *parent, Takes takes, QString extension)
-    : QFileDialog(parent), m_takes(takes), m_extension(std::move(extension))
+    : QFileDialog(parent)
+    , m_takes(takes)
+    , m_extension(std::move(extension))
 {
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowModality(Qt::WindowModal);
     setOption(DontUseNativeDialog); // the desktops' own panels take either files or one folder
     setFileMode(takes == Takes::FilesAndFolders ? ExistingFiles : Directory);
     setOption(ShowDirsOnly, takes == Takes::Folders);
-    const auto mode = takes == Takes::Bundles ? QAbstractItemView::SingleSelection : QAbstractItemView::ExtendedSelection;
+    const auto mode =
+        takes == Takes::Bundles ? QAbstractItemView::SingleSelection : QAbstractItemView::ExtendedSelection;
     for (const char *name : {"listView", "treeView"}) {
         if (auto *view = findChild<QAbstractItemView *>(QLatin1String(name)))
             view->setSelectionMode(mode);

@@ -13,8 +13,7 @@
  * What the program's table and its outline have in common: single keys that a controller reacts to without subclassing,
  * and a context menu that acts on the row that was clicked, because a right click selects it first.
  */
-template <typename Base>
-class KeyWatchingView : public Base
+template <typename Base> class KeyWatchingView : public Base
 {
 public:
     /** True: the event was handled. */

@@ -20,7 +20,8 @@ const QColor textOnLabel(0x1a, 0x1a, 0x1a);
 
 QSize imageSize(const QModelIndex &index)
 {
-    return index.data(Qt::DecorationRole).isValid() ? QSize(VTImageTextCell::iconSide, VTImageTextCell::iconSide) : QSize();
+    return index.data(Qt::DecorationRole).isValid() ? QSize(VTImageTextCell::iconSide, VTImageTextCell::iconSide)
+                                                    : QSize();
 }
 
 QColor textColor(const QStyleOptionViewItem &option, const QModelIndex &index)
@@ -89,7 +90,8 @@ QRect VTImageTextCell::titleRectForBounds(const QRect &bounds, const QSize &imag
     if (image.isEmpty())
         return {};
     const int shift = image.width() + gap;
-    return {bounds.x() + shift, bounds.y() - (hasSubtitle ? shift : image.width()), bounds.width() - shift, bounds.height()};
+    return {bounds.x() + shift, bounds.y() - (hasSubtitle ? shift : image.width()), bounds.width() - shift,
+            bounds.height()};
 }
 
 QRect VTImageTextCell::textFrame(const QRect &frame, const QSize &image)

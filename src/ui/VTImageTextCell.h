@@ -4,8 +4,9 @@
 
 /**
  * A row with a small icon, a title beside it and, where there is one, a smaller second line. The icon is the model's
- * decoration, the title its display text, the second line CellRole::Subtitle in CellRole::SubtitleColor (grey without it).
- * A name is edited beside the icon with its stem selected (CellRole::StemLength), so that typing keeps the extension.
+ * decoration, the title its display text, the second line CellRole::Subtitle in CellRole::SubtitleColor (grey without
+ * it). A name is edited beside the icon with its stem selected (CellRole::StemLength), so that typing keeps the
+ * extension.
  */
 class VTImageTextCell : public QStyledItemDelegate
 {

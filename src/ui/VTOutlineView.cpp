@@ -19,7 +19,8 @@ void askForCopy(QDropEvent &event)
 
 } // namespace
 
-VTOutlineView::VTOutlineView(QWidget *parent) : KeyWatchingView<QTreeView>(parent)
+VTOutlineView::VTOutlineView(QWidget *parent)
+    : KeyWatchingView<QTreeView>(parent)
 {
     setHeaderHidden(true);
     setUniformRowHeights(true);
@@ -75,7 +76,8 @@ void VTOutlineView::dropEvent(QDropEvent *event)
     QTreeView::dropEvent(event);
 }
 
-void VTColoredOutlineView::drawRow(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const
+void VTColoredOutlineView::drawRow(QPainter *painter, const QStyleOptionViewItem &option,
+                                   const QModelIndex &index) const
 {
     const QVariant color = selectionModel()->isSelected(index) ? QVariant() : index.data(CellRole::LabelColor);
     if (color.isValid())

@@ -30,8 +30,8 @@ private:
     QString m_placeholder;
 };
 
-/** An outline whose rows carry the label colour of their item (CellRole::LabelColor), asked at each drawing. The selected
-    row shows its selection instead. */
+/** An outline whose rows carry the label colour of their item (CellRole::LabelColor), asked at each drawing. The
+   selected row shows its selection instead. */
 class VTColoredOutlineView : public VTOutlineView
 {
     Q_OBJECT

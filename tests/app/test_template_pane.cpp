@@ -1,4 +1,5 @@
-// The template pane in a real window: what is done there with mouse and keys, and what the disk and a project made of it say.
+// The template pane in a real window: what is done there with mouse and keys, and what the disk and a project made of
+// it say.
 #include "app/MainWindow.h"
 #include "app/TessaroAppDelegate.h"
 #include "platform/Desktop.h"
@@ -22,8 +23,8 @@
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QLineEdit>
-#include <QProcess>
 #include <QMimeData>
+#include <QProcess>
 #include <QTest>
 #include <QUrl>
 #include <unistd.h>
@@ -47,11 +48,11 @@ class TestTemplatePane : public QObject
     VTTemplateOutlineController &editor() const { return window().templatePane().outlineController(); }
     VTTemplateTableController &list() const { return window().templatePane().tableController(); }
     VTColoredOutlineView *outline() const { return part<VTColoredOutlineView>("outlineView"); }
-    QString files(const QString &path = {}) const
+    QString files(const QString &path = {}) const { return joined(joined(editor().baseFilename(), "Files"), path); }
+    QModelIndex row(const QString &path) const
     {
-        return joined(joined(editor().baseFilename(), "Files"), path);
+        return editor().model().indexOf(editor().itemFromFilename(files(path)));
     }
-    QModelIndex row(const QString &path) const { return editor().model().indexOf(editor().itemFromFilename(files(path))); }
     void select(const QStringList &paths) const
     {
         outline()->clearSelection();
@@ -288,7 +289,8 @@ private Q_SLOTS:
             QCoreApplication::processEvents();
         };
         rename("A", " :/ ");
-        QTRY_COMPARE(answers.seen, QStringList("Invalid filename|You must enter a filename without invalid characters."));
+        QTRY_COMPARE(answers.seen,
+                     QStringList("Invalid filename|You must enter a filename without invalid characters."));
         rename("A", "B");
         QTRY_COMPARE(answers.seen.size(), 2);
         QVERIFY(answers.seen[1].startsWith("Item already exists|"));

@@ -1,4 +1,5 @@
-// What the maker can find out: the reporter, the updater and the gathered logs, each against a stand-in that the test builds.
+// What the maker can find out: the reporter, the updater and the gathered logs, each against a stand-in that the test
+// builds.
 #include "diagnostics/VTBugReporter.h"
 #include "diagnostics/VTSoftwareUpdate.h"
 #include "diagnostics/VTTroubleshootingUtils.h"
@@ -80,7 +81,8 @@ class TestDiagnostics : public QObject
     {
         const QString path = joined(folder, name);
         writeFile(path, "report");
-        const timespec times[2] = {{time(nullptr) + 60L * minutesFromNow, 0}, {time(nullptr) + 60L * minutesFromNow, 0}};
+        const timespec times[2] = {{time(nullptr) + 60L * minutesFromNow, 0},
+                                   {time(nullptr) + 60L * minutesFromNow, 0}};
         utimensat(AT_FDCWD, path.toUtf8(), times, 0);
         return path;
     }
@@ -110,7 +112,9 @@ private Q_SLOTS:
     {
         const QStringList folders = VTBugReporter::reportFolders();
         const QString record = home("record.plist");
-        const auto check = [&] { return VTBugReporter::checkForCrashes("Tessaro", record); };
+        const auto check = [&] {
+            return VTBugReporter::checkForCrashes("Tessaro", record);
+        };
         report(folders[0], "Tessaro_1.crash");
         QVERIFY(check().isNull()); // never launched before: nothing to compare with
         writeFile(record, platform::writePropertyList(QVariantMap{{"theirs", 7LL}}));
@@ -168,7 +172,8 @@ private Q_SLOTS:
 
     void theNewerUpdaterRuns()
     {
-        const QString shipped = platform::ApplicationBundle::main().path() + "/Contents/Resources/Vantrel Software Update.app";
+        const QString shipped =
+            platform::ApplicationBundle::main().path() + "/Contents/Resources/Vantrel Software Update.app";
         const QString working = joined(VTLocalPaths::tempDirectory(), "Vantrel Software Update.app");
         VTSoftwareUpdate::automaticallyCheckForUpdates(); // there is none: nothing happens
         QVERIFY(!VTSoftwareUpdate::launchSoftwareUpdate());
@@ -226,10 +231,10 @@ private Q_SLOTS:
         QVERIFY(platform::extractZip(archive, home("out")).ok());
         const QString inside = home("out/VT_App_Logs") + m_home->path();
         QCOMPARE(allBelow(inside),
-                 QStringList({"Library/Logs/CrashReporter/My App_1.crash", "Library/Logs/DiagnosticReports/My App_2.crash",
-                              "Library/Logs/Vantrel/My App.1.log", "Library/Logs/Vantrel/My App.1.task.log",
-                              "Library/Logs/Vantrel/My App.link.log", "Library/Preferences/com.vantrel.myapp.plist",
-                              "with space.txt"}));
+                 QStringList({"Library/Logs/CrashReporter/My App_1.crash",
+                              "Library/Logs/DiagnosticReports/My App_2.crash", "Library/Logs/Vantrel/My App.1.log",
+                              "Library/Logs/Vantrel/My App.1.task.log", "Library/Logs/Vantrel/My App.link.log",
+                              "Library/Preferences/com.vantrel.myapp.plist", "with space.txt"}));
         QCOMPARE(readFile(inside + "/Library/Logs/Vantrel/My App.link.log"), "linked to");
         const QString second = Utils::gatherLogsForApps({"My App"}, Silent::Yes);
         QVERIFY2(second.contains("/My App Logs_20"), qPrintable(second)); // the first stays
@@ -241,7 +246,8 @@ private Q_SLOTS:
 
     void viewingNeedsALog()
     {
-        QVERIFY(!VTTroubleshootingUtils::viewLogForApp("Nothing") && !VTTroubleshootingUtils::viewTaskLogForApp("Nothing"));
+        QVERIFY(!VTTroubleshootingUtils::viewLogForApp("Nothing") &&
+                !VTTroubleshootingUtils::viewTaskLogForApp("Nothing"));
         QCOMPARE(m_messages.seen, QStringList({"No log found", "No log found"}));
     }
 };

@@ -150,7 +150,8 @@ private Q_SLOTS:
                          m_home->path().toStdString(), plan),
                  0);
         QCOMPARE(plan.arguments, words({"-f", "/proc/self/fd/10/x", "/proc/self/fd/11/."}));
-        QCOMPARE(prepare("/bin/mkdir", words({"-p", m_home->path() + "/new/a/b"}), m_home->path().toStdString(), plan), 0);
+        QCOMPARE(prepare("/bin/mkdir", words({"-p", m_home->path() + "/new/a/b"}), m_home->path().toStdString(), plan),
+                 0);
         QCOMPARE(plan.arguments, words({"-p", "/proc/self/fd/10/b"}));
         // Reading a standard folder harms nobody.
         QCOMPARE(prepare("/bin/cp", words({"-f", "-p", "-R", m_home->path() + "/Documents", m_home->path() + "/x"}),

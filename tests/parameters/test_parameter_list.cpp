@@ -76,13 +76,17 @@ private Q_SLOTS:
     void theTable()
     {
         settings::registerDefaults();
-        settings::standard().setValue(settings::filenameTemplate,
-                                      QVariantList{record({{"title", "Day"}, {"type", 3}, {"defaultVal", "x"}}),
-                                                   record({{"title", "Kind"}, {"type", 5}, {"saveHistory", true},
-                                                           {"defaultVal", "a,b"}, {"unknown", 7}})});
+        settings::standard().setValue(
+            settings::filenameTemplate,
+            QVariantList{
+                record({{"title", "Day"}, {"type", 3}, {"defaultVal", "x"}}),
+                record(
+                    {{"title", "Kind"}, {"type", 5}, {"saveHistory", true}, {"defaultVal", "a,b"}, {"unknown", 7}})});
         ParameterEditorModel model;
         const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
-        const auto at = [&](int row, Column column) { return model.index(row, static_cast<int>(column)); };
+        const auto at = [&](int row, Column column) {
+            return model.index(row, static_cast<int>(column));
+        };
         QCOMPARE(at(0, Column::Default).data(), "(auto)");
         QVERIFY(!(model.flags(at(0, Column::Default)) & Qt::ItemIsEnabled));
         QCOMPARE(at(0, Column::Folder).data(Qt::CheckStateRole), Qt::Checked); // the first always begins the path

@@ -24,8 +24,9 @@ class TestCrashReport : public QObject
         QVERIFY(QDir(m_home->path()).mkpath("reports"));
         // The sanitizer has handlers of its own, and reports a crash as its own failure.
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert("ASAN_OPTIONS", "handle_segv=0:handle_abort=0:handle_sigbus=0:handle_sigfpe=0:handle_sigill=0:"
-                                           "use_sigaltstack=0:detect_leaks=0");
+        environment.insert("ASAN_OPTIONS",
+                           "handle_segv=0:handle_abort=0:handle_sigbus=0:handle_sigfpe=0:handle_sigill=0:"
+                           "use_sigaltstack=0:detect_leaks=0");
         victim.setProcessEnvironment(environment);
         victim.start(CRASH_VICTIM, {m_home->path() + "/reports", how});
     }
@@ -38,12 +39,18 @@ private Q_SLOTS:
         QTest::addColumn<int>("signal");
         QTest::addColumn<QString>("line");
         QTest::addColumn<QString>("function");
-        for (const auto &[name, number] : {std::pair{"SIGSEGV", SIGSEGV}, {"SIGABRT", SIGABRT}, {"SIGBUS", SIGBUS},
-                                           {"SIGFPE", SIGFPE}, {"SIGILL", SIGILL}})
+        for (const auto &[name, number] : {std::pair{"SIGSEGV", SIGSEGV},
+                                           {"SIGABRT", SIGABRT},
+                                           {"SIGBUS", SIGBUS},
+                                           {"SIGFPE", SIGFPE},
+                                           {"SIGILL", SIGILL}})
             QTest::newRow(name) << number << QString("Signal: %1 ").arg(name) << "crashHere";
-        QTest::newRow("exception") << SIGABRT << "Exception: St13runtime_error: the reason" << "crashHere";
-        QTest::newRow("overflow") << SIGSEGV << "Signal: SIGSEGV " << "overflow";
-        QTest::newRow("thread") << SIGSEGV << "Signal: SIGSEGV " << "crashHere";
+        QTest::newRow("exception") << SIGABRT << "Exception: St13runtime_error: the reason"
+                                   << "crashHere";
+        QTest::newRow("overflow") << SIGSEGV << "Signal: SIGSEGV "
+                                  << "overflow";
+        QTest::newRow("thread") << SIGSEGV << "Signal: SIGSEGV "
+                                << "crashHere";
     }
     void crashes()
     {

@@ -113,7 +113,9 @@ private Q_SLOTS:
     void switches()
     {
         open();
-        const auto toggle = [&](const char *name) { part<QCheckBox>(name)->click(); };
+        const auto toggle = [&](const char *name) {
+            part<QCheckBox>(name)->click();
+        };
         toggle("autoOpenFolder");
         toggle("autoQuit");
         toggle("autoExpandFolders");
@@ -183,7 +185,8 @@ private Q_SLOTS:
         }
         QCOMPARE(stored(settings::templateLocation), QVariant(library()));
         typePath("prefsFixedPath", "~/Projects here");
-        QTRY_COMPARE(stored(settings::fixedProjectLocationPath), QVariant(VTLocalPaths::userDirectory() + "/Projects here"));
+        QTRY_COMPARE(stored(settings::fixedProjectLocationPath),
+                     QVariant(VTLocalPaths::userDirectory() + "/Projects here"));
         QVERIFY(targetExists(VTLocalPaths::userDirectory() + "/Projects here"));
     }
 

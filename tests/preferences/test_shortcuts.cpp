@@ -21,14 +21,14 @@ using shortcuts::Shortcut;
 
 namespace {
 
-const QVariantMap theirs{{"bundleid", "com.vantrel.Clipwell"}, {"commandid", "new-project"}, {"keycode", 9LL},
-                         {"modifiers", 256LL}};
+const QVariantMap theirs{
+    {"bundleid", "com.vantrel.Clipwell"}, {"commandid", "new-project"}, {"keycode", 9LL}, {"modifiers", 256LL}};
 const QVariantMap byParameters{{"bundleid", "com.vantrel.Tessaro"},
                                {"commandparams", QVariantList{"a", "b"}},
                                {"keycode", 10LL},
                                {"modifiers", 256LL}};
-const QVariantMap gone{{"bundleid", "com.vantrel.Tessaro"}, {"commandid", "no longer there"}, {"keycode", 11LL},
-                       {"modifiers", 256LL}};
+const QVariantMap gone{
+    {"bundleid", "com.vantrel.Tessaro"}, {"commandid", "no longer there"}, {"keycode", 11LL}, {"modifiers", 256LL}};
 
 QVariantMap entry(const QString &command, int keyCode, int modifiers)
 {
@@ -85,7 +85,8 @@ private Q_SLOTS:
         QTRY_COMPARE(m_reloads, 2);
         QCOMPARE(nameInTable(0), QString("Shift+Cmd+S"));
         QCOMPARE(shortcuts::without(*shortcuts::read().dictionary, {"com.vantrel.Tessaro", "new-project", {}})
-                     .value("watchlist").toList(),
+                     .value("watchlist")
+                     .toList(),
                  QVariantList({theirs, gone, watchlist()[3]}));
     }
 
@@ -111,7 +112,9 @@ private Q_SLOTS:
 
     void keysAreCalledAsTheyAreLabelled()
     {
-        const auto name = [](quint16 keyCode) { return Delegate::nameForKeyCode(keyCode, shortcuts::option); };
+        const auto name = [](quint16 keyCode) {
+            return Delegate::nameForKeyCode(keyCode, shortcuts::option);
+        };
         QCOMPARE(name(29), QString("Alt+Y"));
         QCOMPARE(name(24), QString("Alt+Q"));
         setLayout({"de"});

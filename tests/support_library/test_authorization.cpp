@@ -1,5 +1,5 @@
-// Administrator rights for real: an ordinary user, polkit, the helper as root, and the effect on disk. The test plays the
-// desktop's password dialog and nothing else. Runs in the world that with-polkit.sh makes.
+// Administrator rights for real: an ordinary user, polkit, the helper as root, and the effect on disk. The test plays
+// the desktop's password dialog and nothing else. Runs in the world that with-polkit.sh makes.
 #include "platform/Desktop.h"
 #include "platform/FileSystem.h"
 #include "platform/RightsHelper.h"
@@ -81,7 +81,8 @@ public:
     bool open(bool opened)
     {
         bool good = false;
-        QMetaObject::invokeMethod(this, [&] { good = enlist(opened); }, Qt::BlockingQueuedConnection);
+        QMetaObject::invokeMethod(
+            this, [&] { good = enlist(opened); }, Qt::BlockingQueuedConnection);
         return good;
     }
 
@@ -112,12 +113,13 @@ private:
         static_cast<void>(stat.open(QIODevice::ReadOnly));
         const QByteArray fields = stat.readAll();
         const quint64 start = fields.mid(fields.lastIndexOf(')') + 2).split(' ').value(19).toULongLong();
-        const Subject self{"unix-process",
-                           {{"pid", uint(getpid())}, {"start-time", QVariant::fromValue(start)}, {"uid", int(getuid())}}};
-        auto call = QDBusMessage::createMethodCall(
-            "org.freedesktop.PolicyKit1", "/org/freedesktop/PolicyKit1/Authority",
-            "org.freedesktop.PolicyKit1.Authority",
-            opened ? "RegisterAuthenticationAgent" : "UnregisterAuthenticationAgent");
+        const Subject self{
+            "unix-process",
+            {{"pid", uint(getpid())}, {"start-time", QVariant::fromValue(start)}, {"uid", int(getuid())}}};
+        auto call =
+            QDBusMessage::createMethodCall("org.freedesktop.PolicyKit1", "/org/freedesktop/PolicyKit1/Authority",
+                                           "org.freedesktop.PolicyKit1.Authority",
+                                           opened ? "RegisterAuthenticationAgent" : "UnregisterAuthenticationAgent");
         call << QVariant::fromValue(self);
         if (opened)
             call << QString("C");
@@ -251,7 +253,8 @@ private Q_SLOTS:
         QVERIFY(!VTFileManager::moveFile(library + "/missing", library + "/x"));
         QVERIFY(rights().authMoveFile(library + "/missing", library + "/x"));
         QVERIFY(!rights().lastToolSucceeded());
-        QTRY_VERIFY(log().contains("Administrator tool /bin/mv failed (1): /bin/mv: cannot stat '/run/studio/library/missing'"));
+        QTRY_VERIFY(log().contains(
+            "Administrator tool /bin/mv failed (1): /bin/mv: cannot stat '/run/studio/library/missing'"));
     }
 
     void nothingIsAskedWhereItWouldNotHelp()

@@ -125,24 +125,36 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("pattern");
         QTest::addColumn<QString>("found");
-        QTest::newRow("in the middle") << "Projects/*/Media" << "Projects/.hidden/Media Projects/A/Media Projects/B/Media";
-        QTest::newRow("part of a name") << "Pro*s/A*" << "Projects/A";
-        QTest::newRow("empty run") << "Projects*" << "Projects";
-        QTest::newRow("one character, also a wide one") << "Names/*?.txt" << "Names/a?.txt Names/ab.txt Names/\U0001F600.txt";
-        QTest::newRow("exactly two") << "Names/??*.txt" << "Names/a?.txt Names/ab.txt";
-        QTest::newRow("a question mark by itself") << "Names/a?.txt" << "Names/a?.txt";
-        QTest::newRow("case counts") << "projects/*" << "";
-        QTest::newRow("beyond a file") << "Names/*/x" << "";
-        QTest::newRow("no dangling links") << "Links/*" << "";
-        QTest::newRow("not there, without a star") << "No/such" << "No/such";
-        QTest::newRow("from the root, all the same") << "/Projects/A*" << "Projects/A";
+        QTest::newRow("in the middle") << "Projects/*/Media"
+                                       << "Projects/.hidden/Media Projects/A/Media Projects/B/Media";
+        QTest::newRow("part of a name") << "Pro*s/A*"
+                                        << "Projects/A";
+        QTest::newRow("empty run") << "Projects*"
+                                   << "Projects";
+        QTest::newRow("one character, also a wide one") << "Names/*?.txt"
+                                                        << "Names/a?.txt Names/ab.txt Names/\U0001F600.txt";
+        QTest::newRow("exactly two") << "Names/??*.txt"
+                                     << "Names/a?.txt Names/ab.txt";
+        QTest::newRow("a question mark by itself") << "Names/a?.txt"
+                                                   << "Names/a?.txt";
+        QTest::newRow("case counts") << "projects/*"
+                                     << "";
+        QTest::newRow("beyond a file") << "Names/*/x"
+                                       << "";
+        QTest::newRow("no dangling links") << "Links/*"
+                                           << "";
+        QTest::newRow("not there, without a star") << "No/such"
+                                                   << "No/such";
+        QTest::newRow("from the root, all the same") << "/Projects/A*"
+                                                     << "Projects/A";
     }
     void patterns()
     {
         QFETCH(QString, pattern);
         QFETCH(QString, found);
-        for (const char *name : {"Projects/A/Media/x", "Projects/B/Media/x", "Projects/.hidden/Media/x", "Projects/C/x",
-                                 "Names/a?.txt", "Names/ab.txt", "Names/\360\237\230\200.txt", "Names/x.txd", "Links/x"})
+        for (const char *name :
+             {"Projects/A/Media/x", "Projects/B/Media/x", "Projects/.hidden/Media/x", "Projects/C/x", "Names/a?.txt",
+              "Names/ab.txt", "Names/\360\237\230\200.txt", "Names/x.txd", "Links/x"})
             writeFile(joined(m_work, QString::fromUtf8(name)), "x");
         QVERIFY(platform::removeTree(joined(m_work, "Links/x")).ok());
         QCOMPARE(symlink("nowhere", joined(m_work, "Links/x").toUtf8()), 0);

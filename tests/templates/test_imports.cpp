@@ -37,7 +37,9 @@ public:
     void orderOut(const VTAlert *) override {}
 };
 
-const ImportHost nobody{[] {}, [](const QString &) {}, [] {}};
+const ImportHost nobody{[] {}, [](const QString &) {},
+                        [] {
+                        }};
 
 } // namespace
 
@@ -67,7 +69,9 @@ private Q_SLOTS:
         for (const char *name : {"a", "b", "c"})
             writeFile(joined(m_in, name), "new");
         const QStringList sources{joined(m_in, "a"), joined(m_in, "b"), joined(m_in, "c")};
-        const auto contents = [&] { return readFile(m_files + "/a") + readFile(m_files + "/b") + readFile(m_files + "/c"); };
+        const auto contents = [&] {
+            return readFile(m_files + "/a") + readFile(m_files + "/b") + readFile(m_files + "/c");
+        };
         const auto run = [&](QList<int> answers) {
             for (const char *name : {"a", "b"})
                 writeFile(joined(m_files, name), "old");
@@ -78,8 +82,9 @@ private Q_SLOTS:
         };
         run({-1, 1});
         QCOMPARE(contents(), QByteArray("oldnewnew"));
-        QCOMPARE(m_answers->asked, QStringList({"a already exists in this location. Are you sure you wish to overwrite it?",
-                                                "b already exists in this location. Are you sure you wish to overwrite it?"}));
+        QCOMPARE(m_answers->asked,
+                 QStringList({"a already exists in this location. Are you sure you wish to overwrite it?",
+                              "b already exists in this location. Are you sure you wish to overwrite it?"}));
         run({0}); // all
         QCOMPARE(contents(), QByteArray("newnewnew"));
         QCOMPARE(m_answers->asked.size(), 1);
@@ -94,7 +99,8 @@ private Q_SLOTS:
         const QString alias = joined(platform::parentPath(m_files), "Alias");
         QVERIFY(importjobs::copyFiles({{m_files + "/kept", alias + "/kept"}, m_files}, nobody)); // onto itself
         QVERIFY(!importjobs::copyFiles({{m_files + "/A/A"}, m_files}, nobody)); // would replace the folder it lies in
-        QVERIFY(!importjobs::copyFiles({{joined(m_home.path(), "Templates")}, m_files}, nobody)); // holds the destination
+        QVERIFY(
+            !importjobs::copyFiles({{joined(m_home.path(), "Templates")}, m_files}, nobody)); // holds the destination
         writeFile(m_files + "/gone", "still here");
         QVERIFY(!importjobs::copyFiles({{joined(m_in, "gone")}, m_files}, nobody)); // vanished meanwhile
         QCOMPARE(m_answers->asked.filter("overwrite"), QStringList());

@@ -6,8 +6,8 @@
 #include "support/TemporaryHome.h"
 #include "support/VTFileManager.h"
 #include "templates/TemplateTreeModel.h"
-#include "ui/ValueCellDelegate.h"
 #include "ui/VTImageTextCell.h"
+#include "ui/ValueCellDelegate.h"
 
 #include <QAbstractItemModelTester>
 #include <QApplication>
@@ -49,8 +49,8 @@ private Q_SLOTS:
 
     void readsWhatIsToBeShown()
     {
-        for (const char *name : {"b.txt", "A/x", ".DS_Store", ".hidden/.DS_Store", ".hidden/seen", "Show.app/Contents/x",
-                                 "bad\377name", "A/line\nend", "...."})
+        for (const char *name : {"b.txt", "A/x", ".DS_Store", ".hidden/.DS_Store", ".hidden/seen",
+                                 "Show.app/Contents/x", "bad\377name", "A/line\nend", "...."})
             writeFile(joined(m_files, platform::fromNative(name)), "x");
         QVERIFY(platform::makeFolders(joined(m_files, "marked/inside")).ok());
         QVERIFY(platform::setFlagsWord(joined(m_files, "marked"), platform::bundleBit, platform::bundleBit));
@@ -58,14 +58,14 @@ private Q_SLOTS:
         const auto link = [&](const char *target, const char *name) {
             QCOMPARE(symlink(target, platform::toNative(joined(m_files, name)).constData()), 0);
         };
-        link("A", "linked");       // read through
-        link("..", "A/up");        // back up the tree, and further up than its root: shown, not entered
+        link("A", "linked"); // read through
+        link("..", "A/up");  // back up the tree, and further up than its root: shown, not entered
         link("../../..", "A/out");
         link("nowhere", "dangling");
         QCOMPARE(drawn(nodesInFolder(m_files, nullptr)),
                  QStringList({".hidden/", " seen", "A/", " line\nend", " out/", " up/", " x", "b.txt",
-                              platform::fromNative("bad\377name"), "dangling", "empty/", "linked/", " line\nend", " out/",
-                              " up/", " x", "marked", "Show.app"}));
+                              platform::fromNative("bad\377name"), "dangling", "empty/", "linked/", " line\nend",
+                              " out/", " up/", " x", "marked", "Show.app"}));
         QVERIFY(nodesInFolder(joined(m_files, "b.txt"), nullptr).empty()); // a bundle that is a plain file
     }
 
@@ -110,7 +110,8 @@ private Q_SLOTS:
         QStringList renamed;
         TemplateTreeModel model({[&](const QString &path, const QString &typed) { renamed << path + '|' + typed; },
                                  [](const TemplateDrop &, const TemplateNode *) { return DropOperation::Move; },
-                                 [](const TemplateDrop &, const QString &) {}});
+                                 [](const TemplateDrop &, const QString &) {
+                                 }});
         const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
         for (const char *name : {"A/x.tar.gz", "A/y", "B/z"})
             writeFile(joined(m_files, name), "x");
