@@ -115,7 +115,7 @@ void cancelCopy(const QString &tree, const QString &destination)
     std::chrono::steady_clock::time_point cancelled;
     const auto copy = platform::CopyOperation::start(tree, destination,
                                                      {[](const auto &, const auto &) {},
-                                                      [&](const auto &, const auto &) {
+                                                      [&](const auto &...) {
                                                           loop.quit();
                                                       }});
     QTimer::singleShot(200, &loop, [&] {

@@ -1,6 +1,7 @@
 #include "platform/ChildProcess.h"
 
 #include "platform/NativePath.h"
+#include "platform/SpawnSettings.h"
 
 #include <array>
 #include <cerrno>
@@ -37,38 +38,13 @@ bool openPipe(Pipe &pipe)
     return true;
 }
 
-/// What posix_spawn wants to know, freed at the end.
-struct SpawnSettings
+void connect(SpawnSettings &settings, const Pipe &pipe, int descriptor)
 {
-    posix_spawn_file_actions_t files;
-    posix_spawnattr_t attributes;
-
-    SpawnSettings()
-    {
-        posix_spawn_file_actions_init(&files);
-        posix_spawnattr_init(&attributes);
-        // A tool expects the usual signals, whatever this program or its toolkit ignores or blocks.
-        sigset_t none;
-        sigset_t all;
-        sigemptyset(&none);
-        sigfillset(&all);
-        posix_spawnattr_setsigmask(&attributes, &none);
-        posix_spawnattr_setsigdefault(&attributes, &all);
-        posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF);
-    }
-    ~SpawnSettings()
-    {
-        posix_spawn_file_actions_destroy(&files);
-        posix_spawnattr_destroy(&attributes);
-    }
-    void connect(const Pipe &pipe, int descriptor)
-    {
-        if (pipe.writing.isOpen())
-            posix_spawn_file_actions_adddup2(&files, pipe.writing.get(), descriptor);
-        else
-            posix_spawn_file_actions_addopen(&files, descriptor, "/dev/null", O_WRONLY, 0);
-    }
-};
+    if (pipe.writing.isOpen())
+        posix_spawn_file_actions_adddup2(&settings.files, pipe.writing.get(), descriptor);
+    else
+        posix_spawn_file_actions_addopen(&settings.files, descriptor, "/dev/null", O_WRONLY, 0);
+}
 
 } // namespace
 
@@ -91,18 +67,15 @@ bool ChildProcess::start(Output output, ErrorOutput errorOutput)
     if ((output == Output::Captured && !openPipe(out)) || (errorOutput == ErrorOutput::Captured && !openPipe(error)))
         return false;
 
-    std::vector<QByteArray> words{toNative(m_tool)};
+    QByteArrayList words{toNative(m_tool)};
     for (const QString &argument : m_arguments)
-        words.push_back(toNative(argument));
-    std::vector<char *> pointers;
-    for (QByteArray &word : words)
-        pointers.push_back(word.data());
-    pointers.push_back(nullptr);
+        words.append(toNative(argument));
+    std::vector<char *> pointers = pointersTo(words);
 
     SpawnSettings settings;
     posix_spawn_file_actions_addopen(&settings.files, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
-    settings.connect(out, STDOUT_FILENO);
-    settings.connect(error, STDERR_FILENO);
+    connect(settings, out, STDOUT_FILENO);
+    connect(settings, error, STDERR_FILENO);
     pid_t pid = -1;
     const int failure =
         posix_spawn(&pid, words[0].constData(), &settings.files, &settings.attributes, pointers.data(), environ);

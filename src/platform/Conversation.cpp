@@ -1,5 +1,7 @@
 #include "platform/Conversation.h"
 
+#include "platform/SpawnSettings.h"
+
 #include <array>
 #include <cerrno>
 #include <csignal>
@@ -10,18 +12,6 @@
 #include <vector>
 
 namespace platform {
-namespace {
-
-std::vector<char *> pointersTo(QByteArrayList &words)
-{
-    std::vector<char *> pointers;
-    for (QByteArray &word : words)
-        pointers.push_back(word.data());
-    pointers.push_back(nullptr);
-    return pointers;
-}
-
-} // namespace
 
 bool Conversation::start(const QByteArrayList &toolAndArguments, const QByteArrayList &environment)
 {
@@ -33,24 +23,12 @@ bool Conversation::start(const QByteArrayList &toolAndArguments, const QByteArra
 
     QByteArrayList words = toolAndArguments;
     QByteArrayList variables = environment;
-    posix_spawn_file_actions_t files;
-    posix_spawnattr_t attributes;
-    posix_spawn_file_actions_init(&files);
-    posix_spawnattr_init(&attributes);
-    posix_spawn_file_actions_adddup2(&files, childs.get(), STDIN_FILENO);
-    posix_spawn_file_actions_adddup2(&files, childs.get(), STDOUT_FILENO);
-    posix_spawn_file_actions_addopen(&files, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
-    sigset_t none;
-    sigset_t all;
-    sigemptyset(&none);
-    sigfillset(&all);
-    posix_spawnattr_setsigmask(&attributes, &none);
-    posix_spawnattr_setsigdefault(&attributes, &all);
-    posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF);
-    const int failure = posix_spawn(&m_pid, words.first().constData(), &files, &attributes, pointersTo(words).data(),
-                                    pointersTo(variables).data());
-    posix_spawn_file_actions_destroy(&files);
-    posix_spawnattr_destroy(&attributes);
+    SpawnSettings settings;
+    posix_spawn_file_actions_adddup2(&settings.files, childs.get(), STDIN_FILENO);
+    posix_spawn_file_actions_adddup2(&settings.files, childs.get(), STDOUT_FILENO);
+    posix_spawn_file_actions_addopen(&settings.files, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
+    const int failure = posix_spawn(&m_pid, words.first().constData(), &settings.files, &settings.attributes,
+                                    pointersTo(words).data(), pointersTo(variables).data());
     if (failure == 0)
         return true;
     m_pid = -1;

@@ -98,6 +98,7 @@ CopyOperation::Ref CopyOperation::start(const QString &source, const QString &de
         const auto begin = std::chrono::steady_clock::now();
         const TreeSize total = measureTree(source, operation->m_monitor.cancelled);
         FileOutcome outcome;
+        QString attributesLost;
         {
             const Ticker ticker([&] {
                 const CopyMonitor &monitor = operation->m_monitor;
@@ -106,9 +107,9 @@ CopyOperation::Ref CopyOperation::start(const QString &source, const QString &de
                                         static_cast<double>(monitor.bytes) / elapsed.count()};
                 MainThread::perform([=] { reports.running(operation, progress); }, Waiting::No);
             });
-            outcome = copyItem(source, destination, nullptr, &operation->m_monitor);
+            outcome = copyItem(source, destination, &attributesLost, &operation->m_monitor);
         }
-        MainThread::perform([=] { reports.ended(operation, outcome); }, Waiting::No);
+        MainThread::perform([=] { reports.ended(operation, outcome, attributesLost); }, Waiting::No);
         Running::all().leave(operation.get());
     }).detach();
     return operation;

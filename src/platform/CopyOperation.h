@@ -28,8 +28,10 @@ public:
     using Ref = std::shared_ptr<CopyOperation>;
     struct Reports
     {
-        std::function<void(const Ref &, const Progress &)> running;  ///< at most once a second
-        std::function<void(const Ref &, const FileOutcome &)> ended; ///< exactly once; ECANCELED when it was cancelled
+        std::function<void(const Ref &, const Progress &)> running; ///< at most once a second
+        /// Exactly once; ECANCELED when it was cancelled. The text names the first item whose labels the destination
+        /// could not take; null if none.
+        std::function<void(const Ref &, const FileOutcome &, const QString &attributesLost)> ended;
     };
 
     /** Copies the item to exactly the destination path; nothing of it is left there unless it succeeds. */

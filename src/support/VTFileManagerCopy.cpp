@@ -75,17 +75,20 @@ bool VTFileManager::copyFileWithProgress(const QString &source, const QString &d
         record.insert(QStringLiteral("object"), object);
     if (object2.isValid())
         record.insert(QStringLiteral("object2"), object2);
-    CopyOperation::start(source, destination,
-                         {[=](const FileOperation &operation, const CopyOperation::Progress &progress) {
-                              tell(receiver, "fileOperationProgress", withProgress(record, progress), operation);
-                          },
-                          [=](const FileOperation &operation, const platform::FileOutcome &outcome) {
-                              if (!outcome.ok() && outcome.errorNumber() != ECANCELED)
-                                  VTLog::appendLog("Error copying file: %@", outcome.description());
-                              QVariantMap last = record;
-                              last.insert(QStringLiteral("stage"), Stage::complete);
-                              tell(receiver, "fileOperationFinished", last, operation);
-                          }});
+    CopyOperation::start(
+        source, destination,
+        {[=](const FileOperation &operation, const CopyOperation::Progress &progress) {
+             tell(receiver, "fileOperationProgress", withProgress(record, progress), operation);
+         },
+         [=](const FileOperation &operation, const platform::FileOutcome &outcome, const QString &attributesLost) {
+             if (!attributesLost.isNull())
+                 VTLog::appendLog("Unable to keep the labels of %@ at the destination", attributesLost);
+             if (!outcome.ok() && outcome.errorNumber() != ECANCELED)
+                 VTLog::appendLog("Error copying file: %@", outcome.description());
+             QVariantMap last = record;
+             last.insert(QStringLiteral("stage"), Stage::complete);
+             tell(receiver, "fileOperationFinished", last, operation);
+         }});
     return true;
 }
 
