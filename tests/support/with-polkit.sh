@@ -35,7 +35,7 @@ echo "root's own" >/run/studio/library/theirs.txt
 as_editor() {
   setpriv --reuid editor --regid editor --init-groups env -i PATH=/usr/bin:/bin HOME=/run/home/editor \
     XDG_RUNTIME_DIR=/run/user/editor LC_ALL=C.UTF-8 QT_QPA_PLATFORM=offscreen TMPDIR=/run/home/editor \
-    LSAN_OPTIONS="${LSAN_OPTIONS:-}" UBSAN_OPTIONS="${UBSAN_OPTIONS:-}" DBUS_SESSION_BUS_ADDRESS=disabled: "$test" "$@"
+    LSAN_OPTIONS="${LSAN_OPTIONS:-}" ASAN_OPTIONS="${ASAN_OPTIONS:-}" UBSAN_OPTIONS="${UBSAN_OPTIONS:-}" DBUS_SESSION_BUS_ADDRESS=disabled: "$test" "$@"
 }
 echo "Without a system bus:"
 as_editor hasNobodyToAsk
