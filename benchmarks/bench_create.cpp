@@ -6,12 +6,13 @@
 // the window (claim, copy, renaming, dates); and `Tessaro create` as a process, with its start-up. Nothing is deleted before
 // the end, because creating files soon after a large deletion is slow on ext4 and would make every ratio 1.
 #include "Timing.h"
-#include "app/ProjectCreation.h"
-#include "platform/Desktop.h"
-#include "platform/FileSystem.h"
-#include "platform/NativePath.h"
+#include "creation/ProjectCreation.h"
+#include "platform/desktop/Desktop.h"
+#include "platform/files/FileSystem.h"
+#include "platform/base/NativePath.h"
 #include "support/Settings.h"
 #include "support/VTLog.h"
+#include "platform/base/System.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -50,7 +51,7 @@ double secondsOfCreation(const QString &templateName, const QString &destination
 {
     return timing::secondsOf([&] {
         SilentHost host;
-        if (!ProjectCreation(host).createTemplate(templateName, destination).ok())
+        if (!ProjectCreation(host).createProject(templateName, destination).ok())
             qFatal("The creation failed");
     });
 }
@@ -92,7 +93,7 @@ int main(int argc, char **argv)
     const QCoreApplication application(argc, argv);
     VTLog::createNewLog();
     settings::registerDefaults();
-    settings::standard().setValue(settings::filenameTemplate, QVariantList{QVariantMap{{"title", "T"}, {"val", "Bench"}}});
+    storeSetting(settings::filenameTemplate, QVariantList{QVariantMap{{"title", "T"}, {"val", "Bench"}}});
     const QString library = work.filePath("Library/Application Support/Vantrel/Tessaro/Templates");
     QStringList counts = QCoreApplication::arguments().mid(1);
     if (counts.isEmpty())

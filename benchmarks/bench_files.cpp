@@ -6,12 +6,14 @@
 // copy of it that is cancelled. The two take turns, each into a new destination; nothing is deleted before the
 // deletions are measured, because creating files soon after a large one is slow on ext4 and would make every ratio 1.
 #include "Timing.h"
-#include "platform/CopyOperation.h"
-#include "platform/Desktop.h"
-#include "platform/FileSystem.h"
-#include "platform/NativePath.h"
-#include "platform/TreeCopy.h"
-#include "platform/ZipArchive.h"
+#include "platform/files/CopyOperation.h"
+#include "platform/desktop/Desktop.h"
+#include "platform/files/FileSystem.h"
+#include "platform/files/FileTree.h"
+#include "platform/base/NativePath.h"
+#include "platform/files/TreeCopy.h"
+#include "platform/archive/ZipArchive.h"
+#include "platform/base/System.h"
 
 #include <QCoreApplication>
 #include <QEventLoop>

@@ -3,13 +3,14 @@
 //
 //   bench_tree [ENTRIES]...        default: 1000 100000, in a hundredth as many folders
 #include "Timing.h"
-#include "platform/Desktop.h"
-#include "platform/FileSystem.h"
-#include "platform/NativePath.h"
+#include "platform/desktop/Desktop.h"
+#include "platform/files/FileSystem.h"
+#include "platform/base/NativePath.h"
 #include "support/Settings.h"
 #include "support/VTLog.h"
-#include "templates/TemplatePane.h"
+#include "templates/editor/TemplatePane.h"
 #include "ui/VTOutlineView.h"
+#include "platform/base/System.h"
 
 #include <QApplication>
 #include <QDir>
@@ -95,7 +96,7 @@ int main(int argc, char **argv)
     if (counts.isEmpty())
         counts = {QStringLiteral("1000"), QStringLiteral("100000")};
     for (const bool expanded : {false, true}) {
-        settings::standard().setValue(settings::autoExpandFolders, expanded ? 1LL : 0LL);
+        storeSetting(settings::autoExpandFolders, expanded ? 1LL : 0LL);
         QTextStream(stdout) << (expanded ? "every folder opened\n" : "folders closed\n");
         TemplatePane pane;
         pane.resize(640, 480);

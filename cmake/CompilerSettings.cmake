@@ -1,4 +1,4 @@
-# Qt's keywords clash with GIO's field names, so signals and slots are written with their Q_ macros everywhere.
+# Signals and slots are written with their Q_ macros everywhere: Qt's keywords are words that other libraries use as names.
 add_compile_definitions(QT_NO_KEYWORDS QT_NO_FOREACH QT_DISABLE_DEPRECATED_BEFORE=0x060400)
 add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-qual
                     -fvisibility=hidden -fdiagnostics-color=auto)

@@ -1,18 +1,19 @@
 // Window or command line. The only place that puts the parts together.
-#include "app/CommandLine.h"
+#include "commands/CommandLine.h"
 #include "app/MainWindow.h"
 #include "app/TessaroAppDelegate.h"
-#include "platform/ApplicationBundle.h"
-#include "platform/Console.h"
-#include "platform/CrashReport.h"
-#include "platform/Desktop.h"
-#include "platform/NativePath.h"
-#include "platform/SingleInstance.h"
+#include "platform/files/ApplicationBundle.h"
+#include "platform/base/Console.h"
+#include "platform/process/CrashReport.h"
+#include "platform/desktop/Desktop.h"
+#include "platform/base/NativePath.h"
+#include "platform/desktop/SingleInstance.h"
 #include "support/VTAlert.h"
 #include "support/VTLocalPaths.h"
 #include "support/VTLog.h"
 #include "ui/Icons.h"
 #include "ui/SheetPresenter.h"
+#include "platform/base/System.h"
 
 #include <QApplication>
 #include <cstdlib>
@@ -27,11 +28,17 @@ QStringList wordsOf(int argc, char **argv)
     return words;
 }
 
+struct Text
+{
+    Q_DECLARE_TR_FUNCTIONS(main)
+};
+
 int runWindow(int &argc, char **argv, const QStringList &files)
 {
     if (!platform::displayIsAvailable()) {
-        platform::writeToStandardError("Tessaro: there is no display for the window; “Tessaro create” makes a project "
-                                       "without one (see --help).\n");
+        platform::writeToStandardError(Text::tr("Tessaro: there is no display for the window; “Tessaro create” makes a "
+                                                "project without one (see --help).") +
+                                       u'\n');
         return ExitStatus::failed;
     }
     QApplication application(argc, argv);
@@ -45,6 +52,7 @@ int runWindow(int &argc, char **argv, const QStringList &files)
     int status = ExitStatus::done;
     {
         TessaroAppDelegate delegate;
+        sheets.setMainWindow([&] { return delegate.mainWindow(); });
         if (!delegate.awakeFromNib())
             return ExitStatus::done;
         if (qEnvironmentVariableIsSet("TESSARO_QUIT_AFTER_FIRST_PAINT")) // for the program that measures the start
@@ -61,6 +69,7 @@ int runWindow(int &argc, char **argv, const QStringList &files)
                              [&] { delegate.openFiles(files); });
         delegate.mainWindow()->show();
         status = QApplication::exec();
+        sheets.setMainWindow({});
     }
     VTAlert::setPresenter(nullptr);
     return status;
@@ -68,20 +77,20 @@ int runWindow(int &argc, char **argv, const QStringList &files)
 
 int runProgram(int argc, char **argv)
 {
-    QString problem;
-    const auto request = readCommandLine(wordsOf(argc, argv), problem);
-    if (!request) {
-        platform::writeToStandardError("Tessaro: " + problem + "\nTessaro --help lists what it understands.\n");
-        return ExitStatus::wrongUsage;
+    const auto invocation = readCommandLine(wordsOf(argc, argv));
+    if (!invocation) {
+        platform::writeToStandardError(QStringLiteral("Tessaro: ") + invocation.outcome().sentence() + u'\n' +
+                                       Text::tr("Tessaro --help lists what it understands.") + u'\n');
+        return exitStatusOf(invocation.outcome());
     }
-    if (request->verb == CommandRequest::Verb::Window) {
+    if (!invocation->verb) {
         QStringList files;
-        for (const QString &file : request->files)
-            files.append(absolutePath(file));
+        for (const QString &file : invocation->files)
+            files.append(platform::absolutePath(file));
         return runWindow(argc, argv, files);
     }
     const QCoreApplication application(argc, argv);
-    return runCommand(*request);
+    return runCommand(*invocation);
 }
 
 } // namespace

@@ -1,8 +1,8 @@
 // Builds one shipped template: template_packer OUTLINE PROJECTS_FOLDER ARCHIVE
 #include "Outline.h"
 
-#include "platform/Desktop.h"
-#include "platform/ZipFormat.h"
+#include "platform/base/System.h"
+#include "platform/archive/ZipFormat.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -47,5 +47,6 @@ int main(int argc, char **argv)
             return fail(outlinePath + ": " + entry.source + ": " + source.errorString());
         archive.addFile(name, source.readAll(), entry.label);
     }
-    return archive.finish() ? 0 : fail(QString::fromUtf8(argv[3]) + ": cannot be written");
+    const platform::Outcome written = archive.finish();
+    return written.ok() ? 0 : fail(QString::fromUtf8(argv[3]) + ": " + written.description());
 }

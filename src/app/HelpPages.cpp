@@ -1,6 +1,6 @@
 #include "app/HelpPages.h"
 
-#include "platform/ApplicationBundle.h"
+#include "platform/files/ApplicationBundle.h"
 #include "support/Settings.h"
 
 #include <QUrlQuery>
@@ -56,7 +56,7 @@ QUrl addressOf(Page page, const QVariantMap &configured, const QString &version)
 QUrl addressOf(Page page)
 {
     const QString version = platform::ApplicationBundle::main().informationString("CFBundleShortVersionString");
-    return addressOf(page, settings::standard().value(settings::webAddresses).toMap(), version);
+    return addressOf(page, settings::webAddresses.value().toMap(), version);
 }
 
 } // namespace help

@@ -22,45 +22,48 @@ struct Menu
     QList<Item> items;
 };
 
-#define TEXT(text) QT_TRANSLATE_NOOP("MainMenu", text)
+struct Text
+{
+    Q_DECLARE_TR_FUNCTIONS(MainMenu)
+};
 
 const QList<Menu> &menus()
 {
     using Delegate = TessaroAppDelegate;
     static const QList<Menu> table{
-        {TEXT("&Project"),
-         {{TEXT("&Create Project"), "Ctrl+Return", &Delegate::createNewProject, true},
+        {QT_TRANSLATE_NOOP("MainMenu", "&Project"),
+         {{QT_TRANSLATE_NOOP("MainMenu", "&Create Project"), "Ctrl+Return", &Delegate::createNewProject, true},
           {nullptr, nullptr, nullptr, false},
-          {TEXT("&Preferences…"), "Ctrl+,", &Delegate::showPreferences, true},
-          {TEXT("Clear &History"), "", &Delegate::clearHistory, true},
+          {QT_TRANSLATE_NOOP("MainMenu", "&Preferences…"), "Ctrl+,", &Delegate::showPreferences, true},
+          {QT_TRANSLATE_NOOP("MainMenu", "Clear &History"), "", &Delegate::clearHistory, true},
           {nullptr, nullptr, nullptr, false},
-          {TEXT("&Quit"), "Ctrl+Q", &Delegate::quit, true}}},
-        {TEXT("&View"),
-         {{TEXT("&New Project"), "Ctrl+1", &Delegate::toolbarNewProjectAction, true},
-          {TEXT("&Templates"), "Ctrl+2", &Delegate::toolbarTemplateAction, true},
+          {QT_TRANSLATE_NOOP("MainMenu", "&Quit"), "Ctrl+Q", &Delegate::quit, true}}},
+        {QT_TRANSLATE_NOOP("MainMenu", "&View"),
+         {{QT_TRANSLATE_NOOP("MainMenu", "&New Project"), "Ctrl+1", &Delegate::toolbarNewProjectAction, true},
+          {QT_TRANSLATE_NOOP("MainMenu", "&Templates"), "Ctrl+2", &Delegate::toolbarTemplateAction, true},
           {nullptr, nullptr, nullptr, false},
-          {TEXT("Show Template &Library"), "", &Delegate::showTemplateLibrary, true}}},
-        {TEXT("&Template"),
-         {{TEXT("&New Template"), "Ctrl+N", &Delegate::newTemplate, true},
-          {TEXT("&Import Template…"), "Ctrl+I", &Delegate::importTemplate, true},
+          {QT_TRANSLATE_NOOP("MainMenu", "Show Template &Library"), "", &Delegate::showTemplateLibrary, true}}},
+        {QT_TRANSLATE_NOOP("MainMenu", "&Template"),
+         {{QT_TRANSLATE_NOOP("MainMenu", "&New Template"), "Ctrl+N", &Delegate::newTemplate, true},
+          {QT_TRANSLATE_NOOP("MainMenu", "&Import Template…"), "Ctrl+I", &Delegate::importTemplate, true},
           {nullptr, nullptr, nullptr, false},
-          {TEXT("&Restore Default Templates…"), "", &Delegate::restoreDefaultTemplates, true}}},
-        {TEXT("&Help"),
-         {{TEXT("User &Manual"), "F1", &Delegate::helpUserManual, false},
-          {TEXT("Tessaro on the &Web"), "", &Delegate::helpAppHome, false},
+          {QT_TRANSLATE_NOOP("MainMenu", "&Restore Default Templates…"), "", &Delegate::restoreDefaultTemplates, true}}},
+        {QT_TRANSLATE_NOOP("MainMenu", "&Help"),
+         {{QT_TRANSLATE_NOOP("MainMenu", "User &Manual"), "F1", &Delegate::helpUserManual, false},
+          {QT_TRANSLATE_NOOP("MainMenu", "Tessaro on the &Web"), "", &Delegate::helpAppHome, false},
           {nullptr, nullptr, nullptr, false},
-          {TEXT("View &Log"), "", &Delegate::viewLog, false},
-          {TEXT("View &Task Log"), "", &Delegate::viewTaskLog, false},
-          {TEXT("&Gather Logs"), "", &Delegate::gatherLogs, true},
-          {TEXT("Check for &Updates…"), "", &Delegate::checkForUpdates, false},
+          {QT_TRANSLATE_NOOP("MainMenu", "View &Log"), "", &Delegate::viewLog, false},
+          {QT_TRANSLATE_NOOP("MainMenu", "View &Task Log"), "", &Delegate::viewTaskLog, false},
+          {QT_TRANSLATE_NOOP("MainMenu", "&Gather Logs"), "", &Delegate::gatherLogs, true},
+          {QT_TRANSLATE_NOOP("MainMenu", "Check for &Updates…"), "", &Delegate::checkForUpdates, false},
           {nullptr, nullptr, nullptr, false},
-          {TEXT("&Report a Bug…"), "", &Delegate::helpReportBug, false},
-          {TEXT("&Suggest a Feature…"), "", &Delegate::helpSuggestFeature, false},
+          {QT_TRANSLATE_NOOP("MainMenu", "&Report a Bug…"), "", &Delegate::helpReportBug, false},
+          {QT_TRANSLATE_NOOP("MainMenu", "&Suggest a Feature…"), "", &Delegate::helpSuggestFeature, false},
           {nullptr, nullptr, nullptr, false},
-          {TEXT("More &Products"), "", &Delegate::helpMoreProducts, false},
-          {TEXT("&Vantrel on the Web"), "", &Delegate::helpVTHome, false},
+          {QT_TRANSLATE_NOOP("MainMenu", "More &Products"), "", &Delegate::helpMoreProducts, false},
+          {QT_TRANSLATE_NOOP("MainMenu", "&Vantrel on the Web"), "", &Delegate::helpVTHome, false},
           {nullptr, nullptr, nullptr, false},
-          {TEXT("&About Tessaro"), "", &Delegate::showAbout, true}}},
+          {QT_TRANSLATE_NOOP("MainMenu", "&About Tessaro"), "", &Delegate::showAbout, true}}},
     };
     return table;
 }
@@ -71,13 +74,13 @@ QList<QAction *> buildMenus(QMenuBar &menuBar, TessaroAppDelegate &delegate)
 {
     QList<QAction *> waiting;
     for (const Menu &menu : menus()) {
-        QMenu *built = menuBar.addMenu(QCoreApplication::translate("MainMenu", menu.title));
+        QMenu *built = menuBar.addMenu(Text::tr(menu.title));
         for (const Item &item : menu.items) {
             if (!item.text) {
                 built->addSeparator();
                 continue;
             }
-            QAction *action = built->addAction(QCoreApplication::translate("MainMenu", item.text));
+            QAction *action = built->addAction(Text::tr(item.text));
             action->setObjectName(QString::fromLatin1(item.text).remove(u'&'));
             action->setShortcut(QKeySequence(QLatin1String(item.shortcut)));
             QObject::connect(action, &QAction::triggered, &delegate, item.slot);

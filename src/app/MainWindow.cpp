@@ -2,9 +2,9 @@
 
 #include "app/MainMenu.h"
 #include "app/TessaroAppDelegate.h"
-#include "parameters/VTProjectTableController.h"
-#include "platform/NativePath.h"
-#include "templates/TemplatePane.h"
+#include "parameters/table/VTProjectTableController.h"
+#include "platform/base/NativePath.h"
+#include "templates/editor/TemplatePane.h"
 #include "ui/Icons.h"
 #include "ui/ValueCellDelegate.h"
 #include "ui_MainWindow.h"

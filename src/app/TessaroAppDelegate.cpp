@@ -4,11 +4,11 @@
 #include "app/MainWindow.h"
 #include "diagnostics/VTBugReporter.h"
 #include "diagnostics/VTSoftwareUpdate.h"
-#include "parameters/ProjectNaming.h"
-#include "parameters/VTProjectTableController.h"
-#include "platform/ApplicationBundle.h"
-#include "platform/Desktop.h"
-#include "platform/MainThread.h"
+#include "parameters/ParameterStore.h"
+#include "parameters/table/VTProjectTableController.h"
+#include "platform/files/ApplicationBundle.h"
+#include "platform/desktop/Desktop.h"
+#include "platform/base/MainThread.h"
 #include "preferences/VTPreferenceController.h"
 #include "support/Notifications.h"
 #include "support/Settings.h"
@@ -16,8 +16,9 @@
 #include "support/VTAuthorization.h"
 #include "support/VTLog.h"
 #include "templates/TemplateChoice.h"
-#include "templates/TemplatePane.h"
+#include "templates/editor/TemplatePane.h"
 #include "templates/VTDataController.h"
+#include "platform/desktop/ApplicationLauncher.h"
 
 #include <QApplication>
 
@@ -42,21 +43,19 @@ TessaroAppDelegate::~TessaroAppDelegate()
         platform::MainThread::turnLoop(std::chrono::milliseconds(50));
     if (m_tableController) // a value that is being typed when the window closes counts, too
         m_tableController->finishEditing();
-    VTDataController::sharedController().setWindow(nullptr);
 }
 
 bool TessaroAppDelegate::awakeFromNib()
 {
     if (std::exchange(m_awakeCount, 1) != 0)
         return true;
-    if (settings::standard().equalsOne(settings::requireAdminPassword) &&
+    if (settings::requireAdminPassword.isOn() &&
         !VTAuthorization::sharedController().authStart())
         return false;
     VTSoftwareUpdate().startup();
     m_tableController = std::make_unique<VTProjectTableController>();
     m_window = std::make_unique<MainWindow>(*this);
     m_window->connectTable(*m_tableController);
-    VTDataController::sharedController().setWindow(m_window.get());
     m_tableController->awakeFromNib();
     importOldTessaroTemplate();
     populateTemplatePopUp();
@@ -68,17 +67,19 @@ bool TessaroAppDelegate::awakeFromNib()
 
 void TessaroAppDelegate::applicationDidFinishLaunching()
 {
-    auto &defaults = settings::standard();
-    if (defaults.boolean(settings::firstRun)) {
-        const int answer = VTAlert::alertSheetWithMessageText(
-            tr("Welcome to Tessaro"), tr("OK"), tr("User Manual"), {},
-            tr("Simplify your creative workflows by organizing your assets before you start. Tessaro makes it easy to "
-               "create customized folder structures for each project.\n\nModify the included templates to meet your "
-               "needs or create your own from scratch."),
-            m_window.get(), VTAlert::Block::Yes);
+    if (settings::firstRun.isOn()) {
+        const int answer = VTAlert::show(
+            {tr("Welcome to Tessaro"),
+             tr("Simplify your creative workflows by organizing your assets before you start. Tessaro makes it easy to "
+                "create customized folder structures for each project.\n\nModify the included templates to meet your "
+                "needs or create your own from scratch."),
+             tr("OK"),
+             tr("User Manual"),
+             {},
+             VTAlert::defaultReturn});
         if (answer == VTAlert::alternateReturn)
             helpUserManual();
-        defaults.setValue(settings::firstRun, false);
+        static_cast<void>(settings::firstRun.turn(false)); // who cannot store it is greeted again
     }
     Q_EMIT Notifications::hub().VTTessaroEditFirstParameter();
 }
@@ -114,19 +115,19 @@ void TessaroAppDelegate::changeProjectTemplate()
     const QString selected = m_window->selectedTemplate();
     VTLog::appendLog("Project template changed to %@", selected);
     if (!selected.isEmpty())
-        settings::standard().setValue(settings::selectedProjectTemplate, selected);
+        static_cast<void>(settings::selectedProjectTemplate.store(selected)); // logged
 }
 
 void TessaroAppDelegate::populateTemplatePopUp()
 {
     VTLog::appendLog("Populating template popup list");
     auto &store = VTDataController::sharedController();
-    store.populateTemplates();
+    static_cast<void>(store.populateTemplates()); // said and logged where it failed
     const QStringList names = store.templates();
     const QString selected = chosenTemplate(names);
     m_window->setTemplates(names, selected);
     if (!names.isEmpty())
-        settings::standard().setValue(settings::selectedProjectTemplate, selected);
+        static_cast<void>(settings::selectedProjectTemplate.store(selected)); // logged
 }
 
 QStringList TessaroAppDelegate::pathComponentsFromParameters() const
@@ -146,7 +147,7 @@ QString TessaroAppDelegate::projectNameFromParameters() const
 
 void TessaroAppDelegate::useStandardParameters()
 {
-    settings::standard().removeValue(settings::filenameTemplate);
+    static_cast<void>(restoreShippedParameters()); // logged; the table shows what is stored
     Q_EMIT Notifications::hub().VTTessaroReloadFilenameParams();
     Q_EMIT Notifications::hub().VTTessaroRefreshDynamicValues();
     Q_EMIT Notifications::hub().VTTessaroEditFirstParameter();
@@ -154,7 +155,7 @@ void TessaroAppDelegate::useStandardParameters()
 
 void TessaroAppDelegate::installStandardTemplates()
 {
-    VTDataController::sharedController().populateDefaultTemplates(VTDataController::Force::Yes);
+    restoreShippedTemplates();
     populateTemplatePopUp();
 }
 

@@ -1,8 +1,9 @@
 #pragma once
 
 #include "app/HelpPages.h"
-#include "app/ProjectCreation.h"
+#include "creation/ProjectCreation.h"
 
+#include <QHash>
 #include <QObject>
 #include <QPointer>
 #include <memory>
@@ -52,6 +53,9 @@ public:
     /** Creates the project of the current parameters out of the template. */
     void createTemplate(const QString &templateName, const QString &atPath);
 
+    /** What the shortcut keys' list (VTKeys.plist) can ask for, by identifier. */
+    [[nodiscard]] static const QHash<QString, void (TessaroAppDelegate::*)()> &commandsOfShortcuts();
+
 public Q_SLOTS:
     void toolbarNewProjectAction();
     void toolbarTemplateAction();
@@ -98,9 +102,9 @@ private:
     void incrementDynamicValues() override;
     void reveal(const QString &project) override;
     void quitIfWanted() override;
-    [[nodiscard]] QWidget *window() const override;
 
     void importOldTessaroTemplate();
+    void restoreShippedTemplates();
     [[nodiscard]] bool parametersAreComplete();
     [[nodiscard]] bool mayOverwriteAtFixedLocation(const QString &destination, const QString &relativePath);
     void askForDestination();

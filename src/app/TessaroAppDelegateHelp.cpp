@@ -2,8 +2,8 @@
 #include "app/TessaroAppDelegate.h"
 
 #include "app/MainWindow.h"
-#include "platform/ApplicationBundle.h"
-#include "platform/Desktop.h"
+#include "platform/files/ApplicationBundle.h"
+#include "platform/desktop/Desktop.h"
 #include "ui/Icons.h"
 
 #include <QMessageBox>

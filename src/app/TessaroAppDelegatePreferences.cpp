@@ -2,12 +2,12 @@
 #include "app/TessaroAppDelegate.h"
 
 #include "app/MainWindow.h"
-#include "parameters/VTProjectTableController.h"
+#include "parameters/table/VTProjectTableController.h"
 #include "preferences/VTPreferenceController.h"
 #include "support/Settings.h"
 #include "support/VTAuthorization.h"
 #include "support/VTLog.h"
-#include "templates/TemplatePane.h"
+#include "templates/editor/TemplatePane.h"
 
 #include <QHash>
 
@@ -18,12 +18,8 @@ void TessaroAppDelegate::showPreferences()
         m_preferences->activateWindow();
         return;
     }
-    if (settings::standard().equalsOne(settings::requireAdminPasswordForPrefs)) {
-        auto &authorization = VTAuthorization::sharedController();
-        authorization.authEnd();
-        if (!authorization.authStart())
-            return;
-    }
+    if (settings::requireAdminPasswordForPrefs.isOn() && !VTAuthorization::sharedController().authAfresh())
+        return;
     m_tableController->finishEditing();
     VTLog::appendLog("Showing preferences");
     m_preferences = new VTPreferenceController(this, m_window.get());
@@ -48,7 +44,7 @@ void TessaroAppDelegate::disablePrefsMenu()
     m_window->setPreferencesOpen(true);
 }
 
-void TessaroAppDelegate::performCommand(const QString &identifier)
+const QHash<QString, void (TessaroAppDelegate::*)()> &TessaroAppDelegate::commandsOfShortcuts()
 {
     using Delegate = TessaroAppDelegate;
     static const QHash<QString, void (Delegate::*)()> commands{
@@ -60,8 +56,13 @@ void TessaroAppDelegate::performCommand(const QString &identifier)
         {"import-template", &Delegate::importTemplate},
         {"preferences", &Delegate::showPreferences},
     };
-    const auto command = commands.constFind(identifier);
-    if (command == commands.cend()) {
+    return commands;
+}
+
+void TessaroAppDelegate::performCommand(const QString &identifier)
+{
+    const auto command = commandsOfShortcuts().constFind(identifier);
+    if (command == commandsOfShortcuts().cend()) {
         VTLog::appendLog("Unknown command %@", identifier);
         return;
     }

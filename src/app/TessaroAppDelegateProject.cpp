@@ -2,11 +2,12 @@
 #include "app/TessaroAppDelegate.h"
 
 #include "app/MainWindow.h"
+#include "parameters/ParameterStore.h"
 #include "parameters/ProjectNaming.h"
-#include "parameters/VTProjectTableController.h"
-#include "platform/Desktop.h"
-#include "platform/MainThread.h"
-#include "platform/NativePath.h"
+#include "parameters/table/VTProjectTableController.h"
+#include "platform/desktop/Desktop.h"
+#include "platform/base/MainThread.h"
+#include "platform/base/NativePath.h"
 #include "support/Settings.h"
 #include "support/VTAlert.h"
 #include "support/VTFileManager.h"
@@ -27,23 +28,21 @@ void TessaroAppDelegate::createNewProject()
     const QString relativePath = pathNameFromParameters();
     VTLog::appendLog("Validated folder name: %@", relativePath);
 
-    auto &defaults = settings::standard();
-    const QString fixed = defaults.string(settings::fixedProjectLocationPath);
-    if (!defaults.equalsOne(settings::useFixedProjectLocation) || fixed.isEmpty())
+    const QString fixed = settings::fixedProjectLocationPath.text();
+    if (!settings::useFixedProjectLocation.isOn() || fixed.isEmpty())
         return askForDestination();
     const QString destination = platform::joined(fixed, relativePath);
     VTLog::appendLog("Creating project at fixed location %@", destination);
     if (mayOverwriteAtFixedLocation(destination, relativePath))
-        createTemplate(defaults.string(settings::selectedProjectTemplate), destination);
+        createTemplate(settings::selectedProjectTemplate.text(), destination);
 }
 
 bool TessaroAppDelegate::parametersAreComplete()
 {
     const FilenameParameters parameters = storedParameters();
     if (const auto blank = naming::firstBlankRequired(parameters)) {
-        VTAlert::alertSheetWithMessageText(
-            platform::formatString(tr("'%@' cannot be left blank"), parameters[*blank].title()),
-            tr("Please fill in this parameter before creating a project."), m_window.get());
+        VTAlert::show({platform::formatString(tr("'%@' cannot be left blank"), parameters[*blank].title()),
+                       tr("Please fill in this parameter before creating a project.")});
         m_tableController->editItem(static_cast<int>(*blank));
         return false;
     }
@@ -54,7 +53,7 @@ bool TessaroAppDelegate::parametersAreComplete()
         problem = tr("The values give a folder level without a usable name (nothing, or dots only). Please change them.");
     if (problem.isNull())
         return true;
-    VTAlert::alertSheetWithMessageText(tr("Unable to create folder"), problem, m_window.get());
+    VTAlert::show({tr("Unable to create folder"), problem});
     m_tableController->editFirstItem();
     return false;
 }
@@ -66,10 +65,12 @@ bool TessaroAppDelegate::mayOverwriteAtFixedLocation(const QString &destination,
     if (!exists)
         return true;
     VTLog::appendLog("Destination file already exists; asking user what to do");
-    const int answer = VTAlert::alertSheetWithMessageText(
-        tr("Project already exists"), tr("Overwrite"), tr("Cancel"), {},
-        platform::formatString(tr("Are you sure you wish to overwrite %@?"), relativePath), m_window.get(),
-        VTAlert::Block::Yes);
+    const int answer = VTAlert::show({tr("Project already exists"),
+                                      platform::formatString(tr("Are you sure you wish to overwrite %@?"), relativePath),
+                                      tr("Overwrite"),
+                                      tr("Cancel"),
+                                      {},
+                                      VTAlert::alternateReturn});
     const bool overwrite = answer == VTAlert::defaultReturn;
     VTLog::appendLog(overwrite ? "User chose to overwrite" : "User chose to cancel");
     return overwrite;
@@ -82,7 +83,7 @@ void TessaroAppDelegate::askForDestination()
     m_savePanel->setAttribute(Qt::WA_DeleteOnClose);
     m_savePanel->setWindowTitle(tr("Choose a destination"));
     m_savePanel->setAccessoryView(m_window->makeBrowseAccessory(pathNameFromParameters()));
-    const QString start = settings::standard().string(settings::fixedProjectLocationPath);
+    const QString start = settings::fixedProjectLocationPath.text();
     m_savePanel->setDirectory(VTFileManager::isDirectoryAtPath(start) ? start : VTLocalPaths::userDirectory());
     m_savePanel->setSuggestedName(pathComponentsFromParameters().constFirst());
     connect(m_savePanel, &VTSavePanel::finished, this, &TessaroAppDelegate::destinationBrowseDidEnd);
@@ -98,10 +99,9 @@ void TessaroAppDelegate::destinationBrowseDidEnd(int returnCode)
     panel->hide();
     // Only the folder counts: the name typed in the panel is not the project's.
     const QString folder = platform::parentPath(panel->chosenPath());
-    auto &defaults = settings::standard();
-    if (defaults.equalsOne(settings::useFixedProjectLocation))
-        defaults.setValue(settings::fixedProjectLocationPath, folder);
-    createTemplate(defaults.string(settings::selectedProjectTemplate),
+    if (settings::useFixedProjectLocation.isOn())
+        static_cast<void>(settings::fixedProjectLocationPath.store(folder)); // logged; this project goes there all the same
+    createTemplate(settings::selectedProjectTemplate.text(),
                    platform::joined(folder, pathNameFromParameters()));
 }
 
@@ -109,9 +109,9 @@ void TessaroAppDelegate::createTemplate(const QString &templateName, const QStri
 {
     m_creating = true;
     m_window->showCreated({});
-    const CreationResult result = ProjectCreation(*this).createTemplate(templateName, atPath);
+    const CreationResult result = ProjectCreation(*this).createProject(templateName, atPath);
     m_creating = false;
-    if (result.ok() && settings::standard().integer(settings::autoOpenFolder) == 0)
+    if (result.ok() && !settings::autoOpenFolder.isOn())
         m_window->showCreated(atPath);
 }
 
@@ -132,17 +132,12 @@ void TessaroAppDelegate::incrementDynamicValues()
 
 void TessaroAppDelegate::reveal(const QString &project)
 {
-    if (settings::standard().integer(settings::autoOpenFolder) != 0)
+    if (settings::autoOpenFolder.isOn())
         platform::revealInFileBrowser(project);
 }
 
 void TessaroAppDelegate::quitIfWanted()
 {
-    if (settings::standard().integer(settings::autoQuit) != 0)
+    if (settings::autoQuit.isOn())
         QApplication::quit();
-}
-
-QWidget *TessaroAppDelegate::window() const
-{
-    return m_window.get();
 }

@@ -15,9 +15,8 @@ const QString ownName = QStringLiteral("Tessaro");
 void TessaroAppDelegate::checkForUpdates()
 {
     if (!VTSoftwareUpdate::manualUpdateCheck())
-        VTAlert::alertSheetWithMessageText(tr("Updates cannot be looked for"),
-                                           tr("The software updater is not installed on this computer."),
-                                           m_window.get());
+        VTAlert::show({tr("Updates cannot be looked for"),
+                       tr("The software updater is not installed on this computer.")});
 }
 
 void TessaroAppDelegate::viewLog()

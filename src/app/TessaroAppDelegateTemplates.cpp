@@ -2,13 +2,14 @@
 #include "app/TessaroAppDelegate.h"
 
 #include "app/MainWindow.h"
-#include "app/TemplateMigration.h"
-#include "parameters/VTProjectTableController.h"
-#include "platform/NativePath.h"
+#include "templates/TemplateMigration.h"
+#include "parameters/table/VTProjectTableController.h"
+#include "platform/base/NativePath.h"
+#include "support/FileOperations.h"
 #include "support/Notifications.h"
 #include "support/VTAlert.h"
 #include "support/VTLog.h"
-#include "templates/TemplatePane.h"
+#include "templates/editor/TemplatePane.h"
 #include "templates/VTDataController.h"
 #include "ui/ImportPanel.h"
 
@@ -45,9 +46,8 @@ void TessaroAppDelegate::openFiles(const QStringList &paths)
 {
     for (const QString &path : paths) {
         if (!openFile(path))
-            VTAlert::alertSheetWithMessageText(
-                platform::formatString(tr("%@ is not a template"), platform::lastComponent(path)),
-                tr("Tessaro takes in templates: folders whose name ends in “.tzt”."), m_window.get());
+            VTAlert::show({platform::formatString(tr("%@ is not a template"), platform::lastComponent(path)),
+                           tr("Tessaro takes in templates: folders whose name ends in “.tzt”.")});
     }
 }
 
@@ -64,17 +64,28 @@ void TessaroAppDelegate::importOldTessaroTemplate()
     migration::importFirstVersionTemplate();
 }
 
+void TessaroAppDelegate::restoreShippedTemplates()
+{
+    using Force = VTDataController::Force;
+    const platform::Outcome restored = VTDataController::sharedController().populateDefaultTemplates(Force::Yes);
+    if (!restored.ok())
+        VTAlert::show({tr("Not all templates could be restored"),
+                       withCause(tr("Those that could not be replaced were left as they are."), restored)});
+}
+
 void TessaroAppDelegate::restoreDefaultTemplates()
 {
-    const int answer = VTAlert::alertSheetWithMessageText(
-        tr("Are you sure you wish to restore the default Tessaro templates?"), tr("Restore"), tr("Cancel"), {},
-        tr("This will restore the templates Tessaro ships with by default and will overwrite any modifications you "
-           "have "
-           "made to them."),
-        m_window.get(), VTAlert::Block::Yes);
+    const int answer = VTAlert::show(
+        {tr("Are you sure you wish to restore the default Tessaro templates?"),
+         tr("This will restore the templates Tessaro ships with by default and will overwrite any modifications you have "
+            "made to them."),
+         tr("Restore"),
+         tr("Cancel"),
+         {},
+         VTAlert::alternateReturn});
     if (answer != VTAlert::defaultReturn)
         return;
-    VTDataController::sharedController().populateDefaultTemplates(VTDataController::Force::Yes);
+    restoreShippedTemplates();
     populateTemplatePopUp();
     Q_EMIT Notifications::hub().VTTessaroRefreshTemplates();
 }
@@ -82,11 +93,9 @@ void TessaroAppDelegate::restoreDefaultTemplates()
 void TessaroAppDelegate::clearHistory()
 {
     m_tableController->clearHistory();
-    VTAlert::alertSheetWithMessageText(tr("History successfully cleared"),
-                                       tr("To switch history logging off entirely, go to Preferences and deselect Save "
-                                          "History next to each parameter in "
-                                          "the Parameters tab."),
-                                       m_window.get());
+    VTAlert::show({tr("History successfully cleared"),
+                   tr("To switch history logging off entirely, go to Preferences and deselect Save History next to each "
+                      "parameter in the Parameters tab.")});
 }
 
 void TessaroAppDelegate::newTemplate()

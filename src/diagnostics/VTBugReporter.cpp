@@ -1,12 +1,13 @@
 #include "diagnostics/VTBugReporter.h"
 
-#include "platform/ApplicationBundle.h"
-#include "platform/ApplicationLauncher.h"
-#include "platform/Console.h"
-#include "platform/FileSystem.h"
-#include "platform/MainThread.h"
-#include "platform/NativePath.h"
-#include "platform/PropertyList.h"
+#include "platform/files/ApplicationBundle.h"
+#include "platform/desktop/ApplicationLauncher.h"
+#include "platform/base/Console.h"
+#include "platform/files/FileSystem.h"
+#include "platform/base/MainThread.h"
+#include "platform/base/NativePath.h"
+#include "platform/files/WholeFile.h"
+#include "support/FileOperations.h"
 #include "support/GlobalSettings.h"
 #include "support/Settings.h"
 #include "support/VTException.h"
@@ -16,43 +17,34 @@
 
 #include <QCoreApplication>
 #include <QDateTime>
-#include <QFile>
-#include <QFileInfo>
-#include <QSaveFile>
 
 using platform::joined;
 
 namespace {
 
-const QString launchKey = QStringLiteral("launch");
-const QString exitKey = QStringLiteral("exit");
 const QString reporterIdentifier = QStringLiteral("com.vantrel.BugReporter");
 
 QVariantMap recordAt(const QString &path)
 {
-    QFile file(path);
-    const auto list = file.open(QIODevice::ReadOnly) ? platform::readPropertyList(file.readAll()) : std::nullopt;
-    return list ? list->toMap() : QVariantMap();
+    return platform::readPropertyListFile(path).valueOr({}).toMap();
 }
 
-QDateTime recorded(const QString &plistPath, const QString &key)
+QDateTime recorded(const QString &plistPath, const settings::Setting &entry)
 {
-    return (plistPath.isNull() ? settings::standard().value(key) : recordAt(plistPath).value(key)).toDateTime();
+    return (plistPath.isNull() ? entry.value() : recordAt(plistPath).value(entry)).toDateTime();
 }
 
-void record(const QString &plistPath, const QString &key)
+void record(const QString &plistPath, const settings::Setting &entry)
 {
     const QDateTime now = QDateTime::currentDateTimeUtc();
     if (plistPath.isNull()) {
-        settings::standard().setValue(key, now);
+        static_cast<void>(entry.store(now)); // logged
         return;
     }
     QVariantMap entries = recordAt(plistPath); // what else stands in there stays
-    entries.insert(key, now);
-    QSaveFile file(plistPath);
-    const QByteArray bytes = platform::writePropertyList(entries);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
-        VTLog::appendLog("Unable to record the launch in %@: %@", plistPath, file.errorString());
+    entries.insert(entry, now);
+    if (const auto written = platform::writePropertyListFile(plistPath, entries); !written.ok())
+        VTLog::appendLog("Unable to record the launch in %@: %@", plistPath, written.sentence());
     VTBugReporter::chownPlist(plistPath);
 }
 
@@ -60,12 +52,12 @@ void record(const QString &plistPath, const QString &key)
 QString newReportIn(const QString &folder, const QString &name, const QDateTime &launch)
 {
     QString last;
-    for (const auto &entry : platform::listFolder(folder).value_or(QList<platform::FolderEntry>())) {
+    for (const auto &entry : fileoperations::entriesOf(folder)) {
         if (entry.name.startsWith(name + u'_', Qt::CaseInsensitive))
             last = joined(folder, entry.name);
     }
-    const QFileInfo info(last);
-    return !last.isNull() && info.exists() && info.lastModified() > launch ? last : QString();
+    const auto written = last.isNull() ? std::nullopt : platform::modificationTimeOf(last);
+    return written && *written > launch ? last : QString();
 }
 
 void handOver(const QString &report)
@@ -75,19 +67,19 @@ void handOver(const QString &report)
     if (const QString program = shipped.isNull() ? QString() : platform::executableOf(shipped); !program.isNull())
         return VTTask::runTaskAndReturn(program, {report});
     const QString entry = platform::registeredApplication(reporterIdentifier);
-    if (entry.isNull() || !platform::openWithDesktopEntry(entry, report))
+    if (entry.isNull() || !platform::openWithDesktopEntry(entry, report).ok())
         VTLog::appendLog("There is no bug reporter to open %@ with", report);
 }
 
 QString check(const QString &givenName, const QString &plistPath)
 {
-    const QDateTime launch = recorded(plistPath, launchKey);
+    const QDateTime launch = recorded(plistPath, settings::launch);
     if (!launch.isValid())
         return {};
     const QString name = givenName.isNull()
                              ? platform::ApplicationBundle::main().informationString(QStringLiteral("CFBundleName"))
                              : givenName;
-    if (const QDateTime exit = recorded(plistPath, exitKey); exit.isValid() && exit >= launch)
+    if (const QDateTime exit = recorded(plistPath, settings::exit); exit.isValid() && exit >= launch)
         return {};
     QString report;
     for (const QString &folder : VTBugReporter::reportFolders()) {
@@ -134,12 +126,12 @@ void VTBugReporter::startBugReporter(const QString &name, const QString &plistPa
     if (!report.isNull() && delegate)
         QMetaObject::invokeMethod(
             QCoreApplication::instance(), [delegate, report] { delegate(report); }, Qt::QueuedConnection);
-    record(plistPath, launchKey);
+    record(plistPath, settings::launch);
 }
 
 void VTBugReporter::stopBugReporter(const QString &plistPath)
 {
-    record(plistPath, exitKey);
+    record(plistPath, settings::exit);
 }
 
 void VTBugReporter::chownPlist(const QString &path)

@@ -1,9 +1,9 @@
 #include "diagnostics/VTSoftwareUpdate.h"
 
-#include "platform/ApplicationBundle.h"
-#include "platform/ApplicationLauncher.h"
-#include "platform/FileSystem.h"
-#include "platform/NativePath.h"
+#include "platform/files/ApplicationBundle.h"
+#include "platform/desktop/ApplicationLauncher.h"
+#include "platform/files/FileSystem.h"
+#include "platform/base/NativePath.h"
 #include "support/GlobalSettings.h"
 #include "support/VTFileManager.h"
 #include "support/VTLocalPaths.h"

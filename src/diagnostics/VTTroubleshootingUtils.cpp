@@ -1,40 +1,35 @@
 #include "diagnostics/VTTroubleshootingUtils.h"
 
-#include "platform/Console.h"
-#include "platform/Desktop.h"
-#include "platform/FileSystem.h"
-#include "platform/FormatString.h"
-#include "platform/LocalTime.h"
-#include "platform/MainThread.h"
-#include "platform/NativePath.h"
-#include "platform/TreeCopy.h"
+#include "platform/base/Console.h"
+#include "platform/desktop/Desktop.h"
+#include "platform/files/FileSystem.h"
+#include "platform/files/FileTree.h"
+#include "platform/base/FormatString.h"
+#include "platform/base/LocalTime.h"
+#include "platform/base/MainThread.h"
+#include "platform/base/NativePath.h"
+#include "platform/files/TreeCopy.h"
+#include "support/FileOperations.h"
 #include "support/VTAlert.h"
-#include "support/VTFileManager.h"
 #include "support/VTLocalPaths.h"
 #include "support/VTLog.h"
 
 #include <QCoreApplication>
-#include <QDir>
-#include <QFileInfo>
 #include <ctime>
 #include <functional>
 
 using platform::formatString;
 using platform::joined;
+using platform::Outcome;
 using platform::printToConsole;
 using Domain = VTLocalPaths::Domain;
 
 namespace {
 
-QString text(const char *source)
+struct Text
 {
-    return QCoreApplication::translate("VTTroubleshootingUtils", source);
-}
-
-void tell(const QString &message, const QString &informative)
-{
-    VTAlert::alertSheetWithMessageText(message, informative, nullptr);
-}
+    Q_DECLARE_TR_FUNCTIONS(VTTroubleshootingUtils)
+};
 
 QString logFolder(Domain domain)
 {
@@ -45,7 +40,7 @@ bool view(const QString &path, const QString &hint)
 {
     if (VTFileManager::fileExistsAtPath(path))
         return platform::openWithDefaultApplication(path);
-    tell(text("No log found"), hint);
+    VTAlert::show({Text::tr("No log found"), hint});
     return false;
 }
 
@@ -70,7 +65,10 @@ public:
 
     bool takeMatching(const QString &folder, const std::function<bool(const QString &)> &belongs)
     {
-        for (const auto &entry : platform::listFolder(folder).value_or(QList<platform::FolderEntry>())) {
+        const auto entries = platform::listFolder(folder);
+        if (!entries && !entries.outcome().is(platform::Cause::Missing))
+            return fail("Unable to read folder: %@", entries.outcome().description());
+        for (const auto &entry : entries.valueOr({})) {
             if (belongs(entry.name) && !take(folder, entry.name))
                 return false;
         }
@@ -84,9 +82,9 @@ public:
         if (platform::kindOf(target) != platform::FileKind::Missing)
             return true; // two names matched it
         const QString real = platform::kindOf(source) == platform::FileKind::Link && platform::targetExists(source)
-                                 ? QFileInfo(source).canonicalFilePath()
+                                 ? platform::realPath(source)
                                  : source;
-        platform::FileOutcome outcome = platform::makeFolders(m_folder + folder);
+        Outcome outcome = platform::makeFolders(m_folder + folder);
         if (outcome.ok())
             outcome = platform::copyItem(real, target);
         if (!outcome.ok())
@@ -171,13 +169,13 @@ QString VTTroubleshootingUtils::taskLogPath(const QString &name)
 
 bool VTTroubleshootingUtils::viewLogForApp(const QString &name)
 {
-    return view(logPath(name), text("You must perform a task before viewing the log."));
+    return view(logPath(name), Text::tr("You must perform a task before viewing the log."));
 }
 
 bool VTTroubleshootingUtils::viewTaskLogForApp(const QString &name)
 {
     return view(taskLogPath(name),
-                text("You must run the application as a task (e.g. through Cronwick) before viewing a log."));
+                Text::tr("You must run the application as a task (e.g. through Cronwick) before viewing a log."));
 }
 
 QString VTTroubleshootingUtils::gatherLogsForApps(const QStringList &names, Silent silent,
@@ -203,16 +201,19 @@ QString VTTroubleshootingUtils::gatherLogsForApps(const QStringList &names, Sile
         return {};
     if (gathering.count() == 0) {
         if (silent == Silent::No)
-            tell(text("No logs found"), text("There were no logs available to gather."));
+            VTAlert::show({Text::tr("No logs found"), Text::tr("There were no logs available to gather.")});
         return {};
     }
     const QString desktop = toFolder.isNull() ? VTLocalPaths::desktopDirectory() : toFolder;
     const QString archive = archivePath(desktop, names.constFirst());
-    const bool hasDesktop = VTFileManager::fileExistsAtPath(desktop) || VTFileManager::createDirectory(desktop);
-    const bool packed = hasDesktop && VTFileManager::compressFile(folder, archive);
-    static_cast<void>(platform::removeOwnTree(folder).ok());
-    if (silent == Silent::No)
-        packed ? tell(text("Logs gathered successfully"), text("The gathered logs were placed on your desktop."))
-               : tell(text("Logs could not be gathered"), text("Please check your file permissions."));
-    return packed ? archive : QString();
+    Outcome packed = VTFileManager::fileExistsAtPath(desktop) ? Outcome() : fileoperations::createDirectory(desktop);
+    if (packed.ok())
+        packed = fileoperations::compressFile(folder, archive);
+    static_cast<void>(platform::removeOwnTree(folder)); // it lies in the temporary folder
+    if (silent == Silent::No && packed.ok())
+        VTAlert::show({Text::tr("Logs gathered successfully"), Text::tr("The gathered logs were placed on your desktop.")});
+    else if (silent == Silent::No)
+        VTAlert::show({Text::tr("Logs could not be gathered"),
+                       withCause(Text::tr("Please check your file permissions."), packed)});
+    return packed.ok() ? archive : QString();
 }

@@ -36,13 +36,13 @@ bool FilenameParameter::flag(const char *key) const
 
 FilenameParameter::Kind FilenameParameter::kind() const
 {
-    const qlonglong type = integerOf(m_record.value(QStringLiteral("type")));
+    const qlonglong type = integerOf(m_record.value(QLatin1String(recordkey::kind)));
     return type < 0 || type > 5 ? Kind::Text : static_cast<Kind>(type);
 }
 
 bool FilenameParameter::isBlank() const
 {
-    const QVariant value = m_record.value(QStringLiteral("val"));
+    const QVariant value = m_record.value(QLatin1String(recordkey::value));
     return !value.isValid() || (value.typeId() == QMetaType::QString && value.toString().isEmpty());
 }
 
@@ -53,13 +53,13 @@ QStringList FilenameParameter::choices() const
 
 bool FilenameParameter::isLocked() const
 {
-    return integerOf(m_record.value(QStringLiteral("locked"))) == 1;
+    return integerOf(m_record.value(QLatin1String(recordkey::locked))) == 1;
 }
 
 QStringList FilenameParameter::history() const
 {
     QStringList history;
-    const QVariant stored = m_record.value(QStringLiteral("history"));
+    const QVariant stored = m_record.value(QLatin1String(recordkey::history));
     if (stored.typeId() != QMetaType::QVariantList && stored.typeId() != QMetaType::QStringList)
         return history;
     for (const QVariant &value : stored.toList()) {
@@ -74,7 +74,7 @@ void FilenameParameter::setHistory(const QStringList &history)
     QVariantList list;
     for (const QString &value : history)
         list.append(value);
-    setEntry(QStringLiteral("history"), list);
+    setEntry(QLatin1String(recordkey::history), list);
 }
 
 FilenameParameters parametersFromVariant(const QVariant &stored)

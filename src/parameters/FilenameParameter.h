@@ -4,6 +4,19 @@
 #include <QStringList>
 #include <QVariantMap>
 
+/** The keys of a parameter's record. */
+namespace recordkey {
+inline constexpr const char *title = "title";
+inline constexpr const char *kind = "type";
+inline constexpr const char *value = "val";
+inline constexpr const char *defaultValue = "defaultVal";
+inline constexpr const char *folder = "folder";
+inline constexpr const char *savesHistory = "saveHistory";
+inline constexpr const char *history = "history";
+inline constexpr const char *required = "disallowEmpty";
+inline constexpr const char *locked = "locked";
+} // namespace recordkey
+
 /**
  * One filename parameter: a record of the list stored under "filenameTemplate". A plain value. Keys that this program
  * does not know are kept; a missing key, or one of the wrong type, reads as false, 0 or empty.
@@ -19,21 +32,21 @@ public:
     [[nodiscard]] const QVariantMap &record() const { return m_record; }
     [[nodiscard]] QVariant entry(const QString &key) const { return m_record.value(key); }
 
-    [[nodiscard]] QString title() const { return text("title"); }
+    [[nodiscard]] QString title() const { return text(recordkey::title); }
     /** Unknown numbers are text. */
     [[nodiscard]] Kind kind() const;
     /** What enters the name. A number counts as its decimal text. */
-    [[nodiscard]] QString value() const { return text("val"); }
+    [[nodiscard]] QString value() const { return text(recordkey::value); }
     /** Whether the stored value is a text without a character, or there is none: what a required parameter may not be. */
     [[nodiscard]] bool isBlank() const;
-    [[nodiscard]] bool hasDefaultValue() const { return m_record.contains(QStringLiteral("defaultVal")); }
-    [[nodiscard]] QString defaultValue() const { return text("defaultVal"); }
+    [[nodiscard]] bool hasDefaultValue() const { return m_record.contains(QLatin1String(recordkey::defaultValue)); }
+    [[nodiscard]] QString defaultValue() const { return text(recordkey::defaultValue); }
     /** The comma-separated parts of the default value; empty when it is. */
     [[nodiscard]] QStringList choices() const;
-    [[nodiscard]] bool beginsFolder() const { return flag("folder"); }
+    [[nodiscard]] bool beginsFolder() const { return flag(recordkey::folder); }
     /** Never in effect for choice lists. */
-    [[nodiscard]] bool savesHistory() const { return kind() != Kind::Choice && flag("saveHistory"); }
-    [[nodiscard]] bool isRequired() const { return flag("disallowEmpty"); }
+    [[nodiscard]] bool savesHistory() const { return kind() != Kind::Choice && flag(recordkey::savesHistory); }
+    [[nodiscard]] bool isRequired() const { return flag(recordkey::required); }
     [[nodiscard]] bool isLocked() const;
     [[nodiscard]] QStringList history() const;
     /** Date and user name are filled in by the program at every refresh. */
@@ -42,9 +55,9 @@ public:
     [[nodiscard]] bool keepsValue() const { return kind() == Kind::Counter || kind() == Kind::Choice; }
 
     void setEntry(const QString &key, const QVariant &value) { m_record.insert(key, value); }
-    void setValue(const QString &value) { setEntry(QStringLiteral("val"), value); }
+    void setValue(const QString &value) { setEntry(QLatin1String(recordkey::value), value); }
     void setHistory(const QStringList &history);
-    void removeHistory() { m_record.remove(QStringLiteral("history")); }
+    void removeHistory() { m_record.remove(QLatin1String(recordkey::history)); }
 
     bool operator==(const FilenameParameter &) const = default;
 

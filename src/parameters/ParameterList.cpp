@@ -4,61 +4,112 @@
 #include <algorithm>
 #include <array>
 
-namespace editor {
+namespace parameterlist {
 namespace {
 
 using Kind = FilenameParameter::Kind;
 
-QString text(const char *source)
+struct Text
 {
-    return QCoreApplication::translate("ParameterEditor", source);
-}
+    Q_DECLARE_TR_FUNCTIONS(ParameterEditor)
+};
 
-struct KindName
+struct KindEntry
 {
     Kind kind;
-    const char *name;
+    const char *word; ///< on the command line
+    const char *name; ///< in the window
 };
 constexpr std::array kinds{
-    KindName{Kind::Text, QT_TRANSLATE_NOOP("ParameterEditor", "Text")},
-    KindName{Kind::Counter, QT_TRANSLATE_NOOP("ParameterEditor", "Counter")},
-    KindName{Kind::Date, QT_TRANSLATE_NOOP("ParameterEditor", "Date")},
-    KindName{Kind::UserName, QT_TRANSLATE_NOOP("ParameterEditor", "User name")},
-    KindName{Kind::Choice, QT_TRANSLATE_NOOP("ParameterEditor", "Choice")},
+    KindEntry{Kind::Text, "text", QT_TRANSLATE_NOOP("ParameterEditor", "Text")},
+    KindEntry{Kind::Counter, "counter", QT_TRANSLATE_NOOP("ParameterEditor", "Counter")},
+    KindEntry{Kind::Date, "date", QT_TRANSLATE_NOOP("ParameterEditor", "Date")},
+    KindEntry{Kind::UserName, "user", QT_TRANSLATE_NOOP("ParameterEditor", "User name")},
+    KindEntry{Kind::Choice, "choice", QT_TRANSLATE_NOOP("ParameterEditor", "Choice")},
 };
+
+const KindEntry &entryOf(Kind kind)
+{
+    const auto *found = std::find_if(kinds.begin(), kinds.end(), [&](const KindEntry &entry) { return entry.kind == kind; });
+    return found == kinds.end() ? kinds[0] : *found;
+}
+
+struct ColumnEntry
+{
+    const char *key;  ///< in the record
+    const char *word; ///< on the command line
+};
+/// In the order of the columns.
+constexpr std::array<ColumnEntry, columnCount> columns{{{recordkey::title, "title"},
+                                                        {recordkey::kind, "kind"},
+                                                        {recordkey::defaultValue, "default"},
+                                                        {recordkey::folder, "folder"},
+                                                        {recordkey::savesHistory, "history"},
+                                                        {recordkey::required, "required"},
+                                                        {recordkey::locked, "locked"}}};
 
 } // namespace
 
 QString keyOf(Column column)
 {
-    static const QStringList keys{"title", "type", "defaultVal", "folder", "saveHistory", "disallowEmpty", "locked"};
-    return keys[static_cast<int>(column)];
+    return QLatin1String(columns[static_cast<std::size_t>(column)].key);
+}
+
+QString wordOf(Column column)
+{
+    return QLatin1String(columns[static_cast<std::size_t>(column)].word);
+}
+
+std::optional<Column> columnOfWord(const QString &word)
+{
+    const qsizetype found = columnWords().indexOf(word);
+    return found < 0 ? std::nullopt : std::optional(static_cast<Column>(found));
+}
+
+QStringList columnWords()
+{
+    QStringList words;
+    for (const ColumnEntry &entry : columns)
+        words.append(QLatin1String(entry.word));
+    return words;
 }
 
 QStringList kindNames()
 {
     QStringList names;
-    for (const KindName &entry : kinds)
-        names.append(text(entry.name));
+    for (const KindEntry &entry : kinds)
+        names.append(Text::tr(entry.name));
     return names;
 }
 
 QString nameOf(Kind kind)
 {
-    for (const KindName &entry : kinds) {
-        if (entry.kind == kind)
-            return text(entry.name);
-    }
-    return text(kinds[0].name);
+    return Text::tr(entryOf(kind).name);
 }
 
 std::optional<Kind> kindNamed(const QString &name)
 {
-    for (const KindName &entry : kinds) {
-        if (text(entry.name) == name)
-            return entry.kind;
-    }
-    return std::nullopt;
+    const qsizetype found = kindNames().indexOf(name);
+    return found < 0 ? std::nullopt : std::optional(kinds[static_cast<std::size_t>(found)].kind);
+}
+
+QString wordOf(Kind kind)
+{
+    return QLatin1String(entryOf(kind).word);
+}
+
+std::optional<Kind> kindOfWord(const QString &word)
+{
+    const qsizetype found = kindWords().indexOf(word);
+    return found < 0 ? std::nullopt : std::optional(kinds[static_cast<std::size_t>(found)].kind);
+}
+
+QStringList kindWords()
+{
+    QStringList words;
+    for (const KindEntry &entry : kinds)
+        words.append(QLatin1String(entry.word));
+    return words;
 }
 
 QVariant shownValue(const FilenameParameters &list, int row, Column column)
@@ -70,7 +121,7 @@ QVariant shownValue(const FilenameParameters &list, int row, Column column)
     case Column::Kind:
         return nameOf(parameter.kind());
     case Column::Default:
-        return parameter.isAutomatic() ? text("(auto)") : parameter.defaultValue();
+        return parameter.isAutomatic() ? Text::tr("(auto)") : parameter.defaultValue();
     case Column::Folder:
         return row == 0 || parameter.beginsFolder();
     case Column::History:
@@ -100,7 +151,8 @@ bool isEditable(const FilenameParameters &list, int row, Column column)
 
 FilenameParameters withNewParameter(FilenameParameters list, const QString &title)
 {
-    list.append(FilenameParameter({{"title", title}, {"type", 0LL}, {"val", QString(QLatin1String(""))}}));
+    list.append(FilenameParameter(
+        {{recordkey::title, title}, {recordkey::kind, 0LL}, {recordkey::value, QString(QLatin1String(""))}}));
     return list;
 }
 
@@ -149,17 +201,21 @@ QStringList dateFormats()
             "%d-%m-%Y", "%Y-%m",    "%d-%B-%Y", "%d-%b-%Y", "%b%Y"};
 }
 
-QString problemOf(const QVariant &list)
+platform::Result<FilenameParameters> checkedList(const QVariant &list)
 {
+    const auto damaged = [](const QString &sentence) {
+        return platform::Outcome::failure(platform::Cause::Damaged, {}, sentence);
+    };
     if (list.typeId() != QMetaType::QVariantList)
-        return text("The file does not hold a list of parameters.");
+        return damaged(Text::tr("The file does not hold a list of parameters."));
     int number = 0;
     for (const QVariant &entry : list.toList()) {
         ++number;
-        if (entry.typeId() != QMetaType::QVariantMap || entry.toMap().value("title").typeId() != QMetaType::QString)
-            return text("Entry %1 of the file is not a parameter with a title.").arg(number);
+        if (entry.typeId() != QMetaType::QVariantMap ||
+            entry.toMap().value(QLatin1String(recordkey::title)).typeId() != QMetaType::QString)
+            return damaged(Text::tr("Entry %1 of the file is not a parameter with a title.").arg(number));
     }
-    return {};
+    return parametersFromVariant(list);
 }
 
-} // namespace editor
+} // namespace parameterlist

@@ -1,21 +1,30 @@
 #pragma once
 
 #include "parameters/FilenameParameter.h"
+#include "platform/base/Outcome.h"
 
 #include <optional>
 
 /** The list of parameters as it is edited: what the editor shows and what its changes make of the list. Pure. */
-namespace editor {
+namespace parameterlist {
 
 /** The record's key that a column shows. */
 enum class Column { Title, Kind, Default, Folder, History, Required, Locked };
 inline constexpr int columnCount = 7;
 [[nodiscard]] QString keyOf(Column column);
+/** The word by which the command line calls the column, in every language. */
+[[nodiscard]] QString wordOf(Column column);
+[[nodiscard]] std::optional<Column> columnOfWord(const QString &word);
+[[nodiscard]] QStringList columnWords();
 
 /** The kinds in the order of their numbers; the second plain text, which is the same as the first, is not offered. */
 [[nodiscard]] QStringList kindNames();
 [[nodiscard]] QString nameOf(FilenameParameter::Kind kind);
 [[nodiscard]] std::optional<FilenameParameter::Kind> kindNamed(const QString &name);
+/** The word by which the command line calls the kind, in every language. */
+[[nodiscard]] QString wordOf(FilenameParameter::Kind kind);
+[[nodiscard]] std::optional<FilenameParameter::Kind> kindOfWord(const QString &word);
+[[nodiscard]] QStringList kindWords();
 
 /** As shown: the first parameter always begins a folder, what the program fills in says "(auto)", a choice list keeps
    no history. */
@@ -40,7 +49,7 @@ struct Moved
 /** The date formats that are offered, in their order. */
 [[nodiscard]] QStringList dateFormats();
 
-/** One sentence when a list read from elsewhere cannot be one; null when it can. */
-[[nodiscard]] QString problemOf(const QVariant &list);
+/** A list read from elsewhere; Cause::Damaged, with one sentence, when it cannot be one. */
+[[nodiscard]] platform::Result<FilenameParameters> checkedList(const QVariant &list);
 
-} // namespace editor
+} // namespace parameterlist

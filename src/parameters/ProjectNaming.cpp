@@ -1,6 +1,5 @@
 #include "parameters/ProjectNaming.h"
 
-#include "support/Settings.h"
 #include "support/VTFileManager.h"
 
 namespace naming {
@@ -59,23 +58,3 @@ std::optional<qsizetype> firstBlankRequired(const FilenameParameters &parameters
 }
 
 } // namespace naming
-
-FilenameParameters storedParameters()
-{
-    return parametersFromVariant(settings::standard().value(settings::filenameTemplate));
-}
-
-QStringList pathComponentsFromParameters()
-{
-    return naming::pathComponents(storedParameters(), settings::standard().string(settings::separatorChar));
-}
-
-QString pathNameFromParameters()
-{
-    return naming::pathName(pathComponentsFromParameters());
-}
-
-QString projectNameFromParameters()
-{
-    return naming::projectName(pathComponentsFromParameters());
-}

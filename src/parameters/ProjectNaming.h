@@ -26,9 +26,3 @@ namespace naming {
 [[nodiscard]] std::optional<qsizetype> firstBlankRequired(const FilenameParameters &parameters);
 
 } // namespace naming
-
-/** The stored parameters at the moment of the call. */
-[[nodiscard]] FilenameParameters storedParameters();
-[[nodiscard]] QStringList pathComponentsFromParameters();
-[[nodiscard]] QString pathNameFromParameters();
-[[nodiscard]] QString projectNameFromParameters();

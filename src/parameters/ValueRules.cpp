@@ -1,6 +1,6 @@
 #include "parameters/ValueRules.h"
 
-#include "platform/LocalTime.h"
+#include "platform/base/LocalTime.h"
 
 namespace rules {
 namespace {

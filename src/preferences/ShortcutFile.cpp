@@ -1,11 +1,12 @@
 #include "preferences/ShortcutFile.h"
 
-#include "platform/PropertyList.h"
+#include "platform/files/WholeFile.h"
 #include "support/VTLocalPaths.h"
 
-#include <QFile>
 #include <QHash>
-#include <QSaveFile>
+
+using platform::Outcome;
+using platform::Result;
 
 namespace shortcuts {
 namespace {
@@ -67,24 +68,21 @@ QString filePath()
     return VTLocalPaths::prefsDirectory(VTLocalPaths::Domain::User) + QStringLiteral("/com.vantrel.shortcutkeys.plist");
 }
 
-Contents read()
+Result<QVariantMap> read()
 {
-    QFile file(filePath());
-    if (!file.exists())
-        return {};
-    const auto value = file.open(QIODevice::ReadOnly) ? platform::readPropertyList(file.readAll()) : std::nullopt;
-    const bool isDictionary = value && value->typeId() == QMetaType::QVariantMap;
-    const QVariantMap dictionary = isDictionary ? value->toMap() : QVariantMap();
+    const Result<QVariant> value = platform::readPropertyListFile(filePath());
+    if (!value)
+        return value.outcome();
+    const QVariantMap dictionary = value->toMap();
     const bool isShaped = !dictionary.contains(watchlist) || dictionary[watchlist].typeId() == QMetaType::QVariantList;
-    return {true, isDictionary && isShaped ? std::optional(dictionary) : std::nullopt};
+    if (value->typeId() != QMetaType::QVariantMap || !isShaped)
+        return Outcome::failure(platform::Cause::Damaged, filePath());
+    return dictionary;
 }
 
-bool write(const QVariantMap &file)
+Outcome write(const QVariantMap &file)
 {
-    const QByteArray bytes = platform::writePropertyList(file);
-    QSaveFile saving(filePath());
-    return !bytes.isEmpty() && saving.open(QIODevice::WriteOnly) && saving.write(bytes) == bytes.size() &&
-           saving.commit();
+    return platform::writePropertyListFile(filePath(), file);
 }
 
 } // namespace shortcuts

@@ -1,9 +1,10 @@
 #pragma once
 
+#include "platform/base/Outcome.h"
+
 #include <QString>
 #include <QStringList>
 #include <QVariantMap>
-#include <optional>
 
 /** The assignments of keys to commands, in the file that the maker's applications share. */
 namespace shortcuts {
@@ -37,13 +38,9 @@ struct Owner
 /** "com.vantrel.shortcutkeys.plist" in the user's preferences folder. */
 [[nodiscard]] QString filePath();
 
-struct Contents
-{
-    bool exists = false;
-    std::optional<QVariantMap> dictionary; ///< nothing when it exists and cannot be read as one
-};
-[[nodiscard]] Contents read();
-/** In one step, so that nobody sees half a file. False when it cannot be written. */
-[[nodiscard]] bool write(const QVariantMap &file);
+/** Cause::Missing when there is none yet; Cause::Damaged when it is none that we could change without losing something. */
+[[nodiscard]] platform::Result<QVariantMap> read();
+/** In one step, so that nobody sees half a file. */
+platform::Outcome write(const QVariantMap &file);
 
 } // namespace shortcuts

@@ -1,20 +1,19 @@
 #pragma once
 
-#include "parameters/ParameterEditorModel.h"
-
 #include <QMainWindow>
 #include <QPointer>
 #include <memory>
 
-class QCheckBox;
+class GeneralPane;
+class ParametersPane;
+class ProjectPane;
 
 namespace Ui {
 class Prefs_Dialog;
 }
 
 /**
- * The preferences window and its controller: four panes that are swapped, every control bound to its setting, with the
- * effect at once. One at a time: the delegate's menu item is disabled while it is open. Main thread only.
+ * The preferences window: four panes that are swapped, each with a class of its own. One at a time: the delegate's menu item is disabled while it is open. Main thread only.
  *
  * The delegate is any object; disablePrefsMenu() and enablePrefsMenu() are called where it has them.
  */
@@ -40,8 +39,6 @@ public Q_SLOTS:
     void toolbarProject();
     void toolbarParameters();
     void toolbarHotkeys();
-    void addNewFilenameParam();
-    void removeFilenameParam();
 
 Q_SIGNALS:
     void closed();
@@ -54,28 +51,14 @@ protected:
 private:
     void awakeFromNib();
     void buildToolbar();
-    void bindGeneral();
-    void bindProject();
-    void bindParameters();
-    void bindSwitch(QCheckBox *box, const QString &key, const QVariant &on, const QVariant &off);
-    void bindAdminSwitch(QCheckBox *box, const QString &key);
-    void prefsToggleAdminPass(QCheckBox *box, const QString &key, bool on);
-    void browse(const QString &title, void (VTPreferenceController::*chosen)(const QString &));
-    /** The path as it can be used, absolute and without "~"; null, after a message, when it cannot be. */
-    [[nodiscard]] QString usablePath(const QString &typed);
-    void makeFolder(const QString &path);
-    void moveTemplates(const QString &from, const QString &to);
-    void populateDateFormats();
-    void changeDateFormat();
-    void changeCustomDateFormat();
-    void changeSeparator(const QString &typed);
-    void showPreview();
     void tellDelegate(const char *operation);
     void showPane(QWidget *pane, const char *logLine);
 
     std::unique_ptr<Ui::Prefs_Dialog> m_ui;
     QPointer<QObject> m_delegate;
-    ParameterEditorModel m_parameters;
+    GeneralPane *m_general = nullptr;
+    ProjectPane *m_project = nullptr;
+    ParametersPane *m_parameters = nullptr;
     QList<QAction *> m_items;
     bool m_isOpen = true;
 };

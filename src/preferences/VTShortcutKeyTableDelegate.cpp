@@ -1,13 +1,13 @@
 #include "preferences/VTShortcutKeyTableDelegate.h"
 
-#include "platform/ApplicationBundle.h"
-#include "platform/Console.h"
-#include "platform/FileSystem.h"
-#include "platform/FormatString.h"
-#include "platform/KeyboardLayout.h"
-#include "platform/NativePath.h"
-#include "platform/PropertyList.h"
-#include "platform/SessionNotification.h"
+#include "platform/files/ApplicationBundle.h"
+#include "platform/base/Console.h"
+#include "platform/files/FileSystem.h"
+#include "platform/base/FormatString.h"
+#include "platform/desktop/KeyboardLayout.h"
+#include "platform/base/NativePath.h"
+#include "platform/files/WholeFile.h"
+#include "platform/desktop/SessionNotification.h"
 #include "preferences/VTShortcutKeyTableview.h"
 #include "support/VTLocalPaths.h"
 #include "support/VTLog.h"
@@ -16,7 +16,6 @@
 #include "ui/ValueCellDelegate.h"
 
 #include <QCoreApplication>
-#include <QFile>
 #include <QLabel>
 
 using platform::printToConsole;
@@ -44,9 +43,9 @@ QString ownIdentifier()
 
 QVariantList commandList()
 {
-    QFile file(platform::joined(platform::ApplicationBundle::main().path(), QStringLiteral("Contents/VTKeys.plist")));
-    const auto list = file.open(QIODevice::ReadOnly) ? platform::readPropertyList(file.readAll()) : std::nullopt;
-    return list ? list->toMap().value(QStringLiteral("VTKeys")).toList() : QVariantList();
+    const QString path =
+        platform::joined(platform::ApplicationBundle::main().path(), QStringLiteral("Contents/VTKeys.plist"));
+    return platform::readPropertyListFile(path).valueOr({}).toMap().value(QStringLiteral("VTKeys")).toList();
 }
 
 QString nameOrUnknown(const shortcuts::Shortcut &shortcut)
@@ -86,7 +85,7 @@ void VTShortcutKeyTableDelegate::populateKeyData()
     beginResetModel();
     m_rows.clear();
     const auto assigned =
-        shortcuts::assignmentsOf(shortcuts::read().dictionary.value_or(QVariantMap()), ownIdentifier());
+        shortcuts::assignmentsOf(shortcuts::read().valueOr({}), ownIdentifier());
     for (const QVariant &value : commandList()) {
         const QVariantMap command = value.toMap();
         Row row{command.value("id").toString(), command.value("description").toString(), {}};
@@ -139,19 +138,21 @@ shortcuts::Shortcut VTShortcutKeyTableDelegate::shortcutOf(quint16 keyCode, Qt::
     return {keyCode, mask != 0 ? mask : static_cast<quint16>(shortcuts::shift | shortcuts::command)};
 }
 
-std::optional<QVariantMap> VTShortcutKeyTableDelegate::readForChange() const
+platform::Result<QVariantMap> VTShortcutKeyTableDelegate::readForChange()
 {
-    const shortcuts::Contents contents = shortcuts::read();
-    if (contents.exists && !contents.dictionary) // other programs' entries may still be saved out of it
-        VTLog::appendLog("The shortcut keys are not changed: %@ cannot be read. Please put it aside and try again.",
-                         shortcuts::filePath());
-    return contents.exists ? contents.dictionary : std::optional(QVariantMap());
+    platform::Result<QVariantMap> file = shortcuts::read();
+    if (!file && file.outcome().is(platform::Cause::Missing))
+        return QVariantMap();
+    if (!file) // other programs' entries may still be saved out of it
+        VTLog::appendLog("The shortcut keys are not changed: %@. Please put it aside and try again.",
+                         file.outcome().description());
+    return file;
 }
 
 bool VTShortcutKeyTableDelegate::store(const QVariantMap &file)
 {
-    if (!shortcuts::write(file)) {
-        VTLog::appendLog("Unable to write the shortcut keys: %@", shortcuts::filePath());
+    if (const platform::Outcome written = shortcuts::write(file); !written.ok()) {
+        VTLog::appendLog("Unable to write the shortcut keys: %@", written.description());
         return false;
     }
     platform::postSessionNotification(QStringLiteral("VTShortcutKeysReload"));
@@ -191,10 +192,10 @@ void VTShortcutKeyTableDelegate::clearShortcutKey()
 {
     const auto selected = m_tableView ? m_tableView->firstSelectedRow() : std::nullopt;
     if (selected && *selected < m_rows.size()) {
-        const bool exists = shortcuts::read().exists;
-        const auto file = exists ? readForChange() : std::nullopt;
+        const bool exists = platform::kindOf(shortcuts::filePath()) != platform::FileKind::Missing;
+        const auto file = readForChange();
         const bool cleared =
-            file && store(shortcuts::without(*file, {ownIdentifier(), m_rows[*selected].identifier, {}}));
+            exists && file && store(shortcuts::without(*file, {ownIdentifier(), m_rows[*selected].identifier, {}}));
         if (cleared || !exists)
             m_rows[*selected].keyName = QString();
     }

@@ -59,7 +59,7 @@ private:
         QString keyName; ///< null without a shortcut
     };
     VTShortcutKeyTableDelegate() = default;
-    [[nodiscard]] std::optional<QVariantMap> readForChange() const;
+    [[nodiscard]] static platform::Result<QVariantMap> readForChange();
     [[nodiscard]] static bool store(const QVariantMap &file);
     static void setUpManager();
 

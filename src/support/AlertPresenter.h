@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <functional>
+#include <optional>
 
 class QWidget;
 class VTAlert;
@@ -18,7 +19,8 @@ public:
         QString defaultButton; ///< null: the desktop's own title
         QString alternateButton;
         QString otherButton;
-        QWidget *parentWindow = nullptr;
+        std::optional<int> safeAnswer;   ///< where an answer loses something: the one that loses nothing
+        QWidget *parentWindow = nullptr; ///< null: the main window
     };
 
     virtual ~AlertPresenter() = default;

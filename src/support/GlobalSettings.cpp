@@ -1,14 +1,12 @@
 #include "support/GlobalSettings.h"
 
-#include "platform/PropertyList.h"
+#include "platform/files/WholeFile.h"
 #include "support/VTLocalPaths.h"
-
-#include <QFile>
 
 QVariant globalsettings::value(const QString &key)
 {
-    QFile file(VTLocalPaths::prefsDirectory(VTLocalPaths::Domain::User) + QStringLiteral("/com.vantrel.global.plist"));
-    const auto list = file.open(QIODevice::ReadOnly) ? platform::readPropertyList(file.readAll()) : std::nullopt;
+    const auto list = platform::readPropertyListFile(VTLocalPaths::prefsDirectory(VTLocalPaths::Domain::User) +
+                                                     QStringLiteral("/com.vantrel.global.plist"));
     return list ? list->toMap().value(key) : QVariant();
 }
 

@@ -1,114 +1,297 @@
 #include "support/Settings.h"
 
-#include "platform/ApplicationBundle.h"
-#include "platform/LocalTime.h"
-#include "platform/PropertyList.h"
+#include "platform/base/LocalTime.h"
+#include "platform/base/NativePath.h"
+#include "platform/files/ApplicationBundle.h"
+#include "platform/files/FileSystem.h"
+#include "platform/files/WholeFile.h"
 #include "support/VTLocalPaths.h"
 #include "support/VTLog.h"
 
 #include <QCoreApplication>
-#include <QFile>
-#include <ctime>
+
+using platform::Cause;
+using platform::Outcome;
+using platform::Result;
 
 namespace settings {
 namespace {
 
-QString preferencesFile(VTLocalPaths::Domain domain)
+using Domain = VTLocalPaths::Domain;
+
+struct Text
+{
+    Q_DECLARE_TR_FUNCTIONS(Settings)
+};
+
+constexpr qsizetype longestSeparator = 10;
+
+QVariant shippedParameters()
+{
+    const auto list = platform::readPropertyListFile(
+        platform::ApplicationBundle::main().resource(QStringLiteral("Filename_Defaults.plist")));
+    if (!list)
+        VTLog::appendLog("Unable to read the shipped filename parameters: %@", list.outcome().description());
+    return list.valueOr(QVariantList());
+}
+
+QVariant on()
+{
+    return 1LL;
+}
+
+QVariant yes()
+{
+    return true;
+}
+
+QVariant usersLibrary()
+{
+    return VTLocalPaths::appSupportDirectory(Domain::User) + QStringLiteral("/Vantrel/Tessaro/Templates");
+}
+
+QVariant usersDocuments()
+{
+    return VTLocalPaths::documentDirectory(Domain::User);
+}
+
+QVariant underscore()
+{
+    return QStringLiteral("_");
+}
+
+QVariant isoDate()
+{
+    return QStringLiteral("%Y-%m-%d");
+}
+
+QVariant editingTemplate()
+{
+    return QStringLiteral("Editing Template");
+}
+
+QString preferencesFile(Domain domain)
 {
     return VTLocalPaths::prefsDirectory(domain) + QStringLiteral("/com.vantrel.Tessaro.plist");
 }
 
-QVariant shippedParameters()
+Outcome refused(const QString &sentence)
 {
-    QFile file(platform::ApplicationBundle::main().resource(QStringLiteral("Filename_Defaults.plist")));
-    const auto list = file.open(QIODevice::ReadOnly) ? platform::readPropertyList(file.readAll()) : std::nullopt;
-    if (!list)
-        VTLog::appendLog("Unable to read the shipped filename parameters");
-    return list.value_or(QVariant(QVariantList()));
+    return Outcome::failure(Cause::Invalid, {}, sentence);
+}
+
+Result<QVariant> switchFrom(Type type, const QString &typed)
+{
+    static const QStringList onWords{"1", "on", "yes", "true"};
+    static const QStringList offWords{"0", "off", "no", "false"};
+    const QString word = typed.trimmed().toLower();
+    const bool isOn = onWords.contains(word);
+    if (!isOn && !offWords.contains(word))
+        return refused(Text::tr("The value is on or off."));
+    return type == Type::Boolean ? QVariant(isOn) : QVariant(isOn ? 1LL : 0LL);
+}
+
+Result<QVariant> pathFrom(const QString &typed)
+{
+    QString path = typed.trimmed();
+    if (path == u"~" || path.startsWith(QLatin1String("~/")))
+        path = VTLocalPaths::userDirectory() + path.mid(1);
+    while (path.size() > 1 && path.endsWith(u'/'))
+        path.chop(1);
+    if (!path.startsWith(u'/'))
+        return refused(Text::tr("Please type the whole path, from the first slash on, or choose a folder."));
+    if (platform::targetExists(path) && !platform::leadsToFolder(path))
+        return refused(Text::tr("A file stands there. Please choose a folder."));
+    return QVariant(path);
+}
+
+Result<QVariant> separatorFrom(const QString &typed)
+{
+    if (typed.contains(u'/') || typed.contains(u':'))
+        return refused(Text::tr("Slashes and colons cannot be in a folder's name."));
+    if (typed.size() > longestSeparator)
+        return refused(Text::tr("At most ten characters."));
+    return QVariant(typed);
+}
+
+Result<QVariant> dateFormatFrom(const QString &typed)
+{
+    switch (platform::problemOfDateFormat(typed)) {
+    case platform::DateFormatProblem::None:
+        return QVariant(typed);
+    case platform::DateFormatProblem::NoDate:
+        return refused(Text::tr("This gives no date. %Y is the year, %m the month, %d the day."));
+    case platform::DateFormatProblem::CutOff:
+        return refused(Text::tr("The percent sign at the end has no letter behind it."));
+    case platform::DateFormatProblem::UnknownLetter:
+        return refused(Text::tr("One of the percent signs has a letter behind it that stands for nothing. %Y is the year, "
+                                "%m the month, %d the day."));
+    }
+    return refused({});
 }
 
 } // namespace
 
+// What they mean to people is translated in the context "Settings".
+const TextSetting templateLocation{
+    {"templateLocation", Type::Path, QT_TRANSLATE_NOOP("Settings", "folder of the template library"), usersLibrary}};
+const TextSetting defaultTemplate{
+    {"defaultTemplate", Type::TemplateName, QT_TRANSLATE_NOOP("Settings", "template of new projects")}};
+const SwitchSetting useFixedProjectLocation{{"useFixedProjectLocation", Type::Switch,
+                                             QT_TRANSLATE_NOOP("Settings", "create every project in one folder"),
+                                             nullptr, Scope::User, On::WhenOne}};
+const TextSetting fixedProjectLocationPath{
+    {"fixedProjectLocationPath", Type::Path, QT_TRANSLATE_NOOP("Settings", "that folder"), usersDocuments}};
+const TextSetting separatorChar{{"separatorChar", Type::Separator,
+                                 QT_TRANSLATE_NOOP("Settings", "between the values of one folder level"), underscore}};
+const TextSetting dateFormat{
+    {"dateFormat", Type::DateFormat, QT_TRANSLATE_NOOP("Settings", "how dates are written"), isoDate}};
+const SwitchSetting strictNaming{
+    {"strictNaming", Type::Boolean, QT_TRANSLATE_NOOP("Settings", "only letters, digits, - and _")}};
+const SwitchSetting autoOpenFolder{
+    {"autoOpenFolder", Type::Switch, QT_TRANSLATE_NOOP("Settings", "open a new project's folder"), on}};
+const SwitchSetting autoQuit{{"autoQuit", Type::Switch, QT_TRANSLATE_NOOP("Settings", "quit after a project")}};
+const SwitchSetting autoExpandFolders{{"autoExpandFolders", Type::Switch,
+                                       QT_TRANSLATE_NOOP("Settings", "show every folder of a template opened"), on,
+                                       Scope::User, On::WhenOne}};
+const SwitchSetting requireAdminPassword{{"requireAdminPassword", Type::Switch,
+                                          QT_TRANSLATE_NOOP("Settings", "ask for a password at the start"), nullptr,
+                                          Scope::Machine, On::WhenOne}};
+const SwitchSetting requireAdminPasswordForEditing{{"requireAdminPasswordForEditing", Type::Switch,
+                                                    QT_TRANSLATE_NOOP("Settings", "ask before templates are changed"),
+                                                    nullptr, Scope::Machine, On::WhenOne}};
+const SwitchSetting requireAdminPasswordForPrefs{{"requireAdminPasswordForPrefs", Type::Switch,
+                                                  QT_TRANSLATE_NOOP("Settings", "ask before settings are changed"),
+                                                  nullptr, Scope::Machine, On::WhenOne}};
+const Setting filenameTemplate{"filenameTemplate", Type::Value, nullptr, shippedParameters};
+const TextSetting selectedProjectTemplate{{"selectedProjectTemplate", Type::Text, nullptr, editingTemplate}};
+const SwitchSetting firstRun{{"firstRun", Type::Boolean, nullptr, yes}};
+const NumberSetting templateListWidth{{"templateListWidth", Type::Number}};
+const Setting webAddresses{"webAddresses", Type::Value};
+const Setting launch{"launch", Type::Value};
+const Setting exit{"exit", Type::Value};
+
+const QList<const Setting *> &all()
+{
+    static const QList<const Setting *> rows{&templateLocation,
+                                             &defaultTemplate,
+                                             &useFixedProjectLocation,
+                                             &fixedProjectLocationPath,
+                                             &separatorChar,
+                                             &dateFormat,
+                                             &strictNaming,
+                                             &autoOpenFolder,
+                                             &autoQuit,
+                                             &autoExpandFolders,
+                                             &requireAdminPassword,
+                                             &requireAdminPasswordForEditing,
+                                             &requireAdminPasswordForPrefs,
+                                             &filenameTemplate,
+                                             &selectedProjectTemplate,
+                                             &firstRun,
+                                             &templateListWidth,
+                                             &webAddresses,
+                                             &launch,
+                                             &exit};
+    return rows;
+}
+
+const Setting *forPeople(const QString &key)
+{
+    for (const Setting *setting : all()) {
+        if (setting->meaning && key == QLatin1String(setting->key))
+            return setting;
+    }
+    return nullptr;
+}
+
+QString meaningOf(const Setting &setting)
+{
+    return Text::tr(setting.meaning);
+}
+
+QVariant Setting::value() const
+{
+    return settings::standard().value(*this);
+}
+
+Outcome Setting::store(const QVariant &value) const
+{
+    return scope == Scope::Machine ? settings::standard().setMachineWideValue(*this, value) : settings::standard().setValue(*this, value);
+}
+
+Outcome Setting::reset() const
+{
+    return settings::standard().removeValue(*this);
+}
+
+QString TextSetting::text() const
+{
+    return settings::standard().string(*this);
+}
+
+bool SwitchSetting::isOn() const
+{
+    if (on == On::WhenOne)
+        return settings::standard().equalsOne(*this);
+    return type == Type::Boolean ? settings::standard().boolean(*this) : settings::standard().integer(*this) != 0;
+}
+
+QVariant SwitchSetting::valueFor(bool wanted) const
+{
+    return type == Type::Boolean ? QVariant(wanted) : QVariant(wanted ? 1LL : 0LL);
+}
+
+Outcome SwitchSetting::turn(bool wanted) const
+{
+    return store(valueFor(wanted));
+}
+
+qlonglong NumberSetting::number() const
+{
+    return settings::standard().integer(*this);
+}
+
+Result<QVariant> checkedAs(Type type, const QString &typed)
+{
+    switch (type) {
+    case Type::Path:
+        return pathFrom(typed);
+    case Type::Switch:
+    case Type::Boolean:
+        return switchFrom(type, typed);
+    case Type::Separator:
+        return separatorFrom(typed);
+    case Type::DateFormat:
+        return dateFormatFrom(typed);
+    default:
+        return QVariant(typed);
+    }
+}
+
+Result<QVariant> checked(const Setting &setting, const QString &typed, const Facts &facts)
+{
+    if (setting.type == Type::TemplateName && !facts.templates.contains(typed))
+        return refused(Text::tr("There is no template “%1”. There are: %2.")
+                           .arg(typed, facts.templates.join(QStringLiteral(", "))));
+    return checkedAs(setting.type, typed);
+}
+
 platform::UserDefaults &standard()
 {
-    static auto *defaults = new platform::UserDefaults(preferencesFile(VTLocalPaths::Domain::User),
-                                                       preferencesFile(VTLocalPaths::Domain::Local),
+    static auto *defaults = new platform::UserDefaults(preferencesFile(Domain::User), preferencesFile(Domain::Local),
                                                        [](const QString &problem) { VTLog::appendLog("%@", problem); });
     return *defaults;
 }
 
-const QList<Known> &known()
-{
-    using Type = Known::Type;
-#define MEANING(text) QT_TRANSLATE_NOOP("Settings", text)
-    static const QList<Known> table{
-        {templateLocation, Type::Path, MEANING("folder of the template library"), false},
-        {defaultTemplate, Type::Text, MEANING("template of new projects"), false},
-        {useFixedProjectLocation, Type::Switch, MEANING("create every project in one folder"), false},
-        {fixedProjectLocationPath, Type::Path, MEANING("that folder"), false},
-        {separatorChar, Type::Separator, MEANING("between the values of one folder level"), false},
-        {dateFormat, Type::DateFormat, MEANING("how dates are written"), false},
-        {strictNaming, Type::Boolean, MEANING("only letters, digits, - and _"), false},
-        {autoOpenFolder, Type::Switch, MEANING("open a new project's folder"), false},
-        {autoQuit, Type::Switch, MEANING("quit after a project"), false},
-        {autoExpandFolders, Type::Switch, MEANING("show every folder of a template opened"), false},
-        {requireAdminPassword, Type::Switch, MEANING("ask for a password at the start"), true},
-        {requireAdminPasswordForEditing, Type::Switch, MEANING("ask before templates are changed"), true},
-        {requireAdminPasswordForPrefs, Type::Switch, MEANING("ask before settings are changed"), true},
-    };
-#undef MEANING
-    return table;
-}
-
-std::optional<QVariant> valueFromText(const Known &setting, const QString &text, QString &problem)
-{
-    using Type = Known::Type;
-    const auto say = [&](const char *sentence) {
-        problem = QCoreApplication::translate("Settings", sentence);
-        return std::nullopt;
-    };
-    static const QStringList on{"1", "on", "yes", "true"};
-    static const QStringList off{"0", "off", "no", "false"};
-    const bool isOn = on.contains(text.toLower());
-    switch (setting.type) {
-    case Type::Text:
-        return text;
-    case Type::Path:
-        return text.startsWith(u'/') ? std::optional<QVariant>(text)
-                                     : say("A folder's whole path is needed, from the first slash on.");
-    case Type::Switch:
-    case Type::Boolean:
-        if (!isOn && !off.contains(text.toLower()))
-            return say("The value is on or off.");
-        return setting.type == Type::Boolean ? QVariant(isOn) : QVariant(isOn ? 1LL : 0LL);
-    case Type::Separator:
-        return text.contains(u'/') || text.contains(u':') ? say("Slashes and colons cannot be in a folder's name.")
-               : text.size() > 10                         ? say("At most ten characters.")
-                                                          : std::optional<QVariant>(text);
-    case Type::DateFormat:
-        return platform::formatDate(text, std::time(nullptr)).trimmed().isEmpty() || !text.contains(u'%') ||
-                       (text.endsWith(u'%') && !text.endsWith(QLatin1String("%%")))
-                   ? say("This gives no date. %Y is the year, %m the month, %d the day.")
-                   : std::optional<QVariant>(text);
-    }
-    return std::nullopt;
-}
-
 void registerDefaults()
 {
-    using Domain = VTLocalPaths::Domain;
-    standard().registerDefaults({
-        {filenameTemplate, shippedParameters()},
-        {templateLocation,
-         VTLocalPaths::appSupportDirectory(Domain::User) + QStringLiteral("/Vantrel/Tessaro/Templates")},
-        {selectedProjectTemplate, QStringLiteral("Editing Template")},
-        {autoOpenFolder, 1LL},
-        {fixedProjectLocationPath, VTLocalPaths::documentDirectory(Domain::User)},
-        {separatorChar, QStringLiteral("_")},
-        {autoExpandFolders, 1LL},
-        {dateFormat, QStringLiteral("%Y-%m-%d")},
-        {firstRun, true},
-    });
+    QVariantMap defaults;
+    for (const Setting *setting : all()) {
+        if (setting->standard)
+            defaults.insert(*setting, setting->standard());
+    }
+    standard().registerDefaults(defaults);
 }
 
 } // namespace settings

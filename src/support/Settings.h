@@ -1,53 +1,114 @@
 #pragma once
 
-#include "platform/UserDefaults.h"
+#include "platform/base/Outcome.h"
+#include "platform/files/UserDefaults.h"
 
 #include <QList>
 #include <QString>
 #include <optional>
 
 /**
- * The settings of the program: their keys, each with the type it is read as, and the store that holds them. A default
- * is registered only where the table in Settings.cpp gives one; what has none reads as absent, false or 0.
+ * The settings of the program: one row each, with the key, what it is, when it counts as on, where it is kept, its default
+ * and its meaning. Who needs a value asks the row, which knows how it is read; who takes one from a person, in the window or
+ * on the command line, asks checked(), so that both take and refuse the same. Any thread.
  */
 namespace settings {
 
-inline const QString filenameTemplate = QStringLiteral("filenameTemplate");                 // list of records
-inline const QString separatorChar = QStringLiteral("separatorChar");                       // text
-inline const QString dateFormat = QStringLiteral("dateFormat");                             // strftime format
-inline const QString strictNaming = QStringLiteral("strictNaming");                         // boolean
-inline const QString templateLocation = QStringLiteral("templateLocation");                 // path
-inline const QString selectedProjectTemplate = QStringLiteral("selectedProjectTemplate");   // template name
-inline const QString defaultTemplate = QStringLiteral("defaultTemplate");                   // template name
-inline const QString autoOpenFolder = QStringLiteral("autoOpenFolder");                     // on when not 0
-inline const QString autoQuit = QStringLiteral("autoQuit");                                 // on when not 0
-inline const QString useFixedProjectLocation = QStringLiteral("useFixedProjectLocation");   // on when equal to 1
-inline const QString fixedProjectLocationPath = QStringLiteral("fixedProjectLocationPath"); // path
-inline const QString autoExpandFolders = QStringLiteral("autoExpandFolders");               // on when not 0
-inline const QString firstRun = QStringLiteral("firstRun");                                 // boolean
-inline const QString requireAdminPassword = QStringLiteral("requireAdminPassword");         // on when equal to 1
-inline const QString requireAdminPasswordForPrefs = QStringLiteral("requireAdminPasswordForPrefs");     // the same
-inline const QString requireAdminPasswordForEditing = QStringLiteral("requireAdminPasswordForEditing"); // the same
-inline const QString templateListWidth = QStringLiteral("templateListWidth"); // pixels: the list beside the tree
-inline const QString webAddresses = QStringLiteral("webAddresses"); // dictionary: page name to address, see HelpPages
-
-/** A setting that a person may read and change from outside the window. */
-struct Known
-{
-    enum class Type { Text, Path, Switch, Boolean, Separator, DateFormat };
-    QString key;
-    Type type;
-    const char *meaning; ///< in a few words; to be translated in the context "Settings"
-    bool isProtection;   ///< machine-wide; switching it off needs an administrator
+enum class Type {
+    Text,
+    Path,         ///< a folder's whole path
+    TemplateName, ///< a template of the library
+    Switch,       ///< a number; on as the row says
+    Boolean,
+    Separator,  ///< between values: nothing that a folder's name cannot hold, at most ten characters
+    DateFormat, ///< strftime(3)
+    Number,
+    Value, ///< anything else
 };
-[[nodiscard]] const QList<Known> &known();
-/** The value as it is stored, from what was typed. Nothing, with one sentence, when it is not one of the type. */
-[[nodiscard]] std::optional<QVariant> valueFromText(const Known &setting, const QString &text, QString &problem);
+/** When a switch counts as on. */
+enum class On { WhenNotZero, WhenOne };
+/** Machine-wide settings protect something: switching one off needs an administrator. */
+enum class Scope { User, Machine };
+
+struct Setting
+{
+    const char *key;
+    Type type;
+    const char *meaning = nullptr;          ///< in a few words, in the context "Settings"; null: nothing for people to set
+    QVariant (*standard)() = nullptr;       ///< the registered default; null: reads as absent, off or 0
+    Scope scope = Scope::User;
+    On on = On::WhenNotZero;
+
+    operator QString() const { return QLatin1String(key); } // NOLINT: a row stands for its key
+
+    [[nodiscard]] QVariant value() const;
+    /** As it is; checked() comes before, where a person typed it. Machine-wide where the row says so. */
+    platform::Outcome store(const QVariant &value) const;
+    /** The default applies again. */
+    platform::Outcome reset() const;
+};
+
+struct TextSetting : Setting
+{
+    [[nodiscard]] QString text() const;
+};
+struct SwitchSetting : Setting
+{
+    [[nodiscard]] bool isOn() const;
+    platform::Outcome turn(bool wanted) const;
+    /** As it is stored. */
+    [[nodiscard]] QVariant valueFor(bool wanted) const;
+};
+struct NumberSetting : Setting
+{
+    [[nodiscard]] qlonglong number() const;
+};
+
+// Their rows are in Settings.cpp.
+extern const Setting filenameTemplate; ///< the parameters: a list of records
+extern const TextSetting separatorChar;
+extern const TextSetting dateFormat;
+extern const SwitchSetting strictNaming;
+extern const TextSetting templateLocation;
+extern const TextSetting selectedProjectTemplate;
+extern const TextSetting defaultTemplate;
+extern const SwitchSetting autoOpenFolder;
+extern const SwitchSetting autoQuit;
+extern const SwitchSetting useFixedProjectLocation;
+extern const TextSetting fixedProjectLocationPath;
+extern const SwitchSetting autoExpandFolders;
+extern const SwitchSetting firstRun;
+extern const SwitchSetting requireAdminPassword;
+extern const SwitchSetting requireAdminPasswordForEditing;
+extern const SwitchSetting requireAdminPasswordForPrefs;
+extern const NumberSetting templateListWidth; ///< pixels: the list beside the tree
+extern const Setting webAddresses;            ///< dictionary: page name to address, see HelpPages
+extern const Setting launch;                  ///< date of the last launch
+extern const Setting exit;                    ///< date of the last clean exit
+
+/** All rows, in the order in which they are listed. */
+[[nodiscard]] const QList<const Setting *> &all();
+/** Null when there is none of the key, or none for people. */
+[[nodiscard]] const Setting *forPeople(const QString &key);
+[[nodiscard]] QString meaningOf(const Setting &setting);
+
+/** What a rule may need to know beside the value. */
+struct Facts
+{
+    QStringList templates; ///< names in the library
+};
+/**
+ * The value as it is stored, from what a person typed; Cause::Invalid, with one sentence that says what to do, when it is
+ * none of the setting's. A path is looked at on the disk.
+ */
+[[nodiscard]] platform::Result<QVariant> checked(const Setting &setting, const QString &typed, const Facts &facts = {});
+/** The same for a value of the kind on its own. */
+[[nodiscard]] platform::Result<QVariant> checkedAs(Type type, const QString &typed);
 
 /** The one store of this process, on com.vantrel.Tessaro.plist in the user's and the machine's preferences folder. */
 [[nodiscard]] platform::UserDefaults &standard();
 
-/** Registers the defaults of the table; the parameter list comes from the bundle's resource Filename_Defaults. */
+/** Registers the rows' defaults; the parameter list comes from the bundle's resource Filename_Defaults. */
 void registerDefaults();
 
 } // namespace settings

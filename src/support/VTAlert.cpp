@@ -1,8 +1,8 @@
 #include "support/VTAlert.h"
 
-#include "platform/Console.h"
-#include "platform/FormatString.h"
-#include "platform/MainThread.h"
+#include "platform/base/Console.h"
+#include "platform/base/FormatString.h"
+#include "platform/base/MainThread.h"
 #include "support/AlertPresenter.h"
 
 #include <QCoreApplication>
@@ -45,6 +45,11 @@ void VTAlert::setPresenter(AlertPresenter *presenter)
     installedPresenter = presenter;
 }
 
+int VTAlert::show(const Texts &texts, QWidget *parentWindow)
+{
+    return alertSheet(texts, parentWindow, nullptr, {}, Block::Yes, nullptr);
+}
+
 void VTAlert::alertSheetWithMessageText(const QString &messageText, const QString &informativeText,
                                         QWidget *parentWindow)
 {
@@ -64,8 +69,7 @@ int VTAlert::alertSheetWithMessageText(const QString &messageText, const QString
                                        const QString &informativeText, QWidget *parentWindow, QObject *,
                                        const QByteArray &, Block)
 {
-    return alertSheet({messageText, informativeText, defaultButton, alternateButton, otherButton}, parentWindow, nullptr,
-                      {}, Block::Yes, nullptr);
+    return show({messageText, informativeText, defaultButton, alternateButton, otherButton}, parentWindow);
 }
 
 int VTAlert::timedAlertSheetWithMessageText(const QString &messageText, const QString &defaultButton,
@@ -105,12 +109,12 @@ int VTAlert::alertSheet(const Texts &texts, QWidget *parentWindow, QObject *dele
     alert->m_freesItself = true;
     if (QCoreApplication::instance())
         alert->moveToThread(QCoreApplication::instance()->thread());
-    if (VTAlert *shown = alert.get(); shown->show(texts, parentWindow))
+    if (VTAlert *shown = alert.get(); shown->present(texts, parentWindow))
         static_cast<void>(alert.release());
     return otherReturn;
 }
 
-bool VTAlert::show(const Texts &texts, QWidget *parentWindow)
+bool VTAlert::present(const Texts &texts, QWidget *parentWindow)
 {
     m_parentWindow = parentWindow;
     if (!m_delegate)
@@ -128,6 +132,8 @@ bool VTAlert::show(const Texts &texts, QWidget *parentWindow)
     insertIfGiven(dictionary, "alternateButtonTitle", texts.alternateButton);
     insertIfGiven(dictionary, "otherButtonTitle", texts.otherButton);
     insertIfGiven(dictionary, "informativeText", texts.informativeText);
+    if (texts.safeAnswer)
+        dictionary.insert(QStringLiteral("safeAnswer"), *texts.safeAnswer);
     insertIfGiven(dictionary, "didEndSelector", QString::fromLatin1(m_didEndSelector));
     MainThread::perform([this, dictionary] { alertSheetWithDictionary(dictionary); }, Waiting::Yes);
     return true;
@@ -135,7 +141,7 @@ bool VTAlert::show(const Texts &texts, QWidget *parentWindow)
 
 int VTAlert::showAndWait(const Texts &texts, QWidget *parentWindow)
 {
-    if (!show(texts, parentWindow))
+    if (!present(texts, parentWindow))
         return otherReturn;
     waitUntilEnded();
     MainThread::perform(
@@ -152,12 +158,14 @@ void VTAlert::alertSheetWithDictionary(const QVariantMap &dictionary)
     if (!installedPresenter)
         return end(defaultReturn);
     const auto text = [&](const char *key) { return dictionary.value(QLatin1String(key)).toString(); };
+    const QVariant safe = dictionary.value(QStringLiteral("safeAnswer"));
     const AlertPresenter::Sheet sheet{this,
                                       text("messageText"),
                                       text("informativeText"),
                                       text("defaultButtonTitle"),
                                       text("alternateButtonTitle"),
                                       text("otherButtonTitle"),
+                                      safe.isValid() ? std::optional(safe.toInt()) : std::nullopt,
                                       m_parentWindow};
     const QPointer<VTAlert> self(this);
     installedPresenter->present(sheet, [self](int code) {

@@ -5,6 +5,7 @@
 #include <QVariantMap>
 #include <atomic>
 #include <chrono>
+#include <optional>
 
 class QWidget;
 class AlertPresenter;
@@ -34,6 +35,8 @@ public:
         QString defaultButton = {};
         QString alternateButton = {};
         QString otherButton = {};
+        /// Where an answer loses something: the one that loses nothing. Its button has the focus, and Escape presses it.
+        std::optional<int> safeAnswer = {};
     };
 
     VTAlert() = default;
@@ -41,6 +44,8 @@ public:
     /** Installs what shows alerts; not owned. Without one, every alert answers at once with its default button. */
     static void setPresenter(AlertPresenter *presenter);
 
+    /** A message, or a question with its answer; blocks. Without a window it hangs on the main one. */
+    static int show(const Texts &texts, QWidget *parentWindow = nullptr);
     static void alertSheetWithMessageText(const QString &messageText, const QString &informativeText,
                                           QWidget *parentWindow);
     static int alertSheetWithMessageText(const QString &messageText, const QString &defaultButton,
@@ -65,7 +70,7 @@ public:
                           Block block, VTAlert *alertObject);
 
     /** Main thread only: hands the texts to the presenter. Keys: messageText, defaultButtonTitle, alternateButtonTitle,
-        otherButtonTitle, informativeText, didEndSelector; each optional. */
+        otherButtonTitle, informativeText, didEndSelector, safeAnswer; each optional. */
     void alertSheetWithDictionary(const QVariantMap &dictionary);
     Q_INVOKABLE void alertDidEnd(VTAlert *alert, qlonglong returnCode, void *contextInfo);
     /** Blocks for the interval on the calling thread, then ends the alert with the default button. */
@@ -77,7 +82,7 @@ public:
 
 private:
     /** False when the delegate lacks the method; nothing is shown then. */
-    bool show(const Texts &texts, QWidget *parentWindow);
+    bool present(const Texts &texts, QWidget *parentWindow);
     int showAndWait(const Texts &texts, QWidget *parentWindow);
     void end(qlonglong code);
     void waitUntilEnded();

@@ -1,15 +1,16 @@
 #include "support/VTAuthorization.h"
 
-#include "platform/AuthenticationAgent.h"
-#include "platform/Console.h"
-#include "platform/FileSystem.h"
-#include "platform/FormatString.h"
-#include "platform/LocalTime.h"
-#include "platform/MainThread.h"
-#include "platform/NativePath.h"
-#include "platform/RightsHelper.h"
-#include "platform/Secret.h"
-#include "platform/Users.h"
+#include "platform/process/AuthenticationAgent.h"
+#include "platform/base/Console.h"
+#include "platform/files/FileSystem.h"
+#include "platform/base/FormatString.h"
+#include "platform/base/LocalTime.h"
+#include "platform/base/MainThread.h"
+#include "platform/base/NativePath.h"
+#include "platform/process/RightsHelper.h"
+#include "platform/process/Secret.h"
+#include "platform/base/Users.h"
+#include "support/FileOperations.h"
 #include "support/VTLocalPaths.h"
 #include "support/VTLog.h"
 #include "support/VTTask.h"
@@ -143,6 +144,12 @@ bool VTAuthorization::obtainWith(const QString &user, const platform::Secret &pa
     return false;
 }
 
+bool VTAuthorization::authAfresh()
+{
+    authEnd();
+    return authStart();
+}
+
 void VTAuthorization::authEnd()
 {
     lastTool.reset();
@@ -178,7 +185,7 @@ int VTAuthorization::authExecTask(const QString &tool, const QStringList &parame
         return noRights; // given back by another thread meanwhile
     const auto ticket = platform::resultInBackground([&] { return rights->run(tool, resolved); });
     if (ticket.error != 0) {
-        const platform::FileOutcome refusal(ticket.error, tool + u' ' + parameters.join(u' '));
+        const auto refusal = platform::Outcome::fromNumber(ticket.error, tool + u' ' + parameters.join(u' '));
         VTLog::appendLog("Administrator tool refused: %@", refusal.description());
         return ticket.error;
     }
@@ -277,7 +284,7 @@ bool VTAuthorization::authMoveFolderContents(const QString &folder, const QStrin
     if (isRefused(folder, "Unable to move contents of path %@ because it is a system directory."))
         return false;
     bool all = true;
-    for (const auto &entry : platform::listFolder(folder).value_or(QList<platform::FolderEntry>()))
+    for (const auto &entry : fileoperations::entriesOf(folder))
         all = authMoveFile(platform::joined(folder, entry.name), platform::joined(toPath, entry.name)) && all;
     return all;
 }
@@ -289,7 +296,7 @@ bool VTAuthorization::authTrashFolderContents(const QString &folder, DeleteOnRoo
     const bool isDeleted =
         m_userDirectory.isNull() && deleteOnRootAccount == DeleteOnRootAccount::Yes && platform::isSuperUser();
     bool all = true;
-    for (const auto &entry : platform::listFolder(folder).value_or(QList<platform::FolderEntry>())) {
+    for (const auto &entry : fileoperations::entriesOf(folder)) {
         const QString path = platform::joined(folder, entry.name);
         const bool done = isDeleted ? authExecTask("/bin/rm", {"-R", "-f", path}) == 0 : authTrashFile(path);
         all = done && all;

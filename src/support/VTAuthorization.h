@@ -42,6 +42,8 @@ public:
     [[nodiscard]] bool authStart();
     /** The same with the given administrator's name and password and without asking. Blocks for a few seconds. */
     [[nodiscard]] bool authStartWithUser(const QString &user, const QString &password);
+    /** Asks again, also when the rights are held: for what must be agreed to each time. */
+    [[nodiscard]] bool authAfresh();
     /** Gives the rights back. Tools that still run are ended, and the log says which. */
     void authEnd();
     [[nodiscard]] bool isAuthorized() const;

@@ -1,6 +1,6 @@
 #include "support/VTException.h"
 
-#include "platform/Console.h"
+#include "platform/base/Console.h"
 #include "support/VTLog.h"
 
 bool VTException::didTimeout(const Caught &exception)

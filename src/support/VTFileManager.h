@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/CopyOperation.h"
+#include "platform/files/CopyOperation.h"
 
 #include <QString>
 #include <QStringList>

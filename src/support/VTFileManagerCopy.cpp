@@ -1,15 +1,14 @@
 // VTFileManager's copy that runs in the background and reports its progress.
 #include "support/VTFileManager.h"
 
-#include "platform/Console.h"
-#include "platform/FormatString.h"
-#include "platform/MainThread.h"
-#include "platform/NativePath.h"
+#include "platform/base/Console.h"
+#include "platform/base/FormatString.h"
+#include "platform/base/MainThread.h"
+#include "platform/base/NativePath.h"
 #include "support/VTLog.h"
 
 #include <QMetaMethod>
 #include <QPointer>
-#include <cerrno>
 
 using platform::CopyOperation;
 using FileOperation = CopyOperation::Ref;
@@ -80,10 +79,10 @@ bool VTFileManager::copyFileWithProgress(const QString &source, const QString &d
         {[=](const FileOperation &operation, const CopyOperation::Progress &progress) {
              tell(receiver, "fileOperationProgress", withProgress(record, progress), operation);
          },
-         [=](const FileOperation &operation, const platform::FileOutcome &outcome, const QString &attributesLost) {
+         [=](const FileOperation &operation, const platform::Outcome &outcome, const QString &attributesLost) {
              if (!attributesLost.isNull())
                  VTLog::appendLog("Unable to keep the labels of %@ at the destination", attributesLost);
-             if (!outcome.ok() && outcome.errorNumber() != ECANCELED)
+             if (!outcome.ok() && !outcome.is(platform::Cause::Cancelled))
                  VTLog::appendLog("Error copying file: %@", outcome.description());
              QVariantMap last = record;
              last.insert(QStringLiteral("stage"), Stage::complete);

@@ -1,25 +1,24 @@
 // VTFileManager's operations on the contents of folders.
 #include "support/VTFileManager.h"
 
-#include "platform/FileSystem.h"
-#include "platform/MainThread.h"
-#include "platform/NativePath.h"
-#include "platform/TreeCopy.h"
-#include "support/FileFallback.h"
+#include "platform/files/FileSystem.h"
+#include "platform/base/MainThread.h"
+#include "platform/base/NativePath.h"
+#include "platform/files/TreeCopy.h"
+#include "support/FileOperations.h"
 #include "support/VTLog.h"
 
 #include <functional>
 
+using platform::Cause;
 using platform::FileKind;
 using platform::FolderEntry;
 using platform::joined;
+using platform::Outcome;
+
+using fileoperations::entriesOf;
 
 namespace {
-
-QList<FolderEntry> entriesOf(const QString &folder)
-{
-    return platform::listFolder(folder).value_or(QList<FolderEntry>());
-}
 
 bool isFileBrowsersOwn(const QString &name)
 {
@@ -42,41 +41,62 @@ QStringList trashMatching(const QString &folder, const std::function<bool(const 
 }
 
 /// All items from the first on, in batches that end at a failure; an item that failed gets its tool, then it goes on.
-bool copyItems(const QString &source, const QString &toPath, std::vector<platform::NamePair> names,
-               std::chrono::seconds timeout)
+Outcome copyItems(const QString &source, const QString &toPath, std::vector<platform::NamePair> names,
+                  std::chrono::seconds timeout)
 {
     while (!names.empty()) {
         const platform::CopyReport report = platform::copyEntries(source, toPath, names);
         if (!report.attributesLost.isNull())
             VTLog::appendLog("Unable to keep the labels of %@ at the destination", report.attributesLost);
         if (report.outcome.ok())
-            return true;
+            return {};
         if (report.copied >= names.size()) { // one of the two folders itself cannot be opened
             VTLog::appendLog("Error copying file: %@. Authorizing...", report.outcome.description());
-            return false;
+            return report.outcome;
         }
         const platform::NamePair failed = names[report.copied];
         const QString destination = joined(toPath, platform::fromNative(failed.to));
-        if (!VTFileManager::copyFile(joined(source, platform::fromNative(failed.from)), destination, timeout))
-            return false;
+        const Outcome copied =
+            fileoperations::copyFile(joined(source, platform::fromNative(failed.from)), destination, timeout);
+        if (!copied.ok())
+            return copied;
         names.erase(names.begin(), names.begin() + static_cast<std::ptrdiff_t>(report.copied) + 1);
     }
-    return true;
+    return {};
 }
 
 } // namespace
 
-bool VTFileManager::copyContentsOfDirectory(const QString &source, const QString &toPath, Seconds timeout)
+QList<FolderEntry> fileoperations::entriesOf(const QString &folder)
+{
+    const auto entries = platform::listFolder(folder);
+    if (!entries && !entries.outcome().is(Cause::Missing))
+        VTLog::appendLog("Unable to read folder: %@", entries.outcome().description());
+    return entries.valueOr({});
+}
+
+Outcome fileoperations::copyContentsOfDirectory(const QString &source, const QString &toPath, seconds timeout)
 {
     return platform::resultInBackground([&] {
+        const auto entries = platform::listFolder(source);
+        if (!entries)
+            return entries.outcome();
         std::vector<platform::NamePair> names;
-        for (const FolderEntry &entry : entriesOf(source)) {
+        for (const FolderEntry &entry : *entries) {
             const QByteArray name = platform::toNative(entry.name);
             names.push_back({name, name});
         }
-        unlockFile(toPath);
+        VTFileManager::unlockFile(toPath);
         return copyItems(source, toPath, std::move(names), timeout);
     });
+}
+
+bool VTFileManager::copyContentsOfDirectory(const QString &source, const QString &toPath, Seconds timeout)
+{
+    const bool isReadable = platform::resultInBackground([&] { return platform::listFolder(source).ok(); });
+    if (!isReadable)
+        VTLog::appendLog("Unable to read folder %@", source);
+    return !isReadable || fileoperations::copyContentsOfDirectory(source, toPath, timeout).ok();
 }
 
 QString VTFileManager::createDirectoryStructure(const QString &path, const QString &destination)
@@ -108,18 +128,33 @@ QStringList VTFileManager::trashFilesOfType(const QString &type, const QString &
     });
 }
 
-bool VTFileManager::isFolderEmpty(const QString &folder)
+platform::Result<bool> fileoperations::isFolderEmpty(const QString &folder)
 {
-    for (const FolderEntry &entry : entriesOf(folder)) {
+    const auto entries = platform::listFolder(folder);
+    if (!entries)
+        return entries.outcome();
+    Outcome unreadable;
+    for (const FolderEntry &entry : *entries) {
         if (isFileBrowsersOwn(entry.name))
             continue;
-        if (entry.kind != FileKind::Folder || !isFolderEmpty(joined(folder, entry.name)))
+        if (entry.kind != FileKind::Folder)
             return false;
+        const auto isEmpty = isFolderEmpty(joined(folder, entry.name));
+        if (isEmpty && !*isEmpty)
+            return false;
+        if (!isEmpty)
+            unreadable = isEmpty.outcome();
     }
-    return true;
+    return unreadable.ok() ? platform::Result<bool>(true) : unreadable;
+}
+
+bool VTFileManager::isFolderEmpty(const QString &folder)
+{
+    return fileoperations::isFolderEmpty(folder).valueOr(true);
 }
 
 bool VTFileManager::removeFolderIfEmpty(const QString &folder)
 {
-    return isFolderEmpty(folder) && removeFile(folder);
+    // One that cannot be looked into is not removed, with rights or without: it may hold anything.
+    return fileoperations::isFolderEmpty(folder).valueOr(false) && removeFile(folder);
 }

@@ -1,16 +1,12 @@
-// VTFileManager's operations on labels and locks, on patterns of paths, and its archives.
+// VTFileManager's operations on labels and locks.
 #include "support/VTFileManager.h"
 
-#include "platform/FileSystem.h"
-#include "platform/FinderInfo.h"
-#include "platform/MainThread.h"
-#include "platform/NativePath.h"
-#include "platform/Trash.h"
-#include "platform/ZipArchive.h"
+#include "platform/files/FileSystem.h"
+#include "platform/files/FinderInfo.h"
+#include "platform/base/NativePath.h"
 #include "support/VTLog.h"
 
 #include <QCoreApplication>
-#include <QUuid>
 #include <array>
 
 using platform::FileKind;
@@ -35,64 +31,16 @@ constexpr std::array<LabelColor, 8> labelColors{{
 
 void setLockedBelow(const QString &folder, bool locked)
 {
-    for (const FolderEntry &entry : platform::listFolder(folder).value_or(QList<FolderEntry>())) {
+    const auto entries = platform::listFolder(folder);
+    if (!entries && !entries.outcome().is(platform::Cause::Missing) && !entries.outcome().is(platform::Cause::NotAFolder))
+        VTLog::appendLog("The locks below a folder stay as they are: %@", entries.outcome().description());
+    for (const FolderEntry &entry : entries.valueOr({})) {
         const QString path = joined(folder, entry.name);
         if (entry.kind == FileKind::Folder)
             setLockedBelow(path, locked);
         else
             platform::setImmutable(path, locked);
     }
-}
-
-/// "?" is one character, also where that takes two units of UTF-16.
-bool matches(QStringView pattern, QStringView name)
-{
-    qsizetype p = 0;
-    qsizetype n = 0;
-    qsizetype star = -1;
-    qsizetype retry = 0;
-    const auto width = [&](qsizetype at) {
-        return name[at].isHighSurrogate() && at + 1 < name.size() && name[at + 1].isLowSurrogate() ? 2 : 1;
-    };
-    while (n < name.size()) {
-        if (p < pattern.size() && pattern[p] == u'*') {
-            star = p++;
-            retry = n;
-        } else if (p < pattern.size() && pattern[p] == u'?') {
-            n += width(n);
-            ++p;
-        } else if (p < pattern.size() && pattern[p] == name[n]) {
-            ++n;
-            ++p;
-        } else if (star >= 0) {
-            p = star + 1;
-            n = retry += width(retry);
-        } else {
-            return false;
-        }
-    }
-    while (p < pattern.size() && pattern[p] == u'*')
-        ++p;
-    return p == pattern.size();
-}
-
-/// One step of a pattern: what of the candidates' contents goes on to the next.
-QStringList step(const QStringList &candidates, const QString &component)
-{
-    QStringList found;
-    for (const QString &candidate : candidates) {
-        if (!component.contains(u'*')) {
-            if (const QString path = joined(candidate, component); VTFileManager::fileExistsAtPath(path))
-                found.append(path);
-            continue;
-        }
-        for (const FolderEntry &entry : platform::listFolder(candidate).value_or(QList<FolderEntry>())) {
-            const QString path = joined(candidate, entry.name);
-            if (matches(component, entry.name) && VTFileManager::fileExistsAtPath(path))
-                found.append(path);
-        }
-    }
-    return found;
 }
 
 } // namespace
@@ -153,46 +101,4 @@ void VTFileManager::lockFolder(const QString &folder)
 void VTFileManager::unlockFolder(const QString &folder)
 {
     setLockedBelow(folder, false);
-}
-
-QStringList VTFileManager::filesMatchingWildcardPath(const QString &pattern, const QString &fromBasePath)
-{
-    if (!pattern.contains(u'*'))
-        return {fromBasePath.isNull() ? pattern : fromBasePath + u'/' + pattern};
-    const QString base = fromBasePath.isNull() ? QStringLiteral("/") : fromBasePath;
-    QStringList candidates{base};
-    for (const QString &component : pattern.split(u'/', Qt::SkipEmptyParts))
-        candidates = step(candidates, component);
-    return candidates;
-}
-
-QString VTFileManager::decodeWildcardPath(const QString &pattern, const QString &fromBasePath)
-{
-    const QStringList found = filesMatchingWildcardPath(pattern, fromBasePath);
-    return found.isEmpty() ? fromBasePath + u'/' + pattern : found.first();
-}
-
-bool VTFileManager::compressFile(const QString &path, const QString &toDestinationFile)
-{
-    if (platform::kindOf(toDestinationFile) != FileKind::Missing && !trashFile(toDestinationFile, ShouldAuth::No)) {
-        VTLog::appendLog("Unable to move %@ to the Trash", toDestinationFile);
-        return false;
-    }
-    // Under another name until it is whole: half an archive is none.
-    const QString growing = joined(platform::parentPath(toDestinationFile),
-                                   u'.' + QUuid::createUuid().toString(QUuid::WithoutBraces) + QStringLiteral(".zip"));
-    const platform::CompressReport report =
-        platform::resultInBackground([&] { return platform::compressZip(path, growing); });
-    for (const QString &skipped : report.skipped)
-        VTLog::appendLog("Left out of the archive %@: %@", toDestinationFile, skipped);
-    for (const QString &renamed : report.renamed)
-        VTLog::appendLog("Name changed in the archive %@: %@", toDestinationFile, renamed);
-    QString problem = report.problem;
-    if (problem.isNull())
-        problem = platform::moveItem(growing, toDestinationFile).description();
-    if (problem.isNull())
-        return true;
-    VTLog::appendLog("Unable to compress %@: %@", path, problem);
-    static_cast<void>(platform::removeOwnTree(growing).ok());
-    return false;
 }

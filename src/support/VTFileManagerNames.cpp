@@ -1,10 +1,11 @@
 // VTFileManager's operations on names, dates and sizes.
 #include "support/VTFileManager.h"
 
-#include "platform/FileSystem.h"
-#include "platform/MainThread.h"
-#include "platform/NativePath.h"
+#include "platform/files/FileSystem.h"
+#include "platform/base/MainThread.h"
+#include "platform/base/NativePath.h"
 #include "support/VTAuthorization.h"
+#include "support/VTLog.h"
 #include "support/VTTask.h"
 
 #include <QList>
@@ -27,7 +28,10 @@ quint64 sizeBelow(const QString &path, QList<FileIdentity> &entered)
         return 0;
     entered.append(*identity);
     quint64 size = 0;
-    for (const auto &entry : platform::listFolder(path).value_or(QList<platform::FolderEntry>()))
+    const auto entries = platform::listFolder(path);
+    if (!entries)
+        VTLog::appendLog("A folder is left out of a size: %@", entries.outcome().description());
+    for (const auto &entry : entries.valueOr({}))
         size += sizeBelow(platform::joined(path, entry.name), entered);
     entered.removeLast();
     return size;

@@ -1,8 +1,9 @@
 #include "support/VTLocalPaths.h"
 
-#include "platform/NativePath.h"
-#include "platform/Trash.h"
-#include "platform/Users.h"
+#include "platform/base/NativePath.h"
+#include "platform/files/Trash.h"
+#include "platform/base/Users.h"
+#include "platform/process/ConsoleUser.h"
 
 #include <QStringList>
 #include <array>

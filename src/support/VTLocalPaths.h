@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/StandardFolders.h"
+#include "platform/desktop/StandardFolders.h"
 
 #include <QString>
 

@@ -1,18 +1,17 @@
 #include "support/VTLog.h"
 
-#include "platform/ApplicationBundle.h"
-#include "platform/Console.h"
-#include "platform/Desktop.h"
-#include "platform/FileSystem.h"
-#include "platform/LocalTime.h"
-#include "platform/NativePath.h"
-#include "platform/PropertyList.h"
-#include "platform/Users.h"
+#include "platform/files/ApplicationBundle.h"
+#include "platform/base/Console.h"
+#include "platform/files/FileSystem.h"
+#include "platform/base/LocalTime.h"
+#include "platform/base/NativePath.h"
+#include "platform/files/FileTree.h"
+#include "platform/files/WholeFile.h"
+#include "platform/base/Users.h"
 #include "support/GlobalSettings.h"
 #include "support/VTLocalPaths.h"
+#include "platform/base/System.h"
 
-#include <QFile>
-#include <QSaveFile>
 #include <exception>
 
 using platform::joined;
@@ -112,17 +111,15 @@ void VTLog::startNewLog(const QString &name)
     }
     if (platform::targetExists(current) && !shiftGenerations(folder))
         return;
-    QSaveFile file(current);
-    if (!file.open(QIODevice::WriteOnly) || file.write(header().toUtf8()) < 0 || !file.commit())
-        return printToConsole(
-            platform::formatString("Unable to create log file %@ - %@", current, file.errorString()));
+    if (const auto made = platform::replaceFile(current, header().toUtf8()); !made.ok())
+        return printToConsole(platform::formatString("Unable to create log file %@ - %@", current, made.sentence()));
     openCurrentLog();
 }
 
 bool VTLog::shiftGenerations(const QString &folder) const
 {
     const QString name = appName();
-    const platform::FileOutcome removed = platform::removeTree(generationPath(folder, name, generations, m_isTask));
+    const platform::Outcome removed = platform::removeTree(generationPath(folder, name, generations, m_isTask));
     static_cast<void>(removed); // the move that follows tells when it stands in the way
     for (int i = generations - 1; i >= 1; --i) {
         const QString from = generationPath(folder, name, i, m_isTask);
@@ -138,7 +135,7 @@ bool VTLog::shiftGenerations(const QString &folder) const
 void VTLog::openCurrentLog()
 {
     // Appending: when another program of the same name writes here too, neither overwrites the other's lines.
-    m_fileHandle.open(currentLogPath());
+    static_cast<void>(m_fileHandle.open(currentLogPath())); // the next entry looks whether it is
 }
 
 void VTLog::printAndAppend(const QString &message)
@@ -184,10 +181,9 @@ void VTLog::writeEntry(const QString &message)
     // Put together, not formatted: an empty message is an empty message, not a missing one.
     const QByteArray line = (platform::currentDateDescription() + " - " + platform::forDisplay(message) + '\n').toUtf8();
     // One write for one line: the kernel does not tear it, whoever else writes to the file.
-    const qint64 written = m_fileHandle.append(line);
-    if (written < 0)
+    if (!m_fileHandle.append(line).ok())
         return printToConsole(platform::formatString("Unable to log the following information: %@", message));
-    m_bytesWritten += static_cast<quint64>(written);
+    m_bytesWritten += static_cast<quint64>(line.size());
     if (m_bytesWritten > sizeLimit) {
         // Written here and now, not queued behind what other threads have queued: it is the new file's first entry.
         const QString first = QStringLiteral("Log truncated at 500KB");

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/AppendFile.h"
-#include "platform/FormatString.h"
-#include "platform/SerialQueue.h"
+#include "platform/files/AppendFile.h"
+#include "platform/base/FormatString.h"
+#include "platform/base/SerialQueue.h"
 
 #include <QString>
 #include <atomic>

@@ -1,10 +1,10 @@
 #include "support/VTTask.h"
 
-#include "platform/ChildProcess.h"
-#include "platform/Console.h"
-#include "platform/FileSystem.h"
-#include "platform/MainThread.h"
-#include "platform/Packages.h"
+#include "platform/process/ChildProcess.h"
+#include "platform/base/Console.h"
+#include "platform/files/FileSystem.h"
+#include "platform/base/MainThread.h"
+#include "platform/files/Packages.h"
 #include "support/VTLog.h"
 
 #include <condition_variable>
@@ -40,7 +40,7 @@ VTTask::Child startedTask(const QString &tool, const QStringList &arguments, Out
         return {};
     }
     auto child = std::make_shared<ChildProcess>(tool, arguments);
-    if (!child->start(output, errorOutput)) {
+    if (!child->start(output, errorOutput).ok()) {
         complain(platform::formatString("Error: %@ is not executable", tool));
         return {};
     }
@@ -213,7 +213,7 @@ void VTTask::launchAsyncTask(const std::shared_ptr<State> &state, const std::sha
         VTLog::appendLog("Unable to launch async task - no task set");
         return;
     }
-    if (child->start(Output::Captured, ErrorOutput::Discarded)) {
+    if (child->start(Output::Captured, ErrorOutput::Discarded).ok()) {
         for (QByteArray chunk = child->readOutput(); !chunk.isEmpty(); chunk = child->readOutput()) {
             if (!asyncTaskReturnData(*state, run, chunk))
                 return child->terminate(); // stopped, perhaps before the tool was there to be stopped

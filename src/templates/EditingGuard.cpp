@@ -5,9 +5,5 @@
 
 bool editingIsAllowed()
 {
-    if (!settings::standard().equalsOne(settings::requireAdminPasswordForEditing))
-        return true;
-    auto &authorization = VTAuthorization::sharedController();
-    authorization.authEnd();
-    return authorization.authStart();
+    return !settings::requireAdminPasswordForEditing.isOn() || VTAuthorization::sharedController().authAfresh();
 }

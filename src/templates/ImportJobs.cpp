@@ -1,38 +1,36 @@
 #include "templates/ImportJobs.h"
 
-#include "platform/FileSystem.h"
-#include "platform/FormatString.h"
-#include "platform/NativePath.h"
-#include "platform/Packages.h"
+#include "platform/files/FileSystem.h"
+#include "platform/base/FormatString.h"
+#include "platform/base/NativePath.h"
+#include "platform/files/Packages.h"
+#include "support/FileOperations.h"
 #include "support/VTAlert.h"
-#include "support/VTFileManager.h"
 #include "support/VTLog.h"
-#include "templates/VTDataController.h"
 
 #include <QCoreApplication>
 
+using platform::Cause;
 using platform::formatString;
 using platform::joined;
 using platform::lastComponent;
+using platform::Outcome;
 using platform::parentPath;
 
 namespace {
 
 constexpr std::chrono::seconds patience{20};
 
-QString text(const char *source)
+struct Text
 {
-    return QCoreApplication::translate("ImportJobs", source);
-}
+    Q_DECLARE_TR_FUNCTIONS(ImportJobs)
+};
 
-QWidget *window()
+/// The first failure of several steps is the one that is told of.
+void keepFirst(Outcome &first, const Outcome &next)
 {
-    return VTDataController::sharedController().window();
-}
-
-bool isInside(const QString &path, const QString &folder)
-{
-    return path.startsWith(folder + u'/');
+    if (first.ok())
+        first = next;
 }
 
 /// A copy that would destroy its own source, or bring nothing: refused before anything is asked or deleted.
@@ -51,41 +49,42 @@ Relation relationOf(const QString &source, const QString &destination)
         if (above == u"/")
             break;
     }
-    return isInside(source, destination) ? Relation::SourceInsideDestination : Relation::Apart;
+    return platform::isInside(source, destination) ? Relation::SourceInsideDestination : Relation::Apart;
 }
 
 /// 1 overwrite, 0 overwrite all, -1 ignore.
 int askToOverwrite(const QString &name)
 {
-    return VTAlert::alertSheetWithMessageText(
-        formatString(text("%@ already exists in this location. Are you sure you wish to overwrite it?"), name),
-        text("Overwrite"), text("Overwrite All"), text("Ignore"), text("This cannot be undone."), window(),
-        VTAlert::Block::Yes);
+    return VTAlert::show(
+        {formatString(Text::tr("%@ already exists in this location. Are you sure you wish to overwrite it?"), name),
+         Text::tr("This cannot be undone."), Text::tr("Overwrite"), Text::tr("Overwrite All"), Text::tr("Ignore"),
+         VTAlert::otherReturn});
 }
 
-bool copyOne(const QString &source, const QString &destination, bool &overwriteAll)
+Outcome copyOne(const QString &source, const QString &destination, bool &overwriteAll)
 {
     const Relation relation = relationOf(source, destination);
     if (relation == Relation::Same) {
         VTLog::appendLog("%@ is already there", source);
-        return true;
+        return {};
     }
     const bool sourceIsThere = platform::kindOf(source) != platform::FileKind::Missing;
     const bool mayReplace = sourceIsThere && relation == Relation::Apart;
     if (mayReplace && VTFileManager::fileExistsAtPath(destination)) {
         const int answer = overwriteAll ? VTAlert::defaultReturn : askToOverwrite(lastComponent(destination));
         if (answer == VTAlert::otherReturn)
-            return false;
+            return Outcome::failure(Cause::Declined, destination);
         overwriteAll = overwriteAll || answer == VTAlert::alternateReturn;
         static_cast<void>(VTFileManager::removeFile(destination, patience)); // if it stays, the copy fails and says so
     }
     VTLog::appendLog("Copying file %@ to %@", source, destination);
-    if (mayReplace && VTFileManager::copyFile(source, destination, patience))
-        return true;
-    VTAlert::alertSheetWithMessageText(
-        formatString(text("Unable to copy file %@ to %@"), source, destination),
-        text("Please check that you have write permissions for the destination directory."), window());
-    return false;
+    const Outcome copied = !sourceIsThere ? Outcome::failure(Cause::Missing, source)
+                           : !mayReplace  ? Outcome::failure(Cause::IntoItself, source)
+                                          : fileoperations::copyFile(source, destination, patience);
+    if (!copied.ok())
+        VTAlert::show({formatString(Text::tr("Unable to copy file %@ to %@"), source, destination),
+                       checkDestination(copied)});
+    return copied;
 }
 
 /// "/A/B" -> "/", "/A", "/A/B".
@@ -115,71 +114,85 @@ void copyLabels(const QStringList &sources, const QString &relative, const QStri
     }
 }
 
-/// False for a folder that its own path has gone through: a link back up would never end.
-bool collectLeaves(const QString &folder, QList<platform::FileIdentity> &entered, QStringList &leaves)
+/// Collects the folders that hold no further ones.
+class LeafCollector
 {
-    const auto identity = platform::identityOf(folder + QStringLiteral("/."));
-    if (!identity || entered.contains(*identity))
-        return false;
-    entered.append(*identity);
-    bool hasFolders = false;
-    for (const auto &entry : platform::listFolder(folder).value_or(QList<platform::FolderEntry>())) {
-        const QString path = joined(folder, entry.name);
-        if (VTFileManager::isDirectoryAtPath(path) && !platform::isPackage(path))
-            hasFolders = collectLeaves(path, entered, leaves) || hasFolders;
+public:
+    QStringList leaves;
+    Outcome unreadable; ///< the first folder that could not be listed
+
+    /// False for a folder that its own path has gone through: a link back up would never end.
+    bool collect(const QString &folder)
+    {
+        const auto identity = platform::identityOf(folder + QStringLiteral("/."));
+        if (!identity || m_entered.contains(*identity))
+            return false;
+        m_entered.append(*identity);
+        bool hasFolders = false;
+        const auto entries = platform::listFolder(folder);
+        keepFirst(unreadable, entries.outcome());
+        for (const auto &entry : entries.valueOr({})) {
+            const QString path = joined(folder, entry.name);
+            if (VTFileManager::isDirectoryAtPath(path) && !platform::isPackage(path))
+                hasFolders = collect(path) || hasFolders;
+        }
+        if (!hasFolders)
+            leaves.append(folder);
+        m_entered.removeLast();
+        return true;
     }
-    if (!hasFolders)
-        leaves.append(folder);
-    entered.removeLast();
-    return true;
-}
+
+private:
+    QList<platform::FileIdentity> m_entered;
+};
 
 } // namespace
 
-bool importjobs::copyFiles(const ImportJob &job, const ImportHost &host)
+Outcome importjobs::copyFiles(const ImportJob &job, const ImportHost &host)
 {
     host.begin();
     bool overwriteAll = false;
-    bool all = true;
+    Outcome first;
     for (const QString &source : job.sourceFiles)
-        all = copyOne(source, joined(job.destFolder, lastComponent(source)), overwriteAll) && all;
+        keepFirst(first, copyOne(source, joined(job.destFolder, lastComponent(source)), overwriteAll));
     host.showFolder(job.sourceFiles.isEmpty() ? QString() : job.destFolder);
     host.end();
+    return first;
+}
+
+importjobs::Leaves importjobs::subFoldersInDirectory(const QString &folder)
+{
+    LeafCollector collector;
+    static_cast<void>(collector.collect(folder)); // a folder without any is its own leaf
+    return {collector.leaves.isEmpty() ? QStringList{folder} : collector.leaves, collector.unreadable};
+}
+
+importjobs::Leaves importjobs::structurePaths(const QStringList &sources)
+{
+    Leaves all;
+    for (const QString &source : sources) {
+        const Leaves found = subFoldersInDirectory(source);
+        keepFirst(all.unreadable, found.unreadable);
+        for (const QString &leaf : found.folders)
+            all.folders.append(leaf.size() > source.size() ? leaf.mid(parentPath(source).size()) : leaf);
+    }
     return all;
 }
 
-QStringList importjobs::subFoldersInDirectory(const QString &folder)
-{
-    QStringList leaves;
-    QList<platform::FileIdentity> entered;
-    static_cast<void>(collectLeaves(folder, entered, leaves));
-    return leaves.isEmpty() ? QStringList{folder} : leaves;
-}
-
-QStringList importjobs::structurePaths(const QStringList &sources)
-{
-    QStringList paths;
-    for (const QString &source : sources) {
-        for (const QString &leaf : subFoldersInDirectory(source))
-            paths.append(leaf.size() > source.size() ? leaf.mid(parentPath(source).size()) : leaf);
-    }
-    return paths;
-}
-
-bool importjobs::createFolderStructure(const ImportJob &job, const ImportHost &host)
+Outcome importjobs::createFolderStructure(const ImportJob &job, const ImportHost &host)
 {
     host.begin();
-    const QStringList paths = structurePaths(job.sourceFiles);
-    VTLog::appendLog("Creating subdirectories: %@", paths.join(QStringLiteral(", ")));
-    bool all = true;
-    for (const QString &relative : paths) {
-        all =
-            VTFileManager::createDirectory(
-                job.destFolder + (relative.startsWith(u'/') ? QString() : QStringLiteral("/")) + relative, patience) &&
-            all;
+    const Leaves paths = structurePaths(job.sourceFiles);
+    VTLog::appendLog("Creating subdirectories: %@", paths.folders.join(QStringLiteral(", ")));
+    Outcome first = paths.unreadable;
+    if (!first.ok())
+        VTLog::appendLog("Unable to read folder: %@", first.description());
+    for (const QString &relative : paths.folders) {
+        const QString below = relative.startsWith(u'/') ? relative : u'/' + relative;
+        keepFirst(first, fileoperations::createDirectory(job.destFolder + below, patience));
         copyLabels(job.sourceFiles, relative, job.destFolder);
     }
     host.showFolder(QString());
     host.end();
-    return all;
+    return first;
 }

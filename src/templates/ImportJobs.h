@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/base/Outcome.h"
+
 #include <QStringList>
 #include <functional>
 
@@ -20,21 +22,29 @@ struct ImportHost
 
 /**
  * The two imports. Both block the calling thread, which is a worker's in the window; several may run at once. Questions
- * and messages go through VTAlert. False when anything could not be brought in, or was left out on the user's word.
+ * and messages go through VTAlert. They go on after a failure and return the first; Cause::Declined where the user left
+ * something out.
  */
 namespace importjobs {
 
 /** With all contents. What stands there already is asked about, once for all if the user says so. */
-bool copyFiles(const ImportJob &job, const ImportHost &host);
+platform::Outcome copyFiles(const ImportJob &job, const ImportHost &host);
 
 /** Only the folders, with their labels; no file, and no package. */
-bool createFolderStructure(const ImportJob &job, const ImportHost &host);
+platform::Outcome createFolderStructure(const ImportJob &job, const ImportHost &host);
+
+/** Folders, and the first one whose contents could not be looked at. */
+struct Leaves
+{
+    QStringList folders;
+    platform::Outcome unreadable;
+};
 
 /** The folders below (links followed) that hold no further folders, depth first; the folder itself when it has none. */
-[[nodiscard]] QStringList subFoldersInDirectory(const QString &folder);
+[[nodiscard]] Leaves subFoldersInDirectory(const QString &folder);
 
 /** What createFolderStructure() makes, below the destination. A folder without subfolders gives its whole absolute
    path: this must stay. */
-[[nodiscard]] QStringList structurePaths(const QStringList &sources);
+[[nodiscard]] Leaves structurePaths(const QStringList &sources);
 
 } // namespace importjobs

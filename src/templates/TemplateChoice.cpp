@@ -13,6 +13,5 @@ QString chosenTemplate(const QStringList &templates, const QString &defaultTempl
 
 QString chosenTemplate(const QStringList &templates)
 {
-    return chosenTemplate(templates, settings::standard().string(settings::defaultTemplate),
-                          settings::standard().string(settings::selectedProjectTemplate));
+    return chosenTemplate(templates, settings::defaultTemplate.text(), settings::selectedProjectTemplate.text());
 }

@@ -1,19 +1,21 @@
 #include "templates/TemplateLibrary.h"
 
-#include "platform/FileSystem.h"
-#include "platform/FormatString.h"
-#include "platform/NativePath.h"
+#include "platform/files/FileSystem.h"
+#include "platform/base/FormatString.h"
+#include "platform/base/NativePath.h"
+#include "support/FileOperations.h"
 #include "support/Settings.h"
 #include "support/VTAlert.h"
-#include "support/VTFileManager.h"
 #include "support/VTLog.h"
 #include "templates/VTDataController.h"
 
 #include <QCoreApplication>
 
+using platform::Cause;
 using platform::formatString;
 using platform::joined;
 using platform::lastComponent;
+using platform::Outcome;
 using platform::withoutExtension;
 
 namespace library {
@@ -22,19 +24,20 @@ namespace {
 constexpr std::chrono::seconds patience{20};
 constexpr std::chrono::seconds importPatience{10};
 
-QString text(const char *source)
+struct Text
 {
-    return QCoreApplication::translate("TemplateLibrary", source);
+    Q_DECLARE_TR_FUNCTIONS(TemplateLibrary)
+};
+
+Change failed(const Outcome &outcome, const QString &name, const QString &message, const QString &informative)
+{
+    VTAlert::show({message, informative});
+    return {outcome, name};
 }
 
-void tell(const QString &message, const QString &informative)
+Change refused(Cause cause, const QString &name, const QString &message, const QString &informative)
 {
-    VTAlert::alertSheetWithMessageText(message, informative, VTDataController::sharedController().window());
-}
-
-QString checkDestination()
-{
-    return text("Please check that you have write permissions for the destination directory.");
+    return failed(Outcome::failure(cause, name, message), name, message, informative);
 }
 
 QString nameOf(const QString &bundle)
@@ -44,102 +47,102 @@ QString nameOf(const QString &bundle)
 
 } // namespace
 
-Result createTemplate(const QString &wantedName)
+Change createTemplate(const QString &wantedName)
 {
     const QString bundle = VTFileManager::uniqueFilename(VTDataController::bundlePath(wantedName));
     VTLog::appendLog("Creating new template %@...", bundle);
     const QString files = bundle + QStringLiteral("/Files");
-    const bool made = VTFileManager::createDirectory(files, patience);
-    if (!made)
-        tell(formatString(text("Unable to create directory %@"), files), checkDestination());
-    return {made ? Outcome::Done : Outcome::Failed, nameOf(bundle)};
+    const Outcome made = fileoperations::createDirectory(files, patience);
+    if (!made.ok())
+        return failed(made, nameOf(bundle), formatString(Text::tr("Unable to create directory %@"), files),
+                      checkDestination(made));
+    return {{}, nameOf(bundle), true};
 }
 
-Result duplicateTemplate(const QString &name)
+Change duplicateTemplate(const QString &name)
 {
     VTLog::appendLog("Duplicating template %@...", name);
     const QString source = VTDataController::bundlePath(name);
     const QString destination =
         VTFileManager::uniqueFilename(VTDataController::bundlePath(formatString("%@ Duplicate", name)));
-    const bool copied = VTFileManager::copyFile(source, destination, patience);
-    if (!copied)
-        tell(formatString(text("Unable to copy file %@ to %@"), source, destination), checkDestination());
-    return {copied ? Outcome::Done : Outcome::Failed, nameOf(destination)};
+    const Outcome copied = fileoperations::copyFile(source, destination, patience);
+    if (!copied.ok())
+        return failed(copied, nameOf(destination),
+                      formatString(Text::tr("Unable to copy file %@ to %@"), source, destination),
+                      checkDestination(copied));
+    return {{}, nameOf(destination), true};
 }
 
-Result removeTemplate(const QString &name)
+Change removeTemplate(const QString &name)
 {
-    const int answer = VTAlert::alertSheetWithMessageText(
-        formatString(text("Are you sure you wish to remove the template '%@'?"), name), text("Remove"), text("Cancel"),
-        {}, text("The template file will be placed in your Trash."), VTDataController::sharedController().window(),
-        VTAlert::Block::Yes);
+    const int answer =
+        VTAlert::show({formatString(Text::tr("Are you sure you wish to remove the template '%@'?"), name),
+                       Text::tr("The template file will be placed in your Trash."), Text::tr("Remove"),
+                       Text::tr("Cancel"), {}, VTAlert::alternateReturn});
     if (answer != VTAlert::defaultReturn)
-        return {Outcome::Declined, name};
+        return {Outcome::failure(Cause::Declined, name), name};
     VTLog::appendLog("Removing template %@", name);
-    if (VTFileManager::trashFile(VTDataController::bundlePath(name), patience))
-        return {Outcome::Done, name};
-    tell(formatString(text("Unable to remove template %@"), name),
-         text("Please check that you have write permissions for this file."));
-    return {Outcome::Failed, name};
+    const Outcome trashed = fileoperations::trashFile(VTDataController::bundlePath(name), patience);
+    if (!trashed.ok())
+        return failed(trashed, name, formatString(Text::tr("Unable to remove template %@"), name),
+                      withCause(Text::tr("Please check that you have write permissions for this file."), trashed));
+    return {{}, name, true};
 }
 
-Result renameTemplate(const QString &name, const QString &typed)
+Change renameTemplate(const QString &name, const QString &typed)
 {
     const QString cleaned = VTFileManager::validateFilename(typed);
-    if (cleaned.isEmpty()) {
-        tell(text("Invalid filename"), text("You must enter a filename without invalid characters."));
-        return {Outcome::Declined, name};
-    }
+    if (cleaned.isEmpty())
+        return refused(Cause::Invalid, name, Text::tr("Invalid filename"),
+                       Text::tr("You must enter a filename without invalid characters."));
     if (cleaned == name)
-        return {Outcome::Unchanged, name};
+        return {{}, name};
     const QString source = VTDataController::bundlePath(name);
     const QString destination = VTDataController::bundlePath(cleaned);
-    if (platform::kindOf(destination) != platform::FileKind::Missing && cleaned.toLower() != name.toLower()) {
-        tell(text("Template already exists"),
-             formatString(
-                 text("You cannot rename this template to %@ because there is already a template with this name."),
-                 cleaned));
-        return {Outcome::Declined, name};
-    }
-    if (!VTFileManager::moveFile(source, destination, patience)) {
-        tell(formatString(text("Unable to move file %@ to %@"), source, destination), checkDestination());
-        return {Outcome::Failed, name};
-    }
+    if (platform::kindOf(destination) != platform::FileKind::Missing && cleaned.toLower() != name.toLower())
+        return refused(
+            Cause::Exists, name, Text::tr("Template already exists"),
+            formatString(
+                Text::tr("You cannot rename this template to %@ because there is already a template with this name."),
+                cleaned));
+    const Outcome moved = fileoperations::moveFile(source, destination, patience);
+    if (!moved.ok())
+        return failed(moved, name, formatString(Text::tr("Unable to move file %@ to %@"), source, destination),
+                      checkDestination(moved));
     if (isDefaultTemplate(name))
-        settings::standard().setValue(settings::defaultTemplate, cleaned);
-    return {Outcome::Done, cleaned};
+        static_cast<void>(settings::defaultTemplate.store(cleaned)); // the log says what the settings could not take
+    return {{}, cleaned, true};
 }
 
-Result addTemplate(const QString &given)
+Change addTemplate(const QString &given)
 {
     const QString bundle = given.size() > 1 && given.endsWith(u'/') ? given.chopped(1) : given;
     VTLog::appendLog("Adding template file %@", bundle);
     const QString location = VTDataController::templateLocation();
     if (bundle.startsWith(location))
-        return {Outcome::Unchanged, nameOf(bundle)};
+        return {{}, nameOf(bundle)};
     const QString destination = joined(location, lastComponent(bundle));
-    if (!VTFileManager::isDirectoryAtPath(bundle)) {
-        // Before anything is moved aside for it.
-        tell(formatString(text("%@ is not a template"), bundle),
-             text("A template is a folder whose name ends in “.tzt”. Please choose such a folder."));
-        return {Outcome::Failed, nameOf(bundle)};
-    }
+    if (!VTFileManager::isDirectoryAtPath(bundle)) // before anything is moved aside for it
+        return refused(Cause::NotAFolder, nameOf(bundle), formatString(Text::tr("%@ is not a template"), bundle),
+                       Text::tr("A template is a folder whose name ends in “.tzt”. Please choose such a folder."));
     if (!VTFileManager::fileExistsAtPath(location))
-        static_cast<void>(VTFileManager::createDirectory(location));
+        static_cast<void>(VTFileManager::createDirectory(location)); // without it the copy fails and says so
     if (platform::identityOf(bundle) == platform::identityOf(destination)) // the library by another name
-        return {Outcome::Unchanged, nameOf(bundle)};
+        return {{}, nameOf(bundle)};
     if (platform::kindOf(destination) != platform::FileKind::Missing)
         static_cast<void>(
             VTFileManager::trashFile(destination, importPatience)); // if it stays, the copy fails and says so
-    if (VTFileManager::copyFile(bundle, destination, importPatience))
-        return {Outcome::Done, nameOf(destination)};
-    tell(formatString(text("Unable to copy file %@ to %@"), bundle, destination), checkDestination());
-    return {Outcome::Failed, nameOf(destination)};
+    const Outcome copied = fileoperations::copyFile(bundle, destination, importPatience);
+    if (!copied.ok())
+        return failed(copied, nameOf(destination),
+                      formatString(Text::tr("Unable to copy file %@ to %@"), bundle, destination),
+                      checkDestination(copied));
+    return {{}, nameOf(destination), true};
 }
 
 bool isDefaultTemplate(const QString &name)
 {
-    return !name.isEmpty() && settings::standard().string(settings::defaultTemplate) == name;
+    return !name.isEmpty() && settings::defaultTemplate.text() == name;
 }
 
 } // namespace library

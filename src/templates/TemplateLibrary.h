@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/base/Outcome.h"
+
 #include <QString>
 
 /**
@@ -9,31 +11,25 @@
  */
 namespace library {
 
-enum class Outcome {
-    Done,
-    Unchanged, ///< there was nothing to do
-    Declined,  ///< the question was answered with no, or what was asked for is not possible and has been said so
-    Failed,
-};
-
-struct Result
+/** What became of a change. Cause::Declined: the question was answered with no. What a person must know has been said. */
+struct Change
 {
-    Outcome outcome = Outcome::Failed;
-    QString name; ///< of the template it is about
-    [[nodiscard]] bool isDone() const { return outcome == Outcome::Done; }
+    platform::Outcome outcome;
+    QString name;           ///< of the template it is about
+    bool isChanged = false; ///< false also when there was nothing to do
 };
 
 /** An empty template, under the next free name. */
-Result createTemplate(const QString &wantedName);
+[[nodiscard]] Change createTemplate(const QString &wantedName);
 /** "Film" -> "Film Duplicate", "Film Duplicate 2". */
-Result duplicateTemplate(const QString &name);
+[[nodiscard]] Change duplicateTemplate(const QString &name);
 /** Asks first; the template goes to the Trash. The mark of the default template stays as it is. */
-Result removeTemplate(const QString &name);
+[[nodiscard]] Change removeTemplate(const QString &name);
 /** A template that was the default stays it under its new name. */
-Result renameTemplate(const QString &name, const QString &typed);
+[[nodiscard]] Change renameTemplate(const QString &name, const QString &typed);
 /** Brings a bundle into the library; one of the same name goes to the Trash. One that lies in the library is left
    alone. Any thread. */
-Result addTemplate(const QString &bundle);
+[[nodiscard]] Change addTemplate(const QString &bundle);
 
 [[nodiscard]] bool isDefaultTemplate(const QString &name);
 

@@ -1,13 +1,15 @@
 #include "templates/TemplateNode.h"
 
-#include "platform/FileSystem.h"
-#include "platform/NativePath.h"
-#include "platform/Packages.h"
+#include "platform/files/FileSystem.h"
+#include "platform/base/NativePath.h"
+#include "platform/files/Packages.h"
 #include "support/VTFileManager.h"
+#include "support/VTLog.h"
 
 #include <QDataStream>
 #include <QIODevice>
 #include <atomic>
+#include <mutex>
 #include <thread>
 
 using platform::FileKind;
@@ -82,9 +84,14 @@ public:
     {
         TemplateNodes nodes;
         std::vector<VTFolderItem *> folders;
-        const QList<FolderEntry> entries = platform::listFolder(folder).value_or(QList<FolderEntry>());
-        nodes.reserve(static_cast<std::size_t>(entries.size()));
-        for (const FolderEntry &entry : entries) {
+        const auto entries = platform::listFolder(folder);
+        if (!entries) {
+            const std::scoped_lock lock(m_mutex);
+            m_unreadable.append(entries.outcome());
+            return nodes;
+        }
+        nodes.reserve(static_cast<std::size_t>(entries->size()));
+        for (const FolderEntry &entry : *entries) {
             QString path = platform::joined(folder, entry.name);
             const bool isLink = entry.kind == FileKind::Link;
             const bool leadsToFolder = entry.kind == FileKind::Folder || (isLink && platform::leadsToFolder(path));
@@ -101,6 +108,9 @@ public:
         readAll(folders);
         return nodes;
     }
+
+    /// Once the reading is over.
+    [[nodiscard]] const QList<platform::Outcome> &unreadable() const { return m_unreadable; }
 
 private:
     static constexpr std::size_t worthSharing = 4;
@@ -123,6 +133,8 @@ private:
     }
 
     std::atomic<bool> m_isShared = false;
+    std::mutex m_mutex;
+    QList<platform::Outcome> m_unreadable;
 };
 
 } // namespace
@@ -184,11 +196,22 @@ void adopt(TemplateNodes &nodes, VTFolderItem *parent)
     }
 }
 
+ReadNodes readNodes(const QString &folder)
+{
+    TreeReader reader;
+    ReadNodes read{reader.read(folder), {}};
+    adopt(read.nodes, nullptr);
+    read.unreadable = reader.unreadable();
+    return read;
+}
+
 TemplateNodes nodesInFolder(const QString &folder, VTFolderItem *parent)
 {
-    TemplateNodes nodes = TreeReader().read(folder);
-    adopt(nodes, parent);
-    return nodes;
+    ReadNodes read = readNodes(folder);
+    for (const platform::Outcome &unreadable : std::as_const(read.unreadable))
+        VTLog::appendLog("Unable to read folder: %@", unreadable.description());
+    adopt(read.nodes, parent);
+    return std::move(read.nodes);
 }
 
 TemplateNode *nodeWithFilename(const QString &filename, const TemplateNodes &nodes)

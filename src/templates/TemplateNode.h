@@ -1,6 +1,9 @@
 #pragma once
 
+#include "platform/base/Outcome.h"
+
 #include <QByteArray>
+#include <QList>
 #include <QString>
 #include <memory>
 #include <vector>
@@ -96,9 +99,16 @@ private:
 
 /**
  * The nodes of what lies in a folder, each with its whole subtree, in listing order; a folder that cannot be read is
- * empty. Folders are shown whatever their name, other items only when it does not begin with a dot. A link to a folder
+ * empty and named beside them. Folders are shown whatever their name, other items only when it does not begin with a dot. A link to a folder
  * is read through, unless it leads back to a folder that its own path goes through: that one stays empty.
  */
+struct ReadNodes
+{
+    TemplateNodes nodes;
+    QList<platform::Outcome> unreadable;
+};
+[[nodiscard]] ReadNodes readNodes(const QString &folder);
+/** The same for the window: what cannot be read is logged. */
 [[nodiscard]] TemplateNodes nodesInFolder(const QString &folder, VTFolderItem *parent);
 
 /** Sets parent and row of each. */

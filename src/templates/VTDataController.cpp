@@ -1,13 +1,13 @@
 #include "templates/VTDataController.h"
 
-#include "platform/ApplicationBundle.h"
-#include "platform/FileSystem.h"
-#include "platform/MainThread.h"
-#include "platform/NativePath.h"
-#include "platform/ZipArchive.h"
+#include "platform/files/ApplicationBundle.h"
+#include "platform/files/FileSystem.h"
+#include "platform/base/MainThread.h"
+#include "platform/base/NativePath.h"
+#include "platform/archive/ZipArchive.h"
 #include "support/Settings.h"
 #include "support/VTAlert.h"
-#include "support/VTFileManager.h"
+#include "support/FileOperations.h"
 #include "support/VTLocalPaths.h"
 #include "support/VTLog.h"
 
@@ -15,30 +15,45 @@
 
 using platform::FolderEntry;
 using platform::joined;
+using platform::Outcome;
 
 namespace {
 
 constexpr std::chrono::seconds createPatience{20};
 constexpr std::chrono::seconds trashPatience{10};
 
-QString text(const char *source)
+struct Text
 {
-    return QCoreApplication::translate("VTDataController", source);
-}
+    Q_DECLARE_TR_FUNCTIONS(VTDataController)
+};
 
-QList<FolderEntry> entriesOf(const QString &folder)
-{
-    return platform::listFolder(folder).value_or(QList<FolderEntry>());
-}
-
-void unpack(const QString &archive, const QString &location)
+Outcome unpack(const QString &archive, const QString &location)
 {
     const platform::ExtractReport report =
         platform::resultInBackground([&] { return platform::extractZip(archive, location); });
-    if (!report.problem.isNull())
-        VTLog::appendLog("Unable to unpack %@: %@", archive, report.problem);
+    if (!report.outcome.ok())
+        VTLog::appendLog("Unable to unpack %@: %@", archive, report.outcome.description());
     for (const QString &refused : report.refused)
         VTLog::appendLog("Refused to unpack %@ of %@", refused, archive);
+    return report.outcome.ok() && !report.refused.isEmpty()
+               ? Outcome::failure(platform::Cause::Exists, joined(location, report.refused.constFirst()))
+               : report.outcome;
+}
+
+/// One shipped template; what stands there under its name goes to the Trash first.
+Outcome install(const QString &archive, const QString &location)
+{
+    const QString name = platform::withoutExtension(platform::lastComponent(archive));
+    const QString target = joined(location, name + QStringLiteral(".tzt"));
+    if (platform::kindOf(target) != platform::FileKind::Missing) {
+        const Outcome trashed = fileoperations::trashFile(target, trashPatience);
+        if (!trashed.ok()) {
+            // Unpacking over it would mix the user's template with the shipped one.
+            VTLog::appendLog("Unable to move %@ to the Trash; leaving it as it is", target);
+            return trashed;
+        }
+    }
+    return unpack(archive, location);
 }
 
 } // namespace
@@ -51,7 +66,7 @@ VTDataController &VTDataController::sharedController()
 
 QString VTDataController::templateLocation()
 {
-    const QString chosen = settings::standard().string(settings::templateLocation);
+    const QString chosen = settings::templateLocation.text();
     return !chosen.isEmpty() ? chosen
                              : joined(VTLocalPaths::appSupportDirectory(VTLocalPaths::Domain::User),
                                       QStringLiteral("Vantrel/Tessaro/Templates"));
@@ -73,57 +88,66 @@ QStringList VTDataController::templates() const
     return m_templates;
 }
 
-void VTDataController::populateDefaultTemplates(Force force)
+Outcome VTDataController::populateDefaultTemplates(Force force)
 {
     const QString location = templateLocation();
     const bool isNew = !VTFileManager::fileExistsAtPath(location);
-    if (isNew && !VTFileManager::createDirectory(location, createPatience)) {
-        VTAlert::alertSheetWithMessageText(
-            platform::formatString(text("Unable to create directory %@"), location),
-            text("Please check that you have write permissions for the destination directory."), m_window);
-        if (force == Force::No)
-            return;
-    }
     if (!isNew && force == Force::No)
-        return;
-    installShippedTemplates(location);
+        return {};
+    const Outcome made = isNew ? fileoperations::createDirectory(location, createPatience) : Outcome();
+    if (!made.ok()) {
+        VTAlert::show({platform::formatString(Text::tr("Unable to create directory %@"), location), checkDestination(made)});
+        if (force == Force::No)
+            return made;
+    }
+    const Outcome installed = installShippedTemplates(location);
+    return made.ok() ? installed : made;
 }
 
-void VTDataController::installShippedTemplates(const QString &location)
+Outcome VTDataController::installShippedTemplates(const QString &location)
 {
     VTLog::appendLog("Populating default templates");
     const QString shipped = platform::ApplicationBundle::main().resource(QStringLiteral("Templates"));
-    for (const FolderEntry &entry : entriesOf(shipped)) {
-        if (!entry.name.endsWith(QLatin1String(".zip")))
-            continue;
-        const QString target = joined(location, platform::withoutExtension(entry.name) + QStringLiteral(".tzt"));
-        if (VTFileManager::fileExistsAtPath(target) && !VTFileManager::trashFile(target, trashPatience)) {
-            // Unpacking over it would mix the user's template with the shipped one.
-            VTLog::appendLog("Unable to move %@ to the Trash; leaving it as it is", target);
-            continue;
-        }
-        unpack(joined(shipped, entry.name), location);
+    const auto entries = platform::listFolder(shipped);
+    if (!entries) {
+        VTLog::appendLog("Unable to read the shipped templates: %@", entries.outcome().description());
+        return entries.outcome();
     }
+    Outcome first;
+    for (const FolderEntry &entry : *entries) {
+        const Outcome installed = entry.name.endsWith(QLatin1String(".zip"))
+                                      ? install(joined(shipped, entry.name), location)
+                                      : Outcome();
+        if (first.ok())
+            first = installed;
+    }
+    return first;
 }
 
-QStringList VTDataController::templateNames(const QString &location)
+platform::Result<QStringList> VTDataController::templateNames(const QString &location)
 {
+    const auto entries = platform::listFolder(location);
+    if (!entries)
+        return entries.outcome();
     QStringList names;
-    for (const FolderEntry &entry : entriesOf(location)) {
+    for (const FolderEntry &entry : *entries) {
         if (platform::extensionOf(entry.name).toLower() == u"tzt")
             names.append(platform::withoutExtension(entry.name));
     }
     return names;
 }
 
-void VTDataController::populateTemplates()
+Outcome VTDataController::populateTemplates()
 {
-    populateDefaultTemplates();
+    const Outcome installed = populateDefaultTemplates();
     VTLog::appendLog("Populating templates");
-    QStringList names = templateNames(templateLocation());
+    const auto names = templateNames(templateLocation());
+    if (!names)
+        VTLog::appendLog("Unable to read the template library: %@", names.outcome().description());
     {
         const QMutexLocker lock(&m_mutex);
-        m_templates = std::move(names);
+        m_templates = names.valueOr({});
     }
     VTLog::appendLog("Template population complete");
+    return installed.ok() ? names.outcome() : installed;
 }

@@ -1,10 +1,9 @@
 #pragma once
 
+#include "platform/base/Outcome.h"
+
 #include <QMutex>
 #include <QStringList>
-#include <atomic>
-
-class QWidget;
 
 /**
  * The template library: where it lies, the templates that ship with the program, and the list of names.
@@ -22,10 +21,6 @@ public:
     VTDataController(const VTDataController &) = delete;
     VTDataController &operator=(const VTDataController &) = delete;
 
-    /** The window that questions and messages hang on; not owned. */
-    void setWindow(QWidget *window) { m_window = window; }
-    [[nodiscard]] QWidget *window() const { return m_window; }
-
     /** The user's choice, else the folder in the user's application support. Nothing is made. */
     [[nodiscard]] static QString templateLocation();
     /** The named template's folder in the library, and its tree in there. */
@@ -34,20 +29,21 @@ public:
     /** The list last built, in listing order. */
     [[nodiscard]] QStringList templates() const;
 
-    /** Installs the shipped templates: into a library that is new, or replacing their namesakes when forced. */
-    void populateDefaultTemplates(Force force = Force::No);
-    /** Makes sure that the library exists and builds the list. */
-    void populateTemplates();
+    /** Installs the shipped templates: into a library that is new, or replacing their namesakes when forced. A folder that
+        cannot be made has been said; the rest of a failure is for the caller. */
+    platform::Outcome populateDefaultTemplates(Force force = Force::No);
+    /** Makes sure that the library exists and builds the list. A library that cannot be read gives an empty list and why. */
+    platform::Outcome populateTemplates();
 
-    /** Unpacks every shipped template into an existing folder; what stands there under the name goes to the Trash. */
-    static void installShippedTemplates(const QString &location);
+    /** Unpacks every shipped template into an existing folder; what stands there under the name goes to the Trash. Goes on
+        after a failure and returns the first; the log names each. */
+    static platform::Outcome installShippedTemplates(const QString &location);
     /** The names of the templates in a library's folder, in listing order. */
-    [[nodiscard]] static QStringList templateNames(const QString &location);
+    [[nodiscard]] static platform::Result<QStringList> templateNames(const QString &location);
 
 private:
     VTDataController() = default;
 
     mutable QMutex m_mutex;
     QStringList m_templates;
-    std::atomic<QWidget *> m_window = nullptr; ///< imports ask on threads of their own
 };

@@ -1,8 +1,8 @@
 #include "ui/FileIcons.h"
 
+#include "platform/base/NativePath.h"
 #include "ui/Icons.h"
 
-#include <QFileInfo>
 #include <QHash>
 #include <QMimeDatabase>
 
@@ -32,7 +32,7 @@ QIcon forName(const QString &name, Kind kind)
     if (kind == Kind::Package)
         return icons::named("package");
     static QHash<QString, QIcon> known;
-    const QString extension = QFileInfo(name).suffix().toLower();
+    const QString extension = platform::extensionOf(name).toLower();
     QIcon &icon = known[extension];
     if (icon.isNull())
         icon = ofType(extension);

@@ -1,12 +1,12 @@
 #include "ui/Icons.h"
 
 #include <QApplication>
-#include <QFile>
 #include <QHash>
 #include <QIconEngine>
 #include <QPainter>
 #include <QPalette>
 #include <QPixmapCache>
+#include <QResource>
 #include <QSvgRenderer>
 
 namespace icons {
@@ -16,8 +16,7 @@ constexpr qreal secondaryOpacity = 0.6;
 
 QByteArray sourceOf(const QString &name)
 {
-    QFile file(QStringLiteral(":/images/%1.svg").arg(name));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    return QResource(QStringLiteral(":/images/%1.svg").arg(name)).uncompressedData();
 }
 
 /// The sources are drawn in exactly two colours, which stand for the text and the accent colour of the palette.

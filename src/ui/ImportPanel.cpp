@@ -1,7 +1,9 @@
 #include "ui/ImportPanel.h"
 
+#include "platform/base/NativePath.h"
+#include "platform/files/FileSystem.h"
+
 #include <QAbstractItemView>
-#include <QFileInfo>
 
 ImportPanel::ImportPanel(QWidget *parent, Takes takes, QString extension)
     : QFileDialog(parent)
@@ -36,10 +38,10 @@ void ImportPanel::accept()
     QStringList items = selectedItems();
     if (m_takes == Takes::Bundles) {
         items.removeIf([this](const QString &path) {
-            return QFileInfo(path).suffix().compare(m_extension, Qt::CaseInsensitive) != 0;
+            return platform::extensionOf(path).compare(m_extension, Qt::CaseInsensitive) != 0;
         });
     }
-    items.removeIf([](const QString &path) { return !QFileInfo::exists(path); });
+    items.removeIf([](const QString &path) { return !platform::targetExists(path); });
     if (items.isEmpty())
         return QFileDialog::accept(); // a folder that was typed or is no bundle: goes there
     m_chosen = items;

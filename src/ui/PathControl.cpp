@@ -1,6 +1,6 @@
 #include "ui/PathControl.h"
 
-#include "platform/NativePath.h"
+#include "platform/base/NativePath.h"
 #include "ui/Icons.h"
 
 #include <QPainter>

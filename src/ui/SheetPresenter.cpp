@@ -1,6 +1,6 @@
 #include "ui/SheetPresenter.h"
 
-#include "platform/NativePath.h"
+#include "platform/base/NativePath.h"
 #include "support/VTAlert.h"
 #include "ui/Icons.h"
 
@@ -18,11 +18,12 @@ constexpr int pictureSide = 48;
 
 void SheetPresenter::present(const Sheet &sheet, std::function<void(int)> answer)
 {
-    if (sheet.parentWindow) {
-        sheet.parentWindow->raise();
-        sheet.parentWindow->activateWindow();
+    QWidget *window = sheet.parentWindow ? sheet.parentWindow : m_mainWindow ? m_mainWindow() : nullptr;
+    if (window) {
+        window->raise();
+        window->activateWindow();
     }
-    auto *box = new QMessageBox(sheet.parentWindow);
+    auto *box = new QMessageBox(window);
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setWindowModality(Qt::WindowModal);
     box->setText(platform::forDisplay(sheet.messageText));
@@ -33,14 +34,16 @@ void SheetPresenter::present(const Sheet &sheet, std::function<void(int)> answer
         sheet.alternateButton.isNull() ? nullptr : box->addButton(sheet.alternateButton, QMessageBox::RejectRole);
     QPushButton *other =
         sheet.otherButton.isNull() ? nullptr : box->addButton(sheet.otherButton, QMessageBox::DestructiveRole);
-    // Where one may cancel, work could be lost by going on: the Return key then does the safe thing.
-    const bool mayCancel = alternate && sheet.alternateButton == tr("Cancel");
-    const QIcon icon = mayCancel || !alternate ? icons::named("warning") : icons::application();
+    // Where an answer loses something, Return and Escape give the one that does not; else Escape never goes on with what was
+    // asked.
+    QPushButton *safe = !sheet.safeAnswer                                ? nullptr
+                        : *sheet.safeAnswer == VTAlert::alternateReturn ? alternate
+                        : *sheet.safeAnswer == VTAlert::otherReturn     ? other
+                                                                        : main;
+    const QIcon icon = (safe && safe != main) || !alternate ? icons::named("warning") : icons::application();
     box->setIconPixmap(icon.pixmap(pictureSide, pictureSide));
-    box->setDefaultButton(mayCancel ? alternate : main);
-    // Escape never goes on with what was asked, except where there is nothing to lose but the message.
-    const bool harmless = !alternate || sheet.defaultButton == tr("OK");
-    box->setEscapeButton(mayCancel ? alternate : other ? other : harmless ? main : alternate);
+    box->setDefaultButton(safe ? safe : main);
+    box->setEscapeButton(safe ? safe : other ? other : alternate ? alternate : main);
     for (auto *label : box->findChildren<QLabel *>()) // the box's own format reaches its first label only
         label->setTextFormat(Qt::PlainText);
 

@@ -1,8 +1,7 @@
 #include "ui/VTSavePanel.h"
 
-#include "platform/NativePath.h"
+#include "platform/base/NativePath.h"
 
-#include <QDir>
 #include <QGridLayout>
 #include <QLineEdit>
 

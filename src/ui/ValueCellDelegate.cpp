@@ -1,6 +1,6 @@
 #include "ui/ValueCellDelegate.h"
 
-#include "platform/NativePath.h"
+#include "platform/base/NativePath.h"
 #include "ui/Icons.h"
 
 #include <QApplication>

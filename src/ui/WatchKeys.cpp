@@ -1,10 +1,26 @@
 #include "ui/WatchKeys.h"
 
-#include "platform/Console.h"
-#include "platform/FormatString.h"
+#include "platform/base/Console.h"
+#include "platform/base/FormatString.h"
 
 #include <QKeyEvent>
 #include <QMetaObject>
+
+namespace {
+
+// As the reference desktop numbers them.
+constexpr char16_t backspace = 8;
+constexpr char16_t deleteCharacter = 127;
+constexpr char16_t deleteFunctionKey = 0xF73E;
+constexpr char16_t forwardDelete = 0xF728;
+constexpr char16_t deleteLine = 0xF73C;
+
+} // namespace
+
+QList<char16_t> WatchKeys::deleteKeys()
+{
+    return {backspace, deleteCharacter, deleteFunctionKey, forwardDelete, deleteLine};
+}
 
 void WatchKeys::add(const QList<char16_t> &keys, const QByteArray &selector)
 {
@@ -28,8 +44,8 @@ bool WatchKeys::dispatch(char16_t character) const
 char16_t WatchKeys::characterOf(const QKeyEvent &event)
 {
     switch (event.key()) {
-    case Qt::Key_Backspace: return 127;
-    case Qt::Key_Delete: return 63272;
+    case Qt::Key_Backspace: return deleteCharacter;
+    case Qt::Key_Delete: return forwardDelete;
     case Qt::Key_Tab:
     case Qt::Key_Backtab: return u'\t';
     case Qt::Key_Return: return u'\r';

@@ -20,6 +20,9 @@ public:
         QByteArray selector;
     };
 
+    /** What the delete keys give, in every form in which a keyboard may give it. */
+    [[nodiscard]] static QList<char16_t> deleteKeys();
+
     void add(const QList<char16_t> &keys, const QByteArray &selector);
     [[nodiscard]] const QList<Entry> &entries() const { return m_entries; }
     void setDelegate(QObject *delegate) { m_delegate = delegate; }

@@ -2,18 +2,20 @@
 // it say.
 #include "app/MainWindow.h"
 #include "app/TessaroAppDelegate.h"
-#include "platform/Desktop.h"
-#include "platform/FileSystem.h"
-#include "platform/NativePath.h"
-#include "platform/SingleInstance.h"
-#include "support/HeldFile.h"
-#include "support/Records.h"
+#include "platform/desktop/Desktop.h"
+#include "platform/files/FileSystem.h"
+#include "platform/files/FileTree.h"
+#include "platform/base/NativePath.h"
+#include "platform/desktop/SingleInstance.h"
+#include "harness/HeldFile.h"
+#include "harness/Records.h"
 #include "support/Settings.h"
-#include "support/SheetAnswerer.h"
-#include "support/TemporaryHome.h"
+#include "harness/SheetAnswerer.h"
+#include "harness/StoredSettings.h"
+#include "harness/TemporaryHome.h"
 #include "support/VTAlert.h"
 #include "support/VTFileManager.h"
-#include "templates/TemplatePane.h"
+#include "templates/editor/TemplatePane.h"
 #include "templates/VTDataController.h"
 #include "ui/SheetPresenter.h"
 #include "ui/Spinner.h"
@@ -108,15 +110,14 @@ private Q_SLOTS:
         settings::registerDefaults();
         VTAlert::setPresenter(&m_sheets);
         m_work = std::make_unique<QTemporaryDir>();
-        auto &defaults = settings::standard();
-        for (const QString &name : {settings::defaultTemplate, settings::selectedProjectTemplate})
-            defaults.removeValue(name);
-        defaults.setValue(settings::firstRun, false);
-        defaults.setValue(settings::templateLocation, m_work->filePath("Library"));
-        defaults.setValue(settings::useFixedProjectLocation, 1LL);
-        defaults.setValue(settings::fixedProjectLocationPath, m_work->filePath("Projects"));
-        defaults.setValue(settings::autoOpenFolder, 0LL);
-        defaults.setValue(settings::filenameTemplate, QVariantList{record({{"title", "Title"}, {"val", "Promo"}})});
+        for (const settings::Setting *setting : settings::all())
+            removeSetting(*setting);
+        storeSetting(settings::firstRun, false);
+        storeSetting(settings::templateLocation, m_work->filePath("Library"));
+        storeSetting(settings::useFixedProjectLocation, 1LL);
+        storeSetting(settings::fixedProjectLocationPath, m_work->filePath("Projects"));
+        storeSetting(settings::autoOpenFolder, 0LL);
+        storeSetting(settings::filenameTemplate, QVariantList{record({{"title", "Title"}, {"val", "Promo"}})});
         writeFile(m_work->filePath("Library/Film.tzt/Files/A/x.txt"), "x");
         writeFile(m_work->filePath("Library/Film.tzt/Files/B/y.txt"), "y");
         writeFile(m_work->filePath("Library/Film.tzt/Files/top.txt"), "top");

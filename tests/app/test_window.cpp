@@ -1,14 +1,15 @@
 // The window, driven by keys and clicks, from its first start to a finished project.
 #include "app/MainWindow.h"
 #include "app/TessaroAppDelegate.h"
-#include "parameters/VTProjectTableController.h"
-#include "platform/Desktop.h"
-#include "platform/FileSystem.h"
-#include "platform/NativePath.h"
-#include "support/Records.h"
+#include "parameters/table/VTProjectTableController.h"
+#include "platform/desktop/Desktop.h"
+#include "platform/files/FileSystem.h"
+#include "platform/base/NativePath.h"
+#include "harness/Records.h"
 #include "support/Settings.h"
-#include "support/SheetAnswerer.h"
-#include "support/TemporaryHome.h"
+#include "harness/SheetAnswerer.h"
+#include "harness/StoredSettings.h"
+#include "harness/TemporaryHome.h"
 #include "support/VTAlert.h"
 #include "ui/SheetPresenter.h"
 #include "ui/Spinner.h"
@@ -42,7 +43,7 @@ class TestWindow : public QObject
 
     void open(bool firstRun = false)
     {
-        settings::standard().setValue(settings::firstRun, firstRun);
+        storeSetting(settings::firstRun, firstRun);
         m_delegate = std::make_unique<TessaroAppDelegate>();
         QVERIFY(m_delegate->awakeFromNib());
         window().show();
@@ -62,16 +63,15 @@ private Q_SLOTS:
         settings::registerDefaults();
         VTAlert::setPresenter(&m_sheets);
         m_work = std::make_unique<QTemporaryDir>();
-        auto &defaults = settings::standard();
-        for (const QString &key : {settings::defaultTemplate, settings::selectedProjectTemplate, settings::autoQuit})
-            defaults.removeValue(key);
-        defaults.setValue(settings::templateLocation, m_work->filePath("Library"));
+        for (const settings::Setting *setting : settings::all())
+            removeSetting(*setting);
+        storeSetting(settings::templateLocation, m_work->filePath("Library"));
         writeFile(m_work->filePath("Library/One.tzt/Files/Template.txt"), "one");
         writeFile(m_work->filePath("Library/Two.tzt/Files/Sub/two template.txt"), "two");
-        defaults.setValue(settings::useFixedProjectLocation, 1LL);
-        defaults.setValue(settings::fixedProjectLocationPath, fixed());
-        defaults.setValue(settings::autoOpenFolder, 0LL);
-        defaults.setValue(settings::filenameTemplate,
+        storeSetting(settings::useFixedProjectLocation, 1LL);
+        storeSetting(settings::fixedProjectLocationPath, fixed());
+        storeSetting(settings::autoOpenFolder, 0LL);
+        storeSetting(settings::filenameTemplate,
                           QVariantList{record({{"title", "Client"}, {"saveHistory", true}}),
                                        record({{"title", "Job"}, {"type", 2}, {"val", "007"}}),
                                        record({{"title", "Title"}, {"folder", true}, {"disallowEmpty", true}})});
@@ -130,7 +130,7 @@ private Q_SLOTS:
 
     void theSavePanelGivesTheFolderOnly()
     {
-        settings::standard().setValue(settings::fixedProjectLocationPath, "");
+        storeSetting(settings::fixedProjectLocationPath, "");
         open();
         m_delegate->tableController().setData(m_delegate->tableController().index(2, 1), "P", Qt::EditRole);
         const QString folder = m_work->filePath("Chosen");
@@ -150,8 +150,8 @@ private Q_SLOTS:
 
     void thePopUp()
     {
-        settings::standard().setValue(settings::selectedProjectTemplate, "Two");
-        settings::standard().setValue(settings::defaultTemplate, "One");
+        storeSetting(settings::selectedProjectTemplate, "Two");
+        storeSetting(settings::defaultTemplate, "One");
         open();
         QCOMPARE(window().shownTemplates(), QStringList({"One", "Two"}));
         QCOMPARE(window().selectedTemplate(), QString("One"));
@@ -161,9 +161,9 @@ private Q_SLOTS:
 
     void withoutTemplatesOrParameters()
     {
-        settings::standard().setValue(settings::filenameTemplate, QVariantList{});
-        settings::standard().setValue(settings::templateLocation, m_work->path()); // a library without templates
-        settings::standard().setValue(settings::selectedProjectTemplate, "kept");
+        storeSetting(settings::filenameTemplate, QVariantList{});
+        storeSetting(settings::templateLocation, m_work->path()); // a library without templates
+        storeSetting(settings::selectedProjectTemplate, "kept");
         SheetAnswerer welcome({"OK"});
         open(true);
         QVERIFY(welcome.buttons.isEmpty() && !settings::standard().boolean(settings::firstRun));

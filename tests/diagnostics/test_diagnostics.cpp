@@ -3,15 +3,17 @@
 #include "diagnostics/VTBugReporter.h"
 #include "diagnostics/VTSoftwareUpdate.h"
 #include "diagnostics/VTTroubleshootingUtils.h"
-#include "platform/ApplicationBundle.h"
-#include "platform/Desktop.h"
-#include "platform/FileSystem.h"
-#include "platform/NativePath.h"
-#include "platform/PropertyList.h"
-#include "platform/ZipArchive.h"
+#include "platform/files/ApplicationBundle.h"
+#include "platform/desktop/Desktop.h"
+#include "platform/files/FileSystem.h"
+#include "platform/files/FileTree.h"
+#include "platform/base/NativePath.h"
+#include "platform/base/PropertyList.h"
+#include "platform/archive/ZipArchive.h"
 #include "support/AlertPresenter.h"
 #include "support/Settings.h"
-#include "support/TemporaryHome.h"
+#include "harness/StoredSettings.h"
+#include "harness/TemporaryHome.h"
 #include "support/VTAlert.h"
 #include "support/VTLocalPaths.h"
 
@@ -56,7 +58,7 @@ void makeBundle(const QString &path, const QString &version, const QString &note
 QStringList allBelow(const QString &folder, const QString &below = {})
 {
     QStringList found;
-    for (const auto &entry : platform::listFolder(folder).value_or(QList<platform::FolderEntry>())) {
+    for (const auto &entry : platform::listFolder(folder).valueOr({})) {
         const QString name = below.isEmpty() ? entry.name : joined(below, entry.name);
         if (entry.kind == platform::FileKind::Folder)
             found += allBelow(joined(folder, entry.name), name);
@@ -139,7 +141,7 @@ private Q_SLOTS:
 
     void handsItOver()
     {
-        settings::standard().setValue("launch", QDateTime::currentDateTimeUtc());
+        storeSetting("launch", QDateTime::currentDateTimeUtc());
         const QString found = report(VTBugReporter::reportFolders()[1], "Tessaro_2026 x.crash");
         makeBundle(home("Reporter.app"), "1", m_notes);
         writeFile(home(".local/share/applications/com.vantrel.BugReporter.desktop"),
@@ -148,7 +150,7 @@ private Q_SLOTS:
         for (const QVariant &off : {QVariant("1"), QVariant(true), QVariant(1LL)}) {
             setGlobal({{"disable-crash-reporter", off}});
             QString told;
-            settings::standard().setValue("launch", QDateTime::currentDateTimeUtc());
+            storeSetting("launch", QDateTime::currentDateTimeUtc());
             VTBugReporter::startBugReporter("Tessaro", {}, [&](const QString &path) { told = path; });
             QVERIFY(told.isNull()); // later, on the main thread
             QTRY_COMPARE(told, found);
@@ -165,7 +167,7 @@ private Q_SLOTS:
         QVERIFY(platform::makeFolders(folder).ok());
         for (int i = 0; i < 100'000; ++i)
             close(open((folder + "/Other_" + QString::number(i)).toUtf8(), O_CREAT | O_WRONLY | O_CLOEXEC, 0600));
-        settings::standard().setValue("launch", QDateTime::currentDateTimeUtc().addSecs(-60));
+        storeSetting("launch", QDateTime::currentDateTimeUtc().addSecs(-60));
         report(folder, "Tessaro_1.crash");
         QCOMPARE(VTBugReporter::checkForCrashes("Tessaro"), folder + "/Tessaro_1.crash");
     }

@@ -2,9 +2,9 @@
 // request, and what it needs to start at all.
 #include "helper/Plan.h"
 #include "helper/Protocol.h"
-#include "platform/Desktop.h"
-#include "platform/FileSystem.h"
-#include "support/TemporaryHome.h"
+#include "platform/desktop/Desktop.h"
+#include "platform/files/FileSystem.h"
+#include "harness/TemporaryHome.h"
 
 #include <QCoreApplication>
 #include <QProcess>

@@ -1,16 +1,18 @@
 // The preferences in a real window: what is set there is what is stored, and it is in force at once.
 #include "app/MainWindow.h"
 #include "app/TessaroAppDelegate.h"
-#include "parameters/VTProjectTableController.h"
-#include "platform/Desktop.h"
-#include "platform/FileSystem.h"
-#include "platform/NativePath.h"
-#include "platform/PropertyList.h"
+#include "parameters/table/VTProjectTableController.h"
+#include "platform/desktop/Desktop.h"
+#include "platform/files/FileSystem.h"
+#include "platform/base/NativePath.h"
+#include "platform/base/PropertyList.h"
+#include "parameters/ParameterList.h"
 #include "preferences/VTPreferenceController.h"
-#include "support/Records.h"
+#include "harness/Records.h"
 #include "support/Settings.h"
-#include "support/SheetAnswerer.h"
-#include "support/TemporaryHome.h"
+#include "harness/SheetAnswerer.h"
+#include "harness/StoredSettings.h"
+#include "harness/TemporaryHome.h"
 #include "support/VTAlert.h"
 #include "support/VTLocalPaths.h"
 #include "templates/VTDataController.h"
@@ -73,11 +75,11 @@ private Q_SLOTS:
         settings::registerDefaults();
         VTAlert::setPresenter(&m_sheets);
         m_work = std::make_unique<QTemporaryDir>();
-        for (const settings::Known &setting : settings::known())
-            settings::standard().removeValue(setting.key);
-        settings::standard().setValue(settings::firstRun, false);
-        settings::standard().setValue(settings::templateLocation, library());
-        settings::standard().setValue(settings::filenameTemplate,
+        for (const settings::Setting *setting : settings::all())
+            removeSetting(*setting);
+        storeSetting(settings::firstRun, false);
+        storeSetting(settings::templateLocation, library());
+        storeSetting(settings::filenameTemplate,
                                       QVariantList{record({{"title", "Client"}, {"val", "Acme"}}),
                                                    record({{"title", "Title"}, {"val", "Promo"}})});
         writeFile(library("A.tzt/Files/x"), "x");
@@ -203,7 +205,7 @@ private Q_SLOTS:
         QTRY_COMPARE(stored(settings::filenameTemplate).toList()[2].toMap()["title"], QVariant("Reel"));
         QCOMPARE(m_delegate->tableController().rowCount(), 3);
         auto *table = part<VTTableView>("parameterTable");
-        table->model()->setData(table->model()->index(1, static_cast<int>(editor::Column::Folder)), Qt::Checked,
+        table->model()->setData(table->model()->index(1, static_cast<int>(parameterlist::Column::Folder)), Qt::Checked,
                                 Qt::CheckStateRole);
         QCOMPARE(preview->path(), QString("/Acme/Promo"));
         part<QComboBox>("separator")->setEditText("-");

@@ -1,11 +1,12 @@
 // Shortcut keys: what is stored among other programs' entries, what a key is called in each layout, and who is told.
-#include "platform/Desktop.h"
-#include "platform/FileSystem.h"
-#include "platform/PropertyList.h"
+#include "platform/desktop/Desktop.h"
+#include "platform/files/FileSystem.h"
+#include "platform/files/FileTree.h"
+#include "platform/base/PropertyList.h"
 #include "preferences/VTShortcutKeyContainerView.h"
 #include "preferences/VTShortcutKeyTableDelegate.h"
 #include "preferences/VTShortcutKeyTableview.h"
-#include "support/TemporaryHome.h"
+#include "harness/TemporaryHome.h"
 #include "support/VTLog.h"
 
 #include <QApplication>
@@ -52,7 +53,7 @@ private:
     const TemporaryHome m_home; ///< one for all: the controller lives as long as the process
 
     void setLayout(const QStringList &arguments) const { QCOMPARE(QProcess::execute("setxkbmap", arguments), 0); }
-    QVariantList watchlist() const { return shortcuts::read().dictionary->value("watchlist").toList(); }
+    QVariantList watchlist() const { return shortcuts::read()->value("watchlist").toList(); }
     QString nameInTable(int row) const
     {
         auto &table = Delegate::sharedController();
@@ -71,7 +72,8 @@ private Q_SLOTS:
     void othersLoseNothing()
     {
         QVERIFY(shortcuts::write({{"watchlist", QVariantList{entry("new-project", 1, 768), theirs, byParameters, gone}},
-                                  {"another key", QVariantList{1LL, true, "1"}}}));
+                                  {"another key", QVariantList{1LL, true, "1"}}})
+                    .ok());
         auto &table = Delegate::sharedController();
         QDBusConnection::sessionBus().connect({}, {}, "com.vantrel.Notifications", "VTShortcutKeysReload", this,
                                               SLOT(reloaded()));
@@ -81,10 +83,10 @@ private Q_SLOTS:
         QCOMPARE(watchlist().size(), 4);
         QCOMPARE(watchlist()[3].toMap()["keycode"], QVariant(40LL));
         QCOMPARE(watchlist()[3].toMap()["commandparams"].toStringList(), QStringList({"a", "b"}));
-        QCOMPARE(shortcuts::read().dictionary->value("another key"), QVariant(QVariantList{1LL, true, "1"}));
+        QCOMPARE(shortcuts::read()->value("another key"), QVariant(QVariantList{1LL, true, "1"}));
         QTRY_COMPARE(m_reloads, 2);
         QCOMPARE(nameInTable(0), QString("Shift+Cmd+S"));
-        QCOMPARE(shortcuts::without(*shortcuts::read().dictionary, {"com.vantrel.Tessaro", "new-project", {}})
+        QCOMPARE(shortcuts::without(*shortcuts::read(), {"com.vantrel.Tessaro", "new-project", {}})
                      .value("watchlist")
                      .toList(),
                  QVariantList({theirs, gone, watchlist()[3]}));

@@ -1,11 +1,12 @@
 // Imports into a template, and changes to the library: nothing is lost on the way, whatever is answered.
-#include "platform/Desktop.h"
-#include "platform/FileSystem.h"
-#include "platform/NativePath.h"
-#include "support/AlertPresenter.h"
+#include "platform/desktop/Desktop.h"
+#include "platform/files/FileSystem.h"
+#include "platform/files/FileTree.h"
+#include "platform/base/NativePath.h"
 #include "support/Settings.h"
-#include "support/TemporaryHome.h"
-#include "support/VTAlert.h"
+#include "harness/Answers.h"
+#include "harness/StoredSettings.h"
+#include "harness/TemporaryHome.h"
 #include "support/VTFileManager.h"
 #include "support/VTLog.h"
 #include "templates/ImportJobs.h"
@@ -16,30 +17,20 @@
 #include <QTest>
 #include <unistd.h>
 
-using library::Outcome;
+using platform::Cause;
 using platform::joined;
 using platform::targetExists;
 
 namespace {
 
-/// Answers what it is told to, in turn; the last answer stays.
-class Answers : public AlertPresenter
-{
-public:
-    QList<int> answers;
-    QStringList asked;
-    void present(const Sheet &sheet, std::function<void(int)> answer) override
-    {
-        asked << sheet.messageText;
-        const bool isQuestion = !sheet.alternateButton.isNull();
-        answer(!isQuestion || answers.isEmpty() ? 1 : answers.size() > 1 ? answers.takeFirst() : answers.first());
-    }
-    void orderOut(const VTAlert *) override {}
-};
-
 const ImportHost nobody{[] {}, [](const QString &) {},
                         [] {
                         }};
+
+bool isUnchanged(const library::Change &change)
+{
+    return change.outcome.ok() && !change.isChanged;
+}
 
 } // namespace
 
@@ -57,12 +48,11 @@ private Q_SLOTS:
     {
         for (const char *folder : {"in", "Templates", ".local/share/Trash"})
             QVERIFY(platform::removeTree(joined(m_home.path(), folder)).ok());
-        settings::standard().setValue(settings::templateLocation, joined(m_home.path(), "Templates"));
+        storeSetting(settings::templateLocation, joined(m_home.path(), "Templates"));
         QVERIFY(platform::makeFolders(m_files).ok() && platform::makeFolders(m_in).ok());
         m_answers = std::make_unique<Answers>();
-        VTAlert::setPresenter(m_answers.get());
     }
-    void cleanup() { VTAlert::setPresenter(nullptr); }
+    void cleanup() { m_answers.reset(); }
 
     void asksBeforeItOverwrites()
     {
@@ -97,12 +87,12 @@ private Q_SLOTS:
         writeFile(m_files + "/kept", "kept");
         QCOMPARE(symlink("Files", platform::toNative(joined(platform::parentPath(m_files), "Alias")).constData()), 0);
         const QString alias = joined(platform::parentPath(m_files), "Alias");
-        QVERIFY(importjobs::copyFiles({{m_files + "/kept", alias + "/kept"}, m_files}, nobody)); // onto itself
-        QVERIFY(!importjobs::copyFiles({{m_files + "/A/A"}, m_files}, nobody)); // would replace the folder it lies in
-        QVERIFY(
-            !importjobs::copyFiles({{joined(m_home.path(), "Templates")}, m_files}, nobody)); // holds the destination
+        QVERIFY(importjobs::copyFiles({{m_files + "/kept", alias + "/kept"}, m_files}, nobody).ok()); // onto itself
+        QVERIFY(importjobs::copyFiles({{m_files + "/A/A"}, m_files}, nobody).is(Cause::IntoItself)); // would replace the folder it lies in
+        QVERIFY(importjobs::copyFiles({{joined(m_home.path(), "Templates")}, m_files}, nobody)
+                    .is(Cause::IntoItself)); // holds the destination
         writeFile(m_files + "/gone", "still here");
-        QVERIFY(!importjobs::copyFiles({{joined(m_in, "gone")}, m_files}, nobody)); // vanished meanwhile
+        QVERIFY(importjobs::copyFiles({{joined(m_in, "gone")}, m_files}, nobody).is(Cause::Missing)); // vanished meanwhile
         QCOMPARE(m_answers->asked.filter("overwrite"), QStringList());
         QCOMPARE(m_answers->asked.size(), 3);
         QCOMPARE(readFile(m_files + "/kept") + readFile(m_files + "/A/A/x") + readFile(m_files + "/gone"),
@@ -117,9 +107,9 @@ private Q_SLOTS:
         QCOMPARE(symlink("..", platform::toNative(m_in + "/A/D/up").constData()), 0);
         VTFileManager::setFinderColorIndex(6, m_in + "/A/B");
         VTFileManager::setFinderColorIndex(10, m_in);
-        QCOMPARE(importjobs::structurePaths({m_in + "/A", m_in + "/Empty"}),
+        QCOMPARE(importjobs::structurePaths({m_in + "/A", m_in + "/Empty"}).folders,
                  QStringList({"/A/.hidden", "/A/B/C", "/A/D", m_in + "/Empty"}));
-        QVERIFY(importjobs::createFolderStructure({{m_in + "/A"}, m_files}, nobody));
+        QVERIFY(importjobs::createFolderStructure({{m_in + "/A"}, m_files}, nobody).ok());
         QVERIFY(targetExists(m_files + "/A/B/C") && targetExists(m_files + "/A/D"));
         QVERIFY(!targetExists(m_files + "/A/B/C/x") && !targetExists(m_files + "/A/Show.app"));
         QCOMPARE(VTFileManager::finderColorIndexForPath(m_files + "/A/B"), 6);
@@ -130,30 +120,30 @@ private Q_SLOTS:
     {
         auto &store = VTDataController::sharedController();
         const auto names = [&] {
-            store.populateTemplates();
+            static_cast<void>(store.populateTemplates());
             return store.templates();
         };
         QCOMPARE(library::createTemplate("Untitled").name, QString("Untitled"));
         QCOMPARE(library::createTemplate("Untitled").name, QString("Untitled 2"));
         QCOMPARE(library::duplicateTemplate("Film").name, QString("Film Duplicate"));
         QCOMPARE(library::duplicateTemplate("Film").name, QString("Film Duplicate 2"));
-        settings::standard().setValue(settings::defaultTemplate, "Film");
-        QCOMPARE(library::renameTemplate("Film", "Untitled").outcome, Outcome::Declined);
-        QCOMPARE(library::renameTemplate("Film", " :/ ").outcome, Outcome::Declined);
-        QCOMPARE(library::renameTemplate("Film", "Film").outcome, Outcome::Unchanged);
-        QCOMPARE(library::renameTemplate("Film", QString(300, 'n')).outcome, Outcome::Failed);
-        QVERIFY(library::renameTemplate("Film", "film").isDone());
+        storeSetting(settings::defaultTemplate, "Film");
+        QCOMPARE(library::renameTemplate("Film", "Untitled").outcome.cause(), Cause::Exists);
+        QCOMPARE(library::renameTemplate("Film", " :/ ").outcome.cause(), Cause::Invalid);
+        QVERIFY(isUnchanged(library::renameTemplate("Film", "Film")));
+        QCOMPARE(library::renameTemplate("Film", QString(300, 'n')).outcome.cause(), Cause::NameTooLong);
+        QVERIFY(library::renameTemplate("Film", "film").isChanged);
         QVERIFY(library::isDefaultTemplate("film"));
         // On this file system the other letter case may be another template: it is never overwritten.
         writeFile(VTDataController::filesFolder("Film") + "/mine", "mine");
-        QVERIFY(!library::renameTemplate("film", "Film").isDone());
+        QVERIFY(!library::renameTemplate("film", "Film").isChanged);
         QCOMPARE(readFile(VTDataController::filesFolder("Film") + "/mine"), QByteArray("mine"));
         QVERIFY(names().contains("film"));
 
         m_answers->answers = {0};
-        QCOMPARE(library::removeTemplate("film").outcome, Outcome::Declined);
+        QCOMPARE(library::removeTemplate("film").outcome.cause(), Cause::Declined);
         m_answers->answers = {1};
-        QVERIFY(library::removeTemplate("film").isDone());
+        QVERIFY(library::removeTemplate("film").isChanged);
         QVERIFY(!names().contains("film") && targetExists(joined(m_home.path(), ".local/share/Trash/files/film.tzt")));
         QCOMPARE(settings::standard().string(settings::defaultTemplate), QString("film")); // the mark stays
     }
@@ -162,16 +152,16 @@ private Q_SLOTS:
     {
         writeFile(m_in + "/Film.tzt/Files/new", "new");
         writeFile(m_files + "/old", "old");
-        QVERIFY(library::addTemplate(m_in + "/Film.tzt/").isDone());
+        QVERIFY(library::addTemplate(m_in + "/Film.tzt/").isChanged);
         QVERIFY(targetExists(m_files + "/new") && !targetExists(m_files + "/old"));
         QVERIFY(targetExists(joined(m_home.path(), ".local/share/Trash/files/Film.tzt/Files/old")));
-        QCOMPARE(library::addTemplate(VTDataController::bundlePath("Film")).outcome, Outcome::Unchanged);
+        QVERIFY(isUnchanged(library::addTemplate(VTDataController::bundlePath("Film"))));
         // By another name, or no folder at all: what stands there stays.
         QCOMPARE(symlink("Templates", platform::toNative(joined(m_home.path(), "Alias")).constData()), 0);
-        QCOMPARE(library::addTemplate(joined(m_home.path(), "Alias/Film.tzt")).outcome, Outcome::Unchanged);
+        QVERIFY(isUnchanged(library::addTemplate(joined(m_home.path(), "Alias/Film.tzt"))));
         QVERIFY(platform::removeTree(m_in + "/Film.tzt").ok());
         writeFile(m_in + "/Film.tzt", "a plain file");
-        QCOMPARE(library::addTemplate(m_in + "/Film.tzt").outcome, Outcome::Failed);
+        QCOMPARE(library::addTemplate(m_in + "/Film.tzt").outcome.cause(), Cause::NotAFolder);
         QVERIFY(targetExists(m_files + "/new"));
     }
 

@@ -1,10 +1,10 @@
 // The shipped templates' readable sources, and the archives built from them.
-#include "platform/ApplicationBundle.h"
-#include "platform/Desktop.h"
-#include "platform/FileSystem.h"
-#include "platform/FinderInfo.h"
-#include "platform/ZipArchive.h"
-#include "support/TemporaryHome.h"
+#include "platform/files/ApplicationBundle.h"
+#include "platform/desktop/Desktop.h"
+#include "platform/files/FileSystem.h"
+#include "platform/files/FinderInfo.h"
+#include "platform/archive/ZipArchive.h"
+#include "harness/TemporaryHome.h"
 
 #include "../../resources/packer/Outline.h"
 
@@ -41,7 +41,7 @@ private Q_SLOTS:
             const QString archive = platform::ApplicationBundle::main().resource("Templates/" + name + ".zip");
             const QTemporaryDir target;
             const auto report = platform::extractZip(archive, target.path());
-            QVERIFY2(report.ok(), qPrintable(name + ": " + report.problem + report.refused.join(", ")));
+            QVERIFY2(report.ok(), qPrintable(name + ": " + report.outcome.description() + report.refused.join(", ")));
             QCOMPARE(platform::listFolder(target.path())->size(), 1);
             QString problem;
             const auto entries = readOutline(readFile(outlines.filePath(file)), problem);

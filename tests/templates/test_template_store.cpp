@@ -1,15 +1,17 @@
 // The library: where it is, when the shipped templates arrive, what the list holds.
-#include "platform/Desktop.h"
-#include "platform/FileSystem.h"
-#include "platform/NativePath.h"
-#include "platform/Trash.h"
+#include "platform/desktop/Desktop.h"
+#include "platform/files/FileSystem.h"
+#include "platform/files/FileTree.h"
+#include "platform/base/NativePath.h"
+#include "platform/files/Trash.h"
 #include "support/AlertPresenter.h"
 #include "support/Settings.h"
-#include "support/TemporaryHome.h"
+#include "harness/StoredSettings.h"
+#include "harness/TemporaryHome.h"
 #include "support/VTAlert.h"
 #include "support/VTLocalPaths.h"
 #include "templates/TemplateChoice.h"
-#include "templates/TemplateTree.h"
+#include "templates/TreeListing.h"
 #include "templates/VTDataController.h"
 
 #include <QTest>
@@ -46,32 +48,32 @@ private Q_SLOTS:
         m_work = std::make_unique<QTemporaryDir>();
         m_alerts.messages.clear();
         VTAlert::setPresenter(&m_alerts);
-        settings::standard().setValue(settings::templateLocation, library());
+        storeSetting(settings::templateLocation, library());
     }
 
     void location()
     {
         QCOMPARE(VTDataController::templateLocation(), library());
         const QString standard = VTLocalPaths::userDirectory() + "/Library/Application Support/Vantrel/Tessaro/Templates";
-        settings::standard().setValue(settings::templateLocation, "");
+        storeSetting(settings::templateLocation, "");
         QCOMPARE(VTDataController::templateLocation(), standard);
-        settings::standard().removeValue(settings::templateLocation);
+        removeSetting(settings::templateLocation);
         QCOMPARE(VTDataController::templateLocation(), standard);
     }
 
     void installsIntoANewLibraryOnly()
     {
-        store().populateTemplates();
+        QVERIFY(store().populateTemplates().ok());
         const QStringList shipped = store().templates();
         QVERIFY(shipped.contains("Editing Template"));
         QVERIFY(platform::leadsToFolder(VTDataController::filesFolder("Editing Template")));
 
         // What the user removes stays removed, until the library itself is gone.
         QVERIFY(platform::removeTree(library() + "/Editing Template.tzt").ok());
-        store().populateTemplates();
+        QVERIFY(store().populateTemplates().ok());
         QVERIFY(!store().templates().contains("Editing Template"));
         QVERIFY(platform::removeTree(library()).ok());
-        store().populateTemplates();
+        QVERIFY(store().populateTemplates().ok());
         QCOMPARE(store().templates(), shipped);
     }
 
@@ -79,14 +81,14 @@ private Q_SLOTS:
     {
         writeFile(library() + "/Editing Template.tzt/Files/mine.txt", "mine");
         writeFile(library() + "/Mine.tzt/Files/x");
-        store().populateDefaultTemplates(VTDataController::Force::Yes);
+        QVERIFY(store().populateDefaultTemplates(VTDataController::Force::Yes).ok());
         QCOMPARE(platform::kindOf(VTDataController::filesFolder("Editing Template") + "/mine.txt"),
                  platform::FileKind::Missing);
         QCOMPARE(platform::kindOf(VTDataController::filesFolder("Mine") + "/x"), platform::FileKind::File);
-        store().populateDefaultTemplates(VTDataController::Force::Yes);
+        QVERIFY(store().populateDefaultTemplates(VTDataController::Force::Yes).ok());
         int inTrash = 0;
         QByteArray kept;
-        const auto trashed = platform::listFolder(platform::homeTrashFiles()).value_or(QList<platform::FolderEntry>());
+        const auto trashed = platform::listFolder(platform::homeTrashFiles()).valueOr({});
         for (const auto &entry : trashed) {
             inTrash += entry.name.startsWith("Editing Template") ? 1 : 0;
             kept += readFile(platform::homeTrashFiles() + '/' + entry.name + "/Files/mine.txt");
@@ -102,7 +104,7 @@ private Q_SLOTS:
             writeFile(library() + '/' + name);
         writeFile(library() + "/notes.tzt", "a plain file");
         writeFile(library() + '/' + platform::fromNative("\xff.tzt/Files/x"));
-        store().populateTemplates();
+        QVERIFY(store().populateTemplates().ok());
         QCOMPARE(store().templates(),
                  QStringList({".hidden", "A", "b", "notes", platform::fromNative("\xff")}));
     }
@@ -110,8 +112,8 @@ private Q_SLOTS:
     void saysThatALibraryCannotBeMade()
     {
         writeFile(m_work->filePath("file"));
-        settings::standard().setValue(settings::templateLocation, m_work->filePath("file/Library"));
-        store().populateTemplates();
+        storeSetting(settings::templateLocation, m_work->filePath("file/Library"));
+        QVERIFY(!store().populateTemplates().ok());
         QCOMPARE(m_alerts.messages, QStringList{"Unable to create directory " + m_work->filePath("file/Library")});
         QVERIFY(store().templates().isEmpty());
     }
@@ -141,13 +143,14 @@ private Q_SLOTS:
         writeFile(root + "/b/c/file");
         writeFile(root + "/A");
         QCOMPARE(symlink("..", (root + "/b/up").toUtf8().constData()), 0);
-        const TemplateTree tree = readTemplateTree(root);
+        const TreeListing tree = listTree(root);
         QStringList found;
-        for (const TemplateItem &item : tree.items)
+        for (const ListedItem &item : tree.items)
             found << platform::joined(item.folder, item.name);
         QCOMPARE(found, QStringList({"/A", "/b", "b/c", "b/c/file", "b/up"}));
         QVERIFY(tree.unreadable.isEmpty());
-        QCOMPARE(readTemplateTree(m_work->filePath("none")).unreadable, QStringList{""});
+        const auto missing = listTree(m_work->filePath("none")).unreadable;
+        QVERIFY(missing.size() == 1 && missing[0].is(platform::Cause::Missing));
     }
 };
 

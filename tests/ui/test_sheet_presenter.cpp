@@ -1,7 +1,7 @@
 // Questions on a real window: who answers what, and that nobody who waits is left waiting.
-#include "platform/Desktop.h"
-#include "support/OffscreenMessages.h"
-#include "support/TemporaryHome.h"
+#include "platform/desktop/Desktop.h"
+#include "harness/OffscreenMessages.h"
+#include "harness/TemporaryHome.h"
 #include "support/VTAlert.h"
 #include "ui/SheetPresenter.h"
 
@@ -14,6 +14,8 @@
 #include <thread>
 
 using namespace std::chrono_literals;
+
+Q_DECLARE_METATYPE(std::optional<int>)
 
 namespace {
 
@@ -70,10 +72,10 @@ struct Window : QWidget
     }
 };
 
-int ask(QWidget *window, const QString &alternate = "Cancel", const QString &other = {})
+int ask(QWidget *window, const QString &alternate = "Cancel", const QString &other = {},
+        std::optional<int> safeAnswer = {})
 {
-    return VTAlert::alertSheetWithMessageText("Overwrite?", "Overwrite", alternate, other, "", window,
-                                              VTAlert::Block::Yes);
+    return VTAlert::show({"Overwrite?", "", "Overwrite", alternate, other, safeAnswer}, window);
 }
 
 } // namespace
@@ -95,22 +97,29 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("alternate");
         QTest::addColumn<QString>("other");
+        QTest::addColumn<std::optional<int>>("safe");
         QTest::addColumn<QString>("press"); // a button's title or a key
         QTest::addColumn<int>("code");
-        const auto row = [](const char *name, const QString &alternate, const QString &other, const char *press,
-                            int code) {
-            QTest::newRow(name) << alternate << other << QString(press) << code;
+        const auto row = [](const char *name, const QString &alternate, const QString &other, std::optional<int> safe,
+                            const char *press, int code) {
+            QTest::newRow(name) << alternate << other << safe << QString(press) << code;
         };
-        row("other", "Cancel", "Save", "Save", -1);
-        row("Return does the safe thing", "Cancel", {}, "Return", 0);
-        row("Return on a message", {}, {}, "Return", 1);
-        row("Escape never overwrites", "Ignore", {}, "Escape", 0);
-        row("nor anything at once", "Overwrite All", "Ignore", "Escape", -1);
+        row("other", "Cancel", "Save", {}, "Save", -1);
+        row("Return on a message", {}, {}, {}, "Return", 1);
+        row("Return on a question that loses nothing", "Don't Move", {}, {}, "Return", 1);
+        row("Escape on a question that loses nothing", "Don't Move", {}, {}, "Escape", 0);
+        // Whatever the buttons are called: the safe one has the focus.
+        row("Return does the safe thing", "Abbrechen", {}, 0, "Return", 0);
+        row("Escape never overwrites", "Ignore", {}, 0, "Escape", 0);
+        row("Return overwrites nothing at once", "Overwrite All", "Ignore", -1, "Return", -1);
+        row("nor does Escape", "Overwrite All", "Ignore", -1, "Escape", -1);
+        row("the first answer may be the safe one", "Manual", {}, 1, "Escape", 1);
     }
     void answers()
     {
         QFETCH(QString, alternate);
         QFETCH(QString, other);
+        QFETCH(std::optional<int>, safe);
         QFETCH(QString, press);
         Window window;
         whenSheetIsUp([&](QMessageBox &box) {
@@ -118,7 +127,7 @@ private Q_SLOTS:
                 return QTest::keyClick(&box, press == "Return" ? Qt::Key_Return : Qt::Key_Escape);
             click(box, press);
         });
-        QTEST(ask(&window, alternate, other), "code");
+        QTEST(ask(&window, alternate, other, safe), "code");
         QVERIFY(!sheetThatIsUp());
     }
 

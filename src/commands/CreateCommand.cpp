@@ -1,0 +1,315 @@
+#include "commands/CreateCommand.h"
+
+#include "commands/CommandLine.h"
+#include "commands/Commands.h"
+#include "commands/TerminalOutput.h"
+#include "commands/TreeDrawing.h"
+#include "parameters/ParameterStore.h"
+#include "parameters/ProjectNaming.h"
+#include "parameters/ValueRules.h"
+#include "parameters/table/VTProjectTableController.h"
+#include "platform/base/NativePath.h"
+#include "support/Settings.h"
+#include "support/VTFileManager.h"
+#include "support/VTLocalPaths.h"
+#include "support/VTLog.h"
+#include "templates/TemplateChoice.h"
+#include "templates/VTDataController.h"
+
+#include <QCoreApplication>
+#include <QJsonArray>
+#include <QJsonObject>
+
+using platform::joined;
+
+namespace {
+
+struct Text
+{
+    Q_DECLARE_TR_FUNCTIONS(CreateCommand)
+};
+
+QString listed(const QStringList &names)
+{
+    return names.isEmpty() ? Text::tr("There are none.") : Text::tr("There are: %1.").arg(names.join(QStringLiteral(", ")));
+}
+
+QString remarkText(const PlanItem &item)
+{
+    switch (item.remark) {
+    case PlanItem::Remark::NameTaken:
+        return Text::tr("  (keeps this name: its new one is taken)");
+    case PlanItem::Remark::NameTooLong:
+        return Text::tr("  (keeps this name: its new one is too long)");
+    case PlanItem::Remark::None: break;
+    }
+    return item.isRenamed() ? Text::tr("  (was %1)").arg(platform::forOneLine(item.oldName)) : QString();
+}
+
+QString drawn(const CreationPlan &plan, const QString &destination)
+{
+    QList<DrawnItem> items;
+    items.reserve(plan.items.size());
+    for (const PlanItem &item : plan.items) {
+        const auto depth = item.folder.isEmpty() ? 0 : static_cast<int>(item.folder.count(u'/')) + 1;
+        const QString slash = item.kind == platform::FileKind::Folder ? QStringLiteral("/") : QString();
+        items.append({depth, platform::forOneLine(item.newName) + slash + remarkText(item)});
+    }
+    return drawnTree(platform::forOneLine(destination), items);
+}
+
+} // namespace
+
+int commands::create(const Invocation &invocation)
+{
+    return CreateCommand(invocation).run();
+}
+
+CreateCommand::CreateCommand(const Invocation &invocation)
+    : m_invocation(invocation)
+    , m_isDryRun(invocation.has("--dry-run"))
+{
+}
+
+CreateCommand::~CreateCommand() = default;
+
+int CreateCommand::run()
+{
+    VTLog::appendLog("Creating new project");
+    if (!findTemplate() || !readParameters() || !parametersAreComplete() || !findDestination())
+        return refused();
+    VTLog::appendLog("Validated folder name: %@", naming::pathName(m_levels));
+    if (platform::kindOf(m_destination) != platform::FileKind::Missing && !m_invocation.has("--overwrite")) {
+        fail(ExitStatus::notOverwritten,
+             Text::tr("A project with this name already exists: %1\nUse --overwrite to move it to the Trash and create it "
+                      "anew.")
+                 .arg(m_destination));
+        return refused();
+    }
+    return m_isDryRun ? printPlan() : create();
+}
+
+bool CreateCommand::fail(int status, const QString &problem)
+{
+    m_status = complain(status, problem);
+    m_problems.append(platform::forDisplay(problem));
+    return false;
+}
+
+bool CreateCommand::fail(const platform::Outcome &failure, const QString &problem)
+{
+    return fail(exitStatusOf(failure), problem + u'\n' + failure.description());
+}
+
+int CreateCommand::refused()
+{
+    if (m_invocation.has("--json"))
+        printObject({}, nullptr);
+    return m_status;
+}
+
+bool CreateCommand::findLibrary(QString &location, QStringList &names)
+{
+    location = VTDataController::templateLocation();
+    auto &store = VTDataController::sharedController();
+    if (!m_isDryRun) {
+        const platform::Outcome read = store.populateTemplates();
+        names = store.templates();
+        return read.ok() || !names.isEmpty() ||
+               fail(read, Text::tr("The template library cannot be read."));
+    }
+    if (platform::kindOf(location) == platform::FileKind::Missing) {
+        // Before the first start there is no library yet, and a dry run makes none.
+        platform::Result<platform::TemporaryFolder> unpacked =
+            platform::TemporaryFolder::make(VTLocalPaths::tempDirectory());
+        if (!unpacked)
+            return fail(unpacked.outcome(), Text::tr("There is no room for the shipped templates."));
+        m_unpacked.emplace(*std::move(unpacked));
+        location = m_unpacked->path();
+        const platform::Outcome installed = VTDataController::installShippedTemplates(location);
+        if (!installed.ok())
+            return fail(installed, Text::tr("The shipped templates cannot be unpacked."));
+    }
+    const auto found = VTDataController::templateNames(location);
+    if (!found)
+        return fail(found.outcome(), Text::tr("The template library cannot be read."));
+    names = *found;
+    return true;
+}
+
+bool CreateCommand::findTemplate()
+{
+    QString location;
+    QStringList names;
+    if (!findLibrary(location, names))
+        return false;
+    const QString wanted = m_invocation.value("--template");
+    m_templateName = wanted.isNull() ? chosenTemplate(names) : wanted;
+    if (wanted.isNull() && m_templateName.isNull())
+        return fail(ExitStatus::failed, Text::tr("There is no template in %1.").arg(location));
+    if (!names.contains(m_templateName))
+        return fail(ExitStatus::wrongUsage,
+                    Text::tr("There is no template “%1”. %2").arg(m_templateName, listed(names)));
+    m_filesFolder = location + platform::formatString("/%@.tzt/Files", m_templateName);
+    return true;
+}
+
+bool CreateCommand::readParameters()
+{
+    if (m_isDryRun) {
+        m_parameters = rules::withDynamicValues(rules::asLoaded(storedParameters()),
+                                                settings::dateFormat.text(), VTLocalPaths::username(),
+                                                std::time(nullptr));
+    } else {
+        m_table = std::make_unique<VTProjectTableController>();
+        m_table->awakeFromNib();
+        m_parameters = m_table->dataArray();
+    }
+    for (const QString &setting : m_invocation.values("--set")) {
+        if (!applyValue(setting))
+            return false;
+    }
+    m_levels = naming::pathComponents(m_parameters, settings::separatorChar.text());
+    return true;
+}
+
+bool CreateCommand::applyValue(const QString &setting)
+{
+    const qsizetype equals = setting.indexOf(u'=');
+    const QString title = setting.first(equals);
+    const QString value = setting.mid(equals + 1);
+    QStringList titles;
+    for (const FilenameParameter &parameter : m_parameters)
+        titles.append(parameter.title());
+    const qsizetype row = titles.indexOf(title);
+    QString problem;
+    if (row < 0)
+        problem = Text::tr("There is no parameter “%1”. %2").arg(title, listed(titles));
+    else if (m_parameters[row].isLocked())
+        problem = Text::tr("The parameter “%1” is locked.").arg(title);
+    else if (m_parameters[row].kind() == FilenameParameter::Kind::Choice && !m_parameters[row].choices().contains(value))
+        problem = Text::tr("“%1” is not among the choices of “%2”. %3").arg(value, title, listed(m_parameters[row].choices()));
+    if (!problem.isNull())
+        return fail(ExitStatus::wrongUsage, problem);
+    if (!m_table) {
+        const bool strict = settings::strictNaming.isOn();
+        m_parameters[row] = rules::withTypedValue(m_parameters[row], value, strict);
+        return true;
+    }
+    const auto column = VTProjectTableController::ValueColumn;
+    const bool stored = m_table->setData(m_table->index(static_cast<int>(row), column), value, Qt::EditRole);
+    m_parameters = m_table->dataArray();
+    return stored;
+}
+
+bool CreateCommand::parametersAreComplete()
+{
+    QString problem;
+    if (const auto blank = naming::firstBlankRequired(m_parameters))
+        problem = platform::formatString(Text::tr("'%@' cannot be left blank"), m_parameters[*blank].title()) + u'\n' +
+                  Text::tr("Please fill in this parameter before creating a project.") + u' ' +
+                  Text::tr("(--set \"%1=…\")").arg(m_parameters[*blank].title());
+    else if (naming::pathName(m_levels).isEmpty())
+        problem = Text::tr("Unable to create folder") + u'\n' + Text::tr("You must specify at least one parameter.");
+    else if (naming::hasUnusableLevel(m_levels))
+        problem = Text::tr("Unable to create folder") + u'\n' +
+                  Text::tr("The values give a folder level without a usable name (nothing, or dots only). Please change them.");
+    return problem.isNull() || fail(ExitStatus::failed, problem);
+}
+
+bool CreateCommand::findDestination()
+{
+    QString folder = m_invocation.value("--in");
+    if (folder.isNull()) {
+        folder = settings::fixedProjectLocationPath.text();
+        if (!settings::useFixedProjectLocation.isOn() || folder.isEmpty())
+            return fail(ExitStatus::wrongUsage, Text::tr("No fixed project location is set. Say where to create the project "
+                                                         "with --in FOLDER."));
+    } else {
+        folder = platform::absolutePath(folder);
+        if (!VTFileManager::isDirectoryAtPath(folder)) {
+            // Not made: the path may be that of a drive that is not plugged in.
+            const bool exists = VTFileManager::fileExistsAtPath(folder);
+            return fail(ExitStatus::failed,
+                        (exists ? Text::tr("%1 is not a folder.") : Text::tr("The folder %1 does not exist.")).arg(folder));
+        }
+    }
+    m_destination = joined(folder, naming::pathName(m_levels));
+    return true;
+}
+
+int CreateCommand::printPlan()
+{
+    const TreeListing tree = listTree(m_filesFolder);
+    const CreationPlan plan = planCreation(tree, m_levels);
+    for (const QString &level : plan.tooLongLevels)
+        fail(ExitStatus::failed, Text::tr("The folder name is too long: %1").arg(level));
+    for (const platform::Outcome &unreadable : tree.unreadable)
+        fail(ExitStatus::failed,
+             Text::tr("This folder of the template cannot be read: %1").arg(unreadable.description()));
+    for (const PlanItem &item : plan.items) {
+        if (item.remark != PlanItem::Remark::None)
+            m_status = ExitStatus::failed;
+    }
+    if (m_invocation.has("--json"))
+        printObject({}, &plan);
+    else
+        print(drawn(plan, m_destination));
+    return m_status;
+}
+
+int CreateCommand::create()
+{
+    const CreationResult result = ProjectCreation(*this).createProject(m_templateName, m_destination);
+    m_problems += result.errors;
+    const bool isThere = VTFileManager::fileExistsAtPath(m_destination);
+    if (result.cancelled)
+        m_status = ExitStatus::notOverwritten;
+    else if (!result.ok())
+        m_status = ExitStatus::failed;
+    else if (!isThere)
+        fail(ExitStatus::failed, Text::tr("The project was made, and is gone: %1").arg(m_destination));
+    if (m_status == ExitStatus::failed)
+        complain(m_status,
+                 Text::tr("The log names each item and the cause: %1").arg(VTLog::sharedController().currentLogPath()));
+    if (m_invocation.has("--json"))
+        printObject(result, nullptr);
+    else if (isThere && !result.cancelled)
+        print(m_destination + u'\n');
+    return m_status;
+}
+
+void CreateCommand::incrementDynamicValues()
+{
+    m_table->incrementDynamicValues();
+}
+
+void CreateCommand::printObject(const CreationResult &result, const CreationPlan *plan) const
+{
+    const auto shown = [](const QString &name) { return platform::forDisplay(name); };
+    QJsonObject object{
+        {"project", shown(naming::pathName(m_levels))},
+        {"name", shown(naming::projectName(m_levels))},
+        {"path", shown(m_destination)},
+        {"template", shown(m_templateName)},
+        {"folders", plan ? plan->folders() : result.folders},
+        {"files", plan ? plan->files() : result.files},
+        {"renamed", plan ? plan->renamed() : result.renamed},
+        {"errors", QJsonArray::fromStringList(m_problems)},
+    };
+    if (plan) {
+        static const QHash<PlanItem::Remark, QString> remarks{{PlanItem::Remark::NameTaken, "name taken"},
+                                                              {PlanItem::Remark::NameTooLong, "name too long"}};
+        QJsonArray items;
+        for (const PlanItem &item : plan->items) {
+            QJsonObject entry{{"path", shown(item.folder.isEmpty() ? item.newName : joined(item.folder, item.newName))},
+                              {"was", shown(item.oldName)},
+                              {"folder", item.kind == platform::FileKind::Folder}};
+            if (const QString remark = remarks.value(item.remark); !remark.isNull())
+                entry.insert("remark", remark);
+            items.append(entry);
+        }
+        object.insert("items", items);
+    }
+    print(object);
+}

@@ -1,0 +1,57 @@
+#pragma once
+
+#include "commands/Verb.h"
+#include "creation/CreationPlan.h"
+#include "creation/ProjectCreation.h"
+#include "parameters/FilenameParameter.h"
+#include "platform/files/TemporaryFolder.h"
+
+#include <memory>
+#include <optional>
+
+class VTProjectTableController;
+
+/** `Tessaro create`: the window's creation, with the command line in place of table, pop-up and panel. */
+class CreateCommand : private CreationHost
+{
+public:
+    explicit CreateCommand(const Invocation &invocation);
+    ~CreateCommand() override;
+
+    [[nodiscard]] int run();
+
+private:
+    // CreationHost: no spinner, nothing is revealed, and quitting is what a command does anyway.
+    void startProcessing() override {}
+    void finishProcessing() override {}
+    void incrementDynamicValues() override;
+    void reveal(const QString &) override {}
+    void quitIfWanted() override {}
+
+    [[nodiscard]] bool readParameters();
+    [[nodiscard]] bool findLibrary(QString &location, QStringList &names);
+    [[nodiscard]] bool applyValue(const QString &setting);
+    [[nodiscard]] bool parametersAreComplete();
+    [[nodiscard]] bool findDestination();
+    [[nodiscard]] bool findTemplate();
+    [[nodiscard]] int printPlan();
+    [[nodiscard]] int create();
+    /** Says it on standard error, remembers it and its status for the end. False, for whoever has to stop then. */
+    bool fail(int status, const QString &problem);
+    bool fail(const platform::Outcome &failure, const QString &problem);
+    /** The status of what was refused before anything was made. */
+    int refused();
+    void printObject(const CreationResult &result, const CreationPlan *plan) const;
+
+    const Invocation &m_invocation;
+    const bool m_isDryRun;
+    std::unique_ptr<VTProjectTableController> m_table; ///< absent in a dry run, which stores nothing
+    std::optional<platform::TemporaryFolder> m_unpacked; ///< the shipped templates, for a dry run before the first start
+    FilenameParameters m_parameters;
+    QStringList m_levels;
+    QString m_templateName;
+    QString m_filesFolder;
+    QString m_destination;
+    QStringList m_problems;
+    int m_status = 0;
+};

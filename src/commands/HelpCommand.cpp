@@ -1,0 +1,256 @@
+// help, --version, the manual page and the shells' completion: all of them from the table of verbs.
+#include "commands/CommandLine.h"
+#include "commands/Commands.h"
+#include "commands/TerminalOutput.h"
+#include "platform/base/NativePath.h"
+#include "platform/files/ApplicationBundle.h"
+
+#include <QCoreApplication>
+
+namespace {
+
+struct Text
+{
+    Q_DECLARE_TR_FUNCTIONS(Commands)
+};
+
+constexpr qsizetype helpColumn = 26;
+constexpr qsizetype lineLength = 100;
+
+QString versionText()
+{
+    return platform::ApplicationBundle::main().informationString(QStringLiteral("CFBundleShortVersionString"));
+}
+
+/// The text broken into lines that begin at the column; the first one goes behind what stands there.
+QString wrapped(const QString &text, qsizetype column)
+{
+    QString lines;
+    QString line;
+    for (const QString &word : text.split(u' ')) {
+        if (!line.isEmpty() && column + line.size() + 1 + word.size() > lineLength) {
+            lines += line + u'\n' + QString(column, u' ');
+            line.clear();
+        }
+        line += line.isEmpty() ? word : u' ' + word;
+    }
+    return lines + line;
+}
+
+QString entry(const QString &term, const QString &meaning, qsizetype indentation)
+{
+    const QString head = QString(indentation, u' ') + term;
+    const bool fits = head.size() + 2 <= helpColumn;
+    return (fits ? head.leftJustified(helpColumn) : head + u'\n' + QString(helpColumn, u' ')) +
+           wrapped(meaning, helpColumn) + u'\n';
+}
+
+QString termOf(const Option &option)
+{
+    return option.argument ? QLatin1String(option.name) + u' ' + QLatin1String(option.argument)
+                           : QString(QLatin1String(option.name));
+}
+
+QString withOptions(const Verb &verb, const QString &term, qsizetype indentation)
+{
+    QString text = entry(term, Text::tr(verb.help), indentation);
+    for (const Option &option : verb.options)
+        text += entry(termOf(option), Text::tr(option.help), indentation + 4);
+    return text;
+}
+
+QString exitStatusText()
+{
+    return Text::tr("Exit status: 0 done; 1 failed, or partly failed; 2 wrong usage; 3 the project or template exists and was "
+                    "not overwritten, the command was cancelled (--yes says yes), or the administrator's rights were "
+                    "refused.");
+}
+
+QString wholeHelp()
+{
+    QString text = Text::tr("Tessaro starts media and production projects from templates.") + QStringLiteral("\n\n");
+    text += entry(QStringLiteral("Tessaro"), Text::tr("Opens the window."), 2);
+    text += entry(QStringLiteral("Tessaro FILE.tzt..."), Text::tr("Takes the templates in and shows them."), 2);
+    text += u'\n';
+    for (const Verb &verb : verbs()) {
+        const QString term = *verb.arguments ? verb.name() + u' ' + QLatin1String(verb.arguments) : verb.name();
+        if (verb.help)
+            text += withOptions(verb, term, 2);
+    }
+    return text + u'\n' + wrapped(exitStatusText(), 0) + u'\n';
+}
+
+/// As roff takes it: a dash is a dash, and a line does not begin with a full stop.
+QString roff(QString text)
+{
+    text.replace(u'\\', QStringLiteral("\\e")).replace(u'-', QStringLiteral("\\-"));
+    return text.startsWith(u'.') || text.startsWith(u'\'') ? QStringLiteral("\\&") + text : text;
+}
+
+QString quoted(QString text)
+{
+    return u'\'' + text.replace(u'\'', QStringLiteral("'\\''")) + u'\'';
+}
+
+/// The verbs' words by what stands before them: "" gives the first words, "template" those behind it.
+QMap<QString, QStringList> nextWords()
+{
+    QMap<QString, QStringList> next;
+    for (const Verb &verb : verbs()) {
+        QString before;
+        for (const QString &word : verb.name().split(u' ')) {
+            if (!next[before].contains(word))
+                next[before].append(word);
+            before = before.isEmpty() ? word : before + u' ' + word;
+        }
+        for (const Option &option : verb.options)
+            next[verb.name()].append(QLatin1String(option.name));
+    }
+    return next;
+}
+
+QString wantsFolder(Completes completes)
+{
+    return completes == Completes::Folder ? QStringLiteral("-d") : QStringLiteral("-f");
+}
+
+/// What follows an option that takes a file or folder, whichever verb it belongs to.
+QMap<QString, QString> fileOptions()
+{
+    QMap<QString, QString> found;
+    for (const Verb &verb : verbs()) {
+        for (const Option &option : verb.options) {
+            if (option.completes != Completes::Nothing)
+                found.insert(QLatin1String(option.name), wantsFolder(option.completes));
+        }
+    }
+    return found;
+}
+
+QString bashCompletion()
+{
+    QString script = QStringLiteral("# Completion of Tessaro for bash. Made by: Tessaro completion bash\n"
+                                    "_tessaro() {\n"
+                                    "    local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD-1]}\n"
+                                    "    case $previous in\n");
+    const auto options = fileOptions();
+    for (auto option = options.cbegin(); option != options.cend(); ++option)
+        script += QStringLiteral("    %1) compopt -o filenames; mapfile -t COMPREPLY < <(compgen %2 -- \"$current\"); return ;;\n")
+                      .arg(option.key(), option.value());
+    script += QStringLiteral("    esac\n"
+                             "    local words=${COMP_WORDS[1]}\n"
+                             "    [ \"$COMP_CWORD\" -gt 2 ] && words+=\" ${COMP_WORDS[2]}\"\n"
+                             "    [ \"$COMP_CWORD\" -le 1 ] && words=\n"
+                             "    case $words in\n");
+    const auto next = nextWords();
+    for (auto words = next.cbegin(); words != next.cend(); ++words)
+        script += QStringLiteral("    %1) mapfile -t COMPREPLY < <(compgen -W %2 -- \"$current\") ;;\n")
+                      .arg(words.key().isEmpty() ? QStringLiteral("''") : quoted(words.key()),
+                           quoted(words.value().join(u' ')));
+    return script + QStringLiteral("    esac\n"
+                                   "    if [ ${#COMPREPLY[@]} -eq 0 ]; then\n"
+                                   "        compopt -o filenames; mapfile -t COMPREPLY < <(compgen -f -- \"$current\")\n"
+                                   "    fi\n"
+                                   "}\n"
+                                   "complete -F _tessaro Tessaro tessaro\n");
+}
+
+QString zshCompletion()
+{
+    return QStringLiteral("#compdef Tessaro tessaro\n"
+                          "# Completion of Tessaro for zsh. Made by: Tessaro completion zsh\n"
+                          "autoload -U +X bashcompinit && bashcompinit\n") +
+           bashCompletion();
+}
+
+QString fishCompletion()
+{
+    QString script = QStringLiteral("# Completion of Tessaro for fish. Made by: Tessaro completion fish\n");
+    for (const char *program : {"Tessaro", "tessaro"}) {
+        for (const Verb &verb : verbs()) {
+            if (!verb.help)
+                continue;
+            const QStringList words = verb.name().split(u' ');
+            const QString seen = words.size() == 1 ? QStringLiteral("__fish_use_subcommand")
+                                                   : QStringLiteral("__fish_seen_subcommand_from ") + words[0];
+            script += QStringLiteral("complete -c %1 -n %2 -a %3 -d %4\n")
+                          .arg(QLatin1String(program), quoted(seen), quoted(words.constLast()), quoted(Text::tr(verb.help)));
+            for (const Option &option : verb.options)
+                script += QStringLiteral("complete -c %1 -n %2 -l %3%4 -d %5\n")
+                              .arg(QLatin1String(program),
+                                   quoted(QStringLiteral("__fish_seen_subcommand_from ") + words.constLast()),
+                                   QLatin1String(option.name).mid(2), option.argument ? QStringLiteral(" -r") : QString(),
+                                   quoted(Text::tr(option.help)));
+        }
+    }
+    return script;
+}
+
+} // namespace
+
+QString helpOn(const Verb &verb)
+{
+    QString text = verb.usage() + QStringLiteral("\n\n");
+    if (verb.help)
+        text += wrapped(Text::tr(verb.help), 0) + u'\n';
+    for (const Option &option : verb.options)
+        text += entry(termOf(option), Text::tr(option.help), 2);
+    return text;
+}
+
+int commands::help(const Invocation &invocation)
+{
+    if (invocation.arguments.isEmpty()) {
+        print(wholeHelp());
+        return ExitStatus::done;
+    }
+    const QString wanted = invocation.arguments.join(u' ');
+    QString text;
+    for (const Verb &verb : verbs()) {
+        if (verb.name() == wanted || verb.name().startsWith(wanted + u' '))
+            text += (text.isEmpty() ? QString() : QStringLiteral("\n")) + helpOn(verb);
+    }
+    if (text.isEmpty())
+        return complain(ExitStatus::wrongUsage,
+                        Text::tr("“%1” is no command of Tessaro. Tessaro --help lists them.").arg(wanted));
+    print(text);
+    return ExitStatus::done;
+}
+
+int commands::version(const Invocation &)
+{
+    print(QStringLiteral("Tessaro %1\n").arg(versionText()));
+    return ExitStatus::done;
+}
+
+int commands::printManualPage(const Invocation &)
+{
+    QString page = QStringLiteral(".TH TESSARO 1 \"\" \"Tessaro %1\"\n.SH NAME\nTessaro \\- %2\n.SH SYNOPSIS\n")
+                       .arg(versionText(), roff(Text::tr("starts media and production projects from templates")));
+    page += QStringLiteral(".B Tessaro\n.RI [ FILE.tzt ...]\n");
+    for (const Verb &verb : verbs()) {
+        if (verb.help)
+            page += QStringLiteral(".br\n%1\n").arg(roff(verb.usage()));
+    }
+    page += QStringLiteral(".SH COMMANDS\n");
+    for (const Verb &verb : verbs()) {
+        if (!verb.help)
+            continue;
+        page += QStringLiteral(".SS %1\n%2\n").arg(roff(verb.usage()), roff(Text::tr(verb.help)));
+        for (const Option &option : verb.options)
+            page += QStringLiteral(".TP\n.B %1\n%2\n").arg(roff(termOf(option)), roff(Text::tr(option.help)));
+    }
+    print(page + QStringLiteral(".SH EXIT STATUS\n%1\n").arg(roff(exitStatusText())));
+    return ExitStatus::done;
+}
+
+int commands::printCompletion(const Invocation &invocation)
+{
+    const QHash<QString, QString (*)()> shells{
+        {"bash", bashCompletion}, {"zsh", zshCompletion}, {"fish", fishCompletion}};
+    const auto shell = shells.constFind(invocation.argument(0));
+    if (shell == shells.cend())
+        return complain(ExitStatus::wrongUsage, Text::tr("There is completion for bash, zsh and fish."));
+    print((*shell)());
+    return ExitStatus::done;
+}

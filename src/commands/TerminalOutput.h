@@ -1,0 +1,25 @@
+#pragma once
+
+#include "commands/Verb.h"
+#include "platform/base/Outcome.h"
+
+class QJsonArray;
+class QJsonObject;
+
+/** What every command prints goes through here. Main thread. */
+
+/** On standard output, byte for byte. What could not be printed makes the command fail. */
+void print(const QString &text);
+void print(const QJsonObject &object);
+void print(const QJsonArray &list);
+
+/** One sentence on standard error; returns the status. */
+int complain(int status, const QString &sentence);
+/** The failure on standard error, the sentence first, where there is one; returns the status of its cause. */
+int complain(const platform::Outcome &failure, const QString &sentence = {});
+
+/** The command's exit status: the given one, or a failure, after a complaint, when standard output took less than all. */
+[[nodiscard]] int finished(int status);
+
+/** What is known of a verb, for people. */
+[[nodiscard]] QString helpOn(const Verb &verb);

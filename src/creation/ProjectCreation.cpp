@@ -1,0 +1,171 @@
+#include "creation/ProjectCreation.h"
+
+#include "creation/CreationPlan.h"
+#include "parameters/ParameterStore.h"
+#include "platform/base/MainThread.h"
+#include "platform/base/NativePath.h"
+#include "platform/files/FileTree.h"
+#include "support/FileOperations.h"
+#include "support/VTAlert.h"
+#include "support/VTLog.h"
+#include "templates/VTDataController.h"
+
+#include <QCoreApplication>
+
+using platform::Cause;
+using platform::FileKind;
+using platform::formatString;
+using platform::Outcome;
+
+namespace {
+
+constexpr std::chrono::seconds patience{20};
+
+struct Text
+{
+    Q_DECLARE_TR_FUNCTIONS(ProjectCreation)
+};
+
+} // namespace
+
+CreationResult ProjectCreation::createProject(const QString &templateName, const QString &atPath)
+{
+    m_host.startProcessing();
+    VTLog::appendLog("Creating template %@ at %@...", templateName, atPath);
+
+    const Outcome claimed = claimDestination(atPath);
+    if (claimed.is(Cause::Declined)) {
+        m_result.cancelled = true;
+        m_host.finishProcessing();
+        return m_result;
+    }
+    if (!claimed.ok())
+        tell(formatString(Text::tr("Unable to create folder %@"), atPath), checkDestination(claimed));
+
+    // From here on nothing ends the sequence: what could be made is renamed, dated and counted, and each failure told.
+    copyTemplate(VTDataController::filesFolder(templateName), atPath);
+    renameTemplateFiles(atPath, projectNameFromParameters());
+    updateTimestamps(atPath);
+    m_host.reveal(atPath);
+    m_host.incrementDynamicValues();
+    m_host.quitIfWanted();
+    VTLog::appendLog("Template created successfully");
+    m_host.finishProcessing();
+    return m_result;
+}
+
+/// Makes the project's own folder, its parents first. Made in one step that fails when anything stands there, so that of
+/// two programs that create the same project at once only one goes on and the other asks. Cause::Declined: nothing may be
+/// created.
+Outcome ProjectCreation::claimDestination(const QString &destination)
+{
+    for (;;) {
+        if (platform::kindOf(destination) != FileKind::Missing && !putAwayExisting(destination))
+            return Outcome::failure(Cause::Declined, destination);
+        const QString parent = platform::parentPath(destination);
+        const Outcome above = VTFileManager::isDirectoryAtPath(parent) ? Outcome()
+                                                                       : fileoperations::createDirectory(parent, patience);
+        if (!above.ok())
+            return above;
+        const Outcome made = platform::makeNewFolder(destination);
+        if (made.ok())
+            return made;
+        // Something that stands there and cannot be looked at (a mount that is gone) would be asked about for ever.
+        if (!made.is(Cause::Exists) || platform::kindOf(destination) == FileKind::Missing)
+            return fileoperations::createDirectory(destination, patience);
+    }
+}
+
+/// Asks, and moves the existing project to the Trash. False: it stays, and so nothing may be created.
+bool ProjectCreation::putAwayExisting(const QString &destination)
+{
+    VTLog::appendLog("Project already exists; asking the user what to do...");
+    const int answer = VTAlert::show(
+        {Text::tr("A project with this name already exists. Are you sure you wish to overwrite it?"),
+         Text::tr("The old project will be placed in the trash."), Text::tr("Overwrite"), Text::tr("Cancel"), {},
+         VTAlert::alternateReturn});
+    if (answer != VTAlert::defaultReturn) {
+        VTLog::appendLog("User chose to cancel.");
+        return false;
+    }
+    const Outcome trashed = fileoperations::trashFile(destination, patience);
+    if (trashed.ok())
+        return true;
+    tell(formatString(Text::tr("Unable to move %@ to the Trash"), destination),
+         withCause(Text::tr("The old project was left as it is, and no new one was created. Please check that you have "
+                            "write permissions for the folder it lies in."),
+                   trashed));
+    return false;
+}
+
+void ProjectCreation::copyTemplate(const QString &files, const QString &destination)
+{
+    const Outcome copied = VTFileManager::isDirectoryAtPath(destination)
+                               ? fileoperations::copyContentsOfDirectory(files, destination, patience)
+                               : Outcome::failure(Cause::Missing, destination);
+    if (copied.ok())
+        return;
+    VTLog::appendLog("Error copying file: %@", copied.description());
+    tell(Text::tr("Unable to copy contents of template"), checkDestination(copied));
+}
+
+void ProjectCreation::renameTemplateFiles(const QString &folder, const QString &newName)
+{
+    platform::performInBackground([&] { renameBelow(folder, newName); });
+}
+
+void ProjectCreation::renameBelow(const QString &folder, const QString &newName)
+{
+    VTLog::appendLog("Renaming template files from %@ to %@", folder, newName);
+    const auto entries = platform::listFolder(folder);
+    const bool isThere = platform::kindOf(folder) == FileKind::Folder;
+    if (!entries && isThere) { // a project that could not be made has been told of
+        VTLog::appendLog("Unable to read folder: %@", entries.outcome().description());
+        tell(formatString(Text::tr("Unable to look for names to replace in %@"), folder),
+             entries.outcome().description());
+    }
+    for (const auto &entry : entries.valueOr({})) {
+        const bool isFolder = entry.kind == FileKind::Folder;
+        ++(isFolder ? m_result.folders : m_result.files);
+        if (isFolder) // children first, so that their paths stay valid
+            renameBelow(platform::joined(folder, entry.name), newName);
+        renameEntry(folder, entry, newName);
+    }
+}
+
+void ProjectCreation::renameEntry(const QString &folder, const platform::FolderEntry &entry, const QString &newName)
+{
+    const QString wanted = nameInProject(entry.name, newName);
+    if (wanted == entry.name)
+        return;
+    const QString from = platform::joined(folder, entry.name);
+    const QString to = platform::joined(folder, wanted);
+    // A sibling that has the name already is never replaced: the move's last resort is a tool that would do so.
+    const bool taken = platform::kindOf(to) != FileKind::Missing && platform::identityOf(to) != platform::identityOf(from);
+    if (taken)
+        VTLog::appendLog("Error moving file: %@ is taken", to);
+    const Outcome moved = taken ? Outcome::failure(Cause::Exists, to) : fileoperations::moveFile(from, to);
+    if (moved.ok())
+        ++m_result.renamed;
+    else
+        tell(formatString(Text::tr("Unable to move file %@ to %@"), from, to), checkDestination(moved));
+}
+
+void ProjectCreation::updateTimestamps(const QString &folder)
+{
+    platform::performInBackground([&] {
+        const auto entering = [](const QString &path) { VTLog::appendLog("Updating timestamps for folder %@", path); };
+        // In this process, without a tool for each item; what it may not touch goes through the tool with rights.
+        for (const Outcome &untouched : platform::touchBelow(folder, entering)) {
+            const bool mayHelp = untouched.needsRights() && platform::kindOf(untouched.item()) != FileKind::Link;
+            if (!mayHelp || !VTFileManager::touchFile(untouched.item()))
+                VTLog::appendLog("Error updating timestamp: %@", untouched.description());
+        }
+    });
+}
+
+void ProjectCreation::tell(const QString &message, const QString &informativeText)
+{
+    m_result.errors.append(message);
+    VTAlert::show({message, informativeText});
+}

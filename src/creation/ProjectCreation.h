@@ -1,0 +1,61 @@
+#pragma once
+
+#include "platform/files/FileSystem.h"
+
+#include <QStringList>
+
+/** What surrounds a creation: the window with its table, or the command line. */
+class CreationHost
+{
+public:
+    virtual ~CreationHost() = default;
+    virtual void startProcessing() = 0;
+    virtual void finishProcessing() = 0;
+    /** The counters advance: the next project gets the next number. */
+    virtual void incrementDynamicValues() = 0;
+    /** The project stands; shown to the user if the user wants that. */
+    virtual void reveal(const QString &project) = 0;
+    virtual void quitIfWanted() = 0;
+};
+
+/** What became of a creation. */
+struct CreationResult
+{
+    bool cancelled = false; ///< the user did not want the existing project overwritten, or it could not be put away
+    QStringList errors;     ///< one sentence for each message shown
+    qsizetype folders = 0;
+    qsizetype files = 0;
+    qsizetype renamed = 0;
+    [[nodiscard]] bool ok() const { return !cancelled && errors.isEmpty(); }
+};
+
+/**
+ * Makes one project out of a template: the main road. Main thread; each step that works on files runs on a worker while
+ * the event loop turns with the windows closed to input. One object makes one project.
+ */
+class ProjectCreation
+{
+public:
+    explicit ProjectCreation(CreationHost &host) : m_host(host) {}
+
+    /** The whole sequence. A folder or a copy that fails does not end it: what could be made is finished and told of. */
+    [[nodiscard]] CreationResult createProject(const QString &templateName, const QString &atPath);
+
+    /** Renames every item below the folder whose name says template, children before their parents, links themselves. */
+    void renameTemplateFiles(const QString &folder, const QString &newName);
+    /** Dates every item below the folder, the folder itself not. */
+    void updateTimestamps(const QString &folder);
+
+    [[nodiscard]] const CreationResult &result() const { return m_result; }
+
+private:
+    platform::Outcome claimDestination(const QString &destination);
+    [[nodiscard]] bool putAwayExisting(const QString &destination);
+    void copyTemplate(const QString &files, const QString &destination);
+    void renameBelow(const QString &folder, const QString &newName);
+    void renameEntry(const QString &folder, const platform::FolderEntry &entry, const QString &newName);
+    void tell(const QString &message, const QString &informativeText);
+
+    CreationHost &m_host;
+    CreationResult m_result;
+};

@@ -1,0 +1,205 @@
+#include "parameters/table/ParameterEditorModel.h"
+
+#include "parameters/ParameterStore.h"
+#include "support/Notifications.h"
+#include "ui/ValueCellDelegate.h"
+
+#include <QDataStream>
+#include <QIODevice>
+#include <QMimeData>
+
+using parameterlist::Column;
+
+namespace {
+
+bool isFlag(Column column)
+{
+    return column >= Column::Folder;
+}
+
+QList<int> rowsOf(const QMimeData &data)
+{
+    QList<int> rows;
+    QDataStream stream(data.data(ParameterEditorModel::VTPboardType));
+    stream >> rows;
+    return rows;
+}
+
+} // namespace
+
+int ParameterEditorModel::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(storedParameters().size());
+}
+
+int ParameterEditorModel::columnCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : parameterlist::columnCount;
+}
+
+QVariant ParameterEditorModel::data(const QModelIndex &index, int role) const
+{
+    const auto column = static_cast<Column>(index.column());
+    const FilenameParameters list = storedParameters();
+    const QVariant value = parameterlist::shownValue(list, index.row(), column);
+    switch (role) {
+    case Qt::DisplayRole:
+    case Qt::EditRole:
+        return isFlag(column) ? QVariant() : value;
+    case Qt::CheckStateRole:
+        return isFlag(column) ? QVariant(value.toBool() ? Qt::Checked : Qt::Unchecked) : QVariant();
+    case Qt::AccessibleTextRole:
+        return headerData(index.column(), Qt::Horizontal, Qt::DisplayRole).toString() + QStringLiteral(": ") +
+               (isFlag(column) ? (value.toBool() ? tr("on") : tr("off")) : value.toString());
+    case Qt::ToolTipRole:
+        return column == Column::Default && list.value(index.row()).kind() == FilenameParameter::Kind::Choice
+                   ? tr("The choices, with commas between them; the first is the default.")
+                   : QVariant();
+    case CellRole::Editor:
+        return QVariant::fromValue(column == Column::Kind ? CellEditor::Choices : CellEditor::Text);
+    case CellRole::Items:
+        return column == Column::Kind ? QVariant(parameterlist::kindNames()) : QVariant();
+    case CellRole::Secondary:
+        return !parameterlist::isEditable(list, index.row(), column);
+    case CellRole::AccessibleName:
+        return headerData(index.column(), Qt::Horizontal, Qt::DisplayRole);
+    default:
+        return {};
+    }
+}
+
+QVariant ParameterEditorModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    static const QStringList titles{tr("Title"),   tr("Kind"),     tr("Default"), tr("Folder"),
+                                    tr("History"), tr("Required"), tr("Locked")};
+    static const QStringList tips{tr("What the value is called"),
+                                  tr("How it is filled in"),
+                                  tr("What it begins with; for a choice, the choices with commas between them"),
+                                  tr("Begins a new folder level"),
+                                  tr("Remembers what was typed, and offers it again (Save History)"),
+                                  tr("Must not be empty"),
+                                  tr("Cannot be changed in the project pane")};
+    if (orientation == Qt::Horizontal && role == Qt::DisplayRole)
+        return titles.value(section);
+    return orientation == Qt::Horizontal && role == Qt::ToolTipRole ? tips.value(section) : QVariant();
+}
+
+bool ParameterEditorModel::setData(const QModelIndex &index, const QVariant &value, int role)
+{
+    const auto column = static_cast<Column>(index.column());
+    QVariant stored;
+    if (isFlag(column) && role == Qt::CheckStateRole)
+        stored = column == Column::Locked ? QVariant(value.toInt() == Qt::Checked ? 1LL : 0LL)
+                                          : QVariant(value.toInt() == Qt::Checked);
+    else if (column == Column::Kind && role == Qt::EditRole)
+        stored = static_cast<qlonglong>(parameterlist::kindNamed(value.toString()).value_or(FilenameParameter::Kind::Text));
+    else if (!isFlag(column) && role == Qt::EditRole)
+        stored = value.toString();
+    else
+        return false;
+    const FilenameParameters list = storedParameters();
+    const bool isShown = !isFlag(column) && value == parameterlist::shownValue(list, index.row(), column);
+    if (isShown || !parameterlist::isEditable(list, index.row(), column))
+        return false;
+    store(parameterlist::withEntry(list, index.row(), parameterlist::keyOf(column), stored));
+    Q_EMIT dataChanged(index.siblingAtColumn(0), index.siblingAtColumn(parameterlist::columnCount - 1));
+    return true;
+}
+
+Qt::ItemFlags ParameterEditorModel::flags(const QModelIndex &index) const
+{
+    if (!index.isValid())
+        return Qt::ItemIsDropEnabled; // between the rows only
+    const auto column = static_cast<Column>(index.column());
+    Qt::ItemFlags flags = Qt::ItemIsSelectable | Qt::ItemIsDragEnabled;
+    if (parameterlist::isEditable(storedParameters(), index.row(), column))
+        flags |= Qt::ItemIsEnabled | (isFlag(column) ? Qt::ItemIsUserCheckable : Qt::ItemIsEditable);
+    return flags;
+}
+
+QStringList ParameterEditorModel::mimeTypes() const
+{
+    return {VTPboardType};
+}
+
+QMimeData *ParameterEditorModel::mimeData(const QModelIndexList &indexes) const
+{
+    QList<int> rows;
+    for (const QModelIndex &index : indexes) {
+        if (!rows.contains(index.row()))
+            rows.append(index.row());
+    }
+    QByteArray archive;
+    QDataStream stream(&archive, QIODevice::WriteOnly);
+    stream << rows;
+    auto *data = new QMimeData;
+    data->setData(VTPboardType, archive);
+    return data;
+}
+
+Qt::DropActions ParameterEditorModel::supportedDropActions() const
+{
+    return Qt::MoveAction;
+}
+
+bool ParameterEditorModel::canDropMimeData(const QMimeData *data, Qt::DropAction, int, int, const QModelIndex &) const
+{
+    return data->hasFormat(VTPboardType);
+}
+
+bool ParameterEditorModel::dropMimeData(const QMimeData *data, Qt::DropAction, int row, int, const QModelIndex &parent)
+{
+    const int dropRow = row >= 0 ? row : parent.isValid() ? parent.row() : rowCount();
+    const auto result = parameterlist::moved(storedParameters(), rowsOf(*data), dropRow);
+    if (!result)
+        return false;
+    beginResetModel();
+    store(result->list);
+    endResetModel();
+    Q_EMIT rowsDropped(result->selection);
+    return true;
+}
+
+int ParameterEditorModel::addNewFilenameParam()
+{
+    const int row = rowCount();
+    beginInsertRows({}, row, row);
+    store(parameterlist::withNewParameter(storedParameters(), tr("New Parameter")));
+    endInsertRows();
+    return row;
+}
+
+void ParameterEditorModel::remove(const QList<int> &rows)
+{
+    beginResetModel();
+    store(parameterlist::without(storedParameters(), rows));
+    endResetModel();
+}
+
+void ParameterEditorModel::restoreDefaultParams()
+{
+    beginResetModel();
+    static_cast<void>(restoreShippedParameters()); // the table shows what is stored
+    endResetModel();
+    notify();
+    Q_EMIT listChanged();
+}
+
+void ParameterEditorModel::reload()
+{
+    beginResetModel();
+    endResetModel();
+}
+
+void ParameterEditorModel::store(const FilenameParameters &list)
+{
+    static_cast<void>(storeParameters(list)); // the table shows what is stored
+    notify();
+    Q_EMIT listChanged();
+}
+
+void ParameterEditorModel::notify()
+{
+    Q_EMIT Notifications::hub().VTTessaroReloadFilenameParams();
+    Q_EMIT Notifications::hub().VTTessaroRefreshDynamicValues();
+}

@@ -1,0 +1,41 @@
+#include "platform/base/Console.h"
+
+#include "platform/base/LocalTime.h"
+#include "platform/base/NativePath.h"
+#include "platform/base/System.h"
+#include "platform/base/WholeWrite.h"
+
+#include <unistd.h>
+
+namespace platform {
+namespace {
+
+Outcome writeTo(int descriptor, const QByteArray &bytes, const char *name)
+{
+    return writeWhole(descriptor, bytes.constData(), static_cast<std::size_t>(bytes.size()))
+               ? Outcome()
+               : Outcome::fromErrno(QLatin1String(name));
+}
+
+} // namespace
+
+void printToConsole(const QString &text)
+{
+    const QString line = QStringLiteral("%1 %2[%3] %4\n")
+                             .arg(currentDateDescription(), lastComponent(executablePath()))
+                             .arg(getpid())
+                             .arg(forDisplay(text));
+    static_cast<void>(writeTo(STDERR_FILENO, line.toUtf8(), "stderr")); // there is nowhere left to say it
+}
+
+Outcome writeToStandardOutput(const QString &text)
+{
+    return writeTo(STDOUT_FILENO, toNative(text), "standard output");
+}
+
+void writeToStandardError(const QString &text)
+{
+    static_cast<void>(writeTo(STDERR_FILENO, forDisplay(text).toUtf8(), "stderr"));
+}
+
+} // namespace platform

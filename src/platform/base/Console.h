@@ -1,0 +1,17 @@
+#pragma once
+
+#include "platform/base/Outcome.h"
+
+#include <QString>
+
+namespace platform {
+
+/** One line on standard error with time, program name and process id, in one write. Any thread. */
+void printToConsole(const QString &text);
+
+/** Text exactly as it is, in one write where the system takes it whole. What cannot be printed (a full disk behind a
+    redirection) is a failure of the command. */
+Outcome writeToStandardOutput(const QString &text);
+void writeToStandardError(const QString &text);
+
+} // namespace platform

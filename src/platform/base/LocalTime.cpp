@@ -1,0 +1,93 @@
+#include "platform/base/LocalTime.h"
+
+#include "platform/base/NativePath.h"
+
+#include <array>
+#include <clocale>
+#include <vector>
+
+namespace platform {
+namespace {
+
+locale_t english()
+{
+    static const locale_t locale = newlocale(LC_ALL_MASK, "C", nullptr);
+    return locale;
+}
+
+std::tm localTime(std::time_t moment)
+{
+    std::tm parts{};
+    localtime_r(&moment, &parts);
+    return parts;
+}
+
+/// "%e" pads with a blank in strftime; "%-d" is the same number without it.
+QByteArray withUnpaddedDay(const QByteArray &format)
+{
+    QByteArray result;
+    for (qsizetype i = 0; i < format.size(); ++i) {
+        if (format[i] != '%' || i + 1 == format.size()) {
+            result += format[i];
+            continue;
+        }
+        ++i;
+        result += format[i] == 'e' ? QByteArray("%-d") : QByteArray("%") + format[i];
+    }
+    return result;
+}
+
+} // namespace
+
+QString dateDescription(std::time_t moment)
+{
+    const std::tm parts = localTime(moment);
+    std::array<char, 40> buffer{};
+    const std::size_t length = strftime_l(buffer.data(), buffer.size(), "%Y-%m-%d %H:%M:%S %z", &parts, english());
+    return QString::fromLatin1(buffer.data(), static_cast<qsizetype>(length));
+}
+
+QString currentDateDescription()
+{
+    return dateDescription(std::time(nullptr));
+}
+
+QString formatDate(const QString &format, std::time_t moment)
+{
+    const std::tm parts = localTime(moment);
+    // The mark at the end tells an empty result from a buffer that was too small: strftime answers 0 to both.
+    const QByteArray marked = withUnpaddedDay(toNative(format)) + '|';
+    std::vector<char> buffer(static_cast<std::size_t>(marked.size()) * 4 + 256);
+    std::size_t length = 0;
+    for (int attempt = 0; length == 0 && attempt < 12; ++attempt, buffer.resize(buffer.size() * 2))
+        length = strftime_l(buffer.data(), buffer.size(), marked.constData(), &parts, english());
+    return length == 0 ? QString() : fromNative(QByteArrayView(buffer.data(), static_cast<qsizetype>(length) - 1));
+}
+
+DateFormatProblem problemOfDateFormat(const QString &format)
+{
+    static const QLatin1String letters("aAbBcCdDeFgGhHIjklmMnpPrRsStTuUVwWxXyYzZ+");
+    static const QLatin1String flags("_-0^#");
+    bool hasDate = false;
+    for (qsizetype i = 0; i < format.size(); ++i) {
+        if (format[i] != u'%')
+            continue;
+        ++i;
+        while (i < format.size() && flags.contains(format[i]))
+            ++i;
+        while (i < format.size() && format[i].isDigit()) // a width
+            ++i;
+        if (i < format.size() && (format[i] == u'E' || format[i] == u'O')) // another calendar's form
+            ++i;
+        if (i == format.size())
+            return DateFormatProblem::CutOff;
+        if (format[i] == u'%')
+            continue;
+        if (!letters.contains(format[i]))
+            return DateFormatProblem::UnknownLetter;
+        hasDate = hasDate || !QLatin1String("nt").contains(format[i]);
+    }
+    return hasDate ? DateFormatProblem::None : DateFormatProblem::NoDate;
+}
+
+} // namespace platform

@@ -1,0 +1,172 @@
+#include "platform/base/MainThread.h"
+
+#include <QCoreApplication>
+#include <QEvent>
+#include <QEventLoop>
+#include <QThread>
+#include <QTimer>
+#include <atomic>
+#include <condition_variable>
+#include <memory>
+#include <mutex>
+
+namespace platform {
+namespace {
+
+/// Closed once; waited for by a thread that looks again at least every second.
+class Gate
+{
+public:
+    void open()
+    {
+        const std::scoped_lock lock(m_mutex);
+        m_open = true;
+        m_changed.notify_all();
+    }
+    void wait()
+    {
+        std::unique_lock lock(m_mutex);
+        while (!m_open && QCoreApplication::instance())
+            m_changed.wait_for(lock, std::chrono::seconds(1));
+    }
+
+private:
+    std::mutex m_mutex;
+    std::condition_variable m_changed;
+    bool m_open = false;
+};
+
+bool isInput(QEvent::Type type)
+{
+    switch (type) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseMove:
+    case QEvent::Wheel:
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+    case QEvent::ShortcutOverride:
+    case QEvent::Shortcut:
+    case QEvent::TouchBegin:
+    case QEvent::TouchUpdate:
+    case QEvent::TouchEnd:
+    case QEvent::TabletPress:
+    case QEvent::TabletMove:
+    case QEvent::TabletRelease:
+    case QEvent::ContextMenu:
+    case QEvent::DragEnter:
+    case QEvent::DragMove:
+    case QEvent::Drop:
+    case QEvent::InputMethod:
+    case QEvent::Close: return true;
+    default: return false;
+    }
+}
+
+class InputFilter : public QObject
+{
+public:
+    static InputFilter &instance()
+    {
+        static auto *filter = new InputFilter(QCoreApplication::instance());
+        return *filter;
+    }
+
+    int closed = 0;
+    int allowed = 0;
+
+private:
+    using QObject::QObject;
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (closed == 0 || allowed > 0 || !isInput(event->type()))
+            return false;
+        event->ignore();
+        return true;
+    }
+};
+
+} // namespace
+
+bool MainThread::isCurrent()
+{
+    const auto *application = QCoreApplication::instance();
+    return !application || QThread::currentThread() == application->thread();
+}
+
+void MainThread::perform(std::function<void()> call, Waiting waiting)
+{
+    if (isCurrent())
+        return call();
+    auto *application = QCoreApplication::instance();
+    if (waiting == Waiting::No) {
+        QMetaObject::invokeMethod(application, std::move(call), Qt::QueuedConnection);
+        return;
+    }
+    const auto done = std::make_shared<Gate>();
+    QMetaObject::invokeMethod(
+        application,
+        [done, call = std::move(call)] {
+            call();
+            done->open();
+        },
+        Qt::QueuedConnection);
+    done->wait();
+}
+
+void MainThread::turnLoop(std::chrono::milliseconds atMost)
+{
+    QEventLoop loop;
+    QTimer wakeUp;
+    wakeUp.setSingleShot(true);
+    wakeUp.start(atMost);
+    loop.processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
+}
+
+void performInBackground(const std::function<void()> &work)
+{
+    if (!MainThread::isCurrent() || !QCoreApplication::instance())
+        return work();
+    const InputClosed closed;
+    QEventLoop loop;
+    std::atomic<bool> finished = false;
+    auto *worker = QThread::create([&] {
+        work();
+        finished = true; // before the loop is told to quit: who wakes up must find it so
+        QMetaObject::invokeMethod(&loop, &QEventLoop::quit, Qt::QueuedConnection);
+    });
+    const std::unique_ptr<QThread> owner(worker);
+    worker->start();
+    loop.exec();
+    // The loop ends early when the application was told to quit: the work is finished all the same, never abandoned.
+    while (!finished)
+        MainThread::turnLoop(std::chrono::milliseconds(10));
+    worker->wait();
+}
+
+InputClosed::InputClosed()
+{
+    auto &filter = InputFilter::instance();
+    if (filter.closed++ == 0)
+        QCoreApplication::instance()->installEventFilter(&filter);
+}
+
+InputClosed::~InputClosed()
+{
+    auto &filter = InputFilter::instance();
+    if (--filter.closed == 0)
+        QCoreApplication::instance()->removeEventFilter(&filter);
+}
+
+InputAllowed::InputAllowed()
+{
+    ++InputFilter::instance().allowed;
+}
+
+InputAllowed::~InputAllowed()
+{
+    --InputFilter::instance().allowed;
+}
+
+} // namespace platform

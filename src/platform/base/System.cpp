@@ -1,0 +1,50 @@
+#include "platform/base/System.h"
+
+#include "platform/base/NativePath.h"
+
+#include <QSysInfo>
+#include <climits>
+#include <clocale>
+#include <cstring>
+#include <langinfo.h>
+#include <unistd.h>
+
+namespace platform {
+
+QString executablePath()
+{
+    static const QString path = [] {
+        char target[PATH_MAX];
+        const ssize_t length = readlink("/proc/self/exe", target, sizeof target);
+        return length < 0 ? QString() : fromNative(QByteArrayView(target, length));
+    }();
+    return path;
+}
+
+QString operatingSystemName()
+{
+    return QSysInfo::prettyProductName();
+}
+
+int processorCount()
+{
+    return static_cast<int>(sysconf(_SC_NPROCESSORS_ONLN));
+}
+
+double memoryInGibibytes()
+{
+    return static_cast<double>(sysconf(_SC_PHYS_PAGES)) * static_cast<double>(sysconf(_SC_PAGESIZE)) / 1024 / 1024 / 1024;
+}
+
+void prepareLocale()
+{
+    std::setlocale(LC_ALL, "");
+    if (std::strcmp(nl_langinfo(CODESET), "UTF-8") == 0)
+        return;
+    // The language of messages stays as it was; only what names are made of changes.
+    qunsetenv("LC_ALL");
+    qputenv("LC_CTYPE", "C.UTF-8");
+    std::setlocale(LC_ALL, "");
+}
+
+} // namespace platform

@@ -1,0 +1,100 @@
+#include "platform/desktop/SingleInstance.h"
+
+#include "platform/desktop/Desktop.h"
+#include "platform/base/NativePath.h"
+
+#include <QDBusConnection>
+#include <QDBusConnectionInterface>
+#include <QDBusMessage>
+#include <QDBusVariant>
+#include <QUrl>
+#include <QVariantMap>
+
+namespace platform {
+namespace {
+
+const QString serviceName = QStringLiteral("com.vantrel.Tessaro");
+const QString objectPath = QStringLiteral("/com/vantrel/Tessaro");
+const QString interfaceName = QStringLiteral("org.freedesktop.Application");
+constexpr int patience = 3000; // milliseconds
+
+QString pathOf(const QString &address)
+{
+    const QUrl url(address);
+    return url.isLocalFile() ? fromNative(QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toLatin1()))
+                             : QString();
+}
+
+/// The object on the bus: what others call, turned into signals.
+class ApplicationObject : public QObject
+{
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Application")
+
+public:
+    explicit ApplicationObject(SingleInstance &instance)
+        : QObject(&instance)
+        , m_instance(instance)
+    {
+    }
+
+public Q_SLOTS:
+    void Activate(const QVariantMap &) { Q_EMIT m_instance.activated(); }
+    void Open(const QStringList &addresses, const QVariantMap &)
+    {
+        QStringList paths;
+        for (const QString &address : addresses) {
+            if (const QString path = pathOf(address); !path.isEmpty())
+                paths.append(path);
+        }
+        Q_EMIT m_instance.filesOpened(paths);
+    }
+    void ActivateAction(const QString &identifier, const QVariantList &, const QVariantMap &)
+    {
+        Q_EMIT m_instance.actionRequested(identifier);
+    }
+
+private:
+    SingleInstance &m_instance;
+};
+
+} // namespace
+
+bool SingleInstance::handOver(const QStringList &files)
+{
+    auto bus = QDBusConnection::sessionBus();
+    if (!bus.isConnected() || !bus.interface()->isServiceRegistered(serviceName))
+        return false;
+    QDBusMessage call = QDBusMessage::createMethodCall(
+        serviceName, objectPath, interfaceName, files.isEmpty() ? QStringLiteral("Activate") : QStringLiteral("Open"));
+    if (!files.isEmpty()) {
+        QStringList addresses;
+        for (const QString &file : files)
+            addresses.append(fileAddress(file));
+        call << addresses;
+    }
+    call << QVariantMap();
+    return bus.call(call, QDBus::Block, patience).type() == QDBusMessage::ReplyMessage;
+}
+
+SingleInstance::SingleInstance(QObject *parent)
+    : QObject(parent)
+{
+    auto bus = QDBusConnection::sessionBus();
+    if (bus.isConnected() &&
+        bus.registerObject(objectPath, new ApplicationObject(*this), QDBusConnection::ExportAllSlots))
+        bus.registerService(serviceName);
+}
+
+SingleInstance::~SingleInstance()
+{
+    auto bus = QDBusConnection::sessionBus();
+    if (bus.isConnected()) {
+        bus.unregisterService(serviceName);
+        bus.unregisterObject(objectPath);
+    }
+}
+
+} // namespace platform
+
+#include "SingleInstance.moc"

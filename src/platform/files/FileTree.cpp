@@ -1,0 +1,237 @@
+#include "platform/files/FileTree.h"
+
+#include "platform/files/FileSystem.h"
+#include "platform/files/FolderReader.h"
+#include "platform/base/NativePath.h"
+#include "platform/files/PathAt.h"
+#include "platform/files/TreeCopy.h"
+
+#include <algorithm>
+#include <atomic>
+#include <cerrno>
+#include <cstdio>
+#include <dirent.h>
+#include <fcntl.h>
+#include <mutex>
+#include <sys/stat.h>
+#include <thread>
+#include <unistd.h>
+
+namespace platform {
+namespace {
+
+/// What happens at a folder whose mode keeps this process out.
+enum class Closed { Fails, IsOpened };
+
+/// Removes one tree. Where a folder holds several others, a second worker shares them: removing is mostly waiting.
+class TreeRemover
+{
+    /// Opens its owner's folder to the owner first; never one behind a link.
+    static UniqueDescriptor openClosedFolder(int parent, const char *name)
+    {
+        const UniqueDescriptor held(openat(parent, name, O_PATH | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+        const std::string path = "/proc/self/fd/" + std::to_string(held.get());
+        if (held.isOpen() && chmod(path.c_str(), 0700) == 0)
+            return openFolder(parent, name);
+        errno = EACCES;
+        return {};
+    }
+
+public:
+    explicit TreeRemover(Closed closed)
+        : m_closed(closed)
+    {
+    }
+
+    /// The path, below which failures are named, is built only for them.
+    Outcome run(int parent, const char *name, bool folder, const QString &path)
+    {
+        removeEntry(parent, name, folder, {});
+        return m_error == 0 ? Outcome() : Outcome::fromNumber(m_error, joined(path, fromNative(m_failed)));
+    }
+
+private:
+    /// Below this many folders a second worker is not worth its start.
+    static constexpr std::size_t worthSharing = 4;
+
+    bool fail(int error, const std::string &below)
+    {
+        const std::scoped_lock lock(m_mutex);
+        if (m_error == 0) {
+            m_failed = below;
+            m_error = error;
+        }
+        return false;
+    }
+
+    bool removeEntry(int parent, const char *name, bool folder, const std::string &below)
+    {
+        if (folder) {
+            UniqueDescriptor opened = openFolder(parent, name);
+            if (!opened.isOpen() && errno == EACCES && m_closed == Closed::IsOpened)
+                opened = openClosedFolder(parent, name);
+            if (opened.isOpen() && m_closed == Closed::IsOpened)
+                fchmod(opened.get(), 0700); // one that can be read may still refuse to let go of what is in it
+            if (!opened.isOpen() && errno != ENOENT)
+                return fail(errno, below);
+            if (opened.isOpen() && !removeBelow(opened.get(), below))
+                return false;
+        }
+        const bool gone = unlinkat(parent, name, folder ? AT_REMOVEDIR : 0) == 0 || errno == ENOENT;
+        return gone || fail(errno, below);
+    }
+
+    bool removeBelow(int folder, const std::string &below)
+    {
+        std::vector<RawEntry> entries;
+        if (!readFolder(folder, entries))
+            return fail(errno, below);
+        const auto folders = std::stable_partition(entries.begin(), entries.end(),
+                                                   [](const RawEntry &entry) { return entry.type != DT_DIR; });
+        std::atomic<std::size_t> next = 0;
+        const auto work = [&] {
+            for (std::size_t i = next++; i < entries.size() && m_error == 0; i = next++) {
+                const std::string &name = entries[i].name;
+                removeEntry(folder, name.c_str(), entries[i].type == DT_DIR, below.empty() ? name : below + '/' + name);
+            }
+        };
+        const auto shareable = static_cast<std::size_t>(entries.end() - folders);
+        std::thread second;
+        if (shareable >= worthSharing && !m_isShared.exchange(true))
+            second = std::thread(work);
+        work();
+        if (second.joinable()) {
+            second.join();
+            m_isShared = false;
+        }
+        return m_error == 0;
+    }
+
+    Closed m_closed;
+    std::atomic<bool> m_isShared = false;
+    std::mutex m_mutex;
+    std::atomic<int> m_error = 0;
+    std::string m_failed;
+};
+
+Outcome removeItem(const QString &path, Closed closed)
+{
+    raiseDescriptorLimit();
+    const FileKind kind = kindOf(path);
+    const PathAt at(path);
+    return kind == FileKind::Missing ? Outcome()
+                                     : TreeRemover(closed).run(at.folder(), at.name(), kind == FileKind::Folder, path);
+}
+
+/// The rename itself, refusing to overwrite. File systems without that flag get a look first.
+bool renameWithoutReplacing(const PathAt &from, const PathAt &to)
+{
+    if (renameat2(from.folder(), from.name(), to.folder(), to.name(), RENAME_NOREPLACE) == 0)
+        return true;
+    if (errno != EINVAL && errno != ENOSYS)
+        return false;
+    struct stat info;
+    if (fstatat(to.folder(), to.name(), &info, AT_SYMLINK_NOFOLLOW) == 0) {
+        errno = EEXIST;
+        return false;
+    }
+    return renameat(from.folder(), from.name(), to.folder(), to.name()) == 0;
+}
+
+void measureEntry(int parent, const char *name, TreeSize &size, const std::atomic<bool> &cancelled)
+{
+    struct stat info;
+    if (cancelled || fstatat(parent, name, &info, AT_SYMLINK_NOFOLLOW) != 0)
+        return;
+    ++size.items;
+    if (S_ISREG(info.st_mode))
+        size.bytes += static_cast<quint64>(info.st_size);
+    if (!S_ISDIR(info.st_mode))
+        return;
+    const UniqueDescriptor folder = openFolder(parent, name);
+    std::vector<RawEntry> entries;
+    if (!folder.isOpen() || !readFolder(folder.get(), entries))
+        return;
+    for (const RawEntry &entry : entries)
+        measureEntry(folder.get(), entry.name.c_str(), size, cancelled);
+}
+
+struct Toucher
+{
+    const std::function<void(const QString &)> &entering;
+    QList<Outcome> failed;
+
+    void touchEntries(int folder, const QString &path)
+    {
+        entering(path);
+        std::vector<RawEntry> entries;
+        if (!readFolder(folder, entries))
+            failed.append(Outcome::fromErrno(path));
+        for (const RawEntry &entry : entries) {
+            const char *name = entry.name.c_str();
+            if (entry.type == DT_DIR)
+                descend(folder, name, joined(path, fromNative(entry.name)));
+            if (utimensat(folder, name, nullptr, AT_SYMLINK_NOFOLLOW) != 0)
+                failed.append(Outcome::fromErrno(joined(path, fromNative(entry.name))));
+        }
+    }
+
+    void descend(int parent, const char *name, const QString &path)
+    {
+        const UniqueDescriptor folder = openFolder(parent, name);
+        if (folder.isOpen())
+            touchEntries(folder.get(), path);
+        else
+            failed.append(Outcome::fromErrno(path));
+    }
+};
+
+} // namespace
+
+Outcome removeTree(const QString &path)
+{
+    return removeItem(path, Closed::Fails);
+}
+
+Outcome removeOwnTree(const QString &path)
+{
+    return removeItem(path, Closed::IsOpened);
+}
+
+Outcome moveItem(const QString &source, const QString &destination)
+{
+    const PathAt from(source);
+    const PathAt to(destination);
+    if (renameWithoutReplacing(from, to))
+        return {};
+    if (errno == EINVAL && isInside(destination, source))
+        return Outcome::failure(Cause::IntoItself, source);
+    if (errno != EXDEV)
+        return Outcome::fromErrno(errno == EEXIST || errno == ENAMETOOLONG ? destination : source);
+    const Outcome copied = copyItem(source, destination);
+    return copied.ok() ? removeTree(source) : copied;
+}
+
+TreeSize measureTree(const QString &path, const std::atomic<bool> &cancelled)
+{
+    raiseDescriptorLimit();
+    TreeSize size;
+    const PathAt at(path);
+    measureEntry(at.folder(), at.name(), size, cancelled);
+    return size;
+}
+
+QList<Outcome> touchBelow(const QString &folder, const std::function<void(const QString &)> &entering)
+{
+    raiseDescriptorLimit();
+    Toucher toucher{entering, {}};
+    const PathAt at(folder);
+    const UniqueDescriptor opened(openat(at.folder(), at.name(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (opened.isOpen())
+        toucher.touchEntries(opened.get(), folder);
+    else
+        toucher.failed.append(Outcome::fromErrno(folder));
+    return toucher.failed;
+}
+
+} // namespace platform

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "platform/base/UniqueDescriptor.h"
+
+#include <string>
+#include <vector>
+
+namespace platform {
+
+struct RawEntry
+{
+    std::string name;
+    unsigned char type; ///< DT_REG and so on, never DT_UNKNOWN
+};
+
+/** Opens a folder below another for reading, never through a link; empty on failure, with errno. */
+[[nodiscard]] UniqueDescriptor openFolder(int parent, const char *name);
+
+/**
+ * Opens a plain file below a folder for reading, never through a link and never waiting for a writer: what became a FIFO
+ * since it was listed fails with ESTALE. Only a file that another process holds a lease on (a file server) is waited for.
+ * Empty on failure, with errno.
+ */
+[[nodiscard]] UniqueDescriptor openFile(int parent, const char *name);
+
+/** Reads all entries of an open folder but "." and "..", unsorted. False on failure, with errno. */
+[[nodiscard]] bool readFolder(int folder, std::vector<RawEntry> &entries);
+
+} // namespace platform

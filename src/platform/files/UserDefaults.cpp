@@ -1,0 +1,196 @@
+#include "platform/files/UserDefaults.h"
+
+#include "platform/base/NativePath.h"
+#include "platform/files/FileLock.h"
+#include "platform/files/FileSystem.h"
+#include "platform/files/FileTree.h"
+#include "platform/files/WholeFile.h"
+
+#include <cerrno>
+#include <chrono>
+#include <optional>
+#include <sys/stat.h>
+
+namespace platform {
+namespace {
+
+constexpr std::chrono::seconds lockPatience{10};
+
+/// Changes whenever the file was replaced or rewritten; empty when there is none. One that cannot be looked at is not
+/// missing: reading it tells why.
+QByteArray stampOf(const QString &file)
+{
+    struct stat info;
+    if (stat(toNative(file).constData(), &info) != 0)
+        return errno == ENOENT ? QByteArray() : QByteArray("unknown");
+    return QByteArray::number(static_cast<qulonglong>(info.st_ino)) + '.' + QByteArray::number(qlonglong{info.st_size}) +
+           '.' + QByteArray::number(qlonglong{info.st_mtim.tv_sec}) + '.' +
+           QByteArray::number(qlonglong{info.st_mtim.tv_nsec});
+}
+
+QString lockFileOf(const QString &file)
+{
+    return joined(parentPath(file), u'.' + lastComponent(file) + QStringLiteral(".lock"));
+}
+
+QString setAside(const QString &file)
+{
+    QString aside = file + QStringLiteral(".damaged");
+    for (int n = 2; kindOf(aside) != FileKind::Missing; ++n)
+        aside = file + QStringLiteral(".damaged-%1").arg(n);
+    return moveItem(file, aside).ok() ? aside : QString();
+}
+
+} // namespace
+
+UserDefaults::UserDefaults(QString userFile, QString machineFile, ProblemHandler onProblem)
+    : m_user{std::move(userFile), {}, {}, {}}, m_machine{std::move(machineFile), {}, {}, {}}
+    , m_onProblem(std::move(onProblem))
+{}
+
+void UserDefaults::registerDefaults(const QVariantMap &defaults)
+{
+    const std::scoped_lock lock(m_mutex);
+    m_registered.insert(defaults);
+}
+
+/// Only where nothing stands there is no file, and only what was read whole and is no dictionary is damaged. Everything
+/// else (a server that does not answer, rights that are missing) says nothing about what the file holds: the values stay
+/// as they were last seen, and it is not replaced.
+void UserDefaults::refresh(Domain &domain) const
+{
+    const QByteArray stamp = stampOf(domain.file);
+    if (stamp == domain.stamp && domain.problem.ok())
+        return;
+    domain.stamp = stamp;
+    const Result<QVariant> read = readPropertyListFile(domain.file);
+    const bool isDamaged = read ? read->typeId() != QMetaType::QVariantMap : read.outcome().is(Cause::Damaged);
+    const Outcome before = std::exchange(domain.problem, Outcome());
+    if (isDamaged) {
+        domain.values.clear();
+        const QString aside = setAside(domain.file);
+        m_onProblem(aside.isNull() ? QStringLiteral("Settings %1 are damaged; using the defaults").arg(domain.file)
+                                   : QStringLiteral("Settings %1 are damaged; set aside as %2, using the defaults")
+                                         .arg(domain.file, aside));
+    } else if (read) {
+        domain.values = read->toMap();
+    } else if (read.outcome().is(Cause::Missing)) {
+        domain.values.clear();
+    } else {
+        domain.stamp.clear(); // looked at again each time: rights come back without the file changing
+        domain.problem = read.outcome();
+        if (before.ok())
+            m_onProblem(QStringLiteral("Unable to read settings %1").arg(read.outcome().description()));
+    }
+}
+
+QVariant UserDefaults::lookUp(const QString &key) const
+{
+    for (Domain *domain : {&m_user, &m_machine}) {
+        refresh(*domain);
+        if (const auto found = domain->values.constFind(key); found != domain->values.cend())
+            return *found;
+    }
+    return m_registered.value(key);
+}
+
+QVariant UserDefaults::value(const QString &key) const
+{
+    const std::scoped_lock lock(m_mutex);
+    return lookUp(key);
+}
+
+QString UserDefaults::string(const QString &key) const
+{
+    const QVariant found = value(key);
+    switch (found.typeId()) {
+    case QMetaType::QString:
+    case QMetaType::Bool:
+    case QMetaType::LongLong:
+    case QMetaType::Int:
+    case QMetaType::Double: return found.toString();
+    default: return {};
+    }
+}
+
+qlonglong UserDefaults::integer(const QString &key) const
+{
+    const QVariant found = value(key);
+    if (found.typeId() == QMetaType::QString) // like a number typed into a form: what it begins with counts
+        return std::strtoll(found.toString().toUtf8().constData(), nullptr, 10);
+    return found.canConvert<qlonglong>() ? found.toLongLong() : 0;
+}
+
+bool UserDefaults::boolean(const QString &key) const
+{
+    const QVariant found = value(key);
+    if (found.typeId() == QMetaType::QString) {
+        const QString text = found.toString().toLower();
+        return text == u"yes" || text == u"true" || integer(key) != 0;
+    }
+    return integer(key) != 0;
+}
+
+bool UserDefaults::equalsOne(const QString &key) const
+{
+    const QVariant found = value(key);
+    return found.typeId() != QMetaType::QString && found.canConvert<double>() && found.toDouble() == 1.0;
+}
+
+Outcome UserDefaults::store(Domain &domain, const QString &key, const QVariant &value)
+{
+    refresh(domain);
+    if (domain.problem.ok() && domain.values.value(key) == value &&
+        domain.values.value(key).typeId() == value.typeId())
+        return {};
+    const Outcome folderMade = makeFolders(parentPath(domain.file));
+    Outcome lockFailure;
+    std::optional<FileLock> held;
+    if (folderMade.ok()) {
+        Result<FileLock> lock = FileLock::acquire(lockFileOf(domain.file), lockPatience);
+        lockFailure = lock.outcome();
+        if (lock)
+            held.emplace(*std::move(lock));
+    }
+    if (lockFailure.is(Cause::Busy))
+        m_onProblem(QStringLiteral("Settings %1 are locked by another program; writing all the same").arg(domain.file));
+    domain.stamp = "?"; // re-read whatever the stamp says: two writes may fall into one tick of the file system's clock
+    refresh(domain);
+    if (value.isValid())
+        domain.values.insert(key, value);
+    else
+        domain.values.remove(key);
+    const Outcome written = !folderMade.ok()       ? folderMade
+                            : !domain.problem.ok() ? domain.problem
+                                                   : writePropertyListFile(domain.file, domain.values);
+    domain.stamp = stampOf(domain.file);
+    return written;
+}
+
+Outcome UserDefaults::setValue(const QString &key, const QVariant &value)
+{
+    const std::scoped_lock lock(m_mutex);
+    const Outcome written = store(m_user, key, value);
+    if (!written.ok())
+        m_onProblem(QStringLiteral("Unable to write settings %1").arg(written.description()));
+    return written;
+}
+
+Outcome UserDefaults::removeValue(const QString &key)
+{
+    return setValue(key, {});
+}
+
+Outcome UserDefaults::setMachineWideValue(const QString &key, const QVariant &value)
+{
+    const std::scoped_lock lock(m_mutex);
+    const Domain before = m_machine;
+    const Outcome written = store(m_machine, key, value);
+    if (written.ok())
+        return {};
+    m_machine = before;
+    m_onProblem(QStringLiteral("Unable to write machine-wide settings; keeping %1 for this user").arg(key));
+    return setValue(key, value);
+}
+
+} // namespace platform

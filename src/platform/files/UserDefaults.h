@@ -1,0 +1,67 @@
+#pragma once
+
+#include "platform/base/Outcome.h"
+
+#include <QVariantMap>
+#include <functional>
+#include <mutex>
+
+namespace platform {
+
+/**
+ * The settings: looked up in the user's domain, then the machine-wide domain, then the registered defaults.
+ *
+ * The two domains are property-list files. A reading sees what another running program has written since. A writing
+ * re-reads the file under a lock, changes the one key and replaces the file in one step, so that two programs lose
+ * nothing of each other's; a value that is already there is not written again. A file that does not parse is set aside
+ * under a ".damaged" name. Thread-safe.
+ */
+class UserDefaults
+{
+public:
+    /** Called with one sentence for the log whenever a file is set aside or cannot be written. May come on any thread. */
+    using ProblemHandler = std::function<void(const QString &)>;
+
+    UserDefaults(QString userFile, QString machineFile, ProblemHandler onProblem);
+    UserDefaults(const UserDefaults &) = delete;
+    UserDefaults &operator=(const UserDefaults &) = delete;
+
+    void registerDefaults(const QVariantMap &defaults);
+
+    /** An invalid variant when the key is in no domain. */
+    [[nodiscard]] QVariant value(const QString &key) const;
+    /** Strings as they are, numbers as decimal text; null for anything else. */
+    [[nodiscard]] QString string(const QString &key) const;
+    /** Numbers and booleans, and strings that begin with a number; else 0. */
+    [[nodiscard]] qlonglong integer(const QString &key) const;
+    [[nodiscard]] bool boolean(const QString &key) const;
+    /** The number 1 or true. Neither the string "1" nor any other number. */
+    [[nodiscard]] bool equalsOne(const QString &key) const;
+
+    /** When the file could not be written, the value lasts as long as this process. */
+    Outcome setValue(const QString &key, const QVariant &value);
+    /** What the machine-wide domain or the registered defaults hold shows again. */
+    Outcome removeValue(const QString &key);
+    /** Into the machine-wide domain; into the user's when this process may not write that one. */
+    Outcome setMachineWideValue(const QString &key, const QVariant &value);
+
+private:
+    struct Domain
+    {
+        QString file;
+        QVariantMap values;
+        QByteArray stamp; ///< of the file that the values were read from
+        Outcome problem;  ///< why it could not be read: it may hold anything, so it must not be replaced
+    };
+    void refresh(Domain &domain) const;
+    Outcome store(Domain &domain, const QString &key, const QVariant &value);
+    [[nodiscard]] QVariant lookUp(const QString &key) const;
+
+    mutable std::recursive_mutex m_mutex;
+    mutable Domain m_user;
+    mutable Domain m_machine;
+    QVariantMap m_registered;
+    ProblemHandler m_onProblem;
+};
+
+} // namespace platform

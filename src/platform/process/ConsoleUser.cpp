@@ -1,0 +1,66 @@
+#include "platform/process/ConsoleUser.h"
+
+#include "platform/base/Users.h"
+#include "platform/files/FileSystem.h"
+
+#include <QDBusArgument>
+#include <QDBusConnection>
+#include <QDBusInterface>
+#include <QDBusMetaType>
+#include <QDBusReply>
+#include <optional>
+
+namespace platform {
+namespace {
+
+/// The active session of the first seat, asked of logind; an empty optional when no login service answers.
+std::optional<QString> activeLogin()
+{
+    if (!targetExists(QStringLiteral("/run/systemd/seats")) || !targetExists(QStringLiteral("/run/dbus")))
+        return std::nullopt;
+    const auto bus = QDBusConnection::connectToBus(QDBusConnection::SystemBus, QStringLiteral("tessaro-login"));
+    QDBusInterface seat(QStringLiteral("org.freedesktop.login1"), QStringLiteral("/org/freedesktop/login1/seat/seat0"),
+                        QStringLiteral("org.freedesktop.login1.Seat"), bus);
+    seat.setTimeout(2000);
+    if (!bus.isConnected() || !seat.isValid())
+        return std::nullopt;
+    QDBusMessage get = QDBusMessage::createMethodCall(
+        seat.service(), seat.path(), QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"));
+    get << seat.interface() << QStringLiteral("ActiveSession");
+    const QDBusMessage answer = bus.call(get, QDBus::Block, 2000);
+    if (answer.type() != QDBusMessage::ReplyMessage || answer.arguments().isEmpty())
+        return std::nullopt;
+    const auto value = answer.arguments().constFirst().value<QDBusVariant>().variant().value<QDBusArgument>();
+    QString session;
+    QDBusObjectPath path;
+    value.beginStructure();
+    value >> session >> path;
+    value.endStructure();
+    if (session.isEmpty()) { // nobody at the screen; a server without a screen counts as having no login service
+        const bool hasScreen = seat.property("CanGraphical").toBool();
+        return hasScreen ? std::optional<QString>(QString()) : std::nullopt;
+    }
+    QDBusInterface login(seat.service(), path.path(), QStringLiteral("org.freedesktop.login1.Session"), bus);
+    return login.property("Name").toString();
+}
+
+QString callerOfSudo()
+{
+    for (const char *variable : {"SUDO_UID", "PKEXEC_UID"}) {
+        bool isNumber = false;
+        const uint id = qEnvironmentVariable(variable).toUInt(&isNumber);
+        if (const auto account = isNumber ? accountOf(id) : std::nullopt)
+            return account->name;
+    }
+    return loginName();
+}
+
+} // namespace
+
+QString consoleUser()
+{
+    const std::optional<QString> active = activeLogin();
+    return active ? *active : callerOfSudo();
+}
+
+} // namespace platform

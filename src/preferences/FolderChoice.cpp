@@ -1,0 +1,49 @@
+#include "preferences/FolderChoice.h"
+
+#include "platform/base/FormatString.h"
+#include "support/FileOperations.h"
+#include "support/VTAlert.h"
+
+#include <QCoreApplication>
+#include <QFileDialog>
+
+using platform::formatString;
+
+namespace {
+
+struct Text
+{
+    Q_DECLARE_TR_FUNCTIONS(VTPreferenceController)
+};
+
+} // namespace
+
+void folderchoice::browse(QWidget &window, const QString &title, std::function<void(const QString &)> chosen)
+{
+    auto *panel = new QFileDialog(&window, title);
+    panel->setAttribute(Qt::WA_DeleteOnClose);
+    panel->setFileMode(QFileDialog::Directory);
+    panel->setOption(QFileDialog::ShowDirsOnly);
+    QObject::connect(panel, &QDialog::accepted, &window, [panel, chosen = std::move(chosen)] {
+        panel->hide();
+        chosen(panel->selectedFiles().value(0));
+    });
+    panel->open();
+}
+
+platform::Result<QString> folderchoice::usablePath(QWidget &window, const settings::Setting &setting, const QString &typed)
+{
+    const auto path = settings::checked(setting, typed);
+    if (path)
+        return path->toString();
+    VTAlert::show({formatString(Text::tr("“%@” cannot be used"), typed), path.outcome().sentence()}, &window);
+    return path.outcome();
+}
+
+void folderchoice::makeFolder(QWidget &window, const QString &path)
+{
+    if (VTFileManager::fileExistsAtPath(path))
+        return;
+    if (const platform::Outcome made = fileoperations::createDirectory(path); !made.ok())
+        VTAlert::show({formatString(Text::tr("Unable to create folder %@"), path), checkDestination(made)}, &window);
+}

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QObject>
+
+class QCheckBox;
+class QWidget;
+
+namespace Ui {
+class Prefs_Dialog;
+}
+
+/** The General pane: the library's place, what happens after a project, and what is protected. Every control is bound to its
+    setting, with the effect at once. Owned by its window; main thread only. */
+class GeneralPane : public QObject
+{
+    Q_OBJECT
+
+public:
+    GeneralPane(Ui::Prefs_Dialog &ui, QWidget &window);
+
+    /** Stores the location, makes the folder, and offers to move the templates there. */
+    void modifyTemplatePath(const QString &typed);
+
+Q_SIGNALS:
+    /** The library lies elsewhere now. */
+    void templateLocationChanged();
+
+private:
+    void moveTemplates(const QString &from, const QString &to);
+
+    Ui::Prefs_Dialog &m_ui;
+    QWidget &m_window;
+};

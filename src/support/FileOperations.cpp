@@ -1,0 +1,223 @@
+// VTFileManager's core operations: create, copy, move, remove and trash, each with its fallback and its time-out form.
+#include "support/FileOperations.h"
+
+#include "platform/base/MainThread.h"
+#include "platform/base/NativePath.h"
+#include "platform/base/Users.h"
+#include "platform/files/FileSystem.h"
+#include "platform/files/FileTree.h"
+#include "platform/files/Trash.h"
+#include "platform/files/TreeCopy.h"
+#include "support/FileFallback.h"
+#include "support/VTLocalPaths.h"
+#include "support/VTLog.h"
+#include "support/VTTask.h"
+
+#include <QCoreApplication>
+#include <thread>
+
+using platform::Cause;
+using platform::FileKind;
+using platform::kindOf;
+using platform::Outcome;
+
+namespace {
+
+/// Where only the letter case changes, the old path may still resolve; a short fixed pause stands in for the wait.
+constexpr std::chrono::microseconds caseRenamePause{500};
+
+bool isMissing(const QString &path)
+{
+    return kindOf(path) == FileKind::Missing;
+}
+
+bool differOnlyInCase(const QString &source, const QString &toPath)
+{
+    return source.toLower() == toPath.toLower();
+}
+
+/// With a name that is taken the tools would put a folder into the folder, or replace what stands there by it.
+bool wouldMergeFolders(const QString &source, const QString &toPath)
+{
+    return kindOf(toPath) != FileKind::Missing &&
+           (kindOf(source) == FileKind::Folder || platform::leadsToFolder(toPath) || platform::leadsToFolder(source));
+}
+
+/// The tool moves a file into a folder that stands at the destination, and callers rely on it; but never onto a namesake.
+bool wouldMoveInto(const QString &source, const QString &toPath)
+{
+    return kindOf(source) != FileKind::Folder && kindOf(toPath) == FileKind::Folder &&
+           isMissing(platform::joined(toPath, platform::lastComponent(source)));
+}
+
+void noteTrashed(const QString &target, const QString &path)
+{
+    if (const Outcome noted = platform::noteInTrash(target, path); !noted.ok())
+        VTLog::appendLog("%@ is in the Trash, but without a note of where it was: %@", path, noted.description());
+}
+
+} // namespace
+
+namespace fileoperations {
+
+Outcome createDirectory(const QString &path, ShouldAuth shouldAuth)
+{
+    const Outcome made = platform::makeFolders(path);
+    if (made.ok())
+        return made;
+    VTLog::appendLog("Error creating folder: %@. Authorizing...", made.description());
+    return fallBackToTool(shouldAuth, made, VTAuthorization::createDirCommand(path),
+                          [&] { return VTAuthorization::sharedController().authCreateDir(path); });
+}
+
+Outcome createDirectory(const QString &path, seconds timeout)
+{
+    const Outcome made = createDirectory(path);
+    return made.ok() ? waitUntil([&] { return platform::targetExists(path); }, timeout, path) : made;
+}
+
+Outcome copyFile(const QString &source, const QString &toPath, ShouldAuth shouldAuth)
+{
+    if (source.isNull()) {
+        VTLog::appendLogAndPrint("Error copying file: source path is nil");
+        return Outcome::failure(Cause::Invalid, source);
+    }
+    if (toPath.isNull()) {
+        VTLog::appendLogAndPrint("Error copying file %@: destination path is nil", source);
+        return Outcome::failure(Cause::Invalid, source);
+    }
+    VTFileManager::unlockFile(platform::parentPath(toPath));
+    const bool isNew = isMissing(toPath);
+    QString attributesLost;
+    const Outcome copied =
+        platform::resultInBackground([&] { return platform::copyItem(source, toPath, &attributesLost); });
+    if (!attributesLost.isNull())
+        VTLog::appendLog("Unable to keep the labels of %@ at the destination", attributesLost);
+    if (copied.ok())
+        return copied;
+    VTLog::appendLog("Error copying file: %@. Authorizing...", copied.description());
+    // A folder into itself: the tool would half do it before it notices.
+    if (copied.is(Cause::IntoItself) || wouldMergeFolders(source, toPath))
+        return copied;
+    if (fallBackToTool(shouldAuth, copied, VTAuthorization::copyCommand(source, toPath), [&] {
+            return VTAuthorization::sharedController().authCopyFile(source, toPath);
+        }).ok())
+        return {};
+    const bool wasOwnTool = platform::isSuperUser() || !copied.needsRights();
+    if (isNew && wasOwnTool) // on a full disk the tool leaves what it got to
+        static_cast<void>(platform::resultInBackground([&] { return platform::removeOwnTree(toPath); }));
+    return copied;
+}
+
+Outcome copyFile(const QString &source, const QString &toPath, seconds timeout)
+{
+    const Outcome copied = copyFile(source, toPath);
+    return copied.ok() ? waitUntil([&] { return !isMissing(toPath); }, timeout, toPath) : copied;
+}
+
+Outcome moveFile(const QString &source, const QString &toPath, ShouldAuth shouldAuth)
+{
+    VTFileManager::unlockFile(toPath);
+    VTFileManager::unlockFolder(platform::joined(toPath, platform::lastComponent(source)));
+    if (differOnlyInCase(source, toPath)) {
+        // Only when the name that stands there is the same file: another file is never overwritten by a rename.
+        const bool taken = !isMissing(toPath) && platform::identityOf(source) != platform::identityOf(toPath);
+        const QString between = VTFileManager::uniqueFilename(toPath);
+        if (!taken && platform::moveItem(source, between).ok()) {
+            if (platform::moveItem(between, toPath).ok())
+                return {};
+            if (!platform::moveItem(between, source).ok())
+                VTLog::appendLog("Error moving file: %@ was left as %@", source, between);
+        }
+    }
+    const Outcome moved = platform::resultInBackground([&] { return platform::moveItem(source, toPath); });
+    if (moved.ok())
+        return moved;
+    VTLog::appendLog("Error moving file: %@. Authorizing...", moved.description());
+    if (moved.is(Cause::IntoItself) || (wouldMergeFolders(source, toPath) && !wouldMoveInto(source, toPath)) ||
+        (moved.is(Cause::Exists) && differOnlyInCase(source, toPath)))
+        return moved;
+    return fallBackToTool(shouldAuth, moved, VTAuthorization::moveCommand(source, toPath),
+                          [&] { return VTAuthorization::sharedController().authMoveFile(source, toPath); });
+}
+
+Outcome moveFile(const QString &source, const QString &toPath, seconds timeout)
+{
+    const Outcome moved = moveFile(source, toPath);
+    if (!moved.ok())
+        return moved;
+    if (differOnlyInCase(source, toPath)) {
+        std::this_thread::sleep_for(caseRenamePause);
+        return {};
+    }
+    return waitUntil([&] { return isMissing(source); }, timeout, source);
+}
+
+Outcome removeFile(const QString &path, ShouldAuth shouldAuth)
+{
+    VTFileManager::unlockFile(path);
+    if (isMissing(path))
+        return {};
+    const Outcome removed = platform::resultInBackground([&] { return platform::removeTree(path); });
+    if (removed.ok())
+        return removed;
+    VTLog::appendLog("Error removing file: %@. Authorizing...", removed.description());
+    if (VTLocalPaths::isPathSystemDirectory(path, VTLocalPaths::Match::Exact))
+        return VTAuthorization::sharedController().authRemoveFile(path) ? Outcome() : removed; // refuses, and says so
+    return fallBackToTool(shouldAuth, removed, VTAuthorization::removeCommand(path),
+                          [&] { return VTAuthorization::sharedController().authRemoveFile(path); });
+}
+
+Outcome removeFile(const QString &path, seconds timeout)
+{
+    const Outcome removed = removeFile(path);
+    return removed.ok() ? waitUntil([&] { return isMissing(path); }, timeout, path) : removed;
+}
+
+Outcome trashFile(const QString &path, ShouldAuth shouldAuth)
+{
+    VTFileManager::unlockFile(path);
+    if (isMissing(path))
+        return {};
+    const Outcome trashed = platform::resultInBackground([&] { return platform::moveToTrash(path); });
+    if (trashed.ok() || shouldAuth == ShouldAuth::No)
+        return trashed;
+    auto &authorization = VTAuthorization::sharedController();
+    if (VTLocalPaths::isPathSystemDirectory(path, VTLocalPaths::Match::Exact))
+        return authorization.authTrashFile(path) ? Outcome() : trashed; // refuses, and says so
+    const QString target = authorization.trashTarget(path);
+    const VTAuthorization::Command command = VTAuthorization::moveCommand(path, target);
+    if (platform::isWritable(platform::parentPath(path)) &&
+        VTTask::terminationCodeFromTask(command.tool, command.arguments) == 0) {
+        noteTrashed(target, path);
+        return {};
+    }
+    if (platform::isSuperUser() || !platform::moveNeedsRights(path))
+        return trashed;
+    const QString free = authorization.trashTarget(path); // the tool may have begun to fill the first
+    if (!authorization.authMoveFile(path, free) || !authorization.lastToolSucceeded())
+        return trashed;
+    noteTrashed(free, path);
+    return {};
+}
+
+Outcome trashFile(const QString &path, seconds timeout)
+{
+    const Outcome trashed = trashFile(path);
+    return trashed.ok() ? waitUntil([&] { return isMissing(path); }, timeout, path) : trashed;
+}
+
+} // namespace fileoperations
+
+QString withCause(const QString &informativeText, const Outcome &failure)
+{
+    return failure.ok() ? informativeText : informativeText + QStringLiteral("\n\n") + failure.description();
+}
+
+QString checkDestination(const Outcome &failure)
+{
+    return withCause(QCoreApplication::translate(
+                         "FileOperations",
+                         "Please check that you have write permissions for the destination directory."),
+                     failure);
+}

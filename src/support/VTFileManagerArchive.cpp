@@ -1,0 +1,40 @@
+// VTFileManager's archives.
+#include "platform/archive/ZipArchive.h"
+#include "platform/base/MainThread.h"
+#include "platform/base/NativePath.h"
+#include "platform/files/FileTree.h"
+#include "support/FileOperations.h"
+#include "support/VTLog.h"
+
+#include <QUuid>
+
+using platform::joined;
+using platform::Outcome;
+
+Outcome fileoperations::compressFile(const QString &path, const QString &toDestinationFile)
+{
+    if (const Outcome trashed = trashFile(toDestinationFile, ShouldAuth::No); !trashed.ok()) {
+        VTLog::appendLog("Unable to move %@ to the Trash: %@", toDestinationFile, trashed.description());
+        return trashed;
+    }
+    // Under another name until it is whole: half an archive is none.
+    const QString growing = joined(platform::parentPath(toDestinationFile),
+                                   u'.' + QUuid::createUuid().toString(QUuid::WithoutBraces) + QStringLiteral(".zip"));
+    const platform::CompressReport report =
+        platform::resultInBackground([&] { return platform::compressZip(path, growing); });
+    for (const QString &skipped : report.skipped)
+        VTLog::appendLog("Left out of the archive %@: %@", toDestinationFile, skipped);
+    for (const QString &renamed : report.renamed)
+        VTLog::appendLog("Name changed in the archive %@: %@", toDestinationFile, renamed);
+    const Outcome packed = report.outcome.ok() ? platform::moveItem(growing, toDestinationFile) : report.outcome;
+    if (packed.ok())
+        return {};
+    VTLog::appendLog("Unable to compress %@: %@", path, packed.description());
+    static_cast<void>(platform::removeOwnTree(growing)); // the failure is told
+    return packed;
+}
+
+bool VTFileManager::compressFile(const QString &path, const QString &toDestinationFile)
+{
+    return fileoperations::compressFile(path, toDestinationFile).ok();
+}

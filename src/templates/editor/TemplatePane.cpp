@@ -1,0 +1,235 @@
+#include "templates/editor/TemplatePane.h"
+
+#include "support/Settings.h"
+#include "support/VTFileManager.h"
+#include "templates/VTDataController.h"
+#include "ui/Icons.h"
+#include "ui/VTImageTextCell.h"
+#include "ui_TemplatePane.h"
+
+#include <QHeaderView>
+#include <QMenu>
+#include <QPainter>
+#include <QPainterPath>
+
+namespace {
+
+constexpr int defaultListWidth = 240;
+constexpr int rowHeight = 24;
+constexpr int dotSide = 16;
+constexpr int labelCount = 7;
+
+QColor labelColor(int tag)
+{
+    const auto color = VTFileManager::finderColorForIndex(tag * 2);
+    return QColor::fromHsvF(static_cast<float>(color->hue), static_cast<float>(color->saturation),
+                            static_cast<float>(color->brightness));
+}
+
+/// A dot in the label's colour; for none, a ring.
+QIcon labelIcon(int tag, const QPalette &palette)
+{
+    QIcon icon;
+    for (const int ratio : {1, 2, 3}) {
+        QPixmap pixmap(dotSide * ratio, dotSide * ratio);
+        pixmap.setDevicePixelRatio(ratio);
+        pixmap.fill(Qt::transparent);
+        QPainter painter(&pixmap);
+        painter.setRenderHint(QPainter::Antialiasing);
+        QColor ring = palette.color(QPalette::WindowText);
+        ring.setAlphaF(tag == 0 ? 0.7F : 0.3F);
+        painter.setPen(QPen(ring, tag == 0 ? 1.25 : 1));
+        painter.setBrush(tag == 0 ? QBrush(Qt::NoBrush) : QBrush(labelColor(tag)));
+        painter.drawEllipse(QRectF(2.5, 2.5, dotSide - 5, dotSide - 5));
+        painter.end();
+        icon.addPixmap(pixmap);
+    }
+    return icon;
+}
+
+QAction *addTo(QWidget &widget, const QString &text, const QList<QKeySequence> &keys)
+{
+    auto *action = new QAction(text, &widget);
+    action->setShortcuts(keys);
+    action->setShortcutContext(Qt::WidgetShortcut); // not while a name is typed, whose editor is a child of the view
+    widget.addAction(action);
+    return action;
+}
+
+} // namespace
+
+TemplatePane::TemplatePane(QWidget *parent)
+    : QWidget(parent)
+    , m_ui(std::make_unique<Ui::TemplatePane>())
+    , m_table(m_outline)
+    , m_toggleDefault(new QAction(this))
+    , m_addMenu(new QMenu(this))
+{
+    m_ui->setupUi(this);
+    m_ui->splitter->setStretchFactor(0, 0);
+    m_ui->splitter->setStretchFactor(1, 1);
+    const auto width = settings::templateListWidth.number();
+    m_ui->splitter->setSizes({width > 0 ? static_cast<int>(width) : defaultListWidth, 10'000});
+    connect(m_ui->splitter, &QSplitter::splitterMoved, this,
+            [](int position) { static_cast<void>(settings::templateListWidth.store(qlonglong{position})); }); // no loss
+    for (QToolButton *button : {m_ui->newTemplateButton, m_ui->addButton})
+        button->setIcon(icons::named("add"));
+    for (QToolButton *button : {m_ui->removeTemplateButton, m_ui->removeButton})
+        button->setIcon(icons::named("remove"));
+    buildLabels();
+    buildTable();
+    buildOutline();
+}
+
+TemplatePane::~TemplatePane()
+{
+    m_outline.waitForImports();
+}
+
+void TemplatePane::awakeFromNib()
+{
+    m_outline.awakeFromNib();
+    m_table.awakeFromNib();
+}
+
+void TemplatePane::buildTable()
+{
+    auto *table = m_ui->templateTable;
+    table->setItemDelegate(new VTImageTextCell(table));
+    table->horizontalHeader()->hide();
+    table->horizontalHeader()->setStretchLastSection(true);
+    table->verticalHeader()->hide();
+    table->verticalHeader()->setDefaultSectionSize(qMax(rowHeight, fontMetrics().height() + 8));
+    table->setShowGrid(false);
+    table->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed);
+    table->setTabKeyNavigation(false);
+    m_table.setViews(table, m_toggleDefault);
+
+    auto *menu = new QMenu(this);
+    const auto item = [&](const QString &text, const QList<QKeySequence> &keys, auto slot) {
+        QAction *action = addTo(*table, text, keys);
+        connect(action, &QAction::triggered, &m_table, slot);
+        menu->addAction(action);
+        return action;
+    };
+    using Table = VTTemplateTableController;
+    item(tr("&New Template"), {}, &Table::createNewTemplate);
+    m_forTemplate = {item(tr("D&uplicate"), {Qt::CTRL | Qt::Key_D}, &Table::duplicateTemplate),
+                     item(tr("Re&name"), {Qt::Key_F2, Qt::Key_Return, Qt::Key_Enter}, &Table::editSelectedName),
+                     item(tr("&Remove…"), {}, &Table::removeTemplate)};
+    menu->addSeparator();
+    menu->addAction(m_toggleDefault);
+    connect(m_toggleDefault, &QAction::triggered, &m_table, &Table::toggleDefault);
+    m_forTemplate +=
+        {m_toggleDefault, item(tr("&Show in File Manager"), {Qt::CTRL | Qt::Key_R}, &Table::revealTemplateInFinder)};
+    table->setContextMenu(menu);
+
+    connect(m_ui->newTemplateButton, &QToolButton::clicked, &m_table, &Table::createNewTemplate);
+    connect(m_ui->removeTemplateButton, &QToolButton::clicked, &m_table, &Table::removeTemplate);
+    connect(&m_table, &Table::selectionChanged, this, [this](bool any) {
+        m_ui->removeTemplateButton->setEnabled(any);
+        for (QAction *action : std::as_const(m_forTemplate))
+            action->setEnabled(any);
+    });
+}
+
+void TemplatePane::buildOutline()
+{
+    auto *outline = m_ui->outlineView;
+    outline->setItemDelegate(new VTImageTextCell(outline));
+    using Outline = VTTemplateOutlineController;
+    const auto addItem = [this](const char *icon, const QString &text, auto slot) {
+        QAction *action = m_addMenu->addAction(icons::named(icon), text);
+        connect(action, &QAction::triggered, &m_outline, slot);
+    };
+    m_addMenu->addSeparator();
+    addItem("folder", tr("New &Folder"), &Outline::addFolder);
+    addItem("import", tr("Import F&iles and Folders…"), &Outline::showImportFileDialog);
+    addItem("import", tr("Import Folder &Structure…"), &Outline::showImportFolderStructureDialog);
+    m_outline.setViews({outline, m_ui->addButton, m_addMenu, m_ui->importSpinner});
+
+    auto *menu = new QMenu(this);
+    const auto item = [&](const QString &text, const QList<QKeySequence> &keys, auto slot) {
+        QAction *action = addTo(*outline, text, keys);
+        connect(action, &QAction::triggered, &m_outline, slot);
+        menu->addAction(action);
+        return action;
+    };
+    QAction *newFolder = item(tr("New &Folder"), {Qt::CTRL | Qt::SHIFT | Qt::Key_N}, &Outline::addFolder);
+    m_forItems = {item(tr("&Open"), {Qt::CTRL | Qt::Key_O}, &Outline::openSelectedFiles),
+                  item(tr("D&uplicate"), {Qt::CTRL | Qt::Key_D}, &Outline::duplicateFiles),
+                  item(tr("Re&name"), {Qt::Key_F2, Qt::Key_Return, Qt::Key_Enter}, &Outline::editSelectedName),
+                  item(tr("&Remove…"), {}, &Outline::removeFiles)};
+    menu->addSeparator();
+    menu->addMenu(labelMenu());
+    m_forItems += item(tr("&Show in File Manager"), {Qt::CTRL | Qt::Key_R}, &Outline::revealFilesInFinder);
+    outline->setContextMenu(menu);
+
+    connect(m_ui->addButton, &QToolButton::clicked, &m_outline, &Outline::showAddPopUp);
+    connect(m_ui->removeButton, &QToolButton::clicked, &m_outline, &Outline::removeFiles);
+    connect(&m_outline, &Outline::selectionChanged, this, [this, newFolder](qsizetype count, bool isLoaded) {
+        newFolder->setEnabled(isLoaded);
+        setTreeSelection(count, isLoaded);
+    });
+}
+
+void TemplatePane::setTreeSelection(qsizetype count, bool isLoaded)
+{
+    m_ui->addButton->setEnabled(isLoaded);
+    m_ui->removeButton->setEnabled(count > 0);
+    for (QAction *action : m_forItems + m_labels)
+        action->setEnabled(count > 0);
+    m_ui->outlineView->setPlaceholder(isLoaded ? tr("Drop files and folders here, or add a folder.")
+                                               : tr("Make a template with the plus sign on the left."));
+}
+
+void TemplatePane::buildLabels()
+{
+    for (int tag = 0; tag <= labelCount; ++tag) {
+        const QString name = tag == 0 ? tr("No label") : tr("Label %1").arg(VTFileManager::labelName(tag * 2));
+        auto *action = new QAction(name, this);
+        action->setShortcut(Qt::CTRL | Qt::ALT | static_cast<Qt::Key>(Qt::Key_0 + tag));
+        action->setShortcutContext(Qt::WidgetShortcut);
+        m_ui->outlineView->addAction(action);
+        connect(action, &QAction::triggered, &m_outline, [this, tag] { m_outline.colorCodeFiles(tag); });
+        m_labels.append(action);
+    }
+    for (int place = 1; place <= labelCount + 1; ++place) { // the seven, then none
+        QAction *action = m_labels[place % (labelCount + 1)];
+        auto *button = new QToolButton(this);
+        button->setDefaultAction(action);
+        button->setAutoRaise(true);
+        button->setFocusPolicy(Qt::TabFocus);
+        button->setToolButtonStyle(Qt::ToolButtonIconOnly);
+        button->setAccessibleName(action->text());
+        m_ui->labelsLayout->addWidget(button);
+    }
+    drawLabels();
+}
+
+void TemplatePane::drawLabels()
+{
+    for (int tag = 0; tag <= labelCount; ++tag)
+        m_labels[tag]->setIcon(labelIcon(tag, palette()));
+}
+
+QMenu *TemplatePane::labelMenu()
+{
+    auto *menu = new QMenu(tr("&Label"), this);
+    menu->addActions(m_labels.mid(1));
+    menu->addAction(m_labels.first());
+    return menu;
+}
+
+void TemplatePane::finishEditing()
+{
+    m_ui->templateTable->finishEditing();
+    m_ui->outlineView->finishEditing();
+}
+
+void TemplatePane::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange && !m_labels.isEmpty())
+        drawLabels();
+}

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "templates/editor/VTTemplateOutlineController.h"
+#include "templates/editor/VTTemplateTableController.h"
+
+#include <QWidget>
+#include <memory>
+
+class QAction;
+class QMenu;
+
+namespace Ui {
+class TemplatePane;
+}
+
+/** The template pane: the list beside the tree, their buttons, menus and keys. Draws and forwards; the two controllers,
+   which it owns, do the rest. */
+class TemplatePane : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit TemplatePane(QWidget *parent = nullptr);
+    ~TemplatePane() override;
+
+    /** Fills the pane; to be called once, before it is shown first. */
+    void awakeFromNib();
+    [[nodiscard]] VTTemplateTableController &tableController() { return m_table; }
+    [[nodiscard]] VTTemplateOutlineController &outlineController() { return m_outline; }
+    /** Commits a name that is being typed. */
+    void finishEditing();
+
+protected:
+    void changeEvent(QEvent *event) override;
+
+private:
+    void buildTable();
+    void buildOutline();
+    void buildLabels();
+    void drawLabels();
+    [[nodiscard]] QMenu *labelMenu();
+    void setTreeSelection(qsizetype count, bool isLoaded);
+
+    std::unique_ptr<Ui::TemplatePane> m_ui;
+    VTTemplateOutlineController m_outline;
+    VTTemplateTableController m_table;
+    QAction *m_toggleDefault;
+    QMenu *m_addMenu;
+    QList<QAction *> m_labels;      ///< none, then the seven
+    QList<QAction *> m_forTemplate; ///< need a selected template
+    QList<QAction *> m_forItems;    ///< need selected items
+};

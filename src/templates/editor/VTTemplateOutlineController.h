@@ -1,0 +1,116 @@
+#pragma once
+
+#include "templates/ImportJobs.h"
+#include "templates/editor/TemplateTreeModel.h"
+
+#include <QPointer>
+#include <QSet>
+#include <atomic>
+
+class ImportPanel;
+class QMenu;
+class QToolButton;
+class Spinner;
+class VTColoredOutlineView;
+
+/**
+ * The structure editor: shows a template's tree and changes it. Every change is made on disk first; then the tree is
+ * read anew, and what was open, selected and in sight stays so where it still exists. Main thread only; reading happens
+ * on a worker while the window stays alive, imports run on threads of their own.
+ */
+class VTTemplateOutlineController : public QObject
+{
+    Q_OBJECT
+
+public:
+    struct Views
+    {
+        VTColoredOutlineView *outlineView = nullptr;
+        QToolButton *addPopUp = nullptr;
+        QMenu *addMenu = nullptr; ///< holds the static items; the project items go before them
+        Spinner *spinner = nullptr;
+    };
+
+    explicit VTTemplateOutlineController(QObject *parent = nullptr);
+    ~VTTemplateOutlineController() override;
+
+    /** Not owned. */
+    void setViews(const Views &views);
+    void awakeFromNib();
+
+    /** The bundle of a template; null for none, which empties the outline. */
+    void loadDataFromFile(const QString &bundle);
+    void populateTemplateStructure();
+    void reloadOutlineView();
+    void reloadOutlineViewItem(const TemplateNode *node);
+
+    [[nodiscard]] const TemplateNodes &dataArray() const { return m_model.nodes(); }
+    [[nodiscard]] QString baseFilename() const { return m_baseFilename; }
+    [[nodiscard]] TemplateNode *itemFromFilename(const QString &path) const;
+    [[nodiscard]] TemplateTreeModel &model() { return m_model; }
+
+    [[nodiscard]] DropOperation validateDrop(const TemplateDrop &drop, const TemplateNode *target) const;
+    /** The target's path, null for the root. False when nothing was taken. */
+    bool acceptDrop(const TemplateDrop &drop, const QString &target);
+
+    /** Starts the import on a thread of its own. */
+    void copyFilesOnThread(const ImportJob &job);
+    void createFolderStructureOnThread(const ImportJob &job);
+    /** Blocks until no import runs any more, turning the event loop. */
+    void waitForImports();
+
+public Q_SLOTS:
+    void showAddPopUp();
+    void addFolder();
+    void addProject(const QString &source);
+    void showImportFileDialog();
+    void showImportFolderStructureDialog();
+    void removeFiles();
+    void duplicateFiles();
+    void revealFilesInFinder();
+    void openSelectedFiles();
+    /** 0 takes the label away, 1 to 7 are the labels. */
+    void colorCodeFiles(int tag);
+    void editSelectedName();
+
+Q_SIGNALS:
+    /** How many items are selected; whether a template is loaded at all. */
+    void selectionChanged(qsizetype count, bool isLoaded);
+
+private:
+    struct ViewState;
+    /// Where a command puts something: the folder's path, "top" when it is the tree's root.
+    struct Target
+    {
+        QString path;
+        bool isTop = false;
+    };
+
+    [[nodiscard]] QString filesFolder() const;
+    [[nodiscard]] QModelIndexList selectedIndexes() const;
+    [[nodiscard]] QStringList selectedPaths() const;
+    [[nodiscard]] QList<Target> targets() const;
+    [[nodiscard]] TemplateNode *nodeAtPath(const QString &path) const;
+    [[nodiscard]] ViewState viewState() const;
+    void restore(const ViewState &state, const QModelIndex &below);
+    void rereadFolder(const QString &folder);
+    void rereadParentOf(const QString &path);
+    void insertIntoTargets(const std::function<QString(const QString &folder)> &insert);
+    void editItem(const QString &path);
+    void selectOnly(const QString &path);
+    void rename(const QString &path, const QString &typed);
+    void fillAddMenu();
+    void showImportPanel(bool foldersOnly);
+    [[nodiscard]] QString importDestination() const;
+    [[nodiscard]] QString destinationFolder(const QString &target) const;
+    bool moveInside(const TemplateNode &dragged, const QString &folder, QStringList &moved);
+    void startJob(const ImportJob &job, platform::Outcome (*work)(const ImportJob &, const ImportHost &));
+    void announceSelection();
+
+    Views m_views;
+    QString m_baseFilename;
+    TemplateTreeModel m_model;
+    quint64 m_generation = 0; ///< counts loads: one that was overtaken while it read is thrown away
+    int m_spinning = 0;
+    std::atomic<int> m_jobs = 0;
+};

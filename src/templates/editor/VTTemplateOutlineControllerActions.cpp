@@ -1,0 +1,248 @@
+// The structure editor's actions: add, import, remove, duplicate, rename, reveal, open, colour.
+#include "templates/editor/VTTemplateOutlineController.h"
+
+#include "platform/desktop/Desktop.h"
+#include "platform/files/FileSystem.h"
+#include "platform/base/FormatString.h"
+#include "platform/base/NativePath.h"
+#include "support/FileOperations.h"
+#include "support/VTAlert.h"
+#include "support/VTLog.h"
+#include "templates/EditingGuard.h"
+#include "ui/ImportPanel.h"
+#include "ui/VTOutlineView.h"
+
+#include <QMenu>
+#include <QToolButton>
+
+using platform::formatString;
+using platform::joined;
+
+namespace {
+
+constexpr std::chrono::seconds patience{20};
+
+QString withExtensionOf(const QString &stem, const QString &path)
+{
+    const QString extension = platform::extensionOf(path);
+    return extension.isEmpty() ? stem : stem + u'.' + extension;
+}
+
+} // namespace
+
+void VTTemplateOutlineController::showAddPopUp()
+{
+    m_views.outlineView->finishEditing();
+    // After the name that was being typed has been taken in.
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            const QWidget *button = m_views.addPopUp;
+            m_views.addMenu->popup(button->mapToGlobal(QPoint(0, button->height())));
+        },
+        Qt::QueuedConnection);
+}
+
+QList<VTTemplateOutlineController::Target> VTTemplateOutlineController::targets() const
+{
+    QList<Target> found;
+    for (const QModelIndex &index : selectedIndexes()) {
+        const TemplateNode *node = TemplateTreeModel::nodeAt(index);
+        const TemplateNode *folder = node->isFolderItem() ? node : node->parent();
+        found.append(folder ? Target{folder->filename(), false} : Target{filesFolder(), true});
+    }
+    return found;
+}
+
+/// What both kinds of adding have in common: in each target, or at the top, then the first one's name is edited.
+void VTTemplateOutlineController::insertIntoTargets(const std::function<QString(const QString &folder)> &insert)
+{
+    QString first;
+    QList<Target> places = targets();
+    if (places.isEmpty())
+        places.append({filesFolder(), true});
+    for (const Target &place : std::as_const(places)) {
+        const QString made = insert(place.path);
+        if (first.isNull())
+            first = made;
+        if (place.isTop)
+            populateTemplateStructure();
+        else
+            rereadFolder(place.path);
+    }
+    reloadOutlineView();
+    if (!first.isNull())
+        editItem(first);
+}
+
+void VTTemplateOutlineController::addFolder()
+{
+    if (m_baseFilename.isNull() || !editingIsAllowed())
+        return;
+    insertIntoTargets([](const QString &folder) {
+        const QString path = VTFileManager::uniqueFilename(joined(folder, tr("New Folder")));
+        VTLog::appendLog("Adding new folder %@", path);
+        const platform::Outcome made = fileoperations::createDirectory(path, patience);
+        if (made.ok())
+            return path;
+        VTAlert::show({formatString(tr("Unable to create folder %@"), path), checkDestination(made)});
+        return QString();
+    });
+}
+
+void VTTemplateOutlineController::addProject(const QString &source)
+{
+    if (m_baseFilename.isNull() || !editingIsAllowed())
+        return;
+    if (source.isNull()) {
+        VTLog::appendLog("Error inserting project: source path not specified");
+        return;
+    }
+    VTLog::appendLog("Creating duplicate of project %@...", source);
+    insertIntoTargets([&](const QString &folder) {
+        // Not translated: creating a project replaces the word in the name.
+        const QString path =
+            VTFileManager::uniqueFilename(joined(folder, withExtensionOf(QStringLiteral("Template"), source)));
+        VTLog::appendLog("Creating project at %@", path);
+        const platform::Outcome copied = fileoperations::copyFile(source, path, patience);
+        if (copied.ok())
+            return path;
+        VTAlert::show({formatString(tr("Unable to create project %@"), path), checkDestination(copied)});
+        return QString();
+    });
+}
+
+void VTTemplateOutlineController::showImportFileDialog()
+{
+    if (m_baseFilename.isNull() || !editingIsAllowed())
+        return;
+    VTLog::appendLog("Showing Import Files dialog");
+    showImportPanel(false);
+}
+
+void VTTemplateOutlineController::showImportFolderStructureDialog()
+{
+    if (m_baseFilename.isNull() || !editingIsAllowed())
+        return;
+    VTLog::appendLog("Showing Import Folder Structure dialog");
+    showImportPanel(true);
+}
+
+void VTTemplateOutlineController::showImportPanel(bool foldersOnly)
+{
+    auto *panel =
+        new ImportPanel(m_views.outlineView->window(), foldersOnly ? ImportPanel::Takes::Folders : ImportPanel::Takes::FilesAndFolders);
+    panel->setWindowTitle(foldersOnly ? tr("Import Folder Structure") : tr("Import Files and Folders"));
+    connect(panel, &QDialog::accepted, this, [this, panel, foldersOnly] {
+        const ImportJob job{panel->chosen(), importDestination()};
+        foldersOnly ? createFolderStructureOnThread(job) : copyFilesOnThread(job);
+    });
+    panel->open();
+}
+
+QString VTTemplateOutlineController::importDestination() const
+{
+    const QModelIndexList selected = selectedIndexes();
+    if (selected.isEmpty())
+        return filesFolder();
+    const TemplateNode *node = TemplateTreeModel::nodeAt(selected.first());
+    return node->isFolderItem() ? node->filename() : platform::parentPath(node->filename());
+}
+
+void VTTemplateOutlineController::removeFiles()
+{
+    QStringList paths = selectedPaths();
+    if (paths.isEmpty() || !editingIsAllowed())
+        return;
+    const QString what = paths.size() == 1 ? tr("this item") : tr("these items");
+    const int answer = VTAlert::show({formatString(tr("Are you sure you wish to remove %@?"), what),
+                                      tr("This cannot be undone."),
+                                      tr("Remove"),
+                                      tr("Cancel"),
+                                      {},
+                                      VTAlert::alternateReturn});
+    if (answer != VTAlert::defaultReturn)
+        return;
+    for (const QString &path : std::as_const(paths)) {
+        VTLog::appendLog("Removing template file %@", path);
+        if (const platform::Outcome removed = fileoperations::removeFile(path, patience); !removed.ok())
+            VTAlert::show({formatString(tr("Unable to remove file %@"), path), checkDestination(removed)});
+    }
+    if (paths.size() == 1)
+        rereadParentOf(paths.first());
+    else
+        populateTemplateStructure();
+}
+
+void VTTemplateOutlineController::duplicateFiles()
+{
+    const QStringList paths = selectedPaths();
+    if (paths.isEmpty() || !editingIsAllowed())
+        return;
+    for (const QString &path : paths) {
+        const QString copy = VTFileManager::uniqueFilename(
+            withExtensionOf(platform::withoutExtension(path) + QStringLiteral(" Duplicate"), path));
+        VTLog::appendLog("Duplicating template file %@ to %@", path, copy);
+        if (const platform::Outcome copied = fileoperations::copyFile(path, copy, patience); !copied.ok())
+            VTAlert::show({formatString(tr("Unable to copy file %@ to %@"), path, copy), checkDestination(copied)});
+        rereadParentOf(path);
+    }
+}
+
+void VTTemplateOutlineController::rename(const QString &path, const QString &typed)
+{
+    if (typed.isEmpty() || !nodeAtPath(path))
+        return;
+    const QString cleaned = VTFileManager::validateFilename(typed);
+    if (cleaned.isEmpty()) {
+        VTAlert::show({tr("Invalid filename"), tr("You must enter a filename without invalid characters.")});
+        return;
+    }
+    if (cleaned == platform::lastComponent(path))
+        return;
+    const QString renamed = joined(platform::parentPath(path), cleaned);
+    if (platform::kindOf(renamed) != platform::FileKind::Missing && renamed.toLower() != path.toLower()) {
+        VTAlert::show(
+            {tr("Item already exists"),
+             formatString(
+                 tr("You cannot rename this item to %@ because there is already a file or folder with this name."),
+                 cleaned)});
+        return;
+    }
+    VTLog::appendLog("User renamed %@ to %@", path, renamed);
+    const platform::Outcome moved = fileoperations::moveFile(path, renamed, patience);
+    TemplateNode *node = nodeAtPath(path); // looked up again: moving turned the event loop
+    if (!moved.ok()) {
+        VTLog::appendLog("Unable to rename item");
+        VTAlert::show(
+            {tr("Unable to rename item"),
+             withCause(tr("Please check your have write permissions for this item and its parent directory."), moved)});
+    } else if (node) {
+        node->rename(renamed);
+        reloadOutlineViewItem(node);
+    }
+}
+
+void VTTemplateOutlineController::revealFilesInFinder()
+{
+    for (const QString &path : selectedPaths())
+        platform::revealInFileBrowser(path);
+}
+
+void VTTemplateOutlineController::openSelectedFiles()
+{
+    for (const QString &path : selectedPaths()) {
+        VTLog::appendLog("Opening %@", path);
+        platform::openWithDefaultApplication(path);
+    }
+}
+
+void VTTemplateOutlineController::colorCodeFiles(int tag)
+{
+    for (const QString &path : selectedPaths()) {
+        VTLog::appendLog("Color coding %@", path);
+        VTFileManager::setFinderColorIndex(tag * 2, path); // the labels are the even indexes
+    }
+    m_views.outlineView->clearSelection();
+    m_views.outlineView->viewport()->update();
+}

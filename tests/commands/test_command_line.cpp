@@ -1,0 +1,303 @@
+// The command, as a process of its own: what it prints, how it ends, and what it leaves alone.
+#include "platform/desktop/Desktop.h"
+#include "platform/files/FileSystem.h"
+#include "platform/files/FileTree.h"
+#include "platform/base/PropertyList.h"
+#include "harness/Records.h"
+#include "harness/TemporaryHome.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QTest>
+#include <unistd.h>
+
+namespace {
+
+struct Outcome
+{
+    int status = -1;
+    QByteArray output;
+    QByteArray errors;
+};
+
+} // namespace
+
+class TestCommandLine : public QObject
+{
+    Q_OBJECT
+
+    std::unique_ptr<QTemporaryDir> m_home;
+
+    QString settingsFile() const { return m_home->filePath("Library/Preferences/com.vantrel.Tessaro.plist"); }
+    QString target() const { return m_home->filePath("Projects"); }
+
+    std::unique_ptr<QProcess> start(const QStringList &words) const
+    {
+        auto process = std::make_unique<QProcess>();
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert("HOME", m_home->path());
+        for (const char *variable : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+            environment.remove(variable);
+        process->setProcessEnvironment(environment);
+        process->setWorkingDirectory(m_home->path());
+        process->start(QCoreApplication::applicationDirPath() + "/Tessaro", words);
+        return process;
+    }
+    static Outcome finished(QProcess &process)
+    {
+        if (!process.waitForFinished(60000))
+            return {};
+        return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
+    }
+    Outcome run(const QStringList &words) const { return finished(*start(words)); }
+    Outcome createIn(QStringList words) const { return run(QStringList{"create", "--in", target()} + words); }
+
+    void setSettings(const QVariantMap &settings) const
+    {
+        writeFile(settingsFile(), platform::writePropertyList(settings));
+    }
+    QStringList everythingIn(const QString &folder) const
+    {
+        QStringList found;
+        for (const auto &entry : platform::listFolder(folder).valueOr({})) {
+            const QString path = folder + '/' + entry.name;
+            found << path;
+            if (entry.kind == platform::FileKind::Folder)
+                found << everythingIn(path);
+        }
+        return found;
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        m_home = std::make_unique<QTemporaryDir>();
+        QVERIFY(platform::makeFolders(target()).ok());
+    }
+
+    void templates()
+    {
+        const QString library = m_home->filePath("Library/Application Support/Vantrel/Tessaro/Templates/");
+        QCOMPARE(run({"template", "new", "Film"}).output, library.toUtf8() + "Film.tzt\n");
+        QCOMPARE(run({"template", "new", "Film"}).status, 3);
+        QCOMPARE(run({"template", "new", "a/b"}).status, 2);
+        writeFile(m_home->filePath("from/A/B/x"), "x");
+        QCOMPARE(run({"template", "structure", "Film", "--from", "from"}).status, 0);
+        QCOMPARE(run({"template", "show", "Film"}).output,
+                 QByteArray("Film\n\u2514\u2500\u2500 from/\n    \u2514\u2500\u2500 A/\n        \u2514\u2500\u2500 B/\n"));
+        const auto tree = QJsonDocument::fromJson(run({"template", "show", "Film", "--json"}).output).object();
+        QCOMPARE(tree["items"].toArray()[0].toObject()["name"].toString(), "from");
+        QCOMPARE(run({"template", "default", "Film"}).status, 0);
+        QCOMPARE(run({"template", "rename", "Film", "Feature"}).status, 0);
+        QCOMPARE(run({"template", "default"}).output, QByteArray("Feature\n"));
+        QCOMPARE(run({"template", "duplicate", "Feature"}).status, 0);
+        QCOMPARE(run({"template", "remove", "Feature"}).status, 3); // nobody said yes
+        QVERIFY(platform::targetExists(library + "Feature.tzt"));
+        QCOMPARE(run({"template", "remove", "Feature", "--yes"}).status, 0);
+        QVERIFY(!platform::targetExists(library + "Feature.tzt"));
+        writeFile(m_home->filePath("Two.tzt/Files/x"), "x");
+        const Outcome imported = run({"template", "import", "Two.tzt", "none.tzt"});
+        QCOMPARE(imported.status, 1);
+        QVERIFY(imported.output.endsWith("Two.tzt\n") && imported.errors.contains("none.tzt is not a template"));
+        QCOMPARE(run({"template", "restore"}).status, 3);
+        QCOMPARE(run({"template", "remove"}).status, 2);
+        QCOMPARE(run({"clear-history"}).status, 0);
+        // Where an administrator has to agree and nobody can be asked: not done, and said so.
+        setSettings({{"requireAdminPasswordForEditing", 1}});
+        if (getuid() != 0) {
+            QCOMPARE(run({"template", "new", "Guarded"}).status, 3);
+            QCOMPARE(run({"template", "rename", "Two", "Too"}).status, 0); // not guarded in the window either
+        }
+    }
+
+    void settingsAndParameters()
+    {
+        QCOMPARE(run({"settings", "set", "separatorChar", "-"}).status, 0);
+        QCOMPARE(run({"settings", "get", "separatorChar"}).output, QByteArray("-\n"));
+        for (const QStringList &bad : {QStringList{"separatorChar", "a/b"}, {"autoQuit", "maybe"}, {"dateFormat", "%"},
+                                       {"templateLocation", "relative"}, {"no such key", "1"}})
+            QCOMPARE(run(QStringList{"settings", "set"} + bad).status, 2);
+        QCOMPARE(run({"settings", "unset", "separatorChar"}).status, 0);
+        const auto all = QJsonDocument::fromJson(run({"settings", "--json"}).output).object();
+        QCOMPARE(all["separatorChar"].toString(), "_");
+
+        QCOMPARE(run({"parameters", "add", "Reel", "choice", "A,B"}).status, 0);
+        QCOMPARE(run({"parameters", "move", "Reel", "1"}).status, 0);
+        QCOMPARE(run({"parameters", "set", "Reel", "required", "on"}).status, 0);
+        QCOMPARE(run({"parameters", "set", "Reel", "kind", "no kind"}).status, 2);
+        QCOMPARE(run({"parameters", "move", "Reel", "99"}).status, 2);
+        const auto first = [&] {
+            return QJsonDocument::fromJson(run({"parameters", "--json"}).output).array()[0].toObject();
+        };
+        QCOMPARE(first()["title"].toString(), "Reel");
+        QVERIFY(first()["required"].toBool() && first()["choices"].toArray().size() == 2);
+        QCOMPARE(run({"parameters", "export", "list.plist"}).status, 0);
+        QCOMPARE(run({"parameters", "remove", "Reel"}).status, 3);
+        QCOMPARE(run({"parameters", "remove", "Reel", "--yes"}).status, 0);
+        writeFile(m_home->filePath("bad.plist"), "not one");
+        QCOMPARE(run({"parameters", "import", "bad.plist", "--yes"}).status, 1);
+        QCOMPARE(run({"parameters", "import", "list.plist", "--yes"}).status, 0);
+        QCOMPARE(first()["title"].toString(), "Reel");
+        if (getuid() == 0)
+            return;
+        setSettings({{"requireAdminPasswordForPrefs", 1}}); // as the window's preferences are
+        QCOMPARE(run({"settings", "set", "autoQuit", "on"}).status, 3);
+        QCOMPARE(run({"parameters", "add", "X"}).status, 3);
+        QCOMPARE(run({"settings", "get", "autoQuit"}).status, 0);
+        QCOMPARE(run({"settings", "unset", "requireAdminPasswordForPrefs"}).status, 3);
+    }
+
+    void aFirstProject()
+    {
+        const Outcome made = createIn({"--set", "Client=Acme & Söhne", "--set", "Project title=Größe 🎬"});
+        QVERIFY(made.status == 0 && made.errors.isEmpty());
+        QVERIFY(QString::fromUtf8(made.output).startsWith(target() + "/Acme & Söhne_001/Größe 🎬_"));
+        const QJsonObject next = QJsonDocument::fromJson(createIn({"--json"}).output).object();
+        QVERIFY(
+            next["project"].toString().startsWith("Acme & Söhne_002/Untitled_")); // counted; what has a history stays
+        QCOMPARE(next["folders"].toInt() + next["files"].toInt(), everythingIn(next["path"].toString()).size());
+    }
+
+    void aDryRunChangesNothing()
+    {
+        const Outcome fresh = createIn({"--dry-run", "--set", "Client=Acme"});
+        QVERIFY(fresh.status == 0 && fresh.output.startsWith((target() + "/Acme_001/Untitled_").toUtf8()));
+        QCOMPARE(everythingIn(m_home->path()), QStringList{target()});
+        QCOMPARE(createIn({}).status, 0);
+        const QStringList before = everythingIn(m_home->path());
+        const QByteArray stored = readFile(settingsFile());
+        const QJsonObject plan = QJsonDocument::fromJson(createIn({"--dry-run", "--json"}).output).object();
+        QCOMPARE(everythingIn(m_home->path()), before);
+        QCOMPARE(readFile(settingsFile()), stored);
+        const QJsonObject made = QJsonDocument::fromJson(createIn({"--json"}).output).object();
+        for (const char *key : {"project", "path", "folders", "files", "renamed"})
+            QCOMPARE(plan[QLatin1String(key)], made[QLatin1String(key)]);
+    }
+
+    void anExistingProject()
+    {
+        const QStringList same{"--set", "Job number=007"};
+        const QString path = QString::fromUtf8(createIn(same).output).chopped(1);
+        writeFile(path + "/work", "days of it");
+        const Outcome refused = createIn(same);
+        QCOMPARE(refused.status, 3);
+        QVERIFY(refused.output.isEmpty() && refused.errors.contains("--overwrite"));
+        QCOMPARE(readFile(path + "/work"), QByteArray("days of it"));
+        QCOMPARE(createIn(same + QStringList{"--overwrite"}).status, 0);
+        QVERIFY(!platform::targetExists(path + "/work"));
+    }
+
+    /// Of many that create the same project at once, one makes it and the others say that it exists.
+    void manyAtOnce()
+    {
+        QCOMPARE(run({"templates"}).status, 0);
+        std::vector<std::unique_ptr<QProcess>> processes;
+        for (int i = 0; i < 6; ++i)
+            processes.push_back(start({"create", "--in", target(), "--set", "Job number=100"}));
+        QMap<int, int> statuses;
+        for (const auto &process : processes)
+            ++statuses[finished(*process).status];
+        QCOMPARE(statuses, (QMap<int, int>{{0, 1}, {3, 5}}));
+        const auto items = everythingIn(target()).size();
+        QVERIFY(platform::removeTree(target()).ok());
+        QVERIFY(platform::makeFolders(target()).ok());
+        QCOMPARE(createIn({"--set", "Job number=100"}).status, 0);
+        QCOMPARE(everythingIn(target()).size(), items); // neither mixed nor doubled
+    }
+
+    void refusals_data()
+    {
+        QTest::addColumn<QVariantMap>("settings");
+        QTest::addColumn<QStringList>("words");
+        QTest::addColumn<int>("status");
+        QTest::addColumn<QByteArray>("said");
+        const QStringList in{"create", "--in", "Projects"};
+        const auto row = [](const char *said, int status, const QStringList &words, const QVariantMap &settings = {}) {
+            QTest::newRow(said) << settings << words << status << QByteArray(said);
+        };
+        const auto with = [](const QVariantList &parameters) {
+            return QVariantMap{{"filenameTemplate", parameters}};
+        };
+        row("There are: Client, Job number, Project title", 2, in + QStringList{"--set", "Clint=x"});
+        row("is locked", 2, in + QStringList{"--set", "T=y"}, with({record({{"val", "x"}, {"locked", 1}})}));
+        row("There are: a, b.", 2, in + QStringList{"--set", "T=c"},
+            with({record({{"type", 5}, {"defaultVal", "a,b"}})}));
+        row("'T' cannot be left blank\nPlease", 1, in,
+            with({record({{"disallowEmpty", true}}), record({{"val", "x"}})}));
+        row("You must specify at least one parameter.", 1, in, with({record({})}));
+        for (const char *value : {"...", " ..", "/"}) // cleaned, they would lead out of the folder or name none
+            row("The values give", 1, in, with({record({{"val", "x"}}), record({{"val", value}, {"folder", true}})}));
+        row("There are: Documentary, Editing Template", 2, in + QStringList{"--template", "X"});
+        row("--in FOLDER", 2, {"create"});
+        row("No fixed project location", 2, {"create"}, {{"useFixedProjectLocation", 0}});
+        row("does not exist", 1, {"create", "--in", "Unplugged"});
+        row("is not a folder", 1, {"create", "--in", "/etc/passwd"});
+        for (const char *words :
+             {"crate", "create --fast", "create --in", "create --set =x", "create --json=1", "templates --in /x"})
+            row("--help", 2, QString(words).split(' '));
+        row("Tessaro create", 1, {}); // no display
+        row("Unable to create folder", 1, in, with({record({{"val", QString(300, 'x')}})}));
+    }
+    void refusals()
+    {
+        QFETCH(QVariantMap, settings);
+        QFETCH(QStringList, words);
+        QFETCH(int, status);
+        QFETCH(QByteArray, said);
+        if (!settings.isEmpty())
+            setSettings(settings);
+        const Outcome outcome = run(words);
+        QCOMPARE(outcome.status, status);
+        QVERIFY2(outcome.errors.contains(said), outcome.errors.constData());
+        QCOMPARE(outcome.output, QByteArray());
+        QCOMPARE(everythingIn(target()), QStringList());
+    }
+
+    void valuesAreSetAsIfTyped()
+    {
+        setSettings({{"useFixedProjectLocation", 1},
+                     {"fixedProjectLocationPath", target() + "/Fixed"},
+                     {"strictNaming", true},
+                     {"filenameTemplate", QVariantList{record({{"title", "Client"}, {"saveHistory", true}})}}});
+        QCOMPARE(run({"create", "--set", "Client=Café Promo!"}).output.trimmed(),
+                 (target() + "/Fixed/CafPromo").toUtf8());
+        const QVariantMap stored = platform::readPropertyList(readFile(settingsFile())).value_or(QVariant()).toMap();
+        QCOMPARE(stored["filenameTemplate"].toList().value(0).toMap()["history"].toList(), QVariantList{"CafPromo"});
+        QCOMPARE(createIn({}).output.trimmed(), (target() + "/CafPromo").toUtf8()); // what the command says wins
+    }
+
+    void administratorsRights()
+    {
+        setSettings({{"requireAdminPassword", 1}});
+        const int expected = geteuid() == 0 ? 0 : 3; // no service lends rights to an ordinary user's process here
+        QCOMPARE(createIn({}).status, expected);
+    }
+
+    void damagedSettings()
+    {
+        writeFile(settingsFile(), "not a property list");
+        QCOMPARE(createIn({}).status, 0);
+        QCOMPARE(readFile(settingsFile() + ".damaged"), QByteArray("not a property list"));
+        const QVariantMap oddRecord{{"type", "x"}, {"val", QVariantList{}}, {"history", "h"}, {"locked", "no"}};
+        setSettings({{"separatorChar", QVariantList{}},
+                     {"dateFormat", 7},
+                     {"templateLocation", QVariantMap{}},
+                     {"filenameTemplate", QVariantList{1, oddRecord, QVariantMap{{"val", 41}}}}});
+        QCOMPARE(createIn({}).status, 0);
+    }
+
+    void listings()
+    {
+        setSettings({{"defaultTemplate", "Photography"}});
+        const QByteArray templates = run({"templates"}).output;
+        QVERIFY(templates.contains("\n* Photography\n") && templates.contains("\n  Editing Template\n"));
+        QCOMPARE(QJsonDocument::fromJson(run({"templates", "--json"}).output).array().size(), templates.count('\n'));
+        QCOMPARE(QJsonDocument::fromJson(run({"parameters", "--json"}).output)[1]["kind"].toString(), "counter");
+        QVERIFY(run({"--help"}).output.contains("--dry-run"));
+    }
+};
+
+TESSARO_TEST_MAIN(QCoreApplication, TestCommandLine)
+#include "test_command_line.moc"

@@ -1,0 +1,310 @@
+// The main road, on a real disk: what is made, what is left alone, and what is said.
+#include "creation/CreationPlan.h"
+#include "creation/ProjectCreation.h"
+#include "harness/Answers.h"
+#include "platform/desktop/Desktop.h"
+#include "platform/files/FileSystem.h"
+#include "platform/files/FileTree.h"
+#include "platform/files/FinderInfo.h"
+#include "platform/base/NativePath.h"
+#include "platform/files/TreeCopy.h"
+#include "support/Settings.h"
+#include "harness/StoredSettings.h"
+#include "harness/TemporaryHome.h"
+#include "support/VTAlert.h"
+#include "support/VTLocalPaths.h"
+#include "support/VTLog.h"
+#include "templates/TreeListing.h"
+#include "templates/VTDataController.h"
+
+#include <QTest>
+#include <fcntl.h>
+#include <memory>
+#include <sys/stat.h>
+#include <unistd.h>
+
+using platform::FileKind;
+using platform::kindOf;
+
+namespace {
+
+constexpr time_t longAgo = 1000000000;
+
+void makeOld(const QString &path)
+{
+    const timespec times[2] = {{longAgo, 0}, {longAgo, 0}};
+    if (utimensat(AT_FDCWD, platform::toNative(path).constData(), times, AT_SYMLINK_NOFOLLOW) != 0)
+        qFatal("Cannot date %s", qPrintable(path));
+}
+
+time_t dateOf(const QString &path)
+{
+    struct stat info;
+    return lstat(platform::toNative(path).constData(), &info) == 0 ? info.st_mtime : 0;
+}
+
+class Host : public CreationHost
+{
+public:
+    QStringList calls;
+    void startProcessing() override { calls << "start"; }
+    void finishProcessing() override { calls << "finish"; }
+    void incrementDynamicValues() override { calls << "count"; }
+    void reveal(const QString &) override { calls << "reveal"; }
+    void quitIfWanted() override { calls << "quit"; }
+};
+
+} // namespace
+
+class TestCreation : public QObject
+{
+    Q_OBJECT
+
+    std::unique_ptr<QTemporaryDir> m_work;
+    std::unique_ptr<Answers> m_presenter;
+    Host m_host;
+
+    QString files(const QString &item = {}) const
+    {
+        return platform::joined(VTDataController::filesFolder("Test"), item);
+    }
+    QString project(const QString &item = {}) const { return platform::joined(m_work->filePath("Acme/Promo"), item); }
+    CreationResult create()
+    {
+        return ProjectCreation(m_host).createProject("Test", project());
+    }
+    void answer(bool goOn)
+    {
+        m_presenter.reset(); // an old one takes its place in the program along
+        m_presenter = std::make_unique<Answers>(QList<int>{goOn ? VTAlert::defaultReturn : VTAlert::alternateReturn});
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        m_work = std::make_unique<QTemporaryDir>();
+        m_host = Host();
+        answer(false);
+        storeSetting(settings::templateLocation, m_work->filePath("Library"));
+        storeSetting(settings::separatorChar, "_");
+        const auto record = [](const char *value, bool folder) {
+            return QVariantMap{{"title", value}, {"val", value}, {"folder", folder}};
+        };
+        storeSetting(settings::filenameTemplate, QVariantList{record("Acme", true), record("Promo", true)});
+        QVERIFY(platform::makeFolders(files()).ok());
+    }
+    void cleanup()
+    {
+        VTAlert::setPresenter(nullptr);
+        QVERIFY(platform::removeTree(m_work->path()).ok());
+    }
+
+    void makesWhatThePlanSays()
+    {
+        writeFile(files("Template/Sub template/My TEMPLATE.txt"), "contents");
+        writeFile(files("Template/notes.template"));
+        writeFile(files(".hidden template"));
+        writeFile(files(platform::fromNative("bad\xff\xfe template.txt")), "bytes");
+        writeFile(files("one\ntwo"));
+        QVERIFY(platform::makeFolders(files("Empty")).ok());
+        QCOMPARE(mkfifo(platform::toNative(files("Template pipe")).constData(), 0640), 0);
+        platform::setFlagsWord(files("Empty"), 12, 0x0E);
+        makeOld(files("Empty"));
+        makeOld(files("one\ntwo"));
+
+        const CreationPlan plan = planCreation(listTree(files()), {"Acme", "Promo"});
+        const CreationResult result = create();
+
+        QCOMPARE(result.errors, QStringList());
+        QCOMPARE(m_host.calls, QStringList({"start", "reveal", "count", "quit", "finish"}));
+        const TreeListing made = listTree(project());
+        QStringList planned;
+        QStringList found;
+        for (const PlanItem &item : plan.items)
+            planned << platform::joined(item.folder, item.newName);
+        for (const ListedItem &item : made.items)
+            found << platform::joined(item.folder, item.name);
+        std::sort(planned.begin(), planned.end());
+        std::sort(found.begin(), found.end());
+        QCOMPARE(found, planned);
+        QCOMPARE(result.files + result.folders, made.items.size());
+        QCOMPARE(result.renamed, plan.renamed());
+        QCOMPARE(readFile(project("Promo/Sub Promo/My Promo.txt")), QByteArray("contents"));
+        QCOMPARE(readFile(project(platform::fromNative("bad\xff\xfe Promo.txt"))), QByteArray("bytes"));
+        QCOMPARE(kindOf(project("Promo pipe")), FileKind::Other);
+        QCOMPARE(platform::flagsWordOf(project("Empty")), quint16(12));
+        for (const ListedItem &item : made.items)
+            QVERIFY(dateOf(platform::joined(project(item.folder), item.name)) > longAgo + 1);
+        QCOMPARE(dateOf(files("Empty")), longAgo); // the template itself stays as it was
+    }
+
+    /// A link in a template may point at the studio's shared drive: nothing there may be touched.
+    void neverGoesThroughALink()
+    {
+        const QString shared = m_work->filePath("Shared");
+        writeFile(shared + "/Template on the shared drive.txt");
+        for (const QString &item : {shared + "/Template on the shared drive.txt", shared})
+            makeOld(item);
+        QCOMPARE(symlink(shared.toUtf8().constData(), files("Template link").toUtf8().constData()), 0);
+        QCOMPARE(symlink("Template link", files("loop template").toUtf8().constData()), 0);
+        QCOMPARE(symlink("nowhere", files("dangling template").toUtf8().constData()), 0);
+
+        QVERIFY(create().ok());
+
+        QCOMPARE(platform::linkTarget(project("Promo link")), shared);
+        QCOMPARE(platform::linkTarget(project("dangling Promo")), QString("nowhere"));
+        QVERIFY(dateOf(project("Promo link")) > longAgo);
+        QCOMPARE(dateOf(shared), longAgo);
+        QCOMPARE(dateOf(shared + "/Template on the shared drive.txt"), longAgo);
+    }
+
+    void losesNothingWhenNamesCollide()
+    {
+        writeFile(files("Promo.txt"), "the one that has the name");
+        writeFile(files("Template.txt"), "the one that wants it");
+        const CreationResult result = create();
+        QCOMPARE(result.errors.size(), 1);
+        QVERIFY(result.errors[0].startsWith("Unable to move file "));
+        QCOMPARE(readFile(project("Promo.txt")), QByteArray("the one that has the name"));
+        QCOMPARE(readFile(project("Template.txt")), QByteArray("the one that wants it"));
+        QVERIFY(m_host.calls.contains("count"));
+    }
+
+    void asksBeforeOverwriting()
+    {
+        writeFile(project("old"), "work");
+        writeFile(files("new"));
+        const CreationResult cancelled = create();
+        QVERIFY(cancelled.cancelled);
+        QCOMPARE(m_host.calls, QStringList({"start", "finish"}));
+        QCOMPARE(readFile(project("old")), QByteArray("work"));
+        QCOMPARE(kindOf(project("new")), FileKind::Missing);
+
+        answer(true);
+        QVERIFY(create().ok());
+        QCOMPARE(kindOf(project("old")), FileKind::Missing);
+        QCOMPARE(kindOf(project("new")), FileKind::File);
+    }
+
+    /// When the old project cannot be put away, the new one must not be mixed into it.
+    void leavesAnOldProjectThatCannotBeTrashed()
+    {
+        if (geteuid() == 0)
+            return; // nothing is in root's way
+        writeFile(project("old"), "work");
+        writeFile(files("new"));
+        const QByteArray parent = platform::parentPath(project()).toUtf8();
+        QCOMPARE(chmod(parent.constData(), 0555), 0);
+        answer(true);
+        const CreationResult result = create();
+        QCOMPARE(chmod(parent.constData(), 0755), 0);
+        QVERIFY(result.cancelled);
+        QCOMPARE(result.errors.size(), 1);
+        QCOMPARE(readFile(project("old")), QByteArray("work"));
+        QCOMPARE(kindOf(project("new")), FileKind::Missing);
+        QVERIFY(!m_host.calls.contains("count"));
+    }
+
+    void tellsWhatCannotBeMade_data()
+    {
+        QTest::addColumn<QString>("obstacle");
+        QTest::addColumn<QStringList>("messages");
+        const QString copy = "Unable to copy contents of template";
+        QTest::newRow("no Files folder") << "files missing" << QStringList{copy};
+        QTest::newRow("Files unreadable") << "files unreadable" << QStringList{copy};
+        QTest::newRow("a file where a folder level goes") << "file in the way"
+                                                          << QStringList{"Unable to create folder %1", copy};
+        QTest::newRow("read-only destination") << "read-only" << QStringList{"Unable to create folder %1", copy};
+    }
+    void tellsWhatCannotBeMade()
+    {
+        QFETCH(QString, obstacle);
+        QFETCH(QStringList, messages);
+        if (geteuid() == 0 && (obstacle == "files unreadable" || obstacle == "read-only"))
+            return; // nothing is in root's way
+        writeFile(files("item"));
+        if (obstacle == "files missing")
+            QVERIFY(platform::removeTree(files()).ok());
+        else if (obstacle == "files unreadable")
+            QCOMPARE(chmod(files().toUtf8().constData(), 0), 0);
+        else if (obstacle == "file in the way")
+            writeFile(m_work->filePath("Acme"), "a file");
+        else
+            QCOMPARE(chmod(m_work->path().toUtf8().constData(), 0555), 0);
+
+        const CreationResult result = create();
+        chmod(files().toUtf8().constData(), 0755);
+        chmod(m_work->path().toUtf8().constData(), 0755);
+        messages.replaceInStrings("%1", project());
+        QCOMPARE(result.errors, messages);
+        QCOMPARE(m_presenter->messages, messages);
+        if (obstacle == "file in the way")
+            QCOMPARE(readFile(m_work->filePath("Acme")), QByteArray("a file"));
+    }
+
+    void copiesAllOrSaysWhichItem()
+    {
+        if (geteuid() == 0)
+            return; // nothing is unreadable to root
+        writeFile(files("a"), "1");
+        writeFile(files("b/secret"), "2");
+        writeFile(files("c"), "3");
+        QCOMPARE(chmod(files("b/secret").toUtf8().constData(), 0), 0);
+        const CreationResult result = create();
+        QCOMPARE(result.errors, QStringList{"Unable to copy contents of template"});
+        QCOMPARE(readFile(project("a")), QByteArray("1"));
+        QCOMPARE(kindOf(project("b")), FileKind::Missing); // nothing half done
+        VTLog::finishWriting();
+        QVERIFY(readFile(VTLog::sharedController().currentLogPath())
+                    .contains("Error copying file: " + files("b/secret").toUtf8() + ": Permission denied"));
+    }
+
+    void aThousandLevels()
+    {
+        QString folder = files();
+        for (int i = 0; i < 1000; ++i)
+            folder += "/level template";
+        // 16,000 bytes: four times what the kernel takes in one path, so the file comes by way of a copy.
+        QVERIFY(platform::makeFolders(folder).ok());
+        writeFile(m_work->filePath("Template.txt"), "deep");
+        QVERIFY(platform::copyItem(m_work->filePath("Template.txt"), folder + "/Template.txt").ok());
+        QVERIFY(create().ok());
+        QString made = project();
+        for (int i = 0; i < 1000; ++i)
+            made += "/level Promo";
+        QCOMPARE(platform::fileSizeOf(made + "/Promo.txt"), quint64(4));
+    }
+
+    void logsTheMainRoad()
+    {
+        writeFile(files("Sub/Template.txt"));
+        VTLog::finishWriting();
+        const qsizetype before = readFile(VTLog::sharedController().currentLogPath()).size();
+        QVERIFY(create().ok());
+        VTLog::finishWriting();
+        const QString log = readFile(VTLog::sharedController().currentLogPath()).mid(before);
+        qsizetype at = 0;
+        for (const QString &line :
+             {"Creating template Test at " + project() + "...",
+              "Renaming template files from " + project() + " to Promo",
+              "Renaming template files from " + project("Sub") + " to Promo",
+              "Updating timestamps for folder " + project(), "Updating timestamps for folder " + project("Sub"),
+              QString("Template created successfully")}) {
+            at = log.indexOf(" - " + line + "\n", at);
+            QVERIFY2(at >= 0, qPrintable(line + " is missing in\n" + log));
+        }
+    }
+};
+
+int main(int argc, char **argv)
+{
+    platform::prepareLocale();
+    const TemporaryHome home;
+    QCoreApplication application(argc, argv);
+    VTLog::createNewLog();
+    settings::registerDefaults();
+    TestCreation test;
+    return QTest::qExec(&test, argc, argv);
+}
+#include "test_creation.moc"
+#include "platform/base/System.h"

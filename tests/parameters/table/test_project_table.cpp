@@ -1,0 +1,241 @@
+// The form in which a project is named, driven by keys in a window, and as an engine without one.
+#include "parameters/ParameterStore.h"
+#include "parameters/table/VTProjectTableController.h"
+#include "platform/desktop/Desktop.h"
+#include "support/Notifications.h"
+#include "harness/OffscreenMessages.h"
+#include "support/Settings.h"
+#include "harness/StoredSettings.h"
+#include "harness/TemporaryHome.h"
+#include "ui/PathControl.h"
+#include "ui/VTTabbedEditTableView.h"
+#include "ui/ValueCellDelegate.h"
+
+#include <QAbstractItemModelTester>
+#include <QApplication>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QTest>
+#include <QVBoxLayout>
+
+namespace {
+
+QVariantMap record(const QString &value, const QVariantMap &more = {})
+{
+    QVariantMap record{{"title", "T"}, {"type", 0}, {"val", value}, {"defaultVal", "default"}};
+    record.insert(more);
+    return record;
+}
+const QVariantMap remembered{{"saveHistory", true}, {"history", QVariantList{"Beta", "Alpha"}}};
+const QVariantMap chosen{{"type", 5}, {"defaultVal", "Red,Green"}};
+const QVariantMap locked{{"locked", 1}};
+
+/// The form as its window has it.
+struct Form
+{
+    QWidget window;
+    VTTabbedEditTableView table;
+    PathControl path;
+    QLabel warning;
+    VTProjectTableController controller;
+    QAbstractItemModelTester tester{&controller, QAbstractItemModelTester::FailureReportingMode::QtTest};
+
+    explicit Form(const QVariantList &records)
+    {
+        storeSetting(settings::filenameTemplate, records);
+        auto *column = new QVBoxLayout(&window);
+        for (QWidget *widget : std::initializer_list<QWidget *>{&table, &path, &warning})
+            column->addWidget(widget);
+        table.setItemDelegate(new ValueCellDelegate(&table));
+        warning.hide();
+        controller.setViews({&table, nullptr, &path, nullptr, &warning});
+        controller.awakeFromNib();
+        window.resize(500, 500);
+        window.show();
+        window.activateWindow();
+        static_cast<void>(QTest::qWaitForWindowActive(&window));
+    }
+    QWidget *editor(int row) const { return table.indexWidget(controller.index(row, 1)); }
+    /// The row that is being edited with the keys going there, -1 when the table has them, -2 when neither.
+    int editedRow() const
+    {
+        for (int row = 0; row < controller.rowCount(); ++row) {
+            if (editor(row) && editor(row) == QApplication::focusWidget())
+                return row;
+        }
+        return table.hasFocus() ? -1 : -2;
+    }
+    QString value(int row) const { return controller.dataArray().at(row).value(); }
+    bool isStored() const { return storedParameters() == controller.dataArray(); }
+    void set(int row, const QString &text) { controller.setData(controller.index(row, 1), text, Qt::EditRole); }
+};
+
+void press(int key, Qt::KeyboardModifiers modifiers = {})
+{
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key(key), modifiers);
+}
+void type(const QString &text)
+{
+    QTest::keyClicks(QApplication::focusWidget(), text);
+}
+
+} // namespace
+
+class TestProjectTable : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        keepBackOffscreenMessages();
+        settings::registerDefaults();
+    }
+
+    void walks_data()
+    {
+        QTest::addColumn<int>("start");
+        QTest::addColumn<Qt::Key>("key");
+        QTest::addColumn<int>("row");
+        QTest::newRow("Tab into a history") << 0 << Qt::Key_Tab << 1;
+        QTest::newRow("Tab goes round") << 2 << Qt::Key_Tab << 0;
+        QTest::newRow("Shift-Tab out of a history") << 1 << Qt::Key_Backtab << 0;
+        QTest::newRow("Shift-Tab goes round") << 0 << Qt::Key_Backtab << 2;
+        QTest::newRow("Return") << 1 << Qt::Key_Return << 2;
+        QTest::newRow("Enter on the last row leaves") << 2 << Qt::Key_Enter << -1;
+        QTest::newRow("Escape puts back") << 1 << Qt::Key_Escape << -1;
+    }
+    void walks()
+    {
+        QFETCH(int, start);
+        QFETCH(Qt::Key, key);
+        QFETCH(int, row);
+        Form form({record("one"), record("two", remembered), record("three")});
+        const QString old = form.value(start);
+        form.controller.editItem(start);
+        type("typed over"); // the whole old text was selected
+        press(key, key == Qt::Key_Backtab ? Qt::ShiftModifier : Qt::NoModifier);
+        QTRY_COMPARE(form.editedRow(), row);
+        QCOMPARE(form.table.firstSelectedRow(), std::optional(row < 0 ? start : row));
+        QCOMPARE(form.value(start), key == Qt::Key_Escape ? old : "typed over");
+        QVERIFY(form.isStored() && form.path.path().contains(form.value(start)));
+    }
+
+    /// A locked row is a step on the way, and no trap: there the table itself has the keys.
+    void walksOverLockedRows()
+    {
+        Form form({record("one"), record("two", locked), record("three", locked), record("four")});
+        Q_EMIT Notifications::hub().VTTessaroEditFirstParameter();
+        QCOMPARE(form.editedRow(), 0);
+        for (const int row : {-1, -1, 3}) {
+            press(Qt::Key_Tab);
+            QCOMPARE(form.editedRow(), row);
+        }
+        press(Qt::Key_Backtab, Qt::ShiftModifier);
+        press(Qt::Key_Backtab, Qt::ShiftModifier);
+        QCOMPARE(form.table.firstSelectedRow(), std::optional(1));
+        type("x");
+        press(Qt::Key_F2);
+        QCOMPARE(form.editedRow(), -1);
+        QCOMPARE(form.value(1), "default");
+    }
+
+    void deleteKeysRevert()
+    {
+        Form form({record("typed", {{"saveHistory", true}}), record("typed", {{"saveHistory", true}, {"locked", 1}}),
+                   record("", chosen)});
+        form.table.setFocus();
+        for (const auto key : {Qt::Key_Backspace, Qt::Key_Delete}) {
+            form.set(2, "Green");
+            for (int row = 0; row < 3; ++row) {
+                form.table.selectRow(row);
+                press(key);
+                QCOMPARE(form.value(row), row == 2 ? "Red" : "default");
+            }
+            QVERIFY(form.isStored() && form.controller.dataArray()[0].history().isEmpty());
+        }
+    }
+
+    void historyCombo()
+    {
+        Form form({record("", remembered)});
+        for (const char *typed : {"1", "2", "3"})
+            form.set(0, typed);
+        form.controller.editFirstItem();
+        auto *combo = qobject_cast<QComboBox *>(form.editor(0));
+        QVERIFY(combo && combo->isEditable() && combo->count() == 5 && combo->currentText() == "3");
+        press(Qt::Key_Down);
+        QCOMPARE(combo->currentText(), "2");
+        form.controller.finishEditing();
+        QCOMPARE(form.controller.dataArray()[0].history(), QStringList({"2", "3", "1", "Beta", "Alpha"}));
+    }
+
+    void choiceCombo()
+    {
+        Form form({record("Blue", chosen), record("two")});
+        form.controller.editFirstItem();
+        auto *combo = qobject_cast<QComboBox *>(form.editor(0));
+        QVERIFY(combo && !combo->isEditable() && combo->count() == 2 && combo->currentIndex() == -1);
+        press(Qt::Key_Tab);
+        QCOMPARE(form.value(0), "Blue"); // passing through chooses nothing
+        form.controller.editFirstItem();
+        type("g");
+        press(Qt::Key_Return);
+        QTRY_COMPARE(form.editedRow(), 1);
+        QCOMPARE(form.value(0), "Green");
+        QVERIFY(form.isStored());
+    }
+
+    void engineWithoutViews()
+    {
+        storeSetting(settings::filenameTemplate,
+                                      QVariantList{record("one"), record("two", remembered), record("7", {{"type", 2}}),
+                                                   record("", {{"type", 3}}), record("Green", chosen)});
+        VTProjectTableController engine;
+        engine.awakeFromNib();
+        const auto values = [&engine] {
+            QStringList list;
+            for (const FilenameParameter &parameter : engine.dataArray())
+                list.append(parameter.isAutomatic() ? QString() : parameter.value());
+            return storedParameters() == engine.dataArray() ? list : QStringList("The stored list is another");
+        };
+        QCOMPARE(values(), QStringList({"default", "two", "7", "", "Green"}));
+        for (int row = 0; row < 3; ++row)
+            QVERIFY(engine.setData(engine.index(row, 1), "9", Qt::EditRole));
+        engine.incrementDynamicValues();
+        QCOMPARE(values(), QStringList({"9", "9", "10", "", "Green"}));
+        Q_EMIT Notifications::hub().VTTessaroReloadFilenameParams(); // what was typed without a history goes
+        Q_EMIT Notifications::hub().VTTessaroRefreshDynamicValues();
+        QCOMPARE(values(), QStringList({"default", "9", "10", "", "Green"}));
+        QCOMPARE(engine.dataArray()[3].value().size(), 10);
+        engine.clearHistory();
+        QCOMPARE(values(), QStringList({"default", "default", "10", "", "Green"}));
+        storeSetting(settings::filenameTemplate, QVariantList());
+        Q_EMIT Notifications::hub().VTTessaroReloadFilenameParams();
+        QCOMPARE(engine.rowCount(), 0); // an empty list is a list
+        storeSetting(settings::filenameTemplate, "rubbish");
+        Q_EMIT Notifications::hub().VTTessaroReloadFilenameParams();
+        QVERIFY(engine.rowCount() > 1 && storedParameters() == engine.dataArray());
+        QCOMPARE(settings::standard().string("filenameTemplate.damaged"), "rubbish");
+    }
+
+    void warnsOfAnExistingProject()
+    {
+        const QString projects = QDir::homePath() + "/Projects";
+        writeFile(projects + "/Acme/041/notes");
+        storeSetting(settings::fixedProjectLocationPath, projects);
+        Form form({record("", {{"defaultVal", ""}}), record("041", {{"defaultVal", "041"}, {"folder", true}})});
+        form.set(0, "Acme");
+        QTRY_VERIFY(form.warning.isVisible());
+        form.set(0, "Other");
+        QTRY_VERIFY(!form.warning.isVisible());
+        form.set(0, "Acme"); // the answer about a name no longer shown does not count
+        form.set(0, "Other");
+        QTest::qWait(100);
+        QVERIFY(!form.warning.isVisible());
+    }
+};
+
+TESSARO_TEST_MAIN(QApplication, TestProjectTable)
+#include "test_project_table.moc"
