@@ -21,9 +21,9 @@ inline double secondsOf(const QString &tool, const QStringList &arguments)
 {
     return secondsOf([&] {
         platform::ChildProcess child(tool, arguments);
-        const bool started =
+        const platform::Outcome started =
             child.start(platform::ChildProcess::Output::Discarded, platform::ChildProcess::ErrorOutput::Discarded);
-        if (!started || child.waitUntilExit() != 0)
+        if (!started.ok() || child.waitUntilExit() != 0)
             qFatal("%s failed", qPrintable(tool));
     });
 }

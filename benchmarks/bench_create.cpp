@@ -44,7 +44,6 @@ class SilentHost : public CreationHost
     void incrementDynamicValues() override {}
     void reveal(const QString &) override {}
     void quitIfWanted() override {}
-    [[nodiscard]] QWidget *window() const override { return nullptr; }
 };
 
 double secondsOfCreation(const QString &templateName, const QString &destination)
@@ -93,7 +92,8 @@ int main(int argc, char **argv)
     const QCoreApplication application(argc, argv);
     VTLog::createNewLog();
     settings::registerDefaults();
-    storeSetting(settings::filenameTemplate, QVariantList{QVariantMap{{"title", "T"}, {"val", "Bench"}}});
+    if (!settings::filenameTemplate.store(QVariantList{QVariantMap{{"title", "T"}, {"val", "Bench"}}}).ok())
+        qFatal("The settings cannot be written");
     const QString library = work.filePath("Library/Application Support/Vantrel/Tessaro/Templates");
     QStringList counts = QCoreApplication::arguments().mid(1);
     if (counts.isEmpty())

@@ -96,7 +96,8 @@ int main(int argc, char **argv)
     if (counts.isEmpty())
         counts = {QStringLiteral("1000"), QStringLiteral("100000")};
     for (const bool expanded : {false, true}) {
-        storeSetting(settings::autoExpandFolders, expanded ? 1LL : 0LL);
+        if (!settings::autoExpandFolders.turn(expanded).ok())
+            qFatal("The settings cannot be written");
         QTextStream(stdout) << (expanded ? "every folder opened\n" : "folders closed\n");
         TemplatePane pane;
         pane.resize(640, 480);

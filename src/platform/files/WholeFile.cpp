@@ -54,7 +54,7 @@ bool writeBeside(int folder, const QByteArray &name, std::optional<mode_t> mode,
     if (fstat(folder, &place) == 0)
         giveToOwnerOf(place, file.get());
     // Drives that know no modes refuse to set one; the file can be used all the same.
-    const bool hasMode = !mode || fchmod(file.get(), *mode) == 0 || errno == EPERM || errno == ENOTSUP;
+    const bool hasMode = !mode || fchmod(file.get(), mode.value_or(0)) == 0 || errno == EPERM || errno == ENOTSUP;
     const bool written = hasMode && writeWhole(file.get(), bytes.constData(), static_cast<std::size_t>(bytes.size())) &&
                          (fsync(file.get()) == 0 || errno == EINVAL) && file.closeChecked() == 0;
     if (written)
