@@ -56,10 +56,10 @@ void makeLarge(const QString &folder)
     }
 }
 
-void mustBeGood(const QString &problem)
+void mustBeGood(const platform::Outcome &outcome)
 {
-    if (!problem.isEmpty())
-        qFatal("%s", qPrintable(problem));
+    if (!outcome.ok())
+        qFatal("%s", qPrintable(outcome));
 }
 
 void measure(const QString &work, const QString &kind, int rounds)
@@ -78,7 +78,7 @@ void measure(const QString &work, const QString &kind, int rounds)
         Pair pair;
         pair.theirs.push_back(timing::secondsOf("/bin/cp", {"-a", tree, place("cp", round)}));
         pair.ours.push_back(
-            timing::secondsOf([&] { mustBeGood(platform::copyItem(tree, place("our", round)).description()); }));
+            timing::secondsOf([&] { mustBeGood(platform::copyItem(tree, place("our", round))); }));
         if (round < 0)
             continue; // the first round fills the caches
         copy.theirs.push_back(pair.theirs[0]);
@@ -87,20 +87,20 @@ void measure(const QString &work, const QString &kind, int rounds)
     for (int round = 0; round < rounds; ++round) {
         zip.theirs.push_back(timing::secondsOf("/usr/bin/zip", {"-q", "-r", place("zip", round) + ".zip", tree}));
         zip.ours.push_back(timing::secondsOf(
-            [&] { mustBeGood(platform::compressZip(tree, place("ourzip", round) + ".zip").problem); }));
+            [&] { mustBeGood(platform::compressZip(tree, place("ourzip", round) + ".zip").outcome); }));
     }
     for (int round = 0; round < rounds; ++round) {
         const QString theirs = place("unzip", round);
         const QString ours = place("ourunzip", round);
-        mustBeGood(platform::makeFolders(ours).description());
+        mustBeGood(platform::makeFolders(ours));
         unzip.theirs.push_back(timing::secondsOf("/usr/bin/unzip", {"-q", place("zip", 0) + ".zip", "-d", theirs}));
         unzip.ours.push_back(
-            timing::secondsOf([&] { mustBeGood(platform::extractZip(place("zip", 0) + ".zip", ours).problem); }));
+            timing::secondsOf([&] { mustBeGood(platform::extractZip(place("zip", 0) + ".zip", ours).outcome); }));
     }
     for (int round = 0; round < rounds; ++round) {
         remove.theirs.push_back(timing::secondsOf("/bin/rm", {"-rf", place("cp", round)}));
         remove.ours.push_back(
-            timing::secondsOf([&] { mustBeGood(platform::removeTree(place("our", round)).description()); }));
+            timing::secondsOf([&] { mustBeGood(platform::removeTree(place("our", round))); }));
     }
     QTextStream(stdout) << kind << ":\n";
     timing::printRatio("copy", copy.ours, "cp -a", copy.theirs);

@@ -13,7 +13,6 @@
 #include <cerrno>
 #include <cstdio>
 #include <fcntl.h>
-#include <optional>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -42,19 +41,19 @@ QString behindLink(const QString &path)
     return realPath(path);
 }
 
-/// The bytes under a name of their own, on disk for good, with the mode or, without one, the usual mode of a new file.
+/// The bytes under a name of their own, on disk for good, with the mode of the old file or, without one, that of a new one.
 /// Nothing is left of them on failure, which leaves errno.
-bool writeBeside(int folder, const QByteArray &name, std::optional<mode_t> mode, const QByteArray &bytes)
+bool writeBeside(int folder, const QByteArray &name, const struct stat *old, const QByteArray &bytes)
 {
     UniqueDescriptor file(
-        openat(folder, name.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode ? 0600 : 0666));
+        openat(folder, name.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, old ? 0600 : 0666));
     if (!file.isOpen())
         return false;
     struct stat place;
     if (fstat(folder, &place) == 0)
         giveToOwnerOf(place, file.get());
     // Drives that know no modes refuse to set one; the file can be used all the same.
-    const bool hasMode = !mode || fchmod(file.get(), mode.value_or(0)) == 0 || errno == EPERM || errno == ENOTSUP;
+    const bool hasMode = !old || fchmod(file.get(), old->st_mode & 07777U) == 0 || errno == EPERM || errno == ENOTSUP;
     const bool written = hasMode && writeWhole(file.get(), bytes.constData(), static_cast<std::size_t>(bytes.size())) &&
                          (fsync(file.get()) == 0 || errno == EINVAL) && file.closeChecked() == 0;
     if (written)
@@ -100,9 +99,8 @@ Outcome replaceFile(const QString &given, const QByteArray &bytes)
     const QByteArray name = toNative(lastComponent(path));
     struct stat before;
     const bool exists = fstatat(folder.get(), name.constData(), &before, 0) == 0;
-    const std::optional<mode_t> mode = exists ? std::optional<mode_t>(before.st_mode & 07777U) : std::nullopt;
     const QByteArray growing = ".tessaro-" + QUuid::createUuid().toByteArray(QUuid::Id128);
-    if (!writeBeside(folder.get(), growing, mode, bytes))
+    if (!writeBeside(folder.get(), growing, exists ? &before : nullptr, bytes))
         return Outcome::fromErrno(path);
     if (renameat(folder.get(), growing.constData(), folder.get(), name.constData()) != 0) {
         const Outcome failure = Outcome::fromErrno(path);
