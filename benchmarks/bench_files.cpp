@@ -59,7 +59,7 @@ void makeLarge(const QString &folder)
 void mustBeGood(const platform::Outcome &outcome)
 {
     if (!outcome.ok())
-        qFatal("%s", qPrintable(outcome));
+        qFatal("%s", qPrintable(outcome.description()));
 }
 
 void measure(const QString &work, const QString &kind, int rounds)
