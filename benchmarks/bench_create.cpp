@@ -3,16 +3,16 @@
 //   bench_create [FILES]...            default: 1000 10000, a hundredth as many folders, files of 2 KiB
 //
 // Three take turns, each into a new destination: `cp -a` as a process; a creation in a program that runs already, as in
-// the window (claim, copy, renaming, dates); and `Tessaro create` as a process, with its start-up. Nothing is deleted before
-// the end, because creating files soon after a large deletion is slow on ext4 and would make every ratio 1.
+// the window (claim, copy, renaming, dates); and `Tessaro create` as a process, with its start-up. Nothing is deleted
+// before the end, because creating files soon after a large deletion is slow on ext4 and would make every ratio 1.
 #include "Timing.h"
 #include "creation/ProjectCreation.h"
+#include "platform/base/NativePath.h"
+#include "platform/base/System.h"
 #include "platform/desktop/Desktop.h"
 #include "platform/files/FileSystem.h"
-#include "platform/base/NativePath.h"
 #include "support/Settings.h"
 #include "support/VTLog.h"
-#include "platform/base/System.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -31,7 +31,8 @@ void makeTemplate(const QString &files, int count)
         if (i < folders && !platform::makeFolders(folder).ok())
             qFatal("Cannot make the template");
         // One in a hundred gets the project's name, as a few files of a real template do.
-        QFile file(folder + (i % 100 == 7 ? QStringLiteral("/Template %1.txt") : QStringLiteral("/File %1.txt")).arg(i));
+        QFile file(folder +
+                   (i % 100 == 7 ? QStringLiteral("/Template %1.txt") : QStringLiteral("/File %1.txt")).arg(i));
         if (!file.open(QIODevice::WriteOnly) || file.write(contents) != contents.size())
             qFatal("Cannot write the template");
     }

@@ -6,14 +6,14 @@
 // copy of it that is cancelled. The two take turns, each into a new destination; nothing is deleted before the
 // deletions are measured, because creating files soon after a large one is slow on ext4 and would make every ratio 1.
 #include "Timing.h"
-#include "platform/files/CopyOperation.h"
+#include "platform/archive/ZipArchive.h"
+#include "platform/base/NativePath.h"
+#include "platform/base/System.h"
 #include "platform/desktop/Desktop.h"
+#include "platform/files/CopyOperation.h"
 #include "platform/files/FileSystem.h"
 #include "platform/files/FileTree.h"
-#include "platform/base/NativePath.h"
 #include "platform/files/TreeCopy.h"
-#include "platform/archive/ZipArchive.h"
-#include "platform/base/System.h"
 
 #include <QCoreApplication>
 #include <QEventLoop>
@@ -77,8 +77,7 @@ void measure(const QString &work, const QString &kind, int rounds)
     for (int round = -1; round < rounds; ++round) {
         Pair pair;
         pair.theirs.push_back(timing::secondsOf("/bin/cp", {"-a", tree, place("cp", round)}));
-        pair.ours.push_back(
-            timing::secondsOf([&] { mustBeGood(platform::copyItem(tree, place("our", round))); }));
+        pair.ours.push_back(timing::secondsOf([&] { mustBeGood(platform::copyItem(tree, place("our", round))); }));
         if (round < 0)
             continue; // the first round fills the caches
         copy.theirs.push_back(pair.theirs[0]);
@@ -99,8 +98,7 @@ void measure(const QString &work, const QString &kind, int rounds)
     }
     for (int round = 0; round < rounds; ++round) {
         remove.theirs.push_back(timing::secondsOf("/bin/rm", {"-rf", place("cp", round)}));
-        remove.ours.push_back(
-            timing::secondsOf([&] { mustBeGood(platform::removeTree(place("our", round))); }));
+        remove.ours.push_back(timing::secondsOf([&] { mustBeGood(platform::removeTree(place("our", round))); }));
     }
     QTextStream(stdout) << kind << ":\n";
     timing::printRatio("copy", copy.ours, "cp -a", copy.theirs);

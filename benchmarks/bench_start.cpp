@@ -2,8 +2,8 @@
 //
 //   bench_start PROGRAM [ROUNDS]
 //
-// Both sides are processes on the current display that end at once after their first paint, without putting anything away;
-// the program does so when TESSARO_QUIT_AFTER_FIRST_PAINT is set.
+// Both sides are processes on the current display that end at once after their first paint, without putting anything
+// away; the program does so when TESSARO_QUIT_AFTER_FIRST_PAINT is set.
 #include <QApplication>
 #include <QTextStream>
 #include <QTimer>
@@ -22,7 +22,10 @@ namespace {
 class EmptyWindow : public QWidget
 {
 protected:
-    void paintEvent(QPaintEvent *) override { QTimer::singleShot(0, [] { std::_Exit(0); }); }
+    void paintEvent(QPaintEvent *) override
+    {
+        QTimer::singleShot(0, [] { std::_Exit(0); });
+    }
 };
 
 int showEmptyWindow(int argc, char **argv)

@@ -3,14 +3,14 @@
 //
 //   bench_tree [ENTRIES]...        default: 1000 100000, in a hundredth as many folders
 #include "Timing.h"
+#include "platform/base/NativePath.h"
+#include "platform/base/System.h"
 #include "platform/desktop/Desktop.h"
 #include "platform/files/FileSystem.h"
-#include "platform/base/NativePath.h"
 #include "support/Settings.h"
 #include "support/VTLog.h"
 #include "templates/editor/TemplatePane.h"
 #include "ui/VTOutlineView.h"
-#include "platform/base/System.h"
 
 #include <QApplication>
 #include <QDir>

@@ -1,19 +1,19 @@
 // Window or command line. The only place that puts the parts together.
-#include "commands/CommandLine.h"
 #include "app/MainWindow.h"
 #include "app/TessaroAppDelegate.h"
-#include "platform/files/ApplicationBundle.h"
+#include "commands/CommandLine.h"
 #include "platform/base/Console.h"
-#include "platform/process/CrashReport.h"
-#include "platform/desktop/Desktop.h"
 #include "platform/base/NativePath.h"
+#include "platform/base/System.h"
+#include "platform/desktop/Desktop.h"
 #include "platform/desktop/SingleInstance.h"
+#include "platform/files/ApplicationBundle.h"
+#include "platform/process/CrashReport.h"
 #include "support/VTAlert.h"
 #include "support/VTLocalPaths.h"
 #include "support/VTLog.h"
 #include "ui/Icons.h"
 #include "ui/SheetPresenter.h"
-#include "platform/base/System.h"
 
 #include <QApplication>
 #include <cstdlib>

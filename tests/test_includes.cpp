@@ -1,5 +1,5 @@
-// The rooms of the house: includes run downwards only, the desktop and the file system stay in the platform rooms, and what is
-// called a core room knows no widgets.
+// The rooms of the house: includes run downwards only, the desktop and the file system stay in the platform rooms, and
+// what is called a core room knows no widgets.
 #include <QDirIterator>
 #include <QFile>
 #include <QLibraryInfo>
@@ -53,9 +53,11 @@ const QRegularExpression systemHeader(
     "^(sys/|linux/|(unistd|fcntl|dirent|spawn|poll|pwd|grp|signal|termios|csignal|cerrno|errno|archive|archive_entry|"
     "langinfo)(\\.h)?$|plist/|gio/|glib|xcb/|xkbcommon/|QtDBus|QDBus)");
 
-/// The toolkit's file classes do not know names that are no UTF-8, and their failures are no Outcome; errno is the kernel's.
+/// The toolkit's file classes do not know names that are no UTF-8, and their failures are no Outcome; errno is the
+/// kernel's.
 const QRegularExpression fileWord(
-    "\\b(Q(File|Dir|FileInfo|SaveFile|LockFile|TemporaryDir|TemporaryFile|DirIterator)|errno|E(PERM|NOENT|IO|BADF|AGAIN|"
+    "\\b(Q(File|Dir|FileInfo|SaveFile|LockFile|TemporaryDir|TemporaryFile|DirIterator)|errno|E(PERM|NOENT|IO|BADF|"
+    "AGAIN|"
     "ACCES|BUSY|EXIST|XDEV|NODEV|NOTDIR|ISDIR|INVAL|MFILE|TXTBSY|FBIG|NOSPC|ROFS|PIPE|NAMETOOLONG|NOSYS|NOTEMPTY|LOOP|"
     "STALE|DQUOT|CANCELED|NOTSUP|OPNOTSUPP))\\b");
 
@@ -89,7 +91,8 @@ QString complaint(const QString &room, const QString &included)
         return "runs up or sideways";
     if (!isPlatform(room) && systemHeader.match(included).hasMatch())
         return "brings the desktop out of the platform rooms";
-    if ((coreRooms.contains(room) || room.startsWith("platform/")) && isWidgetHeader(included) && room != "platform/desktop")
+    if ((coreRooms.contains(room) || room.startsWith("platform/")) && isWidgetHeader(included) &&
+        room != "platform/desktop")
         return "brings widgets into a core room";
     return {};
 }

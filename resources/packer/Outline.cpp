@@ -15,7 +15,8 @@ const QHash<QString, quint16> labels{
 
 std::optional<QList<OutlineEntry>> readOutline(const QString &text, QString &problem)
 {
-    static const QRegularExpression form(R"(^((?:  )*)([^ <\[\]/:][^<\[\]/:]*?)(?:(/)| < ([^<\[\]]+?))(?: \[(\w+)\])?$)");
+    static const QRegularExpression form(
+        R"(^((?:  )*)([^ <\[\]/:][^<\[\]/:]*?)(?:(/)| < ([^<\[\]]+?))(?: \[(\w+)\])?$)");
     QList<OutlineEntry> entries;
     QStringList folders;
     int number = 0;

@@ -13,7 +13,7 @@ struct OutlineEntry
 };
 
 /**
- * Reads an outline: two blanks of indentation a level, "Name/" for a folder, "Name < Project File" for a file, a label's
- * colour in square brackets at the end. Nothing, with a sentence naming the line, when a line cannot be read.
+ * Reads an outline: two blanks of indentation a level, "Name/" for a folder, "Name < Project File" for a file, a
+ * label's colour in square brackets at the end. Nothing, with a sentence naming the line, when a line cannot be read.
  */
 [[nodiscard]] std::optional<QList<OutlineEntry>> readOutline(const QString &text, QString &problem);

@@ -1,8 +1,8 @@
 // Builds one shipped template: template_packer OUTLINE PROJECTS_FOLDER ARCHIVE
 #include "Outline.h"
 
-#include "platform/base/System.h"
 #include "platform/archive/ZipFormat.h"
+#include "platform/base/System.h"
 
 #include <QFile>
 #include <QFileInfo>

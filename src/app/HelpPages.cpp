@@ -26,12 +26,18 @@ const PageEntry &entryOf(Page page)
     static const PageEntry feature{"suggestFeature", "https://www.vantrel.example/support/feature", true, false};
     static const PageEntry maker{"makerHome", "https://www.vantrel.example/", false, false};
     switch (page) {
-    case Page::ApplicationHome: return home;
-    case Page::MoreProducts: return products;
-    case Page::ProductFamily: return family;
-    case Page::ReportBug: return bug;
-    case Page::SuggestFeature: return feature;
-    case Page::MakerHome: break;
+    case Page::ApplicationHome:
+        return home;
+    case Page::MoreProducts:
+        return products;
+    case Page::ProductFamily:
+        return family;
+    case Page::ReportBug:
+        return bug;
+    case Page::SuggestFeature:
+        return feature;
+    case Page::MakerHome:
+        break;
     }
     return maker;
 }

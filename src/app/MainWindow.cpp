@@ -20,7 +20,9 @@ constexpr int longestCreatedName = 220; // pixels
 
 } // namespace
 
-MainWindow::MainWindow(TessaroAppDelegate &delegate) : m_delegate(delegate), m_ui(std::make_unique<Ui::MainWindow>())
+MainWindow::MainWindow(TessaroAppDelegate &delegate)
+    : m_delegate(delegate)
+    , m_ui(std::make_unique<Ui::MainWindow>())
 {
     m_ui->setupUi(this);
     m_ui->tableView->setItemDelegate(new ValueCellDelegate(m_ui->tableView));
@@ -179,9 +181,10 @@ void MainWindow::setParametersEmpty(bool empty)
 
 QWidget *MainWindow::makeBrowseAccessory(const QString &relativePath)
 {
-    auto *label = new QLabel(tr("The project is made in the folder shown above, as “%1”. The name typed here plays no part; "
-                                "it is composed from the parameters.")
-                                 .arg(platform::forDisplay(relativePath)));
+    auto *label =
+        new QLabel(tr("The project is made in the folder shown above, as “%1”. The name typed here plays no part; "
+                      "it is composed from the parameters.")
+                       .arg(platform::forDisplay(relativePath)));
     label->setWordWrap(true);
     label->setTextFormat(Qt::PlainText);
     return label;

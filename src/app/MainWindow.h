@@ -69,7 +69,7 @@ private:
     QAction *m_newProjectItem = nullptr;
     QAction *m_templatesItem = nullptr;
     QAction *m_productFamilyItem = nullptr;
-    QList<QAction *> m_busyActions; ///< not to be started while a project is being created
+    QList<QAction *> m_busyActions;  ///< not to be started while a project is being created
     QPointer<QWidget> m_focusBefore; ///< what had the focus when the controls were dimmed
     QString m_created;
     bool m_painted = false;

@@ -6,9 +6,10 @@
 #include "diagnostics/VTSoftwareUpdate.h"
 #include "parameters/ParameterStore.h"
 #include "parameters/table/VTProjectTableController.h"
-#include "platform/files/ApplicationBundle.h"
-#include "platform/desktop/Desktop.h"
 #include "platform/base/MainThread.h"
+#include "platform/desktop/ApplicationLauncher.h"
+#include "platform/desktop/Desktop.h"
+#include "platform/files/ApplicationBundle.h"
 #include "preferences/VTPreferenceController.h"
 #include "support/Notifications.h"
 #include "support/Settings.h"
@@ -16,9 +17,8 @@
 #include "support/VTAuthorization.h"
 #include "support/VTLog.h"
 #include "templates/TemplateChoice.h"
-#include "templates/editor/TemplatePane.h"
 #include "templates/VTDataController.h"
-#include "platform/desktop/ApplicationLauncher.h"
+#include "templates/editor/TemplatePane.h"
 
 #include <QApplication>
 
@@ -49,8 +49,7 @@ bool TessaroAppDelegate::awakeFromNib()
 {
     if (std::exchange(m_awakeCount, 1) != 0)
         return true;
-    if (settings::requireAdminPassword.isOn() &&
-        !VTAuthorization::sharedController().authStart())
+    if (settings::requireAdminPassword.isOn() && !VTAuthorization::sharedController().authStart())
         return false;
     VTSoftwareUpdate().startup();
     m_tableController = std::make_unique<VTProjectTableController>();

@@ -14,9 +14,9 @@ class VTPreferenceController;
 class VTSavePanel;
 
 /**
- * The application's delegate and the owner of its one window: start-up, the two panes, the template pop-up, the creation
- * of projects, Help. Main thread only. Made before the interface; awakeFromNib() makes that; applicationDidFinishLaunching()
- * comes when the window has been painted.
+ * The application's delegate and the owner of its one window: start-up, the two panes, the template pop-up, the
+ * creation of projects, Help. Main thread only. Made before the interface; awakeFromNib() makes that;
+ * applicationDidFinishLaunching() comes when the window has been painted.
  */
 class TessaroAppDelegate : public QObject, private CreationHost
 {
@@ -112,7 +112,7 @@ private:
     int m_awakeCount = 0;
     bool m_creating = false;
     bool m_templatesShown = false; ///< the pane is filled when it is first shown: that would only slow the start
-    int m_imports = 0; ///< bundles that are being taken in
+    int m_imports = 0;             ///< bundles that are being taken in
     std::unique_ptr<MainWindow> m_window;
     std::unique_ptr<VTProjectTableController> m_tableController;
     QPointer<VTSavePanel> m_savePanel;

@@ -2,8 +2,8 @@
 #include "app/TessaroAppDelegate.h"
 
 #include "app/MainWindow.h"
-#include "platform/files/ApplicationBundle.h"
 #include "platform/desktop/Desktop.h"
+#include "platform/files/ApplicationBundle.h"
 #include "ui/Icons.h"
 
 #include <QMessageBox>
@@ -52,8 +52,8 @@ void TessaroAppDelegate::showAbout()
     box->setWindowModality(Qt::WindowModal);
     box->setWindowTitle(tr("About Tessaro"));
     box->setIconPixmap(icons::application().pixmap(64, 64));
-    box->setText(tr("Tessaro %1")
-                     .arg(platform::ApplicationBundle::main().informationString("CFBundleShortVersionString")));
+    box->setText(
+        tr("Tessaro %1").arg(platform::ApplicationBundle::main().informationString("CFBundleShortVersionString")));
     box->setInformativeText(tr("Starts media and production projects from templates.\n\n© Vantrel"));
     box->open();
 }

@@ -5,9 +5,9 @@
 #include "parameters/ParameterStore.h"
 #include "parameters/ProjectNaming.h"
 #include "parameters/table/VTProjectTableController.h"
-#include "platform/desktop/Desktop.h"
 #include "platform/base/MainThread.h"
 #include "platform/base/NativePath.h"
+#include "platform/desktop/Desktop.h"
 #include "support/Settings.h"
 #include "support/VTAlert.h"
 #include "support/VTFileManager.h"
@@ -50,7 +50,8 @@ bool TessaroAppDelegate::parametersAreComplete()
     if (pathNameFromParameters().isEmpty())
         problem = tr("You must specify at least one parameter.");
     else if (naming::hasUnusableLevel(pathComponentsFromParameters()))
-        problem = tr("The values give a folder level without a usable name (nothing, or dots only). Please change them.");
+        problem =
+            tr("The values give a folder level without a usable name (nothing, or dots only). Please change them.");
     if (problem.isNull())
         return true;
     VTAlert::show({tr("Unable to create folder"), problem});
@@ -60,17 +61,17 @@ bool TessaroAppDelegate::parametersAreComplete()
 
 bool TessaroAppDelegate::mayOverwriteAtFixedLocation(const QString &destination, const QString &relativePath)
 {
-    const bool exists =
-        platform::resultInBackground([&] { return VTFileManager::fileExistsAtPath(destination); });
+    const bool exists = platform::resultInBackground([&] { return VTFileManager::fileExistsAtPath(destination); });
     if (!exists)
         return true;
     VTLog::appendLog("Destination file already exists; asking user what to do");
-    const int answer = VTAlert::show({tr("Project already exists"),
-                                      platform::formatString(tr("Are you sure you wish to overwrite %@?"), relativePath),
-                                      tr("Overwrite"),
-                                      tr("Cancel"),
-                                      {},
-                                      VTAlert::alternateReturn});
+    const int answer =
+        VTAlert::show({tr("Project already exists"),
+                       platform::formatString(tr("Are you sure you wish to overwrite %@?"), relativePath),
+                       tr("Overwrite"),
+                       tr("Cancel"),
+                       {},
+                       VTAlert::alternateReturn});
     const bool overwrite = answer == VTAlert::defaultReturn;
     VTLog::appendLog(overwrite ? "User chose to overwrite" : "User chose to cancel");
     return overwrite;
@@ -100,9 +101,9 @@ void TessaroAppDelegate::destinationBrowseDidEnd(int returnCode)
     // Only the folder counts: the name typed in the panel is not the project's.
     const QString folder = platform::parentPath(panel->chosenPath());
     if (settings::useFixedProjectLocation.isOn())
-        static_cast<void>(settings::fixedProjectLocationPath.store(folder)); // logged; this project goes there all the same
-    createTemplate(settings::selectedProjectTemplate.text(),
-                   platform::joined(folder, pathNameFromParameters()));
+        static_cast<void>(
+            settings::fixedProjectLocationPath.store(folder)); // logged; this project goes there all the same
+    createTemplate(settings::selectedProjectTemplate.text(), platform::joined(folder, pathNameFromParameters()));
 }
 
 void TessaroAppDelegate::createTemplate(const QString &templateName, const QString &atPath)

@@ -15,8 +15,8 @@ const QString ownName = QStringLiteral("Tessaro");
 void TessaroAppDelegate::checkForUpdates()
 {
     if (!VTSoftwareUpdate::manualUpdateCheck())
-        VTAlert::show({tr("Updates cannot be looked for"),
-                       tr("The software updater is not installed on this computer.")});
+        VTAlert::show(
+            {tr("Updates cannot be looked for"), tr("The software updater is not installed on this computer.")});
 }
 
 void TessaroAppDelegate::viewLog()

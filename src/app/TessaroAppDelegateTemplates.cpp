@@ -2,15 +2,15 @@
 #include "app/TessaroAppDelegate.h"
 
 #include "app/MainWindow.h"
-#include "templates/TemplateMigration.h"
 #include "parameters/table/VTProjectTableController.h"
 #include "platform/base/NativePath.h"
 #include "support/FileOperations.h"
 #include "support/Notifications.h"
 #include "support/VTAlert.h"
 #include "support/VTLog.h"
-#include "templates/editor/TemplatePane.h"
+#include "templates/TemplateMigration.h"
 #include "templates/VTDataController.h"
+#include "templates/editor/TemplatePane.h"
 #include "ui/ImportPanel.h"
 
 #include <QThread>
@@ -75,14 +75,14 @@ void TessaroAppDelegate::restoreShippedTemplates()
 
 void TessaroAppDelegate::restoreDefaultTemplates()
 {
-    const int answer = VTAlert::show(
-        {tr("Are you sure you wish to restore the default Tessaro templates?"),
-         tr("This will restore the templates Tessaro ships with by default and will overwrite any modifications you have "
-            "made to them."),
-         tr("Restore"),
-         tr("Cancel"),
-         {},
-         VTAlert::alternateReturn});
+    const int answer = VTAlert::show({tr("Are you sure you wish to restore the default Tessaro templates?"),
+                                      tr("This will restore the templates Tessaro ships with by default and will "
+                                         "overwrite any modifications you have "
+                                         "made to them."),
+                                      tr("Restore"),
+                                      tr("Cancel"),
+                                      {},
+                                      VTAlert::alternateReturn});
     if (answer != VTAlert::defaultReturn)
         return;
     restoreShippedTemplates();
@@ -93,9 +93,10 @@ void TessaroAppDelegate::restoreDefaultTemplates()
 void TessaroAppDelegate::clearHistory()
 {
     m_tableController->clearHistory();
-    VTAlert::show({tr("History successfully cleared"),
-                   tr("To switch history logging off entirely, go to Preferences and deselect Save History next to each "
-                      "parameter in the Parameters tab.")});
+    VTAlert::show(
+        {tr("History successfully cleared"),
+         tr("To switch history logging off entirely, go to Preferences and deselect Save History next to each "
+            "parameter in the Parameters tab.")});
 }
 
 void TessaroAppDelegate::newTemplate()

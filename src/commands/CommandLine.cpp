@@ -79,9 +79,9 @@ public:
             return m_invocation;
         if (given < m_verb.least || (m_verb.most >= 0 && given > m_verb.most) ||
             m_invocation.arguments.contains(QString()))
-            return misused(Text::tr("“%1” was given %n word(s), which is not what it takes.", nullptr, given)
-                               .arg(m_verb.name()),
-                           &m_verb);
+            return misused(
+                Text::tr("“%1” was given %n word(s), which is not what it takes.", nullptr, given).arg(m_verb.name()),
+                &m_verb);
         for (const Option &option : m_verb.options) {
             if (option.isRequired && !m_invocation.has(option.name))
                 return misused(Text::tr("“%1” needs %2.").arg(m_verb.name(), QLatin1String(option.name)), &m_verb);
@@ -126,7 +126,8 @@ private:
         }
         const QString form = QLatin1String(option.argument);
         if (form.contains(u'=') && value.indexOf(u'=') < 1)
-            return misused(Text::tr("“%1 %2” is not of the form %3.").arg(QLatin1String(option.name), value, form), &m_verb);
+            return misused(Text::tr("“%1 %2” is not of the form %3.").arg(QLatin1String(option.name), value, form),
+                           &m_verb);
         m_invocation.add(option, value);
         return {};
     }
@@ -214,8 +215,7 @@ int runCommand(const Invocation &invocation)
     settings::registerDefaults();
     TerminalPresenter presenter(invocation.has("--overwrite") || invocation.has("--yes"));
     VTAlert::setPresenter(&presenter);
-    const bool mayStart =
-        !settings::requireAdminPassword.isOn() || VTAuthorization::sharedController().authStart();
+    const bool mayStart = !settings::requireAdminPassword.isOn() || VTAuthorization::sharedController().authStart();
     int status = !mayStart || !isAllowed(invocation.verb->guard) ? refuseRights() : invocation.verb->run(invocation);
     if (status == ExitStatus::done && presenter.hasComplained()) // said while it went on
         status = ExitStatus::failed;

@@ -14,8 +14,8 @@ inline constexpr int notOverwritten = 3; ///< exists and was not overwritten, or
 /** The exit status that goes with the cause of a failure. Pure. */
 [[nodiscard]] int exitStatusOf(const platform::Outcome &outcome);
 
-/** Reads the words after the program's name. Cause::Invalid, with a sentence and the verb's usage line, when they cannot be
-    understood. Pure. */
+/** Reads the words after the program's name. Cause::Invalid, with a sentence and the verb's usage line, when they
+   cannot be understood. Pure. */
 [[nodiscard]] platform::Result<Invocation> readCommandLine(const QStringList &words);
 
 /** Carries out a command without a window; an application object without a display exists. Returns the exit status. */

@@ -2,7 +2,8 @@
 
 class Invocation;
 
-/** What the verbs do, one file for each family. Each returns the exit status; what went wrong is on standard error then. */
+/** What the verbs do, one file for each family. Each returns the exit status; what went wrong is on standard error
+ * then. */
 namespace commands {
 
 int create(const Invocation &invocation);

@@ -31,7 +31,8 @@ struct Text
 
 QString listed(const QStringList &names)
 {
-    return names.isEmpty() ? Text::tr("There are none.") : Text::tr("There are: %1.").arg(names.join(QStringLiteral(", ")));
+    return names.isEmpty() ? Text::tr("There are none.")
+                           : Text::tr("There are: %1.").arg(names.join(QStringLiteral(", ")));
 }
 
 QString remarkText(const PlanItem &item)
@@ -41,7 +42,8 @@ QString remarkText(const PlanItem &item)
         return Text::tr("  (keeps this name: its new one is taken)");
     case PlanItem::Remark::NameTooLong:
         return Text::tr("  (keeps this name: its new one is too long)");
-    case PlanItem::Remark::None: break;
+    case PlanItem::Remark::None:
+        break;
     }
     return item.isRenamed() ? Text::tr("  (was %1)").arg(platform::forOneLine(item.oldName)) : QString();
 }
@@ -81,8 +83,9 @@ int CreateCommand::run()
     VTLog::appendLog("Validated folder name: %@", naming::pathName(m_levels));
     if (platform::kindOf(m_destination) != platform::FileKind::Missing && !m_invocation.has("--overwrite")) {
         fail(ExitStatus::notOverwritten,
-             Text::tr("A project with this name already exists: %1\nUse --overwrite to move it to the Trash and create it "
-                      "anew.")
+             Text::tr(
+                 "A project with this name already exists: %1\nUse --overwrite to move it to the Trash and create it "
+                 "anew.")
                  .arg(m_destination));
         return refused();
     }
@@ -115,8 +118,7 @@ bool CreateCommand::findLibrary(QString &location, QStringList &names)
     if (!m_isDryRun) {
         const platform::Outcome read = store.populateTemplates();
         names = store.templates();
-        return read.ok() || !names.isEmpty() ||
-               fail(read, Text::tr("The template library cannot be read."));
+        return read.ok() || !names.isEmpty() || fail(read, Text::tr("The template library cannot be read."));
     }
     if (platform::kindOf(location) == platform::FileKind::Missing) {
         // Before the first start there is no library yet, and a dry run makes none.
@@ -157,9 +159,8 @@ bool CreateCommand::findTemplate()
 bool CreateCommand::readParameters()
 {
     if (m_isDryRun) {
-        m_parameters = rules::withDynamicValues(rules::asLoaded(storedParameters()),
-                                                settings::dateFormat.text(), VTLocalPaths::username(),
-                                                std::time(nullptr));
+        m_parameters = rules::withDynamicValues(rules::asLoaded(storedParameters()), settings::dateFormat.text(),
+                                                VTLocalPaths::username(), std::time(nullptr));
     } else {
         m_table = std::make_unique<VTProjectTableController>();
         m_table->awakeFromNib();
@@ -187,8 +188,10 @@ bool CreateCommand::applyValue(const QString &setting)
         problem = Text::tr("There is no parameter “%1”. %2").arg(title, listed(titles));
     else if (m_parameters[row].isLocked())
         problem = Text::tr("The parameter “%1” is locked.").arg(title);
-    else if (m_parameters[row].kind() == FilenameParameter::Kind::Choice && !m_parameters[row].choices().contains(value))
-        problem = Text::tr("“%1” is not among the choices of “%2”. %3").arg(value, title, listed(m_parameters[row].choices()));
+    else if (m_parameters[row].kind() == FilenameParameter::Kind::Choice &&
+             !m_parameters[row].choices().contains(value))
+        problem = Text::tr("“%1” is not among the choices of “%2”. %3")
+                      .arg(value, title, listed(m_parameters[row].choices()));
     if (!problem.isNull())
         return fail(ExitStatus::wrongUsage, problem);
     if (!m_table) {
@@ -212,8 +215,10 @@ bool CreateCommand::parametersAreComplete()
     else if (naming::pathName(m_levels).isEmpty())
         problem = Text::tr("Unable to create folder") + u'\n' + Text::tr("You must specify at least one parameter.");
     else if (naming::hasUnusableLevel(m_levels))
-        problem = Text::tr("Unable to create folder") + u'\n' +
-                  Text::tr("The values give a folder level without a usable name (nothing, or dots only). Please change them.");
+        problem =
+            Text::tr("Unable to create folder") + u'\n' +
+            Text::tr(
+                "The values give a folder level without a usable name (nothing, or dots only). Please change them.");
     return problem.isNull() || fail(ExitStatus::failed, problem);
 }
 
@@ -223,15 +228,17 @@ bool CreateCommand::findDestination()
     if (folder.isNull()) {
         folder = settings::fixedProjectLocationPath.text();
         if (!settings::useFixedProjectLocation.isOn() || folder.isEmpty())
-            return fail(ExitStatus::wrongUsage, Text::tr("No fixed project location is set. Say where to create the project "
-                                                         "with --in FOLDER."));
+            return fail(ExitStatus::wrongUsage,
+                        Text::tr("No fixed project location is set. Say where to create the project "
+                                 "with --in FOLDER."));
     } else {
         folder = platform::absolutePath(folder);
         if (!VTFileManager::isDirectoryAtPath(folder)) {
             // Not made: the path may be that of a drive that is not plugged in.
             const bool exists = VTFileManager::fileExistsAtPath(folder);
-            return fail(ExitStatus::failed,
-                        (exists ? Text::tr("%1 is not a folder.") : Text::tr("The folder %1 does not exist.")).arg(folder));
+            return fail(
+                ExitStatus::failed,
+                (exists ? Text::tr("%1 is not a folder.") : Text::tr("The folder %1 does not exist.")).arg(folder));
         }
     }
     m_destination = joined(folder, naming::pathName(m_levels));
@@ -286,7 +293,9 @@ void CreateCommand::incrementDynamicValues()
 
 void CreateCommand::printObject(const CreationResult &result, const CreationPlan *plan) const
 {
-    const auto shown = [](const QString &name) { return platform::forDisplay(name); };
+    const auto shown = [](const QString &name) {
+        return platform::forDisplay(name);
+    };
     QJsonObject object{
         {"project", shown(naming::pathName(m_levels))},
         {"name", shown(naming::projectName(m_levels))},

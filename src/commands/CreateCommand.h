@@ -46,7 +46,8 @@ private:
     const Invocation &m_invocation;
     const bool m_isDryRun;
     std::unique_ptr<VTProjectTableController> m_table; ///< absent in a dry run, which stores nothing
-    std::optional<platform::TemporaryFolder> m_unpacked; ///< the shipped templates, for a dry run before the first start
+    std::optional<platform::TemporaryFolder>
+        m_unpacked; ///< the shipped templates, for a dry run before the first start
     FilenameParameters m_parameters;
     QStringList m_levels;
     QString m_templateName;

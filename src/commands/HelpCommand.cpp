@@ -61,9 +61,10 @@ QString withOptions(const Verb &verb, const QString &term, qsizetype indentation
 
 QString exitStatusText()
 {
-    return Text::tr("Exit status: 0 done; 1 failed, or partly failed; 2 wrong usage; 3 the project or template exists and was "
-                    "not overwritten, the command was cancelled (--yes says yes), or the administrator's rights were "
-                    "refused.");
+    return Text::tr(
+        "Exit status: 0 done; 1 failed, or partly failed; 2 wrong usage; 3 the project or template exists and was "
+        "not overwritten, the command was cancelled (--yes says yes), or the administrator's rights were "
+        "refused.");
 }
 
 QString wholeHelp()
@@ -135,7 +136,8 @@ QString bashCompletion()
                                     "    case $previous in\n");
     const auto options = fileOptions();
     for (auto option = options.cbegin(); option != options.cend(); ++option)
-        script += QStringLiteral("    %1) compopt -o filenames; mapfile -t COMPREPLY < <(compgen %2 -- \"$current\"); return ;;\n")
+        script += QStringLiteral(
+                      "    %1) compopt -o filenames; mapfile -t COMPREPLY < <(compgen %2 -- \"$current\"); return ;;\n")
                       .arg(option.key(), option.value());
     script += QStringLiteral("    esac\n"
                              "    local words=${COMP_WORDS[1]}\n"
@@ -147,12 +149,13 @@ QString bashCompletion()
         script += QStringLiteral("    %1) mapfile -t COMPREPLY < <(compgen -W %2 -- \"$current\") ;;\n")
                       .arg(words.key().isEmpty() ? QStringLiteral("''") : quoted(words.key()),
                            quoted(words.value().join(u' ')));
-    return script + QStringLiteral("    esac\n"
-                                   "    if [ ${#COMPREPLY[@]} -eq 0 ]; then\n"
-                                   "        compopt -o filenames; mapfile -t COMPREPLY < <(compgen -f -- \"$current\")\n"
-                                   "    fi\n"
-                                   "}\n"
-                                   "complete -F _tessaro Tessaro tessaro\n");
+    return script +
+           QStringLiteral("    esac\n"
+                          "    if [ ${#COMPREPLY[@]} -eq 0 ]; then\n"
+                          "        compopt -o filenames; mapfile -t COMPREPLY < <(compgen -f -- \"$current\")\n"
+                          "    fi\n"
+                          "}\n"
+                          "complete -F _tessaro Tessaro tessaro\n");
 }
 
 QString zshCompletion()
@@ -173,14 +176,15 @@ QString fishCompletion()
             const QStringList words = verb.name().split(u' ');
             const QString seen = words.size() == 1 ? QStringLiteral("__fish_use_subcommand")
                                                    : QStringLiteral("__fish_seen_subcommand_from ") + words[0];
-            script += QStringLiteral("complete -c %1 -n %2 -a %3 -d %4\n")
-                          .arg(QLatin1String(program), quoted(seen), quoted(words.constLast()), quoted(Text::tr(verb.help)));
+            script +=
+                QStringLiteral("complete -c %1 -n %2 -a %3 -d %4\n")
+                    .arg(QLatin1String(program), quoted(seen), quoted(words.constLast()), quoted(Text::tr(verb.help)));
             for (const Option &option : verb.options)
                 script += QStringLiteral("complete -c %1 -n %2 -l %3%4 -d %5\n")
                               .arg(QLatin1String(program),
                                    quoted(QStringLiteral("__fish_seen_subcommand_from ") + words.constLast()),
-                                   QLatin1String(option.name).mid(2), option.argument ? QStringLiteral(" -r") : QString(),
-                                   quoted(Text::tr(option.help)));
+                                   QLatin1String(option.name).mid(2),
+                                   option.argument ? QStringLiteral(" -r") : QString(), quoted(Text::tr(option.help)));
         }
     }
     return script;

@@ -29,8 +29,7 @@ int complainAboutKey(const QString &key)
 /// A protection that is on is switched off only when an administrator agrees.
 bool mayChange(const settings::Setting &setting, bool isOffAfterwards)
 {
-    const bool isProtectedNow =
-        setting.scope == settings::Scope::Machine && settings::standard().equalsOne(setting);
+    const bool isProtectedNow = setting.scope == settings::Scope::Machine && settings::standard().equalsOne(setting);
     return !isProtectedNow || !isOffAfterwards || VTAuthorization::sharedController().authAfresh();
 }
 

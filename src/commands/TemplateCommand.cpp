@@ -46,9 +46,9 @@ Outcome known(const QString &name)
         return names.outcome();
     if (names->contains(name))
         return {};
-    return Outcome::failure(Cause::Invalid, {},
-                            Text::tr("There is no template “%1”. There are: %2.")
-                                .arg(name, names->join(QStringLiteral(", "))));
+    return Outcome::failure(
+        Cause::Invalid, {},
+        Text::tr("There is no template “%1”. There are: %2.").arg(name, names->join(QStringLiteral(", "))));
 }
 
 /// A change has said itself what went wrong; the path of what was changed is printed.
@@ -109,9 +109,10 @@ int commands::newTemplate(const Invocation &invocation)
     const QString wanted = invocation.argument(0);
     const QString name = VTFileManager::validateFilename(wanted);
     if (name != wanted)
-        return complain(ExitStatus::wrongUsage,
-                        Text::tr("“%1” cannot be a template's name. Leave out slashes, colons, and dots at the beginning.")
-                            .arg(wanted));
+        return complain(
+            ExitStatus::wrongUsage,
+            Text::tr("“%1” cannot be a template's name. Leave out slashes, colons, and dots at the beginning.")
+                .arg(wanted));
     const auto names = readLibrary();
     if (!names)
         return complain(names.outcome());
@@ -208,7 +209,9 @@ int commands::importStructure(const Invocation &invocation)
     const QString from = platform::absolutePath(invocation.value("--from"));
     if (!VTFileManager::isDirectoryAtPath(from))
         return complain(ExitStatus::failed, Text::tr("%1 is not a folder.").arg(from));
-    const ImportHost nobody{[] {}, [](const QString &) {}, [] {}};
+    const ImportHost nobody{[] {}, [](const QString &) {},
+                            [] {
+                            }};
     const Outcome made =
         importjobs::createFolderStructure({{from}, VTDataController::filesFolder(invocation.argument(0))}, nobody);
     if (made.ok())

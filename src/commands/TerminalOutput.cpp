@@ -49,7 +49,9 @@ int complain(int status, const QString &sentence)
 int complain(const platform::Outcome &failure, const QString &sentence)
 {
     const QString why = failure.description();
-    return complain(exitStatusOf(failure), sentence.isEmpty() ? why : why.isEmpty() ? sentence : sentence + u'\n' + why);
+    return complain(exitStatusOf(failure), sentence.isEmpty() ? why
+                                           : why.isEmpty()    ? sentence
+                                                              : sentence + u'\n' + why);
 }
 
 int finished(int status)

@@ -18,7 +18,8 @@ int complain(int status, const QString &sentence);
 /** The failure on standard error, the sentence first, where there is one; returns the status of its cause. */
 int complain(const platform::Outcome &failure, const QString &sentence = {});
 
-/** The command's exit status: the given one, or a failure, after a complaint, when standard output took less than all. */
+/** The command's exit status: the given one, or a failure, after a complaint, when standard output took less than all.
+ */
 [[nodiscard]] int finished(int status);
 
 /** What is known of a verb, for people. */

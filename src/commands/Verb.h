@@ -33,15 +33,15 @@ enum class Guard {
 enum class Logged { No, Yes };
 
 /**
- * One verb of the command line: its words, what it takes, who guards it, its help and what it does. Everything that reads,
- * explains or completes a command line goes by these rows. A plain value.
+ * One verb of the command line: its words, what it takes, who guards it, its help and what it does. Everything that
+ * reads, explains or completes a command line goes by these rows. A plain value.
  */
 struct Verb
 {
     const char *words;     ///< "template new"
     const char *arguments; ///< as the usage line writes them: "OLD NEW", "[NAME]", "PATH..."
     int least = 0;
-    int most = 0; ///< -1: any number
+    int most = 0;               ///< -1: any number
     const char *help = nullptr; ///< in the context "Commands"
     int (*run)(const Invocation &) = nullptr;
     QList<Option> options = {};

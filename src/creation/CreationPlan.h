@@ -5,8 +5,8 @@
 #include <QStringList>
 
 /**
- * What a creation will make, as a plain value: computed from the template's tree and the project's folder levels, without
- * looking at the disk. Pure; any thread.
+ * What a creation will make, as a plain value: computed from the template's tree and the project's folder levels,
+ * without looking at the disk. Pure; any thread.
  */
 struct PlanItem
 {

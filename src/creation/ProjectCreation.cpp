@@ -54,17 +54,17 @@ CreationResult ProjectCreation::createProject(const QString &templateName, const
     return m_result;
 }
 
-/// Makes the project's own folder, its parents first. Made in one step that fails when anything stands there, so that of
-/// two programs that create the same project at once only one goes on and the other asks. Cause::Declined: nothing may be
-/// created.
+/// Makes the project's own folder, its parents first. Made in one step that fails when anything stands there, so that
+/// of two programs that create the same project at once only one goes on and the other asks. Cause::Declined: nothing
+/// may be created.
 Outcome ProjectCreation::claimDestination(const QString &destination)
 {
     for (;;) {
         if (platform::kindOf(destination) != FileKind::Missing && !putAwayExisting(destination))
             return Outcome::failure(Cause::Declined, destination);
         const QString parent = platform::parentPath(destination);
-        const Outcome above = VTFileManager::isDirectoryAtPath(parent) ? Outcome()
-                                                                       : fileoperations::createDirectory(parent, patience);
+        const Outcome above =
+            VTFileManager::isDirectoryAtPath(parent) ? Outcome() : fileoperations::createDirectory(parent, patience);
         if (!above.ok())
             return above;
         const Outcome made = platform::makeNewFolder(destination);
@@ -80,10 +80,13 @@ Outcome ProjectCreation::claimDestination(const QString &destination)
 bool ProjectCreation::putAwayExisting(const QString &destination)
 {
     VTLog::appendLog("Project already exists; asking the user what to do...");
-    const int answer = VTAlert::show(
-        {Text::tr("A project with this name already exists. Are you sure you wish to overwrite it?"),
-         Text::tr("The old project will be placed in the trash."), Text::tr("Overwrite"), Text::tr("Cancel"), {},
-         VTAlert::alternateReturn});
+    const int answer =
+        VTAlert::show({Text::tr("A project with this name already exists. Are you sure you wish to overwrite it?"),
+                       Text::tr("The old project will be placed in the trash."),
+                       Text::tr("Overwrite"),
+                       Text::tr("Cancel"),
+                       {},
+                       VTAlert::alternateReturn});
     if (answer != VTAlert::defaultReturn) {
         VTLog::appendLog("User chose to cancel.");
         return false;
@@ -141,7 +144,8 @@ void ProjectCreation::renameEntry(const QString &folder, const platform::FolderE
     const QString from = platform::joined(folder, entry.name);
     const QString to = platform::joined(folder, wanted);
     // A sibling that has the name already is never replaced: the move's last resort is a tool that would do so.
-    const bool taken = platform::kindOf(to) != FileKind::Missing && platform::identityOf(to) != platform::identityOf(from);
+    const bool taken =
+        platform::kindOf(to) != FileKind::Missing && platform::identityOf(to) != platform::identityOf(from);
     if (taken)
         VTLog::appendLog("Error moving file: %@ is taken", to);
     const Outcome moved = taken ? Outcome::failure(Cause::Exists, to) : fileoperations::moveFile(from, to);
@@ -154,7 +158,9 @@ void ProjectCreation::renameEntry(const QString &folder, const platform::FolderE
 void ProjectCreation::updateTimestamps(const QString &folder)
 {
     platform::performInBackground([&] {
-        const auto entering = [](const QString &path) { VTLog::appendLog("Updating timestamps for folder %@", path); };
+        const auto entering = [](const QString &path) {
+            VTLog::appendLog("Updating timestamps for folder %@", path);
+        };
         // In this process, without a tool for each item; what it may not touch goes through the tool with rights.
         for (const Outcome &untouched : platform::touchBelow(folder, entering)) {
             const bool mayHelp = untouched.needsRights() && platform::kindOf(untouched.item()) != FileKind::Link;

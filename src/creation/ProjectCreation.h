@@ -36,12 +36,17 @@ struct CreationResult
 class ProjectCreation
 {
 public:
-    explicit ProjectCreation(CreationHost &host) : m_host(host) {}
+    explicit ProjectCreation(CreationHost &host)
+        : m_host(host)
+    {
+    }
 
-    /** The whole sequence. A folder or a copy that fails does not end it: what could be made is finished and told of. */
+    /** The whole sequence. A folder or a copy that fails does not end it: what could be made is finished and told of.
+     */
     [[nodiscard]] CreationResult createProject(const QString &templateName, const QString &atPath);
 
-    /** Renames every item below the folder whose name says template, children before their parents, links themselves. */
+    /** Renames every item below the folder whose name says template, children before their parents, links themselves.
+     */
     void renameTemplateFiles(const QString &folder, const QString &newName);
     /** Dates every item below the folder, the folder itself not. */
     void updateTimestamps(const QString &folder);

@@ -1,9 +1,9 @@
 #include "diagnostics/VTSoftwareUpdate.h"
 
-#include "platform/files/ApplicationBundle.h"
-#include "platform/desktop/ApplicationLauncher.h"
-#include "platform/files/FileSystem.h"
 #include "platform/base/NativePath.h"
+#include "platform/desktop/ApplicationLauncher.h"
+#include "platform/files/ApplicationBundle.h"
+#include "platform/files/FileSystem.h"
 #include "support/GlobalSettings.h"
 #include "support/VTFileManager.h"
 #include "support/VTLocalPaths.h"

@@ -1,13 +1,13 @@
 #include "diagnostics/VTTroubleshootingUtils.h"
 
 #include "platform/base/Console.h"
-#include "platform/desktop/Desktop.h"
-#include "platform/files/FileSystem.h"
-#include "platform/files/FileTree.h"
 #include "platform/base/FormatString.h"
 #include "platform/base/LocalTime.h"
 #include "platform/base/MainThread.h"
 #include "platform/base/NativePath.h"
+#include "platform/desktop/Desktop.h"
+#include "platform/files/FileSystem.h"
+#include "platform/files/FileTree.h"
 #include "platform/files/TreeCopy.h"
 #include "support/FileOperations.h"
 #include "support/VTAlert.h"
@@ -211,7 +211,8 @@ QString VTTroubleshootingUtils::gatherLogsForApps(const QStringList &names, Sile
         packed = fileoperations::compressFile(folder, archive);
     static_cast<void>(platform::removeOwnTree(folder)); // it lies in the temporary folder
     if (silent == Silent::No && packed.ok())
-        VTAlert::show({Text::tr("Logs gathered successfully"), Text::tr("The gathered logs were placed on your desktop.")});
+        VTAlert::show(
+            {Text::tr("Logs gathered successfully"), Text::tr("The gathered logs were placed on your desktop.")});
     else if (silent == Silent::No)
         VTAlert::show({Text::tr("Logs could not be gathered"),
                        withCause(Text::tr("Please check your file permissions."), packed)});

@@ -8,8 +8,10 @@ bool isNumber(const QVariant &value)
     case QMetaType::Bool:
     case QMetaType::Int:
     case QMetaType::LongLong:
-    case QMetaType::Double: return true;
-    default: return false;
+    case QMetaType::Double:
+        return true;
+    default:
+        return false;
     }
 }
 

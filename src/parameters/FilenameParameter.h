@@ -27,7 +27,10 @@ public:
     enum class Kind { Text = 0, OtherText = 1, Counter = 2, Date = 3, UserName = 4, Choice = 5 };
 
     FilenameParameter() = default;
-    explicit FilenameParameter(QVariantMap record) : m_record(std::move(record)) {}
+    explicit FilenameParameter(QVariantMap record)
+        : m_record(std::move(record))
+    {
+    }
 
     [[nodiscard]] const QVariantMap &record() const { return m_record; }
     [[nodiscard]] QVariant entry(const QString &key) const { return m_record.value(key); }
@@ -37,7 +40,8 @@ public:
     [[nodiscard]] Kind kind() const;
     /** What enters the name. A number counts as its decimal text. */
     [[nodiscard]] QString value() const { return text(recordkey::value); }
-    /** Whether the stored value is a text without a character, or there is none: what a required parameter may not be. */
+    /** Whether the stored value is a text without a character, or there is none: what a required parameter may not be.
+     */
     [[nodiscard]] bool isBlank() const;
     [[nodiscard]] bool hasDefaultValue() const { return m_record.contains(QLatin1String(recordkey::defaultValue)); }
     [[nodiscard]] QString defaultValue() const { return text(recordkey::defaultValue); }

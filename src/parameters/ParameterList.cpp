@@ -30,7 +30,8 @@ constexpr std::array kinds{
 
 const KindEntry &entryOf(Kind kind)
 {
-    const auto *found = std::find_if(kinds.begin(), kinds.end(), [&](const KindEntry &entry) { return entry.kind == kind; });
+    const auto *found =
+        std::find_if(kinds.begin(), kinds.end(), [&](const KindEntry &entry) { return entry.kind == kind; });
     return found == kinds.end() ? kinds[0] : *found;
 }
 

@@ -31,7 +31,8 @@ void folderchoice::browse(QWidget &window, const QString &title, std::function<v
     panel->open();
 }
 
-platform::Result<QString> folderchoice::usablePath(QWidget &window, const settings::Setting &setting, const QString &typed)
+platform::Result<QString> folderchoice::usablePath(QWidget &window, const settings::Setting &setting,
+                                                   const QString &typed)
 {
     const auto path = settings::checked(setting, typed);
     if (path)

@@ -15,7 +15,8 @@ namespace folderchoice {
 void browse(QWidget &window, const QString &title, std::function<void(const QString &)> chosen);
 
 /** The path as it is stored; nothing, after a message, when it cannot be used. */
-[[nodiscard]] platform::Result<QString> usablePath(QWidget &window, const settings::Setting &setting, const QString &typed);
+[[nodiscard]] platform::Result<QString> usablePath(QWidget &window, const settings::Setting &setting,
+                                                   const QString &typed);
 
 /** Makes the folder where it is missing; says so when it cannot. */
 void makeFolder(QWidget &window, const QString &path);

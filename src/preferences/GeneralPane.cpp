@@ -51,7 +51,8 @@ void GeneralPane::modifyTemplatePath(const QString &typed)
     }
     static_cast<void>(settings::templateLocation.store(*path)); // logged; the field shows what is stored
     folderchoice::makeFolder(m_window, *path);
-    VTLog::appendLog("User changed template path from %@ to %@. Asking user to confirm moving over old files.", old, *path);
+    VTLog::appendLog("User changed template path from %@ to %@. Asking user to confirm moving over old files.", old,
+                     *path);
     if (!VTFileManager::isFolderEmpty(old))
         moveTemplates(old, *path);
     static_cast<void>(VTDataController::sharedController().populateTemplates()); // said and logged where it failed
@@ -63,8 +64,8 @@ void GeneralPane::moveTemplates(const QString &from, const QString &to)
 {
     const int answer = VTAlert::show(
         {tr("Would you like to move your templates to the new location?"),
-         tr("Any templates outside of the new backup location will not be displayed in the Templates pane."), tr("Move"),
-         tr("Don't Move")},
+         tr("Any templates outside of the new backup location will not be displayed in the Templates pane."),
+         tr("Move"), tr("Don't Move")},
         &m_window);
     if (answer != VTAlert::defaultReturn)
         return;

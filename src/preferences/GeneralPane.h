@@ -9,8 +9,8 @@ namespace Ui {
 class Prefs_Dialog;
 }
 
-/** The General pane: the library's place, what happens after a project, and what is protected. Every control is bound to its
-    setting, with the effect at once. Owned by its window; main thread only. */
+/** The General pane: the library's place, what happens after a project, and what is protected. Every control is bound
+   to its setting, with the effect at once. Owned by its window; main thread only. */
 class GeneralPane : public QObject
 {
     Q_OBJECT

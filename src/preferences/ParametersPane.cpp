@@ -66,8 +66,7 @@ void ParametersPane::setUpTable()
     auto *header = table->horizontalHeader();
     header->setSectionResizeMode(QHeaderView::ResizeToContents);
     header->setSectionResizeMode(static_cast<int>(Column::Kind), QHeaderView::Fixed);
-    table->setColumnWidth(static_cast<int>(Column::Kind),
-                          table->fontMetrics().horizontalAdvance(tr("User name")) + 48);
+    table->setColumnWidth(static_cast<int>(Column::Kind), table->fontMetrics().horizontalAdvance(tr("User name")) + 48);
     header->setSectionResizeMode(static_cast<int>(Column::Title), QHeaderView::Stretch);
     header->setSectionResizeMode(static_cast<int>(Column::Default), QHeaderView::Stretch);
     header->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
@@ -105,8 +104,12 @@ void ParametersPane::removeFilenameParam()
         rows.append(row.row());
     if (rows.isEmpty())
         return;
-    const int answer = VTAlert::show({tr("Are you sure you wish to remove this parameter?"), tr("This cannot be undone."),
-                                      tr("Remove"), tr("Cancel"), {}, VTAlert::alternateReturn},
+    const int answer = VTAlert::show({tr("Are you sure you wish to remove this parameter?"),
+                                      tr("This cannot be undone."),
+                                      tr("Remove"),
+                                      tr("Cancel"),
+                                      {},
+                                      VTAlert::alternateReturn},
                                      &m_window);
     if (answer == VTAlert::defaultReturn)
         m_parameters.remove(rows);

@@ -10,8 +10,8 @@ namespace Ui {
 class Prefs_Dialog;
 }
 
-/** The Parameters pane: the list itself, the separator and the date format. What is changed is stored at once, and the project
-    pane follows. Owned by its window; main thread only. */
+/** The Parameters pane: the list itself, the separator and the date format. What is changed is stored at once, and the
+   project pane follows. Owned by its window; main thread only. */
 class ParametersPane : public QObject
 {
     Q_OBJECT

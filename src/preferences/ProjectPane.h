@@ -8,8 +8,8 @@ namespace Ui {
 class Prefs_Dialog;
 }
 
-/** The Project pane: where projects go, and how their names are cleaned. Every control is bound to its setting, with the
-    effect at once. Owned by its window; main thread only. */
+/** The Project pane: where projects go, and how their names are cleaned. Every control is bound to its setting, with
+   the effect at once. Owned by its window; main thread only. */
 class ProjectPane : public QObject
 {
     Q_OBJECT

@@ -38,7 +38,8 @@ struct Owner
 /** "com.vantrel.shortcutkeys.plist" in the user's preferences folder. */
 [[nodiscard]] QString filePath();
 
-/** Cause::Missing when there is none yet; Cause::Damaged when it is none that we could change without losing something. */
+/** Cause::Missing when there is none yet; Cause::Damaged when it is none that we could change without losing something.
+ */
 [[nodiscard]] platform::Result<QVariantMap> read();
 /** In one step, so that nobody sees half a file. */
 platform::Outcome write(const QVariantMap &file);

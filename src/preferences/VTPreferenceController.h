@@ -13,7 +13,8 @@ class Prefs_Dialog;
 }
 
 /**
- * The preferences window: four panes that are swapped, each with a class of its own. One at a time: the delegate's menu item is disabled while it is open. Main thread only.
+ * The preferences window: four panes that are swapped, each with a class of its own. One at a time: the delegate's menu
+ * item is disabled while it is open. Main thread only.
  *
  * The delegate is any object; disablePrefsMenu() and enablePrefsMenu() are called where it has them.
  */

@@ -1,13 +1,13 @@
 #include "preferences/VTShortcutKeyTableDelegate.h"
 
-#include "platform/files/ApplicationBundle.h"
 #include "platform/base/Console.h"
-#include "platform/files/FileSystem.h"
 #include "platform/base/FormatString.h"
-#include "platform/desktop/KeyboardLayout.h"
 #include "platform/base/NativePath.h"
-#include "platform/files/WholeFile.h"
+#include "platform/desktop/KeyboardLayout.h"
 #include "platform/desktop/SessionNotification.h"
+#include "platform/files/ApplicationBundle.h"
+#include "platform/files/FileSystem.h"
+#include "platform/files/WholeFile.h"
 #include "preferences/VTShortcutKeyTableview.h"
 #include "support/VTLocalPaths.h"
 #include "support/VTLog.h"
@@ -84,8 +84,7 @@ void VTShortcutKeyTableDelegate::populateKeyData()
 {
     beginResetModel();
     m_rows.clear();
-    const auto assigned =
-        shortcuts::assignmentsOf(shortcuts::read().valueOr({}), ownIdentifier());
+    const auto assigned = shortcuts::assignmentsOf(shortcuts::read().valueOr({}), ownIdentifier());
     for (const QVariant &value : commandList()) {
         const QVariantMap command = value.toMap();
         Row row{command.value("id").toString(), command.value("description").toString(), {}};

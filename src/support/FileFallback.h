@@ -8,8 +8,8 @@
 
 /**
  * What VTFileManager does after a plain operation failed: the system's tool, with the user's own rights when rights are
- * not what is missing (or are already held), with administrator rights when they are. Good when the tool did it, else the
- * plain operation's failure.
+ * not what is missing (or are already held), with administrator rights when they are. Good when the tool did it, else
+ * the plain operation's failure.
  */
 platform::Outcome fallBackToTool(ShouldAuth shouldAuth, const platform::Outcome &failure,
                                  const VTAuthorization::Command &command, const std::function<bool()> &withRights);

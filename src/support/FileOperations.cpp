@@ -43,7 +43,8 @@ bool wouldMergeFolders(const QString &source, const QString &toPath)
            (kindOf(source) == FileKind::Folder || platform::leadsToFolder(toPath) || platform::leadsToFolder(source));
 }
 
-/// The tool moves a file into a folder that stands at the destination, and callers rely on it; but never onto a namesake.
+/// The tool moves a file into a folder that stands at the destination, and callers rely on it; but never onto a
+/// namesake.
 bool wouldMoveInto(const QString &source, const QString &toPath)
 {
     return kindOf(source) != FileKind::Folder && kindOf(toPath) == FileKind::Folder &&
@@ -216,8 +217,8 @@ QString withCause(const QString &informativeText, const Outcome &failure)
 
 QString checkDestination(const Outcome &failure)
 {
-    return withCause(QCoreApplication::translate(
-                         "FileOperations",
-                         "Please check that you have write permissions for the destination directory."),
-                     failure);
+    return withCause(
+        QCoreApplication::translate("FileOperations",
+                                    "Please check that you have write permissions for the destination directory."),
+        failure);
 }

@@ -8,8 +8,8 @@
 #include <chrono>
 
 /**
- * What VTFileManager does, with how it ended: the cause of a failure is the plain operation's, also where the tool that was
- * tried after it failed, too. Threads, locks, logging and rights are VTFileManager's.
+ * What VTFileManager does, with how it ended: the cause of a failure is the plain operation's, also where the tool that
+ * was tried after it failed, too. Threads, locks, logging and rights are VTFileManager's.
  */
 namespace fileoperations {
 

@@ -124,8 +124,9 @@ Result<QVariant> dateFormatFrom(const QString &typed)
     case platform::DateFormatProblem::CutOff:
         return refused(Text::tr("The percent sign at the end has no letter behind it."));
     case platform::DateFormatProblem::UnknownLetter:
-        return refused(Text::tr("One of the percent signs has a letter behind it that stands for nothing. %Y is the year, "
-                                "%m the month, %d the day."));
+        return refused(
+            Text::tr("One of the percent signs has a letter behind it that stands for nothing. %Y is the year, "
+                     "%m the month, %d the day."));
     }
     return refused({});
 }
@@ -217,7 +218,8 @@ QVariant Setting::value() const
 
 Outcome Setting::store(const QVariant &value) const
 {
-    return scope == Scope::Machine ? settings::standard().setMachineWideValue(*this, value) : settings::standard().setValue(*this, value);
+    return scope == Scope::Machine ? settings::standard().setMachineWideValue(*this, value)
+                                   : settings::standard().setValue(*this, value);
 }
 
 Outcome Setting::reset() const

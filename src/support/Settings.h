@@ -8,9 +8,9 @@
 #include <optional>
 
 /**
- * The settings of the program: one row each, with the key, what it is, when it counts as on, where it is kept, its default
- * and its meaning. Who needs a value asks the row, which knows how it is read; who takes one from a person, in the window or
- * on the command line, asks checked(), so that both take and refuse the same. Any thread.
+ * The settings of the program: one row each, with the key, what it is, when it counts as on, where it is kept, its
+ * default and its meaning. Who needs a value asks the row, which knows how it is read; who takes one from a person, in
+ * the window or on the command line, asks checked(), so that both take and refuse the same. Any thread.
  */
 namespace settings {
 
@@ -34,8 +34,8 @@ struct Setting
 {
     const char *key;
     Type type;
-    const char *meaning = nullptr;          ///< in a few words, in the context "Settings"; null: nothing for people to set
-    QVariant (*standard)() = nullptr;       ///< the registered default; null: reads as absent, off or 0
+    const char *meaning = nullptr;    ///< in a few words, in the context "Settings"; null: nothing for people to set
+    QVariant (*standard)() = nullptr; ///< the registered default; null: reads as absent, off or 0
     Scope scope = Scope::User;
     On on = On::WhenNotZero;
 
@@ -98,8 +98,8 @@ struct Facts
     QStringList templates; ///< names in the library
 };
 /**
- * The value as it is stored, from what a person typed; Cause::Invalid, with one sentence that says what to do, when it is
- * none of the setting's. A path is looked at on the disk.
+ * The value as it is stored, from what a person typed; Cause::Invalid, with one sentence that says what to do, when it
+ * is none of the setting's. A path is looked at on the disk.
  */
 [[nodiscard]] platform::Result<QVariant> checked(const Setting &setting, const QString &typed, const Facts &facts = {});
 /** The same for a value of the kind on its own. */

@@ -157,7 +157,9 @@ void VTAlert::alertSheetWithDictionary(const QVariantMap &dictionary)
 {
     if (!installedPresenter)
         return end(defaultReturn);
-    const auto text = [&](const char *key) { return dictionary.value(QLatin1String(key)).toString(); };
+    const auto text = [&](const char *key) {
+        return dictionary.value(QLatin1String(key)).toString();
+    };
     const QVariant safe = dictionary.value(QStringLiteral("safeAnswer"));
     const AlertPresenter::Sheet sheet{this,
                                       text("messageText"),

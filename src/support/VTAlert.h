@@ -11,11 +11,11 @@ class QWidget;
 class AlertPresenter;
 
 /**
- * Shows a question or a message and waits for the answer, from any thread. What shows it (a sheet on the window, lines on
- * the terminal) is the installed presenter's business; the code that asks does not know which.
+ * Shows a question or a message and waits for the answer, from any thread. What shows it (a sheet on the window, lines
+ * on the terminal) is the installed presenter's business; the code that asks does not know which.
  *
- * The presenter works on the main thread; the asking thread waits, the main thread by turning its event loop. The answer
- * is 1 for the default button, 0 for the alternate one, -1 for the other one.
+ * The presenter works on the main thread; the asking thread waits, the main thread by turning its event loop. The
+ * answer is 1 for the default button, 0 for the alternate one, -1 for the other one.
  */
 class VTAlert : public QObject
 {
@@ -35,7 +35,8 @@ public:
         QString defaultButton = {};
         QString alternateButton = {};
         QString otherButton = {};
-        /// Where an answer loses something: the one that loses nothing. Its button has the focus, and Escape presses it.
+        /// Where an answer loses something: the one that loses nothing. Its button has the focus, and Escape presses
+        /// it.
         std::optional<int> safeAnswer = {};
     };
 
@@ -66,8 +67,8 @@ public:
      * (VTAlert *, qlonglong returnCode, void *). Without it the alert is its own delegate. -1 at once when the
      * delegate lacks the method or when nothing is to be waited for. Takes ownership of the alert object.
      */
-    static int alertSheet(const Texts &texts, QWidget *parentWindow, QObject *delegate, const QByteArray &didEndSelector,
-                          Block block, VTAlert *alertObject);
+    static int alertSheet(const Texts &texts, QWidget *parentWindow, QObject *delegate,
+                          const QByteArray &didEndSelector, Block block, VTAlert *alertObject);
 
     /** Main thread only: hands the texts to the presenter. Keys: messageText, defaultButtonTitle, alternateButtonTitle,
         otherButtonTitle, informativeText, didEndSelector, safeAnswer; each optional. */

@@ -8,13 +8,13 @@
 namespace platform {
 class RightsHelper;
 class Secret;
-}
+} // namespace platform
 
 /**
- * File operations with administrator rights, for when the ordinary attempt failed. It runs standard system tools, refuses
- * outright any system or standard folder, and asks for the rights at most once until authEnd(). As super-user no rights
- * are needed and the tools are run directly; for anyone else the desktop asks for an administrator's password and the
- * program's privileged helper runs them.
+ * File operations with administrator rights, for when the ordinary attempt failed. It runs standard system tools,
+ * refuses outright any system or standard folder, and asks for the rights at most once until authEnd(). As super-user
+ * no rights are needed and the tools are run directly; for anyone else the desktop asks for an administrator's password
+ * and the program's privileged helper runs them.
  *
  * One object for the whole process, made on first use, never destroyed. Thread-safe. What may ask a person blocks its
  * caller until the answer; on the main thread the event loop turns meanwhile, with the windows closed to input.
@@ -49,7 +49,8 @@ public:
     [[nodiscard]] bool isAuthorized() const;
     [[nodiscard]] bool canAuthorize() const;
 
-    // Each returns as soon as its tool has been started: true says no more than that. lastToolSucceeded() says the rest.
+    // Each returns as soon as its tool has been started: true says no more than that. lastToolSucceeded() says the
+    // rest.
     bool authCopyFile(const QString &source, const QString &toPath);
     bool authMoveFile(const QString &source, const QString &toPath);
     /** Each item of the folder; goes on after failures. True when all were started. */
@@ -93,8 +94,8 @@ private:
     [[nodiscard]] bool obtainWith(const QString &user, const platform::Secret &password);
 
     UserInterface m_hasGUI;
-    QString m_userDirectory;     ///< recorded for ordinary users only
-    std::mutex m_asking;         ///< held while the rights are asked for, so that two threads ask once
-    mutable std::mutex m_mutex;  ///< guards m_authRef
+    QString m_userDirectory;    ///< recorded for ordinary users only
+    std::mutex m_asking;        ///< held while the rights are asked for, so that two threads ask once
+    mutable std::mutex m_mutex; ///< guards m_authRef
     Rights m_authRef;
 };

@@ -17,7 +17,7 @@ public:
 
     /** Whether it is the time-out of inter-process messaging. */
     [[nodiscard]] static bool didTimeout(const Caught &exception);
-    /** Logs and prints "Exception in <method>. <name> - <reason>." and returns it. The reason is formatted a second time
-        on its way into the log: this must stay. */
+    /** Logs and prints "Exception in <method>. <name> - <reason>." and returns it. The reason is formatted a second
+       time on its way into the log: this must stay. */
     static QString logException(const Caught &exception, const char *methodName);
 };

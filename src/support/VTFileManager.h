@@ -21,13 +21,15 @@ struct LabelColor
 };
 
 /**
- * The program's one gateway to the file system: every create, copy, move, delete and trash goes through it. It clears the
- * locked flag of what it is about to change, logs a failure and then tries the system's tool, with administrator rights
- * where permission is what is missing. The forms with a time-out wait after success until the effect can be seen.
+ * The program's one gateway to the file system: every create, copy, move, delete and trash goes through it. It clears
+ * the locked flag of what it is about to change, logs a failure and then tries the system's tool, with administrator
+ * rights where permission is what is missing. The forms with a time-out wait after success until the effect can be
+ * seen.
  *
  * Has no state; every operation may be called from any thread and blocks it. On the main thread the work is done on a
- * worker while the event loop turns with the windows closed to input. Paths are absolute. No operation but the type tests
- * and fileSize() ever goes through a link. True is success; there being nothing to remove or to trash is success, too.
+ * worker while the event loop turns with the windows closed to input. Paths are absolute. No operation but the type
+ * tests and fileSize() ever goes through a link. True is success; there being nothing to remove or to trash is success,
+ * too.
  */
 class VTFileManager
 {
@@ -104,23 +106,26 @@ public:
     static void unlockFolder(const QString &folder);
 
     // Patterns: a path whose components may hold "*" and, where they do, "?". Case counts, hidden items match.
-    /** Only what exists; but a pattern without "*" comes back as it is, below the base (null: none), existing or not. */
-    [[nodiscard]] static QStringList filesMatchingWildcardPath(const QString &pattern, const QString &fromBasePath = {});
+    /** Only what exists; but a pattern without "*" comes back as it is, below the base (null: none), existing or not.
+     */
+    [[nodiscard]] static QStringList filesMatchingWildcardPath(const QString &pattern,
+                                                               const QString &fromBasePath = {});
     /** The first match, or the pattern itself below the base. */
     [[nodiscard]] static QString decodeWildcardPath(const QString &pattern, const QString &fromBasePath);
 
-    /** Writes a zip archive that holds the item under its own name, labels included; an archive that stands there goes to
-        the Trash first. On failure nothing stands there. */
+    /** Writes a zip archive that holds the item under its own name, labels included; an archive that stands there goes
+       to the Trash first. On failure nothing stands there. */
     [[nodiscard]] static bool compressFile(const QString &path, const QString &toDestinationFile);
 
     /**
      * Copies in the background; true when the copy was started. Main thread only. The delegate's slots or invokable
-     * operations fileOperationProgress (at most once a second) and fileOperationFinished (once, also after a failure, for
-     * which the delegate looks at the destination, and after a cancel) are called on the main thread with the record, in
-     * the form that takes (QVariantMap, platform::CopyOperation::Ref), else in the one that takes (QVariantMap).
+     * operations fileOperationProgress (at most once a second) and fileOperationFinished (once, also after a failure,
+     * for which the delegate looks at the destination, and after a cancel) are called on the main thread with the
+     * record, in the form that takes (QVariantMap, platform::CopyOperation::Ref), else in the one that takes
+     * (QVariantMap).
      *
-     * The record: "stage" (2 running, 3 complete), "source", "destination", "operationtype" ("copy"), and, as far as they
-     * were given, "delegate", "object" and "object2"; while running also "bytesCompleted", "bytesTotal",
+     * The record: "stage" (2 running, 3 complete), "source", "destination", "operationtype" ("copy"), and, as far as
+     * they were given, "delegate", "object" and "object2"; while running also "bytesCompleted", "bytesTotal",
      * "itemsCompleted", "itemsTotal" and "throughput" (bytes a second).
      */
     [[nodiscard]] static bool copyFileWithProgress(const QString &source, const QString &destination, QObject *delegate,

@@ -1,9 +1,9 @@
 // VTFileManager's operations on the contents of folders.
 #include "support/VTFileManager.h"
 
-#include "platform/files/FileSystem.h"
 #include "platform/base/MainThread.h"
 #include "platform/base/NativePath.h"
+#include "platform/files/FileSystem.h"
 #include "platform/files/TreeCopy.h"
 #include "support/FileOperations.h"
 #include "support/VTLog.h"
@@ -123,9 +123,8 @@ QStringList VTFileManager::trashFilesNamed(const QString &name, const QString &i
 
 QStringList VTFileManager::trashFilesOfType(const QString &type, const QString &inFolder)
 {
-    return trashMatching(inFolder, [&](const QString &found) {
-        return platform::extensionOf(found).toLower() == type.toLower();
-    });
+    return trashMatching(
+        inFolder, [&](const QString &found) { return platform::extensionOf(found).toLower() == type.toLower(); });
 }
 
 platform::Result<bool> fileoperations::isFolderEmpty(const QString &folder)

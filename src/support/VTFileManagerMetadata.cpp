@@ -1,9 +1,9 @@
 // VTFileManager's operations on labels and locks.
 #include "support/VTFileManager.h"
 
+#include "platform/base/NativePath.h"
 #include "platform/files/FileSystem.h"
 #include "platform/files/FinderInfo.h"
-#include "platform/base/NativePath.h"
 #include "support/VTLog.h"
 
 #include <QCoreApplication>
@@ -32,7 +32,8 @@ constexpr std::array<LabelColor, 8> labelColors{{
 void setLockedBelow(const QString &folder, bool locked)
 {
     const auto entries = platform::listFolder(folder);
-    if (!entries && !entries.outcome().is(platform::Cause::Missing) && !entries.outcome().is(platform::Cause::NotAFolder))
+    if (!entries && !entries.outcome().is(platform::Cause::Missing) &&
+        !entries.outcome().is(platform::Cause::NotAFolder))
         VTLog::appendLog("The locks below a folder stay as they are: %@", entries.outcome().description());
     for (const FolderEntry &entry : entries.valueOr({})) {
         const QString path = joined(folder, entry.name);

@@ -1,9 +1,9 @@
 // VTFileManager's operations on names, dates and sizes.
 #include "support/VTFileManager.h"
 
-#include "platform/files/FileSystem.h"
 #include "platform/base/MainThread.h"
 #include "platform/base/NativePath.h"
+#include "platform/files/FileSystem.h"
 #include "support/VTAuthorization.h"
 #include "support/VTLog.h"
 #include "support/VTTask.h"

@@ -1,8 +1,8 @@
 #include "support/VTLocalPaths.h"
 
 #include "platform/base/NativePath.h"
-#include "platform/files/Trash.h"
 #include "platform/base/Users.h"
+#include "platform/files/Trash.h"
 #include "platform/process/ConsoleUser.h"
 
 #include <QStringList>
@@ -23,8 +23,8 @@ QString below(const QString &folder, const char *component)
     return folder.isNull() ? QString() : platform::joined(folder, QString::fromLatin1(component));
 }
 
-/// The super-user's path below the console user's home. The second cut is one character shorter than its prefix; it must
-/// stay so, and the separator that is left over is what the joining needs anyway.
+/// The super-user's path below the console user's home. The second cut is one character shorter than its prefix; it
+/// must stay so, and the separator that is left over is what the joining needs anyway.
 QString redirectedToConsoleUser(QString path)
 {
     if (path.startsWith(platform::superUserHome()))
@@ -38,8 +38,9 @@ QString redirectedToConsoleUser(QString path)
 }
 
 constexpr std::array folderPairs{
-    &VTLocalPaths::applicationDirectory, &VTLocalPaths::adminApplicationDirectory, &VTLocalPaths::documentDirectory,
-    &VTLocalPaths::libraryDirectory,     &VTLocalPaths::prefsDirectory,            &VTLocalPaths::cacheDirectory,
+    &VTLocalPaths::applicationDirectory, &VTLocalPaths::adminApplicationDirectory,
+    &VTLocalPaths::documentDirectory,    &VTLocalPaths::libraryDirectory,
+    &VTLocalPaths::prefsDirectory,       &VTLocalPaths::cacheDirectory,
     &VTLocalPaths::appSupportDirectory,
 };
 constexpr std::array singleFolders{

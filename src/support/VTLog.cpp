@@ -1,16 +1,16 @@
 #include "support/VTLog.h"
 
-#include "platform/files/ApplicationBundle.h"
 #include "platform/base/Console.h"
-#include "platform/files/FileSystem.h"
 #include "platform/base/LocalTime.h"
 #include "platform/base/NativePath.h"
+#include "platform/base/System.h"
+#include "platform/base/Users.h"
+#include "platform/files/ApplicationBundle.h"
+#include "platform/files/FileSystem.h"
 #include "platform/files/FileTree.h"
 #include "platform/files/WholeFile.h"
-#include "platform/base/Users.h"
 #include "support/GlobalSettings.h"
 #include "support/VTLocalPaths.h"
-#include "platform/base/System.h"
 
 #include <exception>
 
@@ -19,8 +19,9 @@ using platform::printToConsole;
 
 namespace {
 
-constexpr qsizetype promptLength = 99;  // characters; a message longer than this, or with more pending, is not waited for
-constexpr quint64 sizeLimit = 499999;   // bytes of entries, the header not counted; above it the next generation starts
+constexpr qsizetype promptLength =
+    99;                               // characters; a message longer than this, or with more pending, is not waited for
+constexpr quint64 sizeLimit = 499999; // bytes of entries, the header not counted; above it the next generation starts
 constexpr int generations = 5;
 
 QString userLogFolder()
@@ -148,7 +149,9 @@ void VTLog::append(const QString &message)
 {
     const QString trimmed = message.trimmed();
     m_bytesInQueue += static_cast<quint64>(trimmed.size());
-    auto operation = [this, trimmed] { appendLogOnThread(trimmed); };
+    auto operation = [this, trimmed] {
+        appendLogOnThread(trimmed);
+    };
     const bool prompt = !trimmed.isEmpty() && trimmed.size() <= promptLength && m_bytesInQueue <= promptLength;
     if (prompt)
         m_writeQueue.addAndDrain(std::move(operation));
@@ -179,7 +182,8 @@ void VTLog::appendLogOnThread(const QString &message)
 void VTLog::writeEntry(const QString &message)
 {
     // Put together, not formatted: an empty message is an empty message, not a missing one.
-    const QByteArray line = (platform::currentDateDescription() + " - " + platform::forDisplay(message) + '\n').toUtf8();
+    const QByteArray line =
+        (platform::currentDateDescription() + " - " + platform::forDisplay(message) + '\n').toUtf8();
     // One write for one line: the kernel does not tear it, whoever else writes to the file.
     if (!m_fileHandle.append(line).ok())
         return printToConsole(platform::formatString("Unable to log the following information: %@", message));

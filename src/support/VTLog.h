@@ -1,15 +1,15 @@
 #pragma once
 
-#include "platform/files/AppendFile.h"
 #include "platform/base/FormatString.h"
 #include "platform/base/SerialQueue.h"
+#include "platform/files/AppendFile.h"
 
 #include <QString>
 #include <atomic>
 
 /**
- * The program's one log: a UTF-8 text file per application in the user's log folder, a ring of five generations, written
- * by one background writer so that callers never wait for the disk except for short messages in quiet periods.
+ * The program's one log: a UTF-8 text file per application in the user's log folder, a ring of five generations,
+ * written by one background writer so that callers never wait for the disk except for short messages in quiet periods.
  *
  * One object for the whole process, made on first use, never destroyed. Every operation may be called from any thread.
  * No operation fails towards its caller: what goes wrong goes to the console, and the next entry tries again.
@@ -27,19 +27,17 @@ public:
     static void createNewTaskLog();
 
     /**
-     * Formats, trims and queues one message. On disk when it returns, if the message is not empty, at most 99 characters
-     * long, and at most 99 characters are pending. A null format does nothing.
+     * Formats, trims and queues one message. On disk when it returns, if the message is not empty, at most 99
+     * characters long, and at most 99 characters are pending. A null format does nothing.
      */
-    template <typename... Arguments>
-    static void appendLog(const QString &format, const Arguments &...arguments)
+    template <typename... Arguments> static void appendLog(const QString &format, const Arguments &...arguments)
     {
         if (!format.isNull())
             sharedController().append(platform::formatString(format, arguments...));
     }
 
     /** The same, and to the console. The message is formatted a second time on its way into the log: this must stay. */
-    template <typename... Arguments>
-    static void appendLogAndPrint(const QString &format, const Arguments &...arguments)
+    template <typename... Arguments> static void appendLogAndPrint(const QString &format, const Arguments &...arguments)
     {
         printAndAppend(platform::formatString(format.trimmed(), arguments...));
     }

@@ -1,10 +1,10 @@
 #include "support/VTTask.h"
 
-#include "platform/process/ChildProcess.h"
 #include "platform/base/Console.h"
-#include "platform/files/FileSystem.h"
 #include "platform/base/MainThread.h"
+#include "platform/files/FileSystem.h"
 #include "platform/files/Packages.h"
+#include "platform/process/ChildProcess.h"
 #include "support/VTLog.h"
 
 #include <condition_variable>
@@ -58,7 +58,8 @@ QString decoded(const std::optional<QByteArray> &bytes, VTTask::Encoding encodin
         return {};
     if (bytes->isEmpty())
         return QString(QLatin1String(""));
-    const bool isAscii = std::all_of(bytes->cbegin(), bytes->cend(), [](char c) { return static_cast<uchar>(c) < 128; });
+    const bool isAscii =
+        std::all_of(bytes->cbegin(), bytes->cend(), [](char c) { return static_cast<uchar>(c) < 128; });
     const bool decodes = encoding == VTTask::Encoding::Ascii ? isAscii : bytes->isValidUtf8();
     return decodes ? QString::fromUtf8(*bytes) : QString();
 }
@@ -68,7 +69,8 @@ QString decoded(const std::optional<QByteArray> &bytes, VTTask::Encoding encodin
 class TimeLimit
 {
 public:
-    TimeLimit(double seconds, std::shared_ptr<VTTask::ChildSlot> slot) : m_slot(std::move(slot))
+    TimeLimit(double seconds, std::shared_ptr<VTTask::ChildSlot> slot)
+        : m_slot(std::move(slot))
     {
         const auto whole = std::chrono::seconds(seconds < 1 ? 0 : static_cast<long long>(seconds));
         m_timer = std::thread([this, whole] {
@@ -99,8 +101,7 @@ private:
     std::thread m_timer;
 };
 
-template <typename Run>
-auto withTimeLimit(double timeout, Run run)
+template <typename Run> auto withTimeLimit(double timeout, Run run)
 {
     const auto slot = std::make_shared<VTTask::ChildSlot>();
     const TimeLimit limit(timeout, slot);

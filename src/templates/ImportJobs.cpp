@@ -1,8 +1,8 @@
 #include "templates/ImportJobs.h"
 
-#include "platform/files/FileSystem.h"
 #include "platform/base/FormatString.h"
 #include "platform/base/NativePath.h"
+#include "platform/files/FileSystem.h"
 #include "platform/files/Packages.h"
 #include "support/FileOperations.h"
 #include "support/VTAlert.h"
@@ -82,8 +82,8 @@ Outcome copyOne(const QString &source, const QString &destination, bool &overwri
                            : !mayReplace  ? Outcome::failure(Cause::IntoItself, source)
                                           : fileoperations::copyFile(source, destination, patience);
     if (!copied.ok())
-        VTAlert::show({formatString(Text::tr("Unable to copy file %@ to %@"), source, destination),
-                       checkDestination(copied)});
+        VTAlert::show(
+            {formatString(Text::tr("Unable to copy file %@ to %@"), source, destination), checkDestination(copied)});
     return copied;
 }
 

@@ -1,8 +1,8 @@
 #include "templates/TemplateLibrary.h"
 
-#include "platform/files/FileSystem.h"
 #include "platform/base/FormatString.h"
 #include "platform/base/NativePath.h"
+#include "platform/files/FileSystem.h"
 #include "support/FileOperations.h"
 #include "support/Settings.h"
 #include "support/VTAlert.h"
@@ -77,8 +77,11 @@ Change removeTemplate(const QString &name)
 {
     const int answer =
         VTAlert::show({formatString(Text::tr("Are you sure you wish to remove the template '%@'?"), name),
-                       Text::tr("The template file will be placed in your Trash."), Text::tr("Remove"),
-                       Text::tr("Cancel"), {}, VTAlert::alternateReturn});
+                       Text::tr("The template file will be placed in your Trash."),
+                       Text::tr("Remove"),
+                       Text::tr("Cancel"),
+                       {},
+                       VTAlert::alternateReturn});
     if (answer != VTAlert::defaultReturn)
         return {Outcome::failure(Cause::Declined, name), name};
     VTLog::appendLog("Removing template %@", name);
@@ -126,7 +129,7 @@ Change addTemplate(const QString &given)
         return refused(Cause::NotAFolder, nameOf(bundle), formatString(Text::tr("%@ is not a template"), bundle),
                        Text::tr("A template is a folder whose name ends in “.tzt”. Please choose such a folder."));
     if (!VTFileManager::fileExistsAtPath(location))
-        static_cast<void>(VTFileManager::createDirectory(location)); // without it the copy fails and says so
+        static_cast<void>(VTFileManager::createDirectory(location));       // without it the copy fails and says so
     if (platform::identityOf(bundle) == platform::identityOf(destination)) // the library by another name
         return {{}, nameOf(bundle)};
     if (platform::kindOf(destination) != platform::FileKind::Missing)

@@ -11,7 +11,8 @@
  */
 namespace library {
 
-/** What became of a change. Cause::Declined: the question was answered with no. What a person must know has been said. */
+/** What became of a change. Cause::Declined: the question was answered with no. What a person must know has been said.
+ */
 struct Change
 {
     platform::Outcome outcome;

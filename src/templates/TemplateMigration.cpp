@@ -1,7 +1,7 @@
 #include "templates/TemplateMigration.h"
 
-#include "platform/files/FileSystem.h"
 #include "platform/base/NativePath.h"
+#include "platform/files/FileSystem.h"
 #include "support/FileOperations.h"
 #include "support/VTLocalPaths.h"
 #include "support/VTLog.h"
@@ -18,7 +18,8 @@ void migration::importFirstVersionTemplate()
         return;
     VTLog::appendLog("Found Tessaro 1.x template. Importing...");
     // A library that this would be the first to make is a new one, and receives the shipped templates, too.
-    static_cast<void>(VTDataController::sharedController().populateDefaultTemplates()); // said and logged where it failed
+    static_cast<void>(
+        VTDataController::sharedController().populateDefaultTemplates()); // said and logged where it failed
     const QString files = joined(VTFileManager::uniqueFilename(bundle), QStringLiteral("Files"));
     static_cast<void>(VTFileManager::createDirectory(files, std::chrono::seconds(20))); // without it the moves fail
     for (const auto &entry : fileoperations::entriesOf(old)) {

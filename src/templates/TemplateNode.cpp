@@ -1,7 +1,7 @@
 #include "templates/TemplateNode.h"
 
-#include "platform/files/FileSystem.h"
 #include "platform/base/NativePath.h"
+#include "platform/files/FileSystem.h"
 #include "platform/files/Packages.h"
 #include "support/VTFileManager.h"
 #include "support/VTLog.h"

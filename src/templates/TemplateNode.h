@@ -99,8 +99,9 @@ private:
 
 /**
  * The nodes of what lies in a folder, each with its whole subtree, in listing order; a folder that cannot be read is
- * empty and named beside them. Folders are shown whatever their name, other items only when it does not begin with a dot. A link to a folder
- * is read through, unless it leads back to a folder that its own path goes through: that one stays empty.
+ * empty and named beside them. Folders are shown whatever their name, other items only when it does not begin with a
+ * dot. A link to a folder is read through, unless it leads back to a folder that its own path goes through: that one
+ * stays empty.
  */
 struct ReadNodes
 {

@@ -16,7 +16,8 @@ struct ListedItem
 struct TreeListing
 {
     QList<ListedItem> items;
-    QList<platform::Outcome> unreadable; ///< one for each folder that could not be listed, also for a root that is missing
+    QList<platform::Outcome>
+        unreadable; ///< one for each folder that could not be listed, also for a root that is missing
 };
 
 /** Reads the tree below a folder; links are items, never entered. Blocks; any thread. */

@@ -1,13 +1,13 @@
 #include "templates/VTDataController.h"
 
-#include "platform/files/ApplicationBundle.h"
-#include "platform/files/FileSystem.h"
+#include "platform/archive/ZipArchive.h"
 #include "platform/base/MainThread.h"
 #include "platform/base/NativePath.h"
-#include "platform/archive/ZipArchive.h"
+#include "platform/files/ApplicationBundle.h"
+#include "platform/files/FileSystem.h"
+#include "support/FileOperations.h"
 #include "support/Settings.h"
 #include "support/VTAlert.h"
-#include "support/FileOperations.h"
 #include "support/VTLocalPaths.h"
 #include "support/VTLog.h"
 
@@ -96,7 +96,8 @@ Outcome VTDataController::populateDefaultTemplates(Force force)
         return {};
     const Outcome made = isNew ? fileoperations::createDirectory(location, createPatience) : Outcome();
     if (!made.ok()) {
-        VTAlert::show({platform::formatString(Text::tr("Unable to create directory %@"), location), checkDestination(made)});
+        VTAlert::show(
+            {platform::formatString(Text::tr("Unable to create directory %@"), location), checkDestination(made)});
         if (force == Force::No)
             return made;
     }
@@ -115,9 +116,8 @@ Outcome VTDataController::installShippedTemplates(const QString &location)
     }
     Outcome first;
     for (const FolderEntry &entry : *entries) {
-        const Outcome installed = entry.name.endsWith(QLatin1String(".zip"))
-                                      ? install(joined(shipped, entry.name), location)
-                                      : Outcome();
+        const Outcome installed =
+            entry.name.endsWith(QLatin1String(".zip")) ? install(joined(shipped, entry.name), location) : Outcome();
         if (first.ok())
             first = installed;
     }

@@ -9,8 +9,8 @@
  * The template library: where it lies, the templates that ship with the program, and the list of names.
  *
  * A template is a folder NAME.tzt in the library whose folder Files is the tree that a project receives. One object for
- * the whole process, made on first use, never destroyed. The list may be read on any thread; the rest belongs to the main
- * thread.
+ * the whole process, made on first use, never destroyed. The list may be read on any thread; the rest belongs to the
+ * main thread.
  */
 class VTDataController
 {
@@ -29,14 +29,15 @@ public:
     /** The list last built, in listing order. */
     [[nodiscard]] QStringList templates() const;
 
-    /** Installs the shipped templates: into a library that is new, or replacing their namesakes when forced. A folder that
-        cannot be made has been said; the rest of a failure is for the caller. */
+    /** Installs the shipped templates: into a library that is new, or replacing their namesakes when forced. A folder
+       that cannot be made has been said; the rest of a failure is for the caller. */
     platform::Outcome populateDefaultTemplates(Force force = Force::No);
-    /** Makes sure that the library exists and builds the list. A library that cannot be read gives an empty list and why. */
+    /** Makes sure that the library exists and builds the list. A library that cannot be read gives an empty list and
+     * why. */
     platform::Outcome populateTemplates();
 
-    /** Unpacks every shipped template into an existing folder; what stands there under the name goes to the Trash. Goes on
-        after a failure and returns the first; the log names each. */
+    /** Unpacks every shipped template into an existing folder; what stands there under the name goes to the Trash. Goes
+       on after a failure and returns the first; the log names each. */
     static platform::Outcome installShippedTemplates(const QString &location);
     /** The names of the templates in a library's folder, in listing order. */
     [[nodiscard]] static platform::Result<QStringList> templateNames(const QString &location);

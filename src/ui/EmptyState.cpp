@@ -14,7 +14,10 @@ constexpr int spacing = 12;
 } // namespace
 
 EmptyState::EmptyState(QWidget *parent)
-    : QWidget(parent), m_picture(new QLabel(this)), m_sentence(new QLabel(this)), m_button(new QPushButton(this))
+    : QWidget(parent)
+    , m_picture(new QLabel(this))
+    , m_sentence(new QLabel(this))
+    , m_button(new QPushButton(this))
 {
     auto *column = new QVBoxLayout(this);
     column->setSpacing(spacing);

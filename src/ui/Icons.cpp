@@ -28,7 +28,11 @@ QByteArray recoloured(QByteArray source, const QColor &text, const QColor &accen
 class PaletteIconEngine : public QIconEngine
 {
 public:
-    PaletteIconEngine(QString name, Tone tone) : m_name(std::move(name)), m_tone(tone) {}
+    PaletteIconEngine(QString name, Tone tone)
+        : m_name(std::move(name))
+        , m_tone(tone)
+    {
+    }
 
     void paint(QPainter *painter, const QRect &rect, QIcon::Mode mode, QIcon::State) override
     {

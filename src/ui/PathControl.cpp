@@ -16,7 +16,8 @@ constexpr int narrowest = 120;
 
 } // namespace
 
-PathControl::PathControl(QWidget *parent) : QWidget(parent)
+PathControl::PathControl(QWidget *parent)
+    : QWidget(parent)
 {
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     setAccessibleName(tr("Project folder"));
@@ -94,7 +95,9 @@ void PathControl::paintEvent(QPaintEvent *)
     QPainter painter(this);
     const int content = qMax(iconSide, fontMetrics().height());
     const qreal top = qMax(0.0, (height() - content) / 2.0 - m_originRaised);
-    const auto centred = [&](int side) { return top + (content - side) / 2.0; };
+    const auto centred = [&](int side) {
+        return top + (content - side) / 2.0;
+    };
     qreal x = 0;
     const auto place = [&](const QIcon &icon, int side) {
         icon.paint(&painter, QRectF(x, centred(side), side, side).toRect());

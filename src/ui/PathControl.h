@@ -19,8 +19,8 @@ public:
     [[nodiscard]] QString path() const { return m_path; }
 
     /**
-     * Raises the control's vertical origin by 1.6 points from where it is, so that repeated calls add up; this must stay.
-     * What is drawn never leaves the control.
+     * Raises the control's vertical origin by 1.6 points from where it is, so that repeated calls add up; this must
+     * stay. What is drawn never leaves the control.
      */
     void raiseOrigin();
     [[nodiscard]] qreal originRaised() const { return m_originRaised; }

@@ -34,9 +34,9 @@ void SheetPresenter::present(const Sheet &sheet, std::function<void(int)> answer
         sheet.alternateButton.isNull() ? nullptr : box->addButton(sheet.alternateButton, QMessageBox::RejectRole);
     QPushButton *other =
         sheet.otherButton.isNull() ? nullptr : box->addButton(sheet.otherButton, QMessageBox::DestructiveRole);
-    // Where an answer loses something, Return and Escape give the one that does not; else Escape never goes on with what was
-    // asked.
-    QPushButton *safe = !sheet.safeAnswer                                ? nullptr
+    // Where an answer loses something, Return and Escape give the one that does not; else Escape never goes on with
+    // what was asked.
+    QPushButton *safe = !sheet.safeAnswer                               ? nullptr
                         : *sheet.safeAnswer == VTAlert::alternateReturn ? alternate
                         : *sheet.safeAnswer == VTAlert::otherReturn     ? other
                                                                         : main;
@@ -57,7 +57,7 @@ void SheetPresenter::present(const Sheet &sheet, std::function<void(int)> answer
     };
     connect(box, &QMessageBox::finished, this, [=] {
         const QAbstractButton *clicked = box->clickedButton();
-        answerOnce(clicked == other && other ? VTAlert::otherReturn
+        answerOnce(clicked == other && other           ? VTAlert::otherReturn
                    : clicked == alternate && alternate ? VTAlert::alternateReturn
                                                        : VTAlert::defaultReturn);
     });

@@ -11,7 +11,8 @@ constexpr int side = 20;
 
 } // namespace
 
-Spinner::Spinner(QWidget *parent) : QWidget(parent)
+Spinner::Spinner(QWidget *parent)
+    : QWidget(parent)
 {
     setFixedSize(sizeHint());
     setAccessibleName(tr("Idle"));

@@ -5,7 +5,8 @@
 #include <QGridLayout>
 #include <QLineEdit>
 
-VTSavePanel::VTSavePanel(QWidget *parent) : QFileDialog(parent)
+VTSavePanel::VTSavePanel(QWidget *parent)
+    : QFileDialog(parent)
 {
     setAcceptMode(AcceptSave);
     setFileMode(AnyFile);

@@ -9,20 +9,23 @@ namespace {
 
 constexpr int titleColumn = 0;
 constexpr int valueColumn = 1;
-constexpr int lowestRow = 30;       // pixels, at least; more where the font needs it
-constexpr int titleShare = 40;      // per cent of the width
+constexpr int lowestRow = 30;  // pixels, at least; more where the font needs it
+constexpr int titleShare = 40; // per cent of the width
 constexpr int roomAroundText = 12;
 constexpr double selectionTint = 0.22;
 
 QColor blended(const QColor &under, const QColor &over, double share)
 {
-    const auto mix = [share](int a, int b) { return static_cast<int>(a + (b - a) * share); };
+    const auto mix = [share](int a, int b) {
+        return static_cast<int>(a + (b - a) * share);
+    };
     return {mix(under.red(), over.red()), mix(under.green(), over.green()), mix(under.blue(), over.blue())};
 }
 
 } // namespace
 
-VTTabbedEditTableView::VTTabbedEditTableView(QWidget *parent) : VTTableView(parent)
+VTTabbedEditTableView::VTTabbedEditTableView(QWidget *parent)
+    : VTTableView(parent)
 {
     setEditTriggers(DoubleClicked | EditKeyPressed | AnyKeyPressed);
     setTabKeyNavigation(true);
@@ -121,9 +124,9 @@ void VTTabbedEditTableView::initViewItemOption(QStyleOptionViewItem *option) con
     VTTableView::initViewItemOption(option);
     for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
         QPalette &colours = option->palette;
-        colours.setColor(group, QPalette::Highlight,
-                         blended(colours.color(group, QPalette::Base), colours.color(group, QPalette::Highlight),
-                                 selectionTint));
+        colours.setColor(
+            group, QPalette::Highlight,
+            blended(colours.color(group, QPalette::Base), colours.color(group, QPalette::Highlight), selectionTint));
         colours.setColor(group, QPalette::HighlightedText, colours.color(group, QPalette::Text));
     }
 }

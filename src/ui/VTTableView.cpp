@@ -1,6 +1,7 @@
 #include "ui/VTTableView.h"
 
-VTTableView::VTTableView(QWidget *parent) : KeyWatchingView<QTableView>(parent)
+VTTableView::VTTableView(QWidget *parent)
+    : KeyWatchingView<QTableView>(parent)
 {
     setSelectionBehavior(SelectRows);
     setSelectionMode(SingleSelection);

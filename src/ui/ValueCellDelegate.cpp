@@ -54,8 +54,8 @@ void ValueCellDelegate::paint(QPainter *painter, const QStyleOptionViewItem &opt
                           option.widget ? option.widget->palette().highlight() : option.palette.highlight());
     const bool offersItems = editorOf(index) != CellEditor::Text && index.flags().testFlag(Qt::ItemIsEditable);
     if (offersItems && !index.data(CellRole::Items).toStringList().isEmpty()) {
-        const QRect place(option.rect.right() - margin - chevronSide,
-                          option.rect.center().y() - chevronSide / 2 + 1, chevronSide, chevronSide);
+        const QRect place(option.rect.right() - margin - chevronSide, option.rect.center().y() - chevronSide / 2 + 1,
+                          chevronSide, chevronSide);
         icons::named("chevron-down", icons::Tone::Secondary).paint(painter, place);
     }
     painter->restore();

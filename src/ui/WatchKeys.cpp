@@ -44,14 +44,21 @@ bool WatchKeys::dispatch(char16_t character) const
 char16_t WatchKeys::characterOf(const QKeyEvent &event)
 {
     switch (event.key()) {
-    case Qt::Key_Backspace: return deleteCharacter;
-    case Qt::Key_Delete: return forwardDelete;
+    case Qt::Key_Backspace:
+        return deleteCharacter;
+    case Qt::Key_Delete:
+        return forwardDelete;
     case Qt::Key_Tab:
-    case Qt::Key_Backtab: return u'\t';
-    case Qt::Key_Return: return u'\r';
-    case Qt::Key_Enter: return 3;
-    case Qt::Key_Escape: return 27;
-    default: break;
+    case Qt::Key_Backtab:
+        return u'\t';
+    case Qt::Key_Return:
+        return u'\r';
+    case Qt::Key_Enter:
+        return 3;
+    case Qt::Key_Escape:
+        return 27;
+    default:
+        break;
     }
     if (event.key() >= Qt::Key_Space && event.key() <= Qt::Key_ydiaeresis) {
         const QChar key(static_cast<char16_t>(event.key()));

@@ -8,8 +8,8 @@
 class QKeyEvent;
 
 /**
- * Single keys that a view hands to its controller: each entry is a character as typed without modifiers and the name of an
- * invokable method. A key registered twice has two entries, and the first whose receiver answers wins.
+ * Single keys that a view hands to its controller: each entry is a character as typed without modifiers and the name of
+ * an invokable method. A key registered twice has two entries, and the first whose receiver answers wins.
  */
 class WatchKeys
 {

@@ -1,15 +1,15 @@
 // The window, driven by keys and clicks, from its first start to a finished project.
 #include "app/MainWindow.h"
 #include "app/TessaroAppDelegate.h"
-#include "parameters/table/VTProjectTableController.h"
-#include "platform/desktop/Desktop.h"
-#include "platform/files/FileSystem.h"
-#include "platform/base/NativePath.h"
 #include "harness/Records.h"
-#include "support/Settings.h"
 #include "harness/SheetAnswerer.h"
 #include "harness/StoredSettings.h"
 #include "harness/TemporaryHome.h"
+#include "parameters/table/VTProjectTableController.h"
+#include "platform/base/NativePath.h"
+#include "platform/desktop/Desktop.h"
+#include "platform/files/FileSystem.h"
+#include "support/Settings.h"
 #include "support/VTAlert.h"
 #include "ui/SheetPresenter.h"
 #include "ui/Spinner.h"
@@ -72,9 +72,9 @@ private Q_SLOTS:
         storeSetting(settings::fixedProjectLocationPath, fixed());
         storeSetting(settings::autoOpenFolder, 0LL);
         storeSetting(settings::filenameTemplate,
-                          QVariantList{record({{"title", "Client"}, {"saveHistory", true}}),
-                                       record({{"title", "Job"}, {"type", 2}, {"val", "007"}}),
-                                       record({{"title", "Title"}, {"folder", true}, {"disallowEmpty", true}})});
+                     QVariantList{record({{"title", "Client"}, {"saveHistory", true}}),
+                                  record({{"title", "Job"}, {"type", 2}, {"val", "007"}}),
+                                  record({{"title", "Title"}, {"folder", true}, {"disallowEmpty", true}})});
     }
     void cleanup() { m_delegate.reset(); }
 

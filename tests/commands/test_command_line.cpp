@@ -1,10 +1,10 @@
 // The command, as a process of its own: what it prints, how it ends, and what it leaves alone.
+#include "harness/Records.h"
+#include "harness/TemporaryHome.h"
+#include "platform/base/PropertyList.h"
 #include "platform/desktop/Desktop.h"
 #include "platform/files/FileSystem.h"
 #include "platform/files/FileTree.h"
-#include "platform/base/PropertyList.h"
-#include "harness/Records.h"
-#include "harness/TemporaryHome.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -85,8 +85,9 @@ private Q_SLOTS:
         QCOMPARE(run({"template", "new", "a/b"}).status, 2);
         writeFile(m_home->filePath("from/A/B/x"), "x");
         QCOMPARE(run({"template", "structure", "Film", "--from", "from"}).status, 0);
-        QCOMPARE(run({"template", "show", "Film"}).output,
-                 QByteArray("Film\n\u2514\u2500\u2500 from/\n    \u2514\u2500\u2500 A/\n        \u2514\u2500\u2500 B/\n"));
+        QCOMPARE(
+            run({"template", "show", "Film"}).output,
+            QByteArray("Film\n\u2514\u2500\u2500 from/\n    \u2514\u2500\u2500 A/\n        \u2514\u2500\u2500 B/\n"));
         const auto tree = QJsonDocument::fromJson(run({"template", "show", "Film", "--json"}).output).object();
         QCOMPARE(tree["items"].toArray()[0].toObject()["name"].toString(), "from");
         QCOMPARE(run({"template", "default", "Film"}).status, 0);
@@ -116,8 +117,11 @@ private Q_SLOTS:
     {
         QCOMPARE(run({"settings", "set", "separatorChar", "-"}).status, 0);
         QCOMPARE(run({"settings", "get", "separatorChar"}).output, QByteArray("-\n"));
-        for (const QStringList &bad : {QStringList{"separatorChar", "a/b"}, {"autoQuit", "maybe"}, {"dateFormat", "%"},
-                                       {"templateLocation", "relative"}, {"no such key", "1"}})
+        for (const QStringList &bad : {QStringList{"separatorChar", "a/b"},
+                                       {"autoQuit", "maybe"},
+                                       {"dateFormat", "%"},
+                                       {"templateLocation", "relative"},
+                                       {"no such key", "1"}})
             QCOMPARE(run(QStringList{"settings", "set"} + bad).status, 2);
         QCOMPARE(run({"settings", "unset", "separatorChar"}).status, 0);
         const auto all = QJsonDocument::fromJson(run({"settings", "--json"}).output).object();

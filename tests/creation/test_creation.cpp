@@ -2,15 +2,15 @@
 #include "creation/CreationPlan.h"
 #include "creation/ProjectCreation.h"
 #include "harness/Answers.h"
+#include "harness/StoredSettings.h"
+#include "harness/TemporaryHome.h"
+#include "platform/base/NativePath.h"
 #include "platform/desktop/Desktop.h"
 #include "platform/files/FileSystem.h"
 #include "platform/files/FileTree.h"
 #include "platform/files/FinderInfo.h"
-#include "platform/base/NativePath.h"
 #include "platform/files/TreeCopy.h"
 #include "support/Settings.h"
-#include "harness/StoredSettings.h"
-#include "harness/TemporaryHome.h"
 #include "support/VTAlert.h"
 #include "support/VTLocalPaths.h"
 #include "support/VTLog.h"
@@ -69,10 +69,7 @@ class TestCreation : public QObject
         return platform::joined(VTDataController::filesFolder("Test"), item);
     }
     QString project(const QString &item = {}) const { return platform::joined(m_work->filePath("Acme/Promo"), item); }
-    CreationResult create()
-    {
-        return ProjectCreation(m_host).createProject("Test", project());
-    }
+    CreationResult create() { return ProjectCreation(m_host).createProject("Test", project()); }
     void answer(bool goOn)
     {
         m_presenter.reset(); // an old one takes its place in the program along
@@ -212,8 +209,8 @@ private Q_SLOTS:
         const QString copy = "Unable to copy contents of template";
         QTest::newRow("no Files folder") << "files missing" << QStringList{copy};
         QTest::newRow("Files unreadable") << "files unreadable" << QStringList{copy};
-        QTest::newRow("a file where a folder level goes") << "file in the way"
-                                                          << QStringList{"Unable to create folder %1", copy};
+        QTest::newRow("a file where a folder level goes")
+            << "file in the way" << QStringList{"Unable to create folder %1", copy};
         QTest::newRow("read-only destination") << "read-only" << QStringList{"Unable to create folder %1", copy};
     }
     void tellsWhatCannotBeMade()
@@ -306,5 +303,5 @@ int main(int argc, char **argv)
     TestCreation test;
     return QTest::qExec(&test, argc, argv);
 }
-#include "test_creation.moc"
 #include "platform/base/System.h"
+#include "test_creation.moc"

@@ -23,10 +23,10 @@ private Q_SLOTS:
     void followsRenamedFolders()
     {
         const TreeListing tree{{{"", "Template", FileKind::Folder},
-                                 {"Template", "Sub template", FileKind::Folder},
-                                 {"Template/Sub template", "template.txt", FileKind::File},
-                                 {"", "x.txt", FileKind::File}},
-                                {}};
+                                {"Template", "Sub template", FileKind::Folder},
+                                {"Template/Sub template", "template.txt", FileKind::File},
+                                {"", "x.txt", FileKind::File}},
+                               {}};
         const CreationPlan plan = planCreation(tree, {"Acme", "Promo"});
         const auto paths = [&](const auto &path) {
             QStringList found;
@@ -42,11 +42,11 @@ private Q_SLOTS:
     void marksCollisionsInListingOrder()
     {
         const TreeListing tree{{{"", "Promo.txt", FileKind::File},
-                                 {"", "TEMPLATE.txt", FileKind::File},
-                                 {"", "A Template", FileKind::File},
-                                 {"", "a template", FileKind::File},
-                                 {"", "A template", FileKind::File}},
-                                {}};
+                                {"", "TEMPLATE.txt", FileKind::File},
+                                {"", "A Template", FileKind::File},
+                                {"", "a template", FileKind::File},
+                                {"", "A template", FileKind::File}},
+                               {}};
         const CreationPlan plan = planCreation(tree, {"Promo"});
         QCOMPARE(plan.items[1].remark, PlanItem::Remark::NameTaken);
         QCOMPARE(plan.items[1].newName, QString("TEMPLATE.txt"));

@@ -9,7 +9,11 @@
 class Answers : public AlertPresenter
 {
 public:
-    explicit Answers(QList<int> wanted = {}) : answers(std::move(wanted)) { VTAlert::setPresenter(this); }
+    explicit Answers(QList<int> wanted = {})
+        : answers(std::move(wanted))
+    {
+        VTAlert::setPresenter(this);
+    }
     ~Answers() override { VTAlert::setPresenter(nullptr); }
 
     QList<int> answers;

@@ -1,8 +1,8 @@
 #include "harness/TemporaryHome.h"
 
+#include "platform/base/NativePath.h"
 #include "platform/files/FileSystem.h"
 #include "platform/files/FileTree.h"
-#include "platform/base/NativePath.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>

@@ -5,8 +5,8 @@
 #include <QTemporaryDir>
 
 /**
- * A home folder of the test's own, with HOME and the XDG folders pointing into it, so that settings, log, library and Trash
- * are real and touch nobody's. Make it first in main(), before anything asks for a folder. Removed at the end.
+ * A home folder of the test's own, with HOME and the XDG folders pointing into it, so that settings, log, library and
+ * Trash are real and touch nobody's. Make it first in main(), before anything asks for a folder. Removed at the end.
  */
 class TemporaryHome
 {

@@ -1,10 +1,10 @@
 // The privileged helper, as far as that can be seen without rights: what it takes for a message, what it takes for a
 // request, and what it needs to start at all.
+#include "harness/TemporaryHome.h"
 #include "helper/Plan.h"
 #include "helper/Protocol.h"
 #include "platform/desktop/Desktop.h"
 #include "platform/files/FileSystem.h"
-#include "harness/TemporaryHome.h"
 
 #include <QCoreApplication>
 #include <QProcess>

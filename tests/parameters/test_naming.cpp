@@ -1,7 +1,7 @@
 // How values compose the folder levels of a project. Every path here was worked out by hand.
+#include "harness/TemporaryHome.h"
 #include "parameters/ProjectNaming.h"
 #include "platform/desktop/Desktop.h"
-#include "harness/TemporaryHome.h"
 
 #include <QTest>
 

@@ -1,18 +1,18 @@
 // The preferences in a real window: what is set there is what is stored, and it is in force at once.
 #include "app/MainWindow.h"
 #include "app/TessaroAppDelegate.h"
-#include "parameters/table/VTProjectTableController.h"
-#include "platform/desktop/Desktop.h"
-#include "platform/files/FileSystem.h"
-#include "platform/base/NativePath.h"
-#include "platform/base/PropertyList.h"
-#include "parameters/ParameterList.h"
-#include "preferences/VTPreferenceController.h"
 #include "harness/Records.h"
-#include "support/Settings.h"
 #include "harness/SheetAnswerer.h"
 #include "harness/StoredSettings.h"
 #include "harness/TemporaryHome.h"
+#include "parameters/ParameterList.h"
+#include "parameters/table/VTProjectTableController.h"
+#include "platform/base/NativePath.h"
+#include "platform/base/PropertyList.h"
+#include "platform/desktop/Desktop.h"
+#include "platform/files/FileSystem.h"
+#include "preferences/VTPreferenceController.h"
+#include "support/Settings.h"
 #include "support/VTAlert.h"
 #include "support/VTLocalPaths.h"
 #include "templates/VTDataController.h"
@@ -79,9 +79,8 @@ private Q_SLOTS:
             removeSetting(*setting);
         storeSetting(settings::firstRun, false);
         storeSetting(settings::templateLocation, library());
-        storeSetting(settings::filenameTemplate,
-                                      QVariantList{record({{"title", "Client"}, {"val", "Acme"}}),
-                                                   record({{"title", "Title"}, {"val", "Promo"}})});
+        storeSetting(settings::filenameTemplate, QVariantList{record({{"title", "Client"}, {"val", "Acme"}}),
+                                                              record({{"title", "Title"}, {"val", "Promo"}})});
         writeFile(library("A.tzt/Files/x"), "x");
         m_delegate = std::make_unique<TessaroAppDelegate>();
         QVERIFY(m_delegate->awakeFromNib());

@@ -1,12 +1,12 @@
 // Shortcut keys: what is stored among other programs' entries, what a key is called in each layout, and who is told.
+#include "harness/TemporaryHome.h"
+#include "platform/base/PropertyList.h"
 #include "platform/desktop/Desktop.h"
 #include "platform/files/FileSystem.h"
 #include "platform/files/FileTree.h"
-#include "platform/base/PropertyList.h"
 #include "preferences/VTShortcutKeyContainerView.h"
 #include "preferences/VTShortcutKeyTableDelegate.h"
 #include "preferences/VTShortcutKeyTableview.h"
-#include "harness/TemporaryHome.h"
 #include "support/VTLog.h"
 
 #include <QApplication>

@@ -1,7 +1,7 @@
 // Alerts: the code reaches whoever asked, on whatever thread, and the sheet goes away.
+#include "harness/TemporaryHome.h"
 #include "platform/desktop/Desktop.h"
 #include "support/AlertPresenter.h"
-#include "harness/TemporaryHome.h"
 #include "support/VTAlert.h"
 
 #include <QCoreApplication>

@@ -1,10 +1,10 @@
 // Administrator rights for real: an ordinary user, polkit, the helper as root, and the effect on disk. The test plays
 // the desktop's password dialog and nothing else. Runs in the world that with-polkit.sh makes.
+#include "harness/HeldFile.h"
+#include "harness/TemporaryHome.h"
 #include "platform/desktop/Desktop.h"
 #include "platform/files/FileSystem.h"
 #include "platform/process/RightsHelper.h"
-#include "harness/HeldFile.h"
-#include "harness/TemporaryHome.h"
 #include "support/VTAuthorization.h"
 #include "support/VTFileManager.h"
 #include "support/VTLocalPaths.h"

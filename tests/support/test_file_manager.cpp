@@ -1,13 +1,13 @@
 // The gateway to the file system: results, log lines and fallbacks; nothing is overwritten, half copied or lost.
+#include "harness/TemporaryHome.h"
+#include "platform/base/NativePath.h"
+#include "platform/base/Users.h"
 #include "platform/desktop/Desktop.h"
 #include "platform/files/FileSystem.h"
 #include "platform/files/FileTree.h"
 #include "platform/files/FinderInfo.h"
-#include "platform/base/NativePath.h"
 #include "platform/files/Trash.h"
-#include "platform/base/Users.h"
 #include "support/FileFallback.h"
-#include "harness/TemporaryHome.h"
 #include "support/VTFileManager.h"
 #include "support/VTLog.h"
 

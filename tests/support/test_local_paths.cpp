@@ -1,7 +1,7 @@
 // The user at the console, and the guard around the standard folders.
-#include "platform/desktop/Desktop.h"
-#include "platform/base/Users.h"
 #include "harness/TemporaryHome.h"
+#include "platform/base/Users.h"
+#include "platform/desktop/Desktop.h"
 #include "support/VTLocalPaths.h"
 
 #include <QCoreApplication>

@@ -1,12 +1,12 @@
 // The log: its entries, its generations; which lines are on disk at once; many writers at once.
+#include "harness/TemporaryHome.h"
 #include "platform/base/Console.h"
-#include "platform/desktop/Desktop.h"
-#include "platform/files/FileSystem.h"
-#include "platform/files/FileTree.h"
 #include "platform/base/NativePath.h"
 #include "platform/base/PropertyList.h"
 #include "platform/base/Users.h"
-#include "harness/TemporaryHome.h"
+#include "platform/desktop/Desktop.h"
+#include "platform/files/FileSystem.h"
+#include "platform/files/FileTree.h"
 #include "support/VTLog.h"
 
 #include <QCoreApplication>
@@ -204,5 +204,5 @@ int main(int argc, char **argv)
     TestLog test;
     return QTest::qExec(&test, argc, argv);
 }
-#include "test_log.moc"
 #include "platform/base/System.h"
+#include "test_log.moc"

@@ -1,10 +1,10 @@
 // What travels beside the contents: labels, locks; and the file manager's patterns, archives and background copies.
+#include "harness/HeldFile.h"
+#include "harness/TemporaryHome.h"
+#include "platform/base/NativePath.h"
 #include "platform/desktop/Desktop.h"
 #include "platform/files/FileSystem.h"
 #include "platform/files/FileTree.h"
-#include "platform/base/NativePath.h"
-#include "harness/HeldFile.h"
-#include "harness/TemporaryHome.h"
 #include "support/VTFileManager.h"
 #include "support/VTLocalPaths.h"
 #include "support/VTLog.h"

@@ -1,7 +1,7 @@
 // Tools: what they print and how they end, time-outs, asynchronous runs; none hangs, none leaves anything behind.
+#include "harness/TemporaryHome.h"
 #include "platform/desktop/Desktop.h"
 #include "platform/files/FileSystem.h"
-#include "harness/TemporaryHome.h"
 #include "support/VTLog.h"
 #include "support/VTTask.h"
 

@@ -1,12 +1,12 @@
 // Imports into a template, and changes to the library: nothing is lost on the way, whatever is answered.
-#include "platform/desktop/Desktop.h"
-#include "platform/files/FileSystem.h"
-#include "platform/files/FileTree.h"
-#include "platform/base/NativePath.h"
-#include "support/Settings.h"
 #include "harness/Answers.h"
 #include "harness/StoredSettings.h"
 #include "harness/TemporaryHome.h"
+#include "platform/base/NativePath.h"
+#include "platform/desktop/Desktop.h"
+#include "platform/files/FileSystem.h"
+#include "platform/files/FileTree.h"
+#include "support/Settings.h"
 #include "support/VTFileManager.h"
 #include "support/VTLog.h"
 #include "templates/ImportJobs.h"
@@ -88,11 +88,13 @@ private Q_SLOTS:
         QCOMPARE(symlink("Files", platform::toNative(joined(platform::parentPath(m_files), "Alias")).constData()), 0);
         const QString alias = joined(platform::parentPath(m_files), "Alias");
         QVERIFY(importjobs::copyFiles({{m_files + "/kept", alias + "/kept"}, m_files}, nobody).ok()); // onto itself
-        QVERIFY(importjobs::copyFiles({{m_files + "/A/A"}, m_files}, nobody).is(Cause::IntoItself)); // would replace the folder it lies in
+        QVERIFY(importjobs::copyFiles({{m_files + "/A/A"}, m_files}, nobody)
+                    .is(Cause::IntoItself)); // would replace the folder it lies in
         QVERIFY(importjobs::copyFiles({{joined(m_home.path(), "Templates")}, m_files}, nobody)
                     .is(Cause::IntoItself)); // holds the destination
         writeFile(m_files + "/gone", "still here");
-        QVERIFY(importjobs::copyFiles({{joined(m_in, "gone")}, m_files}, nobody).is(Cause::Missing)); // vanished meanwhile
+        QVERIFY(
+            importjobs::copyFiles({{joined(m_in, "gone")}, m_files}, nobody).is(Cause::Missing)); // vanished meanwhile
         QCOMPARE(m_answers->asked.filter("overwrite"), QStringList());
         QCOMPARE(m_answers->asked.size(), 3);
         QCOMPARE(readFile(m_files + "/kept") + readFile(m_files + "/A/A/x") + readFile(m_files + "/gone"),

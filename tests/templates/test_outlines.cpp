@@ -1,10 +1,10 @@
 // The shipped templates' readable sources, and the archives built from them.
-#include "platform/files/ApplicationBundle.h"
+#include "harness/TemporaryHome.h"
+#include "platform/archive/ZipArchive.h"
 #include "platform/desktop/Desktop.h"
+#include "platform/files/ApplicationBundle.h"
 #include "platform/files/FileSystem.h"
 #include "platform/files/FinderInfo.h"
-#include "platform/archive/ZipArchive.h"
-#include "harness/TemporaryHome.h"
 
 #include "../../resources/packer/Outline.h"
 

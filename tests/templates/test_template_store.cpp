@@ -1,13 +1,13 @@
 // The library: where it is, when the shipped templates arrive, what the list holds.
+#include "harness/StoredSettings.h"
+#include "harness/TemporaryHome.h"
+#include "platform/base/NativePath.h"
 #include "platform/desktop/Desktop.h"
 #include "platform/files/FileSystem.h"
 #include "platform/files/FileTree.h"
-#include "platform/base/NativePath.h"
 #include "platform/files/Trash.h"
 #include "support/AlertPresenter.h"
 #include "support/Settings.h"
-#include "harness/StoredSettings.h"
-#include "harness/TemporaryHome.h"
 #include "support/VTAlert.h"
 #include "support/VTLocalPaths.h"
 #include "templates/TemplateChoice.h"
@@ -54,7 +54,8 @@ private Q_SLOTS:
     void location()
     {
         QCOMPARE(VTDataController::templateLocation(), library());
-        const QString standard = VTLocalPaths::userDirectory() + "/Library/Application Support/Vantrel/Tessaro/Templates";
+        const QString standard =
+            VTLocalPaths::userDirectory() + "/Library/Application Support/Vantrel/Tessaro/Templates";
         storeSetting(settings::templateLocation, "");
         QCOMPARE(VTDataController::templateLocation(), standard);
         removeSetting(settings::templateLocation);
@@ -105,8 +106,7 @@ private Q_SLOTS:
         writeFile(library() + "/notes.tzt", "a plain file");
         writeFile(library() + '/' + platform::fromNative("\xff.tzt/Files/x"));
         QVERIFY(store().populateTemplates().ok());
-        QCOMPARE(store().templates(),
-                 QStringList({".hidden", "A", "b", "notes", platform::fromNative("\xff")}));
+        QCOMPARE(store().templates(), QStringList({".hidden", "A", "b", "notes", platform::fromNative("\xff")}));
     }
 
     void saysThatALibraryCannotBeMade()
@@ -123,10 +123,18 @@ private Q_SLOTS:
         QTest::addColumn<QString>("marked");
         QTest::addColumn<QString>("last");
         QTest::addColumn<QString>("expected");
-        QTest::newRow("the marked one wins over the last one") << "B" << "C" << "B";
-        QTest::newRow("a marked one that is gone") << "gone" << "C" << "C";
-        QTest::newRow("none marked") << "" << "C" << "C";
-        QTest::newRow("neither exists") << "gone" << "lost" << "A";
+        QTest::newRow("the marked one wins over the last one") << "B"
+                                                               << "C"
+                                                               << "B";
+        QTest::newRow("a marked one that is gone") << "gone"
+                                                   << "C"
+                                                   << "C";
+        QTest::newRow("none marked") << ""
+                                     << "C"
+                                     << "C";
+        QTest::newRow("neither exists") << "gone"
+                                        << "lost"
+                                        << "A";
         QTest::newRow("nothing stored") << QString() << QString() << "A";
     }
     void choice()

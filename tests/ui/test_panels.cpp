@@ -1,7 +1,7 @@
 // The parts of the windows, as they come out.
-#include "platform/desktop/Desktop.h"
 #include "harness/OffscreenMessages.h"
 #include "harness/TemporaryHome.h"
+#include "platform/desktop/Desktop.h"
 #include "ui/Icons.h"
 #include "ui/PathControl.h"
 #include "ui/VTSavePanel.h"

@@ -1,7 +1,7 @@
 // Questions on a real window: who answers what, and that nobody who waits is left waiting.
-#include "platform/desktop/Desktop.h"
 #include "harness/OffscreenMessages.h"
 #include "harness/TemporaryHome.h"
+#include "platform/desktop/Desktop.h"
 #include "support/VTAlert.h"
 #include "ui/SheetPresenter.h"
 

@@ -92,7 +92,8 @@ bool ParameterEditorModel::setData(const QModelIndex &index, const QVariant &val
         stored = column == Column::Locked ? QVariant(value.toInt() == Qt::Checked ? 1LL : 0LL)
                                           : QVariant(value.toInt() == Qt::Checked);
     else if (column == Column::Kind && role == Qt::EditRole)
-        stored = static_cast<qlonglong>(parameterlist::kindNamed(value.toString()).value_or(FilenameParameter::Kind::Text));
+        stored =
+            static_cast<qlonglong>(parameterlist::kindNamed(value.toString()).value_or(FilenameParameter::Kind::Text));
     else if (!isFlag(column) && role == Qt::EditRole)
         stored = value.toString();
     else

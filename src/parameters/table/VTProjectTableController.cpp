@@ -12,8 +12,8 @@
 #include "ui/Icons.h"
 #include "ui/PathControl.h"
 #include "ui/Spinner.h"
-#include "ui/ValueCellDelegate.h"
 #include "ui/VTTabbedEditTableView.h"
+#include "ui/ValueCellDelegate.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -25,11 +25,16 @@ namespace {
 const char *iconOf(FilenameParameter::Kind kind)
 {
     switch (kind) {
-    case FilenameParameter::Kind::Counter: return "kind-counter";
-    case FilenameParameter::Kind::Date: return "kind-date";
-    case FilenameParameter::Kind::UserName: return "kind-user";
-    case FilenameParameter::Kind::Choice: return "kind-choice";
-    default: return "kind-text";
+    case FilenameParameter::Kind::Counter:
+        return "kind-counter";
+    case FilenameParameter::Kind::Date:
+        return "kind-date";
+    case FilenameParameter::Kind::UserName:
+        return "kind-user";
+    case FilenameParameter::Kind::Choice:
+        return "kind-choice";
+    default:
+        return "kind-text";
     }
 }
 
@@ -48,7 +53,10 @@ QString described(const FilenameParameters &parameters)
 
 } // namespace
 
-VTProjectTableController::VTProjectTableController(QObject *parent) : QAbstractTableModel(parent) {}
+VTProjectTableController::VTProjectTableController(QObject *parent)
+    : QAbstractTableModel(parent)
+{
+}
 
 void VTProjectTableController::setViews(const Views &views)
 {
@@ -92,9 +100,12 @@ QVariant VTProjectTableController::titleData(const FilenameParameter &parameter,
 {
     switch (role) {
     case Qt::DisplayRole:
-    case Qt::AccessibleTextRole: return parameter.title().isEmpty() ? tr("Untitled") : parameter.title();
-    case Qt::DecorationRole: return icons::named(iconOf(parameter.kind()), icons::Tone::Secondary);
-    default: return {};
+    case Qt::AccessibleTextRole:
+        return parameter.title().isEmpty() ? tr("Untitled") : parameter.title();
+    case Qt::DecorationRole:
+        return icons::named(iconOf(parameter.kind()), icons::Tone::Secondary);
+    default:
+        return {};
     }
 }
 
@@ -102,15 +113,22 @@ QVariant VTProjectTableController::valueData(const FilenameParameter &parameter,
 {
     switch (role) {
     case Qt::DisplayRole:
-    case Qt::EditRole: return parameter.value();
-    case Qt::AccessibleTextRole: return tr("%1: %2").arg(parameter.title(), parameter.value());
-    case Qt::DecorationRole: return parameter.isLocked() ? icons::named("lock", icons::Tone::Secondary) : QVariant();
-    case CellRole::Editor: return QVariant::fromValue(editorOf(parameter));
+    case Qt::EditRole:
+        return parameter.value();
+    case Qt::AccessibleTextRole:
+        return tr("%1: %2").arg(parameter.title(), parameter.value());
+    case Qt::DecorationRole:
+        return parameter.isLocked() ? icons::named("lock", icons::Tone::Secondary) : QVariant();
+    case CellRole::Editor:
+        return QVariant::fromValue(editorOf(parameter));
     case CellRole::Items:
         return parameter.kind() == FilenameParameter::Kind::Choice ? parameter.choices() : parameter.history();
-    case CellRole::Secondary: return parameter.isAutomatic();
-    case CellRole::AccessibleName: return parameter.title();
-    default: return {};
+    case CellRole::Secondary:
+        return parameter.isAutomatic();
+    case CellRole::AccessibleName:
+        return parameter.title();
+    default:
+        return {};
     }
 }
 
@@ -129,8 +147,7 @@ bool VTProjectTableController::setData(const QModelIndex &index, const QVariant 
         return false;
     bool keptTyped = false;
     FilenameParameter &parameter = m_dataArray[index.row()];
-    parameter = rules::withTypedValue(parameter, value.toString(),
-                                      settings::strictNaming.isOn(), &keptTyped);
+    parameter = rules::withTypedValue(parameter, value.toString(), settings::strictNaming.isOn(), &keptTyped);
     if (keptTyped)
         VTLog::appendLog("string length is 0");
     store();
@@ -203,8 +220,8 @@ void VTProjectTableController::incrementDynamicValues()
 void VTProjectTableController::updateDynamicValues()
 {
     VTLog::appendLog("Updating dynamic values");
-    setDataArray(rules::withDynamicValues(m_dataArray, settings::dateFormat.text(),
-                                          VTLocalPaths::username(), std::time(nullptr)));
+    setDataArray(rules::withDynamicValues(m_dataArray, settings::dateFormat.text(), VTLocalPaths::username(),
+                                          std::time(nullptr)));
     updateFilenamePreview();
 }
 

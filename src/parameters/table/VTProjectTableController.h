@@ -11,9 +11,9 @@ class Spinner;
 class VTTabbedEditTableView;
 
 /**
- * The table in which the user fills in the filename parameters: model and controller. Keeps a working copy of the stored
- * records, equal to the stored list after every change. Without a view (on the command line) it is the same engine: every
- * view member may stay unset. Main thread only.
+ * The table in which the user fills in the filename parameters: model and controller. Keeps a working copy of the
+ * stored records, equal to the stored list after every change. Without a view (on the command line) it is the same
+ * engine: every view member may stay unset. Main thread only.
  */
 class VTProjectTableController : public QAbstractTableModel
 {

@@ -14,8 +14,7 @@ constexpr qsizetype entrySize = 12;
 constexpr qsizetype finderInfoSize = 32;
 constexpr qsizetype flagsOffset = 8;
 
-template <typename Number>
-void append(QByteArray &bytes, Number number)
+template <typename Number> void append(QByteArray &bytes, Number number)
 {
     char buffer[sizeof number];
     qToBigEndian(number, buffer);

@@ -1,7 +1,7 @@
 #include "platform/archive/ZipArchive.h"
 
-#include "platform/files/ApplicationBundle.h"
 #include "platform/base/NativePath.h"
+#include "platform/files/ApplicationBundle.h"
 
 #include <QLibrary>
 
@@ -9,8 +9,7 @@ namespace platform {
 namespace {
 
 /// Calls one of the module's two doors; its report, or why the module cannot be had.
-template <typename Report>
-Report callModule(const char *door, const QString &first, const QString &second)
+template <typename Report> Report callModule(const char *door, const QString &first, const QString &second)
 {
     using Function = void (*)(const QString &, const QString &, Report &);
     static auto *module = new QLibrary(

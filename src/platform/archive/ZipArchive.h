@@ -37,8 +37,9 @@ struct CompressReport
 };
 
 /**
- * Writes an item and all below it into a new zip archive, under the item's own name: modes, times, links, empty folders,
- * and the labels as the reference desktop's archiver writes them. Of any size. Items that cannot be read are a problem.
+ * Writes an item and all below it into a new zip archive, under the item's own name: modes, times, links, empty
+ * folders, and the labels as the reference desktop's archiver writes them. Of any size. Items that cannot be read are a
+ * problem.
  */
 [[nodiscard]] CompressReport compressZip(const QString &path, const QString &archivePath);
 

@@ -108,10 +108,7 @@ public:
     }
 
 private:
-    void fail(const QByteArray &name)
-    {
-        m_report.outcome = Outcome::fromErrno(joined(m_above, fromNative(name)));
-    }
+    void fail(const QByteArray &name) { m_report.outcome = Outcome::fromErrno(joined(m_above, fromNative(name))); }
 
     void take(int folder, const QByteArray &entry, const QByteArray &above)
     {

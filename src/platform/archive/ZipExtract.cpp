@@ -156,10 +156,7 @@ private:
         m_report.outcome = Outcome::failure(Cause::Invalid, fromNative(name),
                                             QStringLiteral("unpacks to far more than an honest archive"));
     }
-    void failWriting(const QByteArray &name)
-    {
-        m_report.outcome = Outcome::fromErrno(fromNative(name));
-    }
+    void failWriting(const QByteArray &name) { m_report.outcome = Outcome::fromErrno(fromNative(name)); }
     void refuse(const QByteArray &name) { m_report.refused.append(fromNative(name)); }
 
     void take(archive_entry *entry)

@@ -16,7 +16,8 @@ namespace platform {
 [[nodiscard]] ExtractReport extractZipDirectly(const QString &archivePath, const QString &destination);
 [[nodiscard]] CompressReport compressZipDirectly(const QString &path, const QString &archivePath);
 
-/** Writes a zip archive, entry by entry. finish() says whether every byte got there; without it the file is no archive. */
+/** Writes a zip archive, entry by entry. finish() says whether every byte got there; without it the file is no archive.
+ */
 class ZipWriter
 {
 public:

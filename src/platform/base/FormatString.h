@@ -9,12 +9,20 @@ namespace platform {
 /** One argument of a format. */
 using FormatValue = std::variant<QString, qlonglong, double>;
 
-inline FormatValue toFormatValue(const QString &value) { return value; }
-inline FormatValue toFormatValue(const char *value) { return QString::fromUtf8(value); }
-inline FormatValue toFormatValue(double value) { return value; }
+inline FormatValue toFormatValue(const QString &value)
+{
+    return value;
+}
+inline FormatValue toFormatValue(const char *value)
+{
+    return QString::fromUtf8(value);
+}
+inline FormatValue toFormatValue(double value)
+{
+    return value;
+}
 template <typename Integer>
-    requires std::is_integral_v<Integer>
-FormatValue toFormatValue(Integer value)
+requires std::is_integral_v<Integer> FormatValue toFormatValue(Integer value)
 {
     return static_cast<qlonglong>(value);
 }

@@ -59,8 +59,10 @@ bool isInput(QEvent::Type type)
     case QEvent::DragMove:
     case QEvent::Drop:
     case QEvent::InputMethod:
-    case QEvent::Close: return true;
-    default: return false;
+    case QEvent::Close:
+        return true;
+    default:
+        return false;
     }
 }
 

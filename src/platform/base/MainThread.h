@@ -3,7 +3,8 @@
 #include <chrono>
 #include <functional>
 
-/** The main thread, from anywhere. Before the application object exists, every thread's calls run where they are made. */
+/** The main thread, from anywhere. Before the application object exists, every thread's calls run where they are made.
+ */
 namespace platform {
 
 enum class Waiting { No, Yes };
@@ -27,8 +28,7 @@ public:
  */
 void performInBackground(const std::function<void()> &work);
 
-template <typename Work>
-[[nodiscard]] auto resultInBackground(Work work)
+template <typename Work> [[nodiscard]] auto resultInBackground(Work work)
 {
     decltype(work()) result{};
     performInBackground([&] { result = work(); });

@@ -17,7 +17,9 @@ bool isEscapedByte(QChar character)
 /// Length of the valid UTF-8 sequence that starts at the position (shortest form, no surrogates), or 0.
 qsizetype sequenceLength(QByteArrayView bytes, qsizetype at)
 {
-    const auto byte = [&](qsizetype i) { return i < bytes.size() ? static_cast<uchar>(bytes[i]) : 0u; };
+    const auto byte = [&](qsizetype i) {
+        return i < bytes.size() ? static_cast<uchar>(bytes[i]) : 0u;
+    };
     const uint first = byte(at);
     if (first < 0x80)
         return 1;
@@ -146,7 +148,8 @@ QString absolutePath(const QString &path)
 
 bool isInside(const QString &path, const QString &folder)
 {
-    return path.size() > folder.size() && path.startsWith(folder) && (folder.endsWith(u'/') || path[folder.size()] == u'/');
+    return path.size() > folder.size() && path.startsWith(folder) &&
+           (folder.endsWith(u'/') || path[folder.size()] == u'/');
 }
 
 QString extensionOf(const QString &path)

@@ -31,11 +31,11 @@ enum class Cause {
 };
 
 /**
- * How an operation ended: well, or with its cause, the item it met it on, and a sentence about it. The one way to fail in
- * this program, below the operations whose results are given (a bool, a number). A plain value; must be looked at.
+ * How an operation ended: well, or with its cause, the item it met it on, and a sentence about it. The one way to fail
+ * in this program, below the operations whose results are given (a bool, a number). A plain value; must be looked at.
  *
- * Functions that work on descriptors inside one room leave errno as the kernel does; the first one that knows a path makes
- * an Outcome of it.
+ * Functions that work on descriptors inside one room leave errno as the kernel does; the first one that knows a path
+ * makes an Outcome of it.
  */
 class [[nodiscard]] Outcome
 {
@@ -71,8 +71,7 @@ private:
 };
 
 /** A value, or how it could not be had. */
-template <typename T>
-class [[nodiscard]] Result
+template <typename T> class [[nodiscard]] Result
 {
 public:
     Result(T value) // NOLINT: converts, so that a function may return either

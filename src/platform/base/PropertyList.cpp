@@ -109,9 +109,12 @@ QVariant fromNode(plist_t node)
         plist_get_real_val(node, &value);
         return value;
     }
-    case PLIST_STRING: return stringOf(node);
-    case PLIST_ARRAY: return listOf(node);
-    case PLIST_DICT: return mapOf(node);
+    case PLIST_STRING:
+        return stringOf(node);
+    case PLIST_ARRAY:
+        return listOf(node);
+    case PLIST_DICT:
+        return mapOf(node);
     case PLIST_DATE: {
         int32_t seconds = 0;
         int32_t microseconds = 0;
@@ -126,7 +129,8 @@ QVariant fromNode(plist_t node)
         free(data);
         return bytes;
     }
-    default: return {};
+    default:
+        return {};
     }
 }
 
@@ -146,12 +150,15 @@ QByteArray writableText(const QString &text)
 plist_t toNode(const QVariant &value)
 {
     switch (value.typeId()) {
-    case QMetaType::Bool: return plist_new_bool(value.toBool());
+    case QMetaType::Bool:
+        return plist_new_bool(value.toBool());
     case QMetaType::Int:
     case QMetaType::UInt:
     case QMetaType::LongLong:
-    case QMetaType::ULongLong: return plist_new_uint(static_cast<uint64_t>(value.toLongLong()));
-    case QMetaType::Double: return plist_new_real(value.toDouble());
+    case QMetaType::ULongLong:
+        return plist_new_uint(static_cast<uint64_t>(value.toLongLong()));
+    case QMetaType::Double:
+        return plist_new_real(value.toDouble());
     case QMetaType::QByteArray: {
         const QByteArray bytes = value.toByteArray();
         return plist_new_data(bytes.constData(), static_cast<uint64_t>(bytes.size()));
@@ -172,7 +179,8 @@ plist_t toNode(const QVariant &value)
             plist_array_append_item(node, toNode(item));
         return node;
     }
-    default: return plist_new_string(writableText(value.toString()).constData());
+    default:
+        return plist_new_string(writableText(value.toString()).constData());
     }
 }
 

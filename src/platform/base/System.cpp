@@ -33,7 +33,8 @@ int processorCount()
 
 double memoryInGibibytes()
 {
-    return static_cast<double>(sysconf(_SC_PHYS_PAGES)) * static_cast<double>(sysconf(_SC_PAGESIZE)) / 1024 / 1024 / 1024;
+    return static_cast<double>(sysconf(_SC_PHYS_PAGES)) * static_cast<double>(sysconf(_SC_PAGESIZE)) / 1024 / 1024 /
+           1024;
 }
 
 void prepareLocale()

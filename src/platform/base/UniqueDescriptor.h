@@ -9,8 +9,14 @@ class UniqueDescriptor
 {
 public:
     UniqueDescriptor() = default;
-    explicit UniqueDescriptor(int descriptor) : m_descriptor(descriptor) {}
-    UniqueDescriptor(UniqueDescriptor &&other) noexcept : m_descriptor(other.release()) {}
+    explicit UniqueDescriptor(int descriptor)
+        : m_descriptor(descriptor)
+    {
+    }
+    UniqueDescriptor(UniqueDescriptor &&other) noexcept
+        : m_descriptor(other.release())
+    {
+    }
     UniqueDescriptor &operator=(UniqueDescriptor &&other) noexcept
     {
         if (this != &other)

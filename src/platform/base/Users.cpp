@@ -11,8 +11,7 @@ namespace platform {
 namespace {
 
 /// One look into the user database, by either key.
-template <typename LookUp, typename Key>
-std::optional<Account> found(LookUp lookUp, Key key)
+template <typename LookUp, typename Key> std::optional<Account> found(LookUp lookUp, Key key)
 {
     std::array<char, 16384> buffer;
     passwd record{};

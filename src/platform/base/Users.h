@@ -20,7 +20,8 @@ struct Account
 /** Real user id 0. */
 [[nodiscard]] bool isSuperUser();
 
-/** Login name and home folder of this process's user. The home is $HOME where set, as shells and tools understand it. */
+/** Login name and home folder of this process's user. The home is $HOME where set, as shells and tools understand it.
+ */
 [[nodiscard]] QString loginName();
 [[nodiscard]] QString homeFolder();
 

@@ -6,8 +6,7 @@
 namespace platform {
 namespace {
 
-template <typename Write>
-bool writeEveryByte(const char *bytes, std::size_t count, Write write)
+template <typename Write> bool writeEveryByte(const char *bytes, std::size_t count, Write write)
 {
     std::size_t done = 0;
     while (done < count) {

@@ -1,11 +1,11 @@
 #include "platform/desktop/ApplicationLauncher.h"
 
-#include "platform/files/ApplicationBundle.h"
-#include "platform/process/ChildProcess.h"
-#include "platform/desktop/Desktop.h"
-#include "platform/files/FileSystem.h"
 #include "platform/base/NativePath.h"
+#include "platform/desktop/Desktop.h"
+#include "platform/files/ApplicationBundle.h"
+#include "platform/files/FileSystem.h"
 #include "platform/files/WholeFile.h"
+#include "platform/process/ChildProcess.h"
 
 #include <QProcess>
 #include <QStandardPaths>

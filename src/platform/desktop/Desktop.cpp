@@ -1,9 +1,9 @@
 #include "platform/desktop/Desktop.h"
 
-#include "platform/files/FileSystem.h"
 #include "platform/base/MainThread.h"
 #include "platform/base/NativePath.h"
 #include "platform/base/UniqueDescriptor.h"
+#include "platform/files/FileSystem.h"
 
 #include <QDBusConnection>
 #include <QDBusMessage>

@@ -12,14 +12,22 @@ namespace {
 QString below(FolderKind kind)
 {
     switch (kind) {
-    case FolderKind::Applications: return QStringLiteral("/Applications");
-    case FolderKind::AdminApplications: return QStringLiteral("/Applications/Utilities");
-    case FolderKind::Documents: return QStringLiteral("/Documents");
-    case FolderKind::Desktop: return QStringLiteral("/Desktop");
-    case FolderKind::Library: return QStringLiteral("/Library");
-    case FolderKind::Caches: return QStringLiteral("/Library/Caches");
-    case FolderKind::ApplicationSupport: return QStringLiteral("/Library/Application Support");
-    case FolderKind::Documentation: return QStringLiteral("/Library/Documentation");
+    case FolderKind::Applications:
+        return QStringLiteral("/Applications");
+    case FolderKind::AdminApplications:
+        return QStringLiteral("/Applications/Utilities");
+    case FolderKind::Documents:
+        return QStringLiteral("/Documents");
+    case FolderKind::Desktop:
+        return QStringLiteral("/Desktop");
+    case FolderKind::Library:
+        return QStringLiteral("/Library");
+    case FolderKind::Caches:
+        return QStringLiteral("/Library/Caches");
+    case FolderKind::ApplicationSupport:
+        return QStringLiteral("/Library/Application Support");
+    case FolderKind::Documentation:
+        return QStringLiteral("/Library/Documentation");
     }
     return {};
 }
@@ -29,9 +37,9 @@ QString userHome()
     return isSuperUser() ? superUserHome() : homeFolder();
 }
 
-/// The user's own choice of a folder (user-dirs.dirs of the xdg-user-dirs tool), in terms of userHome(): as super-user $HOME
-/// may be any folder, while callers expect /root. Read here, byte for byte: the toolkit's reader loses homes that are no
-/// UTF-8.
+/// The user's own choice of a folder (user-dirs.dirs of the xdg-user-dirs tool), in terms of userHome(): as super-user
+/// $HOME may be any folder, while callers expect /root. Read here, byte for byte: the toolkit's reader loses homes that
+/// are no UTF-8.
 QString chosenFolder(const QByteArray &name, const QString &otherwise)
 {
     const QString configured = fromNative(qgetenv("XDG_CONFIG_HOME"));

@@ -1,10 +1,9 @@
 #include "platform/files/ApplicationBundle.h"
 
-#include "platform/files/FileSystem.h"
 #include "platform/base/NativePath.h"
 #include "platform/base/System.h"
+#include "platform/files/FileSystem.h"
 #include "platform/files/WholeFile.h"
-
 
 namespace platform {
 

@@ -5,11 +5,15 @@
 
 namespace platform {
 
-/** An application's bundle: a folder with Contents/Info.plist and Contents/Resources. A plain value; reads on demand. */
+/** An application's bundle: a folder with Contents/Info.plist and Contents/Resources. A plain value; reads on demand.
+ */
 class ApplicationBundle
 {
 public:
-    explicit ApplicationBundle(QString path) : m_path(std::move(path)) {}
+    explicit ApplicationBundle(QString path)
+        : m_path(std::move(path))
+    {
+    }
 
     /** The program's own: Tessaro.app beside the running executable, or ../share/tessaro/Tessaro.app when installed. */
     static const ApplicationBundle &main();

@@ -1,8 +1,8 @@
 #include "platform/files/CopyOperation.h"
 
+#include "platform/base/MainThread.h"
 #include "platform/files/FileSystem.h"
 #include "platform/files/FileTree.h"
-#include "platform/base/MainThread.h"
 #include "platform/files/TreeCopy.h"
 
 #include <QCoreApplication>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/files/FileCopy.h"
 #include "platform/base/Outcome.h"
+#include "platform/files/FileCopy.h"
 
 #include <QMetaType>
 #include <functional>
@@ -29,8 +29,8 @@ public:
     struct Reports
     {
         std::function<void(const Ref &, const Progress &)> running; ///< at most once a second
-        /// Exactly once; Cause::Cancelled when it was cancelled. The text names the first item whose labels the destination
-        /// could not take; null if none.
+        /// Exactly once; Cause::Cancelled when it was cancelled. The text names the first item whose labels the
+        /// destination could not take; null if none.
         std::function<void(const Ref &, const Outcome &, const QString &attributesLost)> ended;
     };
 

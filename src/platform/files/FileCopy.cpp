@@ -164,8 +164,7 @@ bool copyAttributes(int source, int destination)
     return kept;
 }
 
-EntryResult copyRegular(int sourceFolder, const char *from, int destinationFolder, const char *to,
-                        CopyMonitor *monitor)
+EntryResult copyRegular(int sourceFolder, const char *from, int destinationFolder, const char *to, CopyMonitor *monitor)
 {
     EntryResult result;
     const UniqueDescriptor source = openFile(sourceFolder, from);

@@ -28,7 +28,8 @@ void giveToOwnerOfFolder(const UniqueDescriptor &file, const PathAt &at)
 {
     struct stat folder;
     const QByteArray name = at.name();
-    const QByteArray above = name.contains('/') ? name.first(qMax<qsizetype>(1, name.lastIndexOf('/'))) : QByteArray(".");
+    const QByteArray above =
+        name.contains('/') ? name.first(qMax<qsizetype>(1, name.lastIndexOf('/'))) : QByteArray(".");
     if (geteuid() == 0 && fstatat(at.folder(), above.constData(), &folder, 0) == 0)
         static_cast<void>(fchown(file.get(), folder.st_uid, folder.st_gid) == 0);
 }

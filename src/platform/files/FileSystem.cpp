@@ -1,12 +1,12 @@
 #include "platform/files/FileSystem.h"
 
-#include "platform/files/FolderReader.h"
 #include "platform/base/NativePath.h"
+#include "platform/files/FolderReader.h"
 #include "platform/files/PathAt.h"
 
 #include <algorithm>
-#include <climits>
 #include <cerrno>
+#include <climits>
 #include <cstdlib>
 #include <dirent.h>
 #include <fcntl.h>
@@ -20,10 +20,10 @@ namespace {
 
 FileKind kindOfMode(mode_t mode)
 {
-    return S_ISREG(mode) ? FileKind::File
-         : S_ISDIR(mode) ? FileKind::Folder
-         : S_ISLNK(mode) ? FileKind::Link
-                         : FileKind::Other;
+    return S_ISREG(mode)   ? FileKind::File
+           : S_ISDIR(mode) ? FileKind::Folder
+           : S_ISLNK(mode) ? FileKind::Link
+                           : FileKind::Other;
 }
 
 bool statItem(const QString &path, struct stat &info, int flags)
@@ -211,8 +211,7 @@ Outcome makeFolders(const QString &path)
 Outcome touchItem(const QString &path)
 {
     const PathAt at(path);
-    return utimensat(at.folder(), at.name(), nullptr, AT_SYMLINK_NOFOLLOW) == 0 ? Outcome()
-                                                                               : Outcome::fromErrno(path);
+    return utimensat(at.folder(), at.name(), nullptr, AT_SYMLINK_NOFOLLOW) == 0 ? Outcome() : Outcome::fromErrno(path);
 }
 
 } // namespace platform

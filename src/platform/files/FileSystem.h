@@ -8,8 +8,8 @@
 #include <optional>
 
 /**
- * The file system, by path, of any length and with names of any bytes. Everything here blocks the calling thread and may
- * be called on any. Nothing here asks, logs or falls back to anything: that is for the rooms above.
+ * The file system, by path, of any length and with names of any bytes. Everything here blocks the calling thread and
+ * may be called on any. Nothing here asks, logs or falls back to anything: that is for the rooms above.
  */
 namespace platform {
 

@@ -1,8 +1,8 @@
 #include "platform/files/FileTree.h"
 
+#include "platform/base/NativePath.h"
 #include "platform/files/FileSystem.h"
 #include "platform/files/FolderReader.h"
-#include "platform/base/NativePath.h"
 #include "platform/files/PathAt.h"
 #include "platform/files/TreeCopy.h"
 

@@ -8,8 +8,8 @@
 #include <functional>
 
 /**
- * What walks a whole tree, by descriptor: no path is looked up twice, a link is never followed, and no depth makes a path
- * too long. Everything here blocks the calling thread and may be called on any.
+ * What walks a whole tree, by descriptor: no path is looked up twice, a link is never followed, and no depth makes a
+ * path too long. Everything here blocks the calling thread and may be called on any.
  */
 namespace platform {
 

@@ -1,7 +1,7 @@
 #include "platform/files/FinderInfo.h"
 
-#include "platform/files/FileSystem.h"
 #include "platform/base/NativePath.h"
+#include "platform/files/FileSystem.h"
 #include "platform/files/PathAt.h"
 
 #include <array>
@@ -29,8 +29,7 @@ QByteArray attributePath(const PathAt &at)
 }
 
 /// An attribute's calls, for a path or an open item.
-template <typename Get>
-std::optional<Attribute> readAttribute(Get get)
+template <typename Get> std::optional<Attribute> readAttribute(Get get)
 {
     Attribute attribute{};
     const ssize_t size = get(attribute.data(), attribute.size());
@@ -41,15 +40,13 @@ std::optional<Attribute> readAttribute(Get get)
     return std::nullopt;
 }
 
-template <typename Get>
-quint16 wordBy(Get get)
+template <typename Get> quint16 wordBy(Get get)
 {
     const std::optional<Attribute> attribute = readAttribute(get);
     return attribute ? static_cast<quint16>((*attribute)[8] << 8 | (*attribute)[9]) : quint16{0};
 }
 
-template <typename Get, typename Set>
-bool setWordBy(Get get, Set set, quint16 word, quint16 mask)
+template <typename Get, typename Set> bool setWordBy(Get get, Set set, quint16 word, quint16 mask)
 {
     std::optional<Attribute> attribute = readAttribute(get);
     if (!attribute && errno != ENODATA) // of another size it belongs to someone else, and is not overwritten

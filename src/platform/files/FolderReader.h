@@ -17,9 +17,9 @@ struct RawEntry
 [[nodiscard]] UniqueDescriptor openFolder(int parent, const char *name);
 
 /**
- * Opens a plain file below a folder for reading, never through a link and never waiting for a writer: what became a FIFO
- * since it was listed fails with ESTALE. Only a file that another process holds a lease on (a file server) is waited for.
- * Empty on failure, with errno.
+ * Opens a plain file below a folder for reading, never through a link and never waiting for a writer: what became a
+ * FIFO since it was listed fails with ESTALE. Only a file that another process holds a lease on (a file server) is
+ * waited for. Empty on failure, with errno.
  */
 [[nodiscard]] UniqueDescriptor openFile(int parent, const char *name);
 

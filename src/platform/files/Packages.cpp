@@ -1,9 +1,9 @@
 #include "platform/files/Packages.h"
 
+#include "platform/base/NativePath.h"
 #include "platform/files/ApplicationBundle.h"
 #include "platform/files/FileSystem.h"
 #include "platform/files/FinderInfo.h"
-#include "platform/base/NativePath.h"
 #include "platform/files/WholeFile.h"
 
 #include <QSet>

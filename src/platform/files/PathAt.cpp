@@ -8,7 +8,9 @@
 
 namespace platform {
 
-PathAt::PathAt(const QString &path, int room) : m_name(toNative(path)), m_folder(AT_FDCWD)
+PathAt::PathAt(const QString &path, int room)
+    : m_name(toNative(path))
+    , m_folder(AT_FDCWD)
 {
     while (m_name.size() + room >= PATH_MAX) {
         const qsizetype cut = m_name.lastIndexOf('/', qMin<qsizetype>(PATH_MAX - 2, m_name.size() - 1));

@@ -94,8 +94,8 @@ Result<Trash> homeTrashMade()
     return Trash{folder, {}};
 }
 
-/// The Trash of a drive: the user's folder in the administrator's .Trash, which must be a sticky folder and no link, else
-/// .Trash-UID.
+/// The Trash of a drive: the user's folder in the administrator's .Trash, which must be a sticky folder and no link,
+/// else .Trash-UID.
 Result<Trash> driveTrashMade(const QString &top)
 {
     const QString user = QString::number(geteuid());
@@ -140,7 +140,7 @@ QByteArray shortened(const QByteArray &name, qsizetype atMost)
 /// "Film.mov", "Film 2.mov", "Film 3.mov": the note's name, which is longer, must fit as well.
 QByteArray nameInTrash(const QByteArray &name, int attempt)
 {
-    const QByteArray addition = attempt < 2             ? QByteArray()
+    const QByteArray addition = attempt < 2               ? QByteArray()
                                 : attempt < numberedNames ? ' ' + QByteArray::number(attempt)
                                                           : ' ' + QUuid::createUuid().toByteArray(QUuid::Id128);
     const qsizetype dot = name.lastIndexOf('.');
@@ -151,10 +151,10 @@ QByteArray nameInTrash(const QByteArray &name, int attempt)
 
 QByteArray noteFor(const QString &path, const QString &pathsBelow)
 {
-    const QString written = pathsBelow.isNull() ? path : path.mid(pathsBelow.endsWith(u'/') ? pathsBelow.size()
-                                                                                            : pathsBelow.size() + 1);
-    return "[Trash Info]\nPath=" + toNative(written).toPercentEncoding("/") + "\nDeletionDate=" +
-           formatDate(QStringLiteral("%Y-%m-%dT%H:%M:%S"), std::time(nullptr)).toLatin1() + '\n';
+    const QString written =
+        pathsBelow.isNull() ? path : path.mid(pathsBelow.endsWith(u'/') ? pathsBelow.size() : pathsBelow.size() + 1);
+    return "[Trash Info]\nPath=" + toNative(written).toPercentEncoding("/") +
+           "\nDeletionDate=" + formatDate(QStringLiteral("%Y-%m-%dT%H:%M:%S"), std::time(nullptr)).toLatin1() + '\n';
 }
 
 /// A new note, whole and on disk; nothing of it is left on failure. Cause::Exists when the name is taken.
@@ -173,8 +173,8 @@ Outcome writeNote(const QString &path, const QByteArray &note)
 
 Outcome moveUnder(const QByteArray &name, const QString &path, const Trash &trash)
 {
-    const QString note = joined(joined(trash.folder, QStringLiteral("info")),
-                                fromNative(name + noteEnding.toByteArray()));
+    const QString note =
+        joined(joined(trash.folder, QStringLiteral("info")), fromNative(name + noteEnding.toByteArray()));
     if (const Outcome written = writeNote(note, noteFor(path, trash.pathsBelow)); !written.ok())
         return written;
     const PathAt from(path);
@@ -183,8 +183,8 @@ Outcome moveUnder(const QByteArray &name, const QString &path, const Trash &tras
         return {};
     Outcome failure = Outcome::fromErrno(path);
     // File systems without that flag: the note's name, which was free, has claimed the item's as well.
-    if (failure.is(Cause::NotSupported) && kindOf(joined(joined(trash.folder, QStringLiteral("files")),
-                                                         fromNative(name))) == FileKind::Missing) {
+    if (failure.is(Cause::NotSupported) &&
+        kindOf(joined(joined(trash.folder, QStringLiteral("files")), fromNative(name))) == FileKind::Missing) {
         if (renameat(from.folder(), from.name(), to.folder(), to.name()) == 0)
             return {};
         failure = Outcome::fromErrno(path);

@@ -1,10 +1,10 @@
 #include "platform/files/TreeCopy.h"
 
+#include "platform/base/NativePath.h"
 #include "platform/files/FileCopy.h"
 #include "platform/files/FileSystem.h"
 #include "platform/files/FileTree.h"
 #include "platform/files/FolderReader.h"
-#include "platform/base/NativePath.h"
 #include "platform/files/PathAt.h"
 
 #include <algorithm>
@@ -30,7 +30,9 @@ struct OpenFolder
 {
     UniqueDescriptor source;
     UniqueDescriptor destination;
-    struct stat info{};
+    struct stat info
+    {
+    };
     std::string path; ///< below the source folder given by the caller; for messages
     std::atomic<int> unfinished{1};
     bool keepMetadata = true; ///< false for the caller's own destination folder
@@ -54,10 +56,16 @@ struct Job
 class TreeCopier
 {
 public:
-    TreeCopier(QString sourceFolder, QString destinationFolder, const std::vector<NamePair> &names, CopyMonitor *monitor)
-        : m_sourceFolder(std::move(sourceFolder)), m_destinationFolder(std::move(destinationFolder)), m_names(names),
-          m_monitor(monitor), m_made(names.size()), m_firstFailed(names.size())
-    {}
+    TreeCopier(QString sourceFolder, QString destinationFolder, const std::vector<NamePair> &names,
+               CopyMonitor *monitor)
+        : m_sourceFolder(std::move(sourceFolder))
+        , m_destinationFolder(std::move(destinationFolder))
+        , m_names(names)
+        , m_monitor(monitor)
+        , m_made(names.size())
+        , m_firstFailed(names.size())
+    {
+    }
 
     CopyReport run();
 
@@ -81,7 +89,7 @@ private:
     const QString m_sourceFolder;
     const QString m_destinationFolder;
     const std::vector<NamePair> &m_names;
-    CopyMonitor *const m_monitor; ///< null when nobody watches
+    CopyMonitor *const m_monitor;          ///< null when nobody watches
     std::vector<std::atomic<char>> m_made; ///< per caller's entry: this call made something under its name
     std::atomic<std::size_t> m_firstFailed;
 
@@ -163,7 +171,9 @@ bool TreeCopier::wouldCopyIntoItself(const FolderPtr &root, const Entry &entry) 
     if (fstatat(root->source.get(), entry.from.c_str(), &source, AT_SYMLINK_NOFOLLOW) != 0)
         return false;
     UniqueDescriptor ancestor(openat(root->destination.get(), ".", O_PATH | O_DIRECTORY | O_CLOEXEC));
-    struct stat previous{};
+    struct stat previous
+    {
+    };
     for (struct stat info; ancestor.isOpen() && fstat(ancestor.get(), &info) == 0; previous = info) {
         if (info.st_dev == source.st_dev && info.st_ino == source.st_ino)
             return true;
@@ -287,7 +297,8 @@ void TreeCopier::note(const EntryResult &result, const OpenFolder &folder, const
         return fail(entry.item, failureAt(ECANCELED, below(folder.path, entry.from)));
     if (m_monitor && !entry.from.empty()) // with no name it is a folder's metadata, and the folder has been counted
         ++m_monitor->items;
-    const std::string path = result.error != 0 || result.attributesLost ? below(folder.path, entry.from) : std::string();
+    const std::string path =
+        result.error != 0 || result.attributesLost ? below(folder.path, entry.from) : std::string();
     if (result.error != 0)
         return fail(entry.item, failureAt(result.error, path));
     const std::scoped_lock lock(m_mutex);

@@ -31,20 +31,21 @@ struct CopyReport
     /// How many entries, from the first on, are complete at the destination. All of them when the outcome is good.
     std::size_t copied = 0;
     Outcome outcome;
-    /// The first item whose extended attributes (label colours among them) the destination could not take; null if none.
+    /// The first item whose extended attributes (label colours among them) the destination could not take; null if
+    /// none.
     QString attributesLost;
 };
 
 /**
  * Copies entries of one folder into another, existing one. Ends as if one had been copied after the other up to the
- * first failure: of the entry that failed and of those after it, nothing is left that this call has made. An entry whose
- * destination name is taken fails with EEXIST and what stands there stays as it was.
+ * first failure: of the entry that failed and of those after it, nothing is left that this call has made. An entry
+ * whose destination name is taken fails with EEXIST and what stands there stays as it was.
  */
 [[nodiscard]] CopyReport copyEntries(const QString &sourceFolder, const QString &destinationFolder,
                                      const std::vector<NamePair> &entries, CopyMonitor *monitor = nullptr);
 
 /** One item, to exactly the destination path. On failure nothing is left there that this call has made. */
 Outcome copyItem(const QString &source, const QString &destination, QString *attributesLost = nullptr,
-                     CopyMonitor *monitor = nullptr);
+                 CopyMonitor *monitor = nullptr);
 
 } // namespace platform

@@ -23,9 +23,9 @@ QByteArray stampOf(const QString &file)
     struct stat info;
     if (stat(toNative(file).constData(), &info) != 0)
         return errno == ENOENT ? QByteArray() : QByteArray("unknown");
-    return QByteArray::number(static_cast<qulonglong>(info.st_ino)) + '.' + QByteArray::number(qlonglong{info.st_size}) +
-           '.' + QByteArray::number(qlonglong{info.st_mtim.tv_sec}) + '.' +
-           QByteArray::number(qlonglong{info.st_mtim.tv_nsec});
+    return QByteArray::number(static_cast<qulonglong>(info.st_ino)) + '.' +
+           QByteArray::number(qlonglong{info.st_size}) + '.' + QByteArray::number(qlonglong{info.st_mtim.tv_sec}) +
+           '.' + QByteArray::number(qlonglong{info.st_mtim.tv_nsec});
 }
 
 QString lockFileOf(const QString &file)
@@ -44,9 +44,11 @@ QString setAside(const QString &file)
 } // namespace
 
 UserDefaults::UserDefaults(QString userFile, QString machineFile, ProblemHandler onProblem)
-    : m_user{std::move(userFile), {}, {}, {}}, m_machine{std::move(machineFile), {}, {}, {}}
+    : m_user{std::move(userFile), {}, {}, {}}
+    , m_machine{std::move(machineFile), {}, {}, {}}
     , m_onProblem(std::move(onProblem))
-{}
+{
+}
 
 void UserDefaults::registerDefaults(const QVariantMap &defaults)
 {
@@ -55,8 +57,8 @@ void UserDefaults::registerDefaults(const QVariantMap &defaults)
 }
 
 /// Only where nothing stands there is no file, and only what was read whole and is no dictionary is damaged. Everything
-/// else (a server that does not answer, rights that are missing) says nothing about what the file holds: the values stay
-/// as they were last seen, and it is not replaced.
+/// else (a server that does not answer, rights that are missing) says nothing about what the file holds: the values
+/// stay as they were last seen, and it is not replaced.
 void UserDefaults::refresh(Domain &domain) const
 {
     const QByteArray stamp = stampOf(domain.file);
@@ -108,8 +110,10 @@ QString UserDefaults::string(const QString &key) const
     case QMetaType::Bool:
     case QMetaType::LongLong:
     case QMetaType::Int:
-    case QMetaType::Double: return found.toString();
-    default: return {};
+    case QMetaType::Double:
+        return found.toString();
+    default:
+        return {};
     }
 }
 
@@ -140,8 +144,7 @@ bool UserDefaults::equalsOne(const QString &key) const
 Outcome UserDefaults::store(Domain &domain, const QString &key, const QVariant &value)
 {
     refresh(domain);
-    if (domain.problem.ok() && domain.values.value(key) == value &&
-        domain.values.value(key).typeId() == value.typeId())
+    if (domain.problem.ok() && domain.values.value(key) == value && domain.values.value(key).typeId() == value.typeId())
         return {};
     const Outcome folderMade = makeFolders(parentPath(domain.file));
     Outcome lockFailure;

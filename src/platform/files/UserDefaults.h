@@ -19,7 +19,8 @@ namespace platform {
 class UserDefaults
 {
 public:
-    /** Called with one sentence for the log whenever a file is set aside or cannot be written. May come on any thread. */
+    /** Called with one sentence for the log whenever a file is set aside or cannot be written. May come on any thread.
+     */
     using ProblemHandler = std::function<void(const QString &)>;
 
     UserDefaults(QString userFile, QString machineFile, ProblemHandler onProblem);

@@ -41,12 +41,11 @@ QString behindLink(const QString &path)
     return realPath(path);
 }
 
-/// The bytes under a name of their own, on disk for good, with the mode of the old file or, without one, that of a new one.
-/// Nothing is left of them on failure, which leaves errno.
+/// The bytes under a name of their own, on disk for good, with the mode of the old file or, without one, that of a new
+/// one. Nothing is left of them on failure, which leaves errno.
 bool writeBeside(int folder, const QByteArray &name, const struct stat *old, const QByteArray &bytes)
 {
-    UniqueDescriptor file(
-        openat(folder, name.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, old ? 0600 : 0666));
+    UniqueDescriptor file(openat(folder, name.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, old ? 0600 : 0666));
     if (!file.isOpen())
         return false;
     struct stat place;
@@ -107,7 +106,8 @@ Outcome replaceFile(const QString &given, const QByteArray &bytes)
         unlinkat(folder.get(), growing.constData(), 0);
         return failure;
     }
-    // The new name lasts only when the folder is on disk, too; where folders cannot be synced there is nothing to wait for.
+    // The new name lasts only when the folder is on disk, too; where folders cannot be synced there is nothing to wait
+    // for.
     static_cast<void>(fsync(folder.get()));
     return {};
 }

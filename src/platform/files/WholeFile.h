@@ -19,9 +19,9 @@ inline constexpr qint64 largestWholeFile = qint64{64} * 1024 * 1024;
 [[nodiscard]] Result<QByteArray> readFile(const QString &path, qint64 atMost = largestWholeFile);
 
 /**
- * Puts the bytes in place of the file in one step: who reads it meanwhile, or after a power cut, finds the old or the new
- * file, whole. On failure the old file is untouched. The mode of the file that was there stays; as super-user the new one
- * belongs to the owner of its folder, who could never change it otherwise.
+ * Puts the bytes in place of the file in one step: who reads it meanwhile, or after a power cut, finds the old or the
+ * new file, whole. On failure the old file is untouched. The mode of the file that was there stays; as super-user the
+ * new one belongs to the owner of its folder, who could never change it otherwise.
  */
 Outcome replaceFile(const QString &path, const QByteArray &bytes);
 

@@ -13,9 +13,9 @@
 namespace platform {
 
 /**
- * One child process, started by absolute path, never through a shell. It leads nothing and inherits no descriptor but its
- * standard three. Never leaves a zombie: a child that is still running when the last owner lets go is collected in the
- * background. isRunning() and terminate() may be called from any thread, the rest from one.
+ * One child process, started by absolute path, never through a shell. It leads nothing and inherits no descriptor but
+ * its standard three. Never leaves a zombie: a child that is still running when the last owner lets go is collected in
+ * the background. isRunning() and terminate() may be called from any thread, the rest from one.
  */
 class ChildProcess
 {
@@ -23,7 +23,11 @@ public:
     enum class Output { Discarded, Captured };
     enum class ErrorOutput { Discarded, Captured };
 
-    ChildProcess(QString tool, QStringList arguments) : m_tool(std::move(tool)), m_arguments(std::move(arguments)) {}
+    ChildProcess(QString tool, QStringList arguments)
+        : m_tool(std::move(tool))
+        , m_arguments(std::move(arguments))
+    {
+    }
     ~ChildProcess();
     ChildProcess(const ChildProcess &) = delete;
     ChildProcess &operator=(const ChildProcess &) = delete;

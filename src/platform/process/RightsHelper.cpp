@@ -1,8 +1,8 @@
 #include "platform/process/RightsHelper.h"
 
 #include "helper/Protocol.h"
-#include "platform/files/ApplicationBundle.h"
 #include "platform/base/NativePath.h"
+#include "platform/files/ApplicationBundle.h"
 #include "platform/files/FileSystem.h"
 #include "platform/process/SocketProcess.h"
 
@@ -208,8 +208,8 @@ std::shared_ptr<RightsHelper> RightsHelper::start(Complaint complaint)
     auto parts = std::make_unique<Private>();
     parts->complaint = std::move(complaint);
     // Without its text agent: a question in a terminal that nobody looks at would wait for ever.
-    if (!parts->helperProcess.start({toNative(pkexec), "--disable-internal-agent", toNative(path())},
-                                   plainEnvironment())
+    if (!parts->helperProcess
+             .start({toNative(pkexec), "--disable-internal-agent", toNative(path())}, plainEnvironment())
              .ok() ||
         !parts->awaitReady())
         return nullptr;

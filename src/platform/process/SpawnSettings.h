@@ -9,8 +9,8 @@
 
 namespace platform {
 
-/** What posix_spawn wants to know, freed at the end. A tool gets the usual signals, whatever this program or its toolkit
-    ignores or blocks. */
+/** What posix_spawn wants to know, freed at the end. A tool gets the usual signals, whatever this program or its
+   toolkit ignores or blocks. */
 struct SpawnSettings
 {
     posix_spawn_file_actions_t files;

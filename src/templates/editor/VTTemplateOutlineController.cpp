@@ -1,10 +1,10 @@
 // The structure editor: set-up, reading the tree, and keeping the user's place in it.
 #include "templates/editor/VTTemplateOutlineController.h"
 
-#include "platform/files/ApplicationBundle.h"
-#include "platform/files/FileSystem.h"
 #include "platform/base/MainThread.h"
 #include "platform/base/NativePath.h"
+#include "platform/files/ApplicationBundle.h"
+#include "platform/files/FileSystem.h"
 #include "platform/files/Packages.h"
 #include "support/FileOperations.h"
 #include "support/Settings.h"
@@ -303,7 +303,8 @@ void VTTemplateOutlineController::editSelectedName()
         m_views.outlineView->edit(current);
 }
 
-void VTTemplateOutlineController::startJob(const ImportJob &job, platform::Outcome (*work)(const ImportJob &, const ImportHost &))
+void VTTemplateOutlineController::startJob(const ImportJob &job,
+                                           platform::Outcome (*work)(const ImportJob &, const ImportHost &))
 {
     using platform::MainThread;
     const auto waiting = platform::Waiting::Yes;
@@ -329,7 +330,8 @@ void VTTemplateOutlineController::startJob(const ImportJob &job, platform::Outco
             waiting);
     };
     ++m_jobs;
-    auto *thread = QThread::create([job, host, work] { static_cast<void>(work(job, host)); }); // it has said what failed
+    auto *thread =
+        QThread::create([job, host, work] { static_cast<void>(work(job, host)); }); // it has said what failed
     connect(thread, &QThread::finished, this, [this, thread] {
         thread->deleteLater();
         --m_jobs;

@@ -1,10 +1,10 @@
 // The structure editor's actions: add, import, remove, duplicate, rename, reveal, open, colour.
 #include "templates/editor/VTTemplateOutlineController.h"
 
-#include "platform/desktop/Desktop.h"
-#include "platform/files/FileSystem.h"
 #include "platform/base/FormatString.h"
 #include "platform/base/NativePath.h"
+#include "platform/desktop/Desktop.h"
+#include "platform/files/FileSystem.h"
 #include "support/FileOperations.h"
 #include "support/VTAlert.h"
 #include "support/VTLog.h"
@@ -130,8 +130,8 @@ void VTTemplateOutlineController::showImportFolderStructureDialog()
 
 void VTTemplateOutlineController::showImportPanel(bool foldersOnly)
 {
-    auto *panel =
-        new ImportPanel(m_views.outlineView->window(), foldersOnly ? ImportPanel::Takes::Folders : ImportPanel::Takes::FilesAndFolders);
+    auto *panel = new ImportPanel(m_views.outlineView->window(),
+                                  foldersOnly ? ImportPanel::Takes::Folders : ImportPanel::Takes::FilesAndFolders);
     panel->setWindowTitle(foldersOnly ? tr("Import Folder Structure") : tr("Import Files and Folders"));
     connect(panel, &QDialog::accepted, this, [this, panel, foldersOnly] {
         const ImportJob job{panel->chosen(), importDestination()};

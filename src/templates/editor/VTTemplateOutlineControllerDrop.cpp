@@ -1,17 +1,17 @@
 // The structure editor's drag and drop: what may land where, and moving items inside the tree.
 #include "templates/editor/VTTemplateOutlineController.h"
 
-#include "platform/files/FileSystem.h"
 #include "platform/base/FormatString.h"
 #include "platform/base/NativePath.h"
+#include "platform/files/FileSystem.h"
 #include "support/FileOperations.h"
 #include "support/VTAlert.h"
 #include "support/VTLog.h"
 #include "templates/EditingGuard.h"
 
 using platform::formatString;
-using platform::joined;
 using platform::isInside;
+using platform::joined;
 using platform::lastComponent;
 
 namespace {

@@ -1,8 +1,8 @@
 #include "templates/editor/VTTemplateTableController.h"
 
-#include "platform/desktop/Desktop.h"
 #include "platform/base/MainThread.h"
 #include "platform/base/NativePath.h"
+#include "platform/desktop/Desktop.h"
 #include "support/Notifications.h"
 #include "support/Settings.h"
 #include "support/VTLog.h"

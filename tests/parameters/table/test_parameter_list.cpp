@@ -1,13 +1,13 @@
 // Editing the list of parameters: what is shown of it, and where dragged rows arrive.
-#include "parameters/table/ParameterEditorModel.h"
-#include "parameters/ParameterStore.h"
-#include "platform/desktop/Desktop.h"
-#include "platform/base/LocalTime.h"
-#include "support/Notifications.h"
 #include "harness/Records.h"
-#include "support/Settings.h"
 #include "harness/StoredSettings.h"
 #include "harness/TemporaryHome.h"
+#include "parameters/ParameterStore.h"
+#include "parameters/table/ParameterEditorModel.h"
+#include "platform/base/LocalTime.h"
+#include "platform/desktop/Desktop.h"
+#include "support/Notifications.h"
+#include "support/Settings.h"
 
 #include <QAbstractItemModelTester>
 #include <QApplication>

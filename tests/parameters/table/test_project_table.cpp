@@ -1,12 +1,12 @@
 // The form in which a project is named, driven by keys in a window, and as an engine without one.
+#include "harness/OffscreenMessages.h"
+#include "harness/StoredSettings.h"
+#include "harness/TemporaryHome.h"
 #include "parameters/ParameterStore.h"
 #include "parameters/table/VTProjectTableController.h"
 #include "platform/desktop/Desktop.h"
 #include "support/Notifications.h"
-#include "harness/OffscreenMessages.h"
 #include "support/Settings.h"
-#include "harness/StoredSettings.h"
-#include "harness/TemporaryHome.h"
 #include "ui/PathControl.h"
 #include "ui/VTTabbedEditTableView.h"
 #include "ui/ValueCellDelegate.h"
@@ -190,8 +190,8 @@ private Q_SLOTS:
     void engineWithoutViews()
     {
         storeSetting(settings::filenameTemplate,
-                                      QVariantList{record("one"), record("two", remembered), record("7", {{"type", 2}}),
-                                                   record("", {{"type", 3}}), record("Green", chosen)});
+                     QVariantList{record("one"), record("two", remembered), record("7", {{"type", 2}}),
+                                  record("", {{"type", 3}}), record("Green", chosen)});
         VTProjectTableController engine;
         engine.awakeFromNib();
         const auto values = [&engine] {

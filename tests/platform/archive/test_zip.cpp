@@ -1,12 +1,12 @@
 // Archives: a round trip loses nothing, and no entry lands outside the destination, however it is written.
+#include "harness/TemporaryHome.h"
 #include "platform/archive/AppleDouble.h"
+#include "platform/archive/ZipFormat.h"
+#include "platform/base/NativePath.h"
 #include "platform/desktop/Desktop.h"
 #include "platform/files/FileSystem.h"
 #include "platform/files/FileTree.h"
 #include "platform/files/FinderInfo.h"
-#include "platform/base/NativePath.h"
-#include "platform/archive/ZipFormat.h"
-#include "harness/TemporaryHome.h"
 
 #include <QCoreApplication>
 #include <QTest>
@@ -240,7 +240,7 @@ private Q_SLOTS:
             copy.replace(at, bytes.size(), bytes);
             bad.append(copy);
         };
-        patched(20'000, "\x55\xAA\x55");                                      // the checksum is wrong
+        patched(20'000, "\x55\xAA\x55");                              // the checksum is wrong
         patched(good.indexOf("PK\3\4", 4) + 6, QByteArray("\11", 1)); // encrypted, says the entry
         QVERIFY(makeFolders(m_home->file("out")).ok());
         for (const QByteArray &bytes : bad) {

@@ -1,10 +1,10 @@
 // Paths: no byte of a name is lost or made up between the kernel, the program and the screen, at any length.
+#include "harness/TemporaryHome.h"
+#include "platform/base/NativePath.h"
 #include "platform/desktop/Desktop.h"
 #include "platform/files/FileSystem.h"
 #include "platform/files/FileTree.h"
 #include "platform/files/FinderInfo.h"
-#include "platform/base/NativePath.h"
-#include "harness/TemporaryHome.h"
 
 #include <QCoreApplication>
 #include <QTest>

@@ -1,8 +1,8 @@
 // The program's own formatter and its dates, which depend neither on the C library's formatter nor on the locale.
-#include "platform/desktop/Desktop.h"
+#include "harness/TemporaryHome.h"
 #include "platform/base/FormatString.h"
 #include "platform/base/LocalTime.h"
-#include "harness/TemporaryHome.h"
+#include "platform/desktop/Desktop.h"
 
 #include <QCoreApplication>
 #include <QProcess>

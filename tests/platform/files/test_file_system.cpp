@@ -1,10 +1,10 @@
 // The file system by path: listing order, moving without overwriting, removing and dating without following links.
+#include "harness/TemporaryHome.h"
+#include "platform/base/NativePath.h"
 #include "platform/desktop/Desktop.h"
 #include "platform/files/FileSystem.h"
 #include "platform/files/FileTree.h"
 #include "platform/files/FinderInfo.h"
-#include "platform/base/NativePath.h"
-#include "harness/TemporaryHome.h"
 
 #include <QCoreApplication>
 #include <QTest>

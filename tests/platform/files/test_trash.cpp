@@ -1,10 +1,10 @@
 // The Trash: what is trashed can be seen there and put back, and success is only claimed of what arrived.
+#include "harness/TemporaryHome.h"
+#include "platform/base/NativePath.h"
 #include "platform/desktop/Desktop.h"
 #include "platform/files/FileSystem.h"
 #include "platform/files/FileTree.h"
-#include "platform/base/NativePath.h"
 #include "platform/files/Trash.h"
-#include "harness/TemporaryHome.h"
 
 #include <QCoreApplication>
 #include <QDir>

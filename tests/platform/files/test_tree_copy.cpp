@@ -1,11 +1,11 @@
 // Copies of whole trees: everything kept, nothing followed, nothing overwritten, nothing half done left behind.
+#include "harness/TemporaryHome.h"
+#include "platform/base/NativePath.h"
 #include "platform/desktop/Desktop.h"
 #include "platform/files/FileSystem.h"
 #include "platform/files/FileTree.h"
 #include "platform/files/FinderInfo.h"
-#include "platform/base/NativePath.h"
 #include "platform/files/TreeCopy.h"
-#include "harness/TemporaryHome.h"
 
 #include <QCoreApplication>
 #include <QCryptographicHash>

@@ -1,10 +1,10 @@
 // The settings: types stay apart, and neither damage, nor missing rights, nor another writer loses a value.
-#include "platform/desktop/Desktop.h"
-#include "platform/files/FileSystem.h"
+#include "harness/TemporaryHome.h"
 #include "platform/base/NativePath.h"
 #include "platform/base/PropertyList.h"
+#include "platform/desktop/Desktop.h"
+#include "platform/files/FileSystem.h"
 #include "platform/files/UserDefaults.h"
-#include "harness/TemporaryHome.h"
 
 #include <QCoreApplication>
 #include <QTest>

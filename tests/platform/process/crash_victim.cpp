@@ -1,6 +1,6 @@
 // A program that crashes in the way it is told to, for the test of the reports.
-#include "platform/process/CrashReport.h"
 #include "platform/base/NativePath.h"
+#include "platform/process/CrashReport.h"
 
 #include <csignal>
 #include <cstdio>

@@ -1,6 +1,6 @@
 // A real crash, and what is on disk after it.
-#include "platform/desktop/Desktop.h"
 #include "harness/TemporaryHome.h"
+#include "platform/desktop/Desktop.h"
 
 #include <QDir>
 #include <QProcess>

@@ -1,10 +1,10 @@
 // The tree of a template in memory: what is read, what is shown of it, and what a drop on it means.
+#include "harness/TemporaryHome.h"
+#include "platform/base/NativePath.h"
 #include "platform/desktop/Desktop.h"
 #include "platform/files/FileSystem.h"
 #include "platform/files/FileTree.h"
 #include "platform/files/FinderInfo.h"
-#include "platform/base/NativePath.h"
-#include "harness/TemporaryHome.h"
 #include "support/VTFileManager.h"
 #include "templates/editor/TemplateTreeModel.h"
 #include "ui/VTImageTextCell.h"
