@@ -22,6 +22,11 @@ using platform::printToConsole;
 
 namespace {
 
+struct KeyNames
+{
+    Q_DECLARE_TR_FUNCTIONS(KeyNames)
+};
+
 struct KeyName
 {
     char16_t character;
@@ -29,11 +34,18 @@ struct KeyName
 };
 /// The navigation keys twice, as layouts give them; Return and Enter the wrong way round. Both must stay.
 constexpr KeyName keyNames[]{
-    {0xF700, "Up Arrow"}, {0xF701, "Down Arrow"}, {0xF702, "Left Arrow"}, {0xF703, "Right Arrow"}, {0xF729, "Home"},
-    {0xF72B, "End"},      {0xF72C, "Page Up"},    {0xF72D, "Page Down"},  {0x1E, "Up Arrow"},      {0x1F, "Down Arrow"},
-    {0x1C, "Left Arrow"}, {0x1D, "Right Arrow"},  {0x01, "Home"},         {0x04, "End"},           {0x0B, "Page Up"},
-    {0x0C, "Page Down"},  {0x03, "Return"},       {0x09, "Tab"},          {0x19, "Backtab"},       {0x0D, "Enter"},
-    {0x08, "Backspace"},  {0x7F, "Delete"},       {0x1B, "Escape"},       {0x20, "Space"},
+    {0xF700, QT_TRANSLATE_NOOP("KeyNames", "Up Arrow")},   {0xF701, QT_TRANSLATE_NOOP("KeyNames", "Down Arrow")},
+    {0xF702, QT_TRANSLATE_NOOP("KeyNames", "Left Arrow")}, {0xF703, QT_TRANSLATE_NOOP("KeyNames", "Right Arrow")},
+    {0xF729, QT_TRANSLATE_NOOP("KeyNames", "Home")},       {0xF72B, QT_TRANSLATE_NOOP("KeyNames", "End")},
+    {0xF72C, QT_TRANSLATE_NOOP("KeyNames", "Page Up")},    {0xF72D, QT_TRANSLATE_NOOP("KeyNames", "Page Down")},
+    {0x1E, QT_TRANSLATE_NOOP("KeyNames", "Up Arrow")},     {0x1F, QT_TRANSLATE_NOOP("KeyNames", "Down Arrow")},
+    {0x1C, QT_TRANSLATE_NOOP("KeyNames", "Left Arrow")},   {0x1D, QT_TRANSLATE_NOOP("KeyNames", "Right Arrow")},
+    {0x01, QT_TRANSLATE_NOOP("KeyNames", "Home")},         {0x04, QT_TRANSLATE_NOOP("KeyNames", "End")},
+    {0x0B, QT_TRANSLATE_NOOP("KeyNames", "Page Up")},      {0x0C, QT_TRANSLATE_NOOP("KeyNames", "Page Down")},
+    {0x03, QT_TRANSLATE_NOOP("KeyNames", "Return")},       {0x09, QT_TRANSLATE_NOOP("KeyNames", "Tab")},
+    {0x19, QT_TRANSLATE_NOOP("KeyNames", "Backtab")},      {0x0D, QT_TRANSLATE_NOOP("KeyNames", "Enter")},
+    {0x08, QT_TRANSLATE_NOOP("KeyNames", "Backspace")},    {0x7F, QT_TRANSLATE_NOOP("KeyNames", "Delete")},
+    {0x1B, QT_TRANSLATE_NOOP("KeyNames", "Escape")},       {0x20, QT_TRANSLATE_NOOP("KeyNames", "Space")},
 };
 
 QString ownIdentifier()
@@ -101,7 +113,7 @@ QString VTShortcutKeyTableDelegate::nameOfKeyText(const QString &text)
 {
     for (const KeyName &entry : keyNames) {
         if (!text.isEmpty() && text.front() == QChar(entry.character))
-            return QCoreApplication::translate("KeyNames", entry.name);
+            return KeyNames::tr(entry.name);
     }
     return text;
 }

@@ -23,6 +23,11 @@ using platform::Outcome;
 
 namespace {
 
+struct Text
+{
+    Q_DECLARE_TR_FUNCTIONS(FileOperations)
+};
+
 /// Where only the letter case changes, the old path may still resolve; a short fixed pause stands in for the wait.
 constexpr std::chrono::microseconds caseRenamePause{500};
 
@@ -217,8 +222,5 @@ QString withCause(const QString &informativeText, const Outcome &failure)
 
 QString checkDestination(const Outcome &failure)
 {
-    return withCause(
-        QCoreApplication::translate("FileOperations",
-                                    "Please check that you have write permissions for the destination directory."),
-        failure);
+    return withCause(Text::tr("Please check that you have write permissions for the destination directory."), failure);
 }

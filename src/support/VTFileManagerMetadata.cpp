@@ -15,6 +15,11 @@ using platform::joined;
 
 namespace {
 
+struct Labels
+{
+    Q_DECLARE_TR_FUNCTIONS(Labels)
+};
+
 constexpr quint16 labelMask = 0x000E;
 
 /// By the label's number, that is half the index.
@@ -76,7 +81,7 @@ QString VTFileManager::labelName(int index)
                                       QT_TRANSLATE_NOOP("Labels", "orange")};
     if (index < 2 || index > 15)
         return {};
-    return QCoreApplication::translate("Labels", names[static_cast<std::size_t>(index) / 2 - 1]);
+    return Labels::tr(names[static_cast<std::size_t>(index) / 2 - 1]);
 }
 
 bool VTFileManager::isFileLocked(const QString &path)

@@ -9,12 +9,19 @@
 #include "support/VTLog.h"
 #include "templates/EditingGuard.h"
 
+#include <QCoreApplication>
+
 using platform::formatString;
 using platform::isInside;
 using platform::joined;
 using platform::lastComponent;
 
 namespace {
+
+struct Text
+{
+    Q_DECLARE_TR_FUNCTIONS(VTTemplateOutlineController)
+};
 
 constexpr std::chrono::seconds patience{20};
 
@@ -25,17 +32,15 @@ bool isThere(const QString &path)
 
 void tellUnableToMove(const QString &source, const QString &target, const platform::Outcome &failure)
 {
-    VTAlert::show({formatString(VTTemplateOutlineController::tr("Unable to move file %@ to %@"), source, target),
-                   checkDestination(failure)});
+    VTAlert::show({formatString(Text::tr("Unable to move file %@ to %@"), source, target), checkDestination(failure)});
 }
 
 bool mayOverwrite(const QString &name)
 {
-    using Outline = VTTemplateOutlineController;
-    return VTAlert::show({formatString(Outline::tr("%@ already exists. Overwrite?"), name),
-                          Outline::tr("This cannot be undone."),
-                          Outline::tr("Overwrite"),
-                          Outline::tr("Ignore"),
+    return VTAlert::show({formatString(Text::tr("%@ already exists. Overwrite?"), name),
+                          Text::tr("This cannot be undone."),
+                          Text::tr("Overwrite"),
+                          Text::tr("Ignore"),
                           {},
                           VTAlert::alternateReturn}) == VTAlert::defaultReturn;
 }
