@@ -80,10 +80,10 @@ int commands::setSetting(const Invocation &invocation)
         return complainAboutKey(invocation.argument(0));
     settings::Facts facts;
     if (setting->type == settings::Type::TemplateName) {
-        const auto names = VTDataController::templateNames(VTDataController::templateLocation());
-        if (!names)
-            return complain(names.outcome(), Text::tr("The template library cannot be read."));
-        facts.templates = *names;
+        auto &store = VTDataController::sharedController();
+        if (const Outcome read = store.populateTemplates(); !read.ok())
+            return complain(read, Text::tr("The template library cannot be read."));
+        facts.templates = store.templates();
     }
     const auto value = settings::checked(*setting, invocation.argument(1), facts);
     if (!value)

@@ -8,7 +8,9 @@
 #include "parameters/table/VTProjectTableController.h"
 #include "platform/base/NativePath.h"
 #include "platform/desktop/Desktop.h"
+#include "platform/files/ApplicationBundle.h"
 #include "platform/files/FileSystem.h"
+#include "platform/files/WholeFile.h"
 #include "support/Settings.h"
 #include "support/VTAlert.h"
 #include "ui/SheetPresenter.h"
@@ -58,6 +60,19 @@ class TestWindow : public QObject
     }
 
 private Q_SLOTS:
+    /// What the list of keys offers, the program can do, and the other way round.
+    void keysAndCommandsAgree()
+    {
+        const QString list = platform::ApplicationBundle::main().path() + "/Contents/VTKeys.plist";
+        QStringList offered;
+        for (const QVariant &command : platform::readPropertyListFile(list)->toMap()["VTKeys"].toList())
+            offered << command.toMap()["id"].toString();
+        QStringList known = TessaroAppDelegate::commandsOfShortcuts().keys();
+        std::sort(offered.begin(), offered.end());
+        std::sort(known.begin(), known.end());
+        QCOMPARE(offered, known);
+    }
+
     void init()
     {
         settings::registerDefaults();

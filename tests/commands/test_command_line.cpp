@@ -1,16 +1,20 @@
 // The command, as a process of its own: what it prints, how it ends, and what it leaves alone.
+#include "commands/Verb.h"
 #include "harness/Records.h"
 #include "harness/TemporaryHome.h"
+#include "platform/base/NativePath.h"
 #include "platform/base/PropertyList.h"
 #include "platform/desktop/Desktop.h"
 #include "platform/files/FileSystem.h"
 #include "platform/files/FileTree.h"
+#include "platform/files/WholeFile.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
 #include <QTest>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace {
@@ -123,6 +127,7 @@ private Q_SLOTS:
                                        {"templateLocation", "relative"},
                                        {"no such key", "1"}})
             QCOMPARE(run(QStringList{"settings", "set"} + bad).status, 2);
+        QVERIFY(run({"settings", "set", "defaultTemplate", "Nope"}).errors.contains("Photography"));
         QCOMPARE(run({"settings", "unset", "separatorChar"}).status, 0);
         const auto all = QJsonDocument::fromJson(run({"settings", "--json"}).output).object();
         QCOMPARE(all["separatorChar"].toString(), "_");
@@ -290,6 +295,75 @@ private Q_SLOTS:
                      {"templateLocation", QVariantMap{}},
                      {"filenameTemplate", QVariantList{1, oddRecord, QVariantMap{{"val", 41}}}}});
         QCOMPARE(createIn({}).status, 0);
+    }
+
+    /// Bytes that are no UTF-8, wherever they come from: the home folder, a file's name.
+    void bytesOfAnyKind()
+    {
+        const auto inShell = [&](const QString &script) {
+            QProcess shell;
+            shell.setWorkingDirectory(m_home->path());
+            shell.start("/bin/sh", {"-c", script, QCoreApplication::applicationDirPath() + "/Tessaro"});
+            return finished(shell);
+        };
+        const QString home = "bad=$(printf 'h\\377'); mkdir -p \"$bad\"; export HOME=\"$PWD/$bad\"; ";
+        QCOMPARE(inShell(home + "\"$0\" settings set separatorChar +").status, 0);
+        QCOMPARE(inShell(home + "\"$0\" settings get separatorChar").output, "+\n");
+        const QString folder = platform::joined(m_home->path(), platform::fromNative("h\xff"));
+        QVERIFY(platform::targetExists(folder + "/Library/Preferences/com.vantrel.Tessaro.plist"));
+        QVERIFY(platform::targetExists(folder + "/Library/Logs/Vantrel/Tessaro.1.task.log"));
+        QCOMPARE(inShell(home + "\"$0\" parameters export \"$bad.plist\"").status, 0);
+        QVERIFY(platform::readPropertyListFile(folder + ".plist").ok());
+        QCOMPARE(inShell("\"$0\" --help >/dev/full").status, 1);
+    }
+
+    /// A library that cannot be written to, a folder of a template that cannot be read: said, and no success.
+    void whatCannotBeDoneIsSaid()
+    {
+        if (geteuid() == 0)
+            QSKIP("Nothing is closed to the super-user");
+        const QString library = m_home->filePath("Library/Application Support/Vantrel/Tessaro/Templates");
+        QCOMPARE(run({"templates"}).status, 0);
+        writeFile(library + "/Film.tzt/Files/closed/x");
+        writeFile(library + "/Film.tzt/Files/two\nlines");
+        QCOMPARE(chmod((library + "/Film.tzt/Files/closed").toUtf8().constData(), 0), 0);
+        const Outcome shown = run({"template", "show", "Film"});
+        QVERIFY(shown.status == 1 && shown.errors.contains("closed: Permission denied"));
+        QCOMPARE(shown.output.count('\n'), 3); // a line end in a name tears nothing
+        const Outcome made = createIn({"--template", "Film", "--set", "Client=Acme"});
+        QCOMPARE(made.status, 1);
+        QCOMPARE(chmod(library.toUtf8().constData(), 0555), 0);
+        const Outcome restored = run({"template", "restore", "--yes"});
+        QCOMPARE(chmod(library.toUtf8().constData(), 0755), 0);
+        QCOMPARE(chmod((library + "/Film.tzt/Files/closed").toUtf8().constData(), 0755), 0);
+        QCOMPARE(restored.status, 1);
+        QVERIFY(restored.errors.contains("Permission denied"));
+        QVERIFY(platform::leadsToFolder(library + "/Photography.tzt/Files"));
+    }
+
+    /// Everything about the verbs comes from one table: each explains itself, and the shells take what they are given.
+    void verbsExplainThemselves()
+    {
+        for (const Verb &verb : verbs()) {
+            if (!verb.help)
+                continue;
+            const Outcome help = run(verb.name().split(' ') + QStringList{"--help"});
+            QVERIFY2(help.status == 0 && help.output.startsWith(verb.usage().toUtf8() + '\n'), verb.words);
+            for (const Option &option : verb.options)
+                QVERIFY2(help.output.contains(option.name), option.name);
+        }
+        QCOMPARE(everythingIn(m_home->path()), QStringList{target()}); // no log, no settings
+        QVERIFY(run({"settings", "set", "separatorChar"}).errors.contains("Usage: Tessaro settings set KEY VALUE\n"));
+        QVERIFY(run({"template", "sow", "Film"}).errors.contains("show"));
+        QVERIFY(run({"template", "structure", "Film"}).errors.contains("--from"));
+        const QString script = m_home->filePath("completion");
+        writeFile(script, run({"completion", "bash"}).output +
+                              "COMP_WORDS=(Tessaro template re); COMP_CWORD=2; _tessaro; echo \"${COMPREPLY[*]}\"\n");
+        QProcess bash;
+        bash.start("/bin/bash", {script});
+        QCOMPARE(finished(bash).output, "rename remove restore\n");
+        QVERIFY(run({"completion", "fish"}).output.contains("-l dry-run"));
+        QVERIFY(run({"manual-page"}).output.startsWith(".TH TESSARO 1"));
     }
 
     void listings()

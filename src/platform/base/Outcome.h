@@ -91,7 +91,8 @@ public:
     [[nodiscard]] const Outcome &outcome() const { return m_outcome; }
 
     [[nodiscard]] const T &operator*() const & { return *m_value; }
-    [[nodiscard]] T &&operator*() && { return *std::move(m_value); }
+    /** By value: a loop over what a function has just returned must not outlive it. */
+    [[nodiscard]] T operator*() && { return *std::move(m_value); }
     [[nodiscard]] const T *operator->() const { return &*m_value; }
     [[nodiscard]] T valueOr(T other) const { return m_value.value_or(std::move(other)); }
 

@@ -78,6 +78,50 @@ private Q_SLOTS:
         QCOMPARE(readFile(homeTrashFiles() + "/same.txt"), "first");
     }
 
+    /// Every name that the file system takes, beside its note, whose name is longer.
+    void longNames_data()
+    {
+        QTest::addColumn<QByteArray>("name");
+        for (const int length : {245, 246, 255})
+            QTest::addRow("%d bytes", length) << QByteArray(length, 'n');
+        QTest::newRow("with an extension") << QByteArray(250, 'n') + ".mov";
+        QTest::newRow("of three bytes a character") << QString(85, QChar(0x65E5)).toUtf8();
+        QTest::newRow("no UTF-8") << QByteArray(255, '\xE6');
+    }
+    void longNames()
+    {
+        QFETCH(QByteArray, name);
+        for (int i = 0; i < 3; ++i) { // namesakes, too
+            const QString item = joined(m_home.file("items"), fromNative(name));
+            writeFile(item, name);
+            const auto identity = identityOf(item);
+            QVERIFY(moveToTrash(item).ok());
+            int found = 0;
+            for (const FolderEntry &entry : *listFolder(homeTrashFiles())) {
+                if (identityOf(joined(homeTrashFiles(), entry.name)) != identity)
+                    continue;
+                ++found;
+                const QString note = joined(parentPath(homeTrashFiles()), "info/" + entry.name + ".trashinfo");
+                QVERIFY(readFile(note).contains("Path=" + toNative(item).toPercentEncoding("/") + '\n'));
+            }
+            QCOMPARE(found, 1);
+        }
+    }
+
+    /// Where the note cannot be written the item stays: without it nobody could put it back.
+    void needsItsNote()
+    {
+        if (geteuid() == 0)
+            QSKIP("No folder is closed to the super-user");
+        const QByteArray info = toNative(joined(parentPath(homeTrashFiles()), "info"));
+        writeFile(m_home.file("items/x"), "x");
+        QCOMPARE(chmod(info.constData(), 0555), 0);
+        const Outcome trashed = moveToTrash(m_home.file("items/x"));
+        QCOMPARE(chmod(info.constData(), 0700), 0);
+        QVERIFY(trashed.needsRights());
+        QCOMPARE(readFile(m_home.file("items/x")), "x");
+    }
+
     void leavesWhatItCannotTake()
     {
         QVERIFY(moveToTrash(m_home.file("items/missing")).is(Cause::Missing));
