@@ -7,7 +7,7 @@
 /**
  * Changes to the template library on disk: what the window's list and the command do. Failures are told through VTAlert
  * and logged; afterwards the caller builds the list anew, which shows what the disk holds. Block; main thread, but for
- * add().
+ * addTemplate().
  */
 namespace library {
 

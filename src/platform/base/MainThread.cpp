@@ -13,7 +13,8 @@
 namespace platform {
 namespace {
 
-/// Closed once; waited for by a thread that looks again at least every second.
+/// Opened once. Who waits for it goes on at once then, or within a second after the application has gone: nobody will open
+/// it any more.
 class Gate
 {
 public:
