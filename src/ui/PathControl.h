@@ -23,7 +23,6 @@ public:
      * stay. What is drawn never leaves the control.
      */
     void raiseOrigin();
-    [[nodiscard]] qreal originRaised() const { return m_originRaised; }
 
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;

@@ -8,10 +8,23 @@
 #include "ui/VTTableView.h"
 
 #include <QApplication>
+#include <QBitmap>
 #include <QContextMenuEvent>
 #include <QLineEdit>
 #include <QStandardItemModel>
 #include <QTest>
+
+namespace {
+
+QRegion drawnBy(QWidget &widget)
+{
+    QImage image(widget.size(), QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    widget.render(&image, {}, {}, QWidget::DrawChildren);
+    return QRegion(QBitmap::fromImage(image.createAlphaMask()));
+}
+
+} // namespace
 
 class TestPanels : public QObject
 {
@@ -27,26 +40,56 @@ private Q_SLOTS:
         QVERIFY2(!Qt::mightBeRichText(control.toolTip()) || control.toolTip().contains("&lt;b&gt;"), "Shown as markup");
     }
 
+    /// Each time by 1.6 points from where it is, and never out of sight.
+    void pathIsRaised_data()
+    {
+        QTest::addColumn<int>("times");
+        QTest::addColumn<int>("by");
+        QTest::newRow("five times") << 5 << 8;
+        QTest::newRow("as far as there is room") << 100 << 42;
+    }
+    void pathIsRaised()
+    {
+        QFETCH(int, times);
+        PathControl control;
+        control.setPath("/Acme");
+        control.resize(control.sizeHint().width(), control.sizeHint().height() + 72); // 42 above what is drawn
+        const QRegion before = drawnBy(control);
+        for (int i = 0; i < times; ++i)
+            control.raiseOrigin();
+        QTEST(before.boundingRect().top() - drawnBy(control).boundingRect().top(), "by");
+        QCOMPARE(drawnBy(control).boundingRect().height(), before.boundingRect().height());
+    }
+
+    void panelEndsAtOnce_data()
+    {
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<bool>("ends");
+        QTest::newRow("a name") << "New ~ 100% 🎬" << true;
+        QTest::newRow("a folder's") << "Folder" << true;
+        QTest::newRow("a file's") << "File.txt" << true;
+        QTest::newRow("a way in") << "Folder/" << false; // no name
+        QTest::newRow("a way out") << ".." << false;
+    }
     void panelEndsAtOnce()
     {
+        QFETCH(QString, typed);
+        QFETCH(bool, ends);
         const TemporaryHome home;
         writeFile(home.file("Here/Folder/Inside/x"));
         writeFile(home.file("Here/File.txt"));
-        for (const QString typed : {"New ~ 100% 🎬", "Folder", "File.txt", "Folder/", ".."}) {
-            const bool ends = typed != "Folder/" && typed != ".."; // the others are ways to go, and no names
-            VTSavePanel panel(nullptr);
-            panel.setDirectory(home.path() + "/Here");
-            panel.setSuggestedName("Suggested");
-            panel.open();
-            auto *edit = panel.findChild<QLineEdit *>("fileNameEdit");
-            QCOMPARE(edit->text(), "Suggested");
-            edit->setText(typed);
-            QTest::keyClick(edit, Qt::Key_Return);
-            QCOMPARE(panel.result() == QDialog::Accepted, ends);
-            QCOMPARE(panel.isVisible(), !ends);
-            if (ends)
-                QCOMPARE(panel.chosenPath(), home.path() + "/Here/" + typed);
-        }
+        VTSavePanel panel(nullptr);
+        panel.setDirectory(home.path() + "/Here");
+        panel.setSuggestedName("Suggested");
+        panel.open();
+        auto *edit = panel.findChild<QLineEdit *>("fileNameEdit");
+        QCOMPARE(edit->text(), "Suggested");
+        edit->setText(typed);
+        QTest::keyClick(edit, Qt::Key_Return);
+        QCOMPARE(panel.result() == QDialog::Accepted, ends);
+        QCOMPARE(panel.isVisible(), !ends);
+        if (ends)
+            QCOMPARE(panel.chosenPath(), home.path() + "/Here/" + typed);
     }
 
     void contextMenuSelects()
