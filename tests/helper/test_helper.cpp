@@ -112,6 +112,7 @@ private Q_SLOTS:
         row("by a link to it", "/bin/rm", {"-Rdf", "%/link"}, EPERM);
         row("by a link on the way", "/bin/rm", {"-Rdf", "%/link/share"}, ENOTDIR);
         row("by a link and dots", "/bin/rm", {"-Rdf", "%/link/../usr"}, ENOTDIR);
+        row("the root of a mounted drive", "/bin/rm", {"-Rdf", "/dev/shm"}, EBUSY);
         row("the home", "/bin/rm", {"-Rdf", "%"}, EPERM);
         row("a folder of the home", "/bin/mv", {"-f", "%/Documents", "%/x"}, EPERM);
         row("a folder of its library", "/bin/rm", {"-Rdf", "%/Library/Preferences"}, EPERM);

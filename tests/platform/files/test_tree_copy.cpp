@@ -18,6 +18,7 @@
 #include <sys/mount.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <sys/xattr.h>
 #include <unistd.h>
 
@@ -102,7 +103,22 @@ void setMode(const QString &path, mode_t mode)
     QCOMPARE(chmod(native(path).constData(), mode), 0);
 }
 
+struct
+{
+    QByteArray name;
+    off_t length = 0;
+} shrinking; ///< the file that is cut off as soon as its copy begins, after its size was taken
+
 } // namespace
+
+/// In the C library's place: here another program gets in between.
+extern "C" ssize_t copy_file_range(int source, off64_t *sourceOffset, int destination, off64_t *destinationOffset,
+                                   size_t length, unsigned flags)
+{
+    if (!shrinking.name.isEmpty() && truncate(shrinking.name.constData(), shrinking.length) != 0)
+        return -1;
+    return syscall(SYS_copy_file_range, source, sourceOffset, destination, destinationOffset, length, flags);
+}
 
 class TestTreeCopy : public QObject
 {
@@ -238,10 +254,31 @@ private Q_SLOTS:
         }
     }
 
+    void noticesAFileThatShrinks_data()
+    {
+        QTest::addColumn<qint64>("start");
+        QTest::newRow("whole") << qint64{0};
+        QTest::newRow("behind a hole") << qint64{8 << 20};
+    }
+    void noticesAFileThatShrinks()
+    {
+        QFETCH(qint64, start);
+        const QString source = m_home->file("source");
+        writeFile(source);
+        const int file = open(native(source).constData(), O_WRONLY | O_CLOEXEC);
+        QCOMPARE(pwrite(file, QByteArray(300'000, 'x').constData(), 300'000, start), 300'000);
+        close(file);
+        shrinking = {native(source), start + 100'000};
+        const Outcome copied = copyItem(source, m_home->file("copy"));
+        shrinking = {};
+        QCOMPARE(copied.cause(), Cause::Unreachable);
+        QCOMPARE(namesIn(m_home->path()), QByteArrayList{"source"});
+    }
+
     void leavesNothingOnAFullDisk()
     {
         if (geteuid() != 0)
-            return; // only the super-user can mount; the limit above covers the way out
+            QSKIP("Only the super-user can mount; the limit on the size of files covers the way out.");
         QVERIFY2(unshare(CLONE_NEWNS) == 0, "Needs the right to mount");
         mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr);
         const QString full = m_home->file("full");
