@@ -8,15 +8,19 @@
 #include "harness/StoredSettings.h"
 #include "harness/TemporaryHome.h"
 #include "platform/base/NativePath.h"
+#include "platform/base/Users.h"
 #include "platform/desktop/Desktop.h"
 #include "platform/desktop/SingleInstance.h"
 #include "platform/files/FileSystem.h"
 #include "platform/files/FileTree.h"
 #include "support/Settings.h"
 #include "support/VTAlert.h"
+#include "support/VTAuthorization.h"
 #include "support/VTFileManager.h"
+#include "support/VTLog.h"
 #include "templates/VTDataController.h"
 #include "templates/editor/TemplatePane.h"
+#include "ui/ImportPanel.h"
 #include "ui/SheetPresenter.h"
 #include "ui/Spinner.h"
 #include "ui/VTOutlineView.h"
@@ -24,6 +28,7 @@
 
 #include <QDBusConnection>
 #include <QDBusMessage>
+#include <QDirIterator>
 #include <QLineEdit>
 #include <QMimeData>
 #include <QProcess>
@@ -33,6 +38,8 @@
 
 using platform::joined;
 using platform::targetExists;
+
+Q_DECLARE_METATYPE(std::function<void()>)
 
 class TestTemplatePane : public QObject
 {
@@ -91,6 +98,14 @@ class TestTemplatePane : public QObject
             addresses.append(QUrl::fromLocalFile(path));
         data->setUrls(addresses);
         return data;
+    }
+    QStringList everythingInTheLibrary() const
+    {
+        QStringList paths;
+        for (QDirIterator all(m_work->filePath("Library"), QDirIterator::Subdirectories); all.hasNext();)
+            paths.append(all.next());
+        paths.sort();
+        return paths;
     }
     void type(const QString &text) const
     {
@@ -219,6 +234,10 @@ private Q_SLOTS:
         QVERIFY(drop(dragged({"top.txt"}), "A"));
         QTRY_VERIFY(row("A/top.txt").isValid());
         QVERIFY(!row("top.txt").isValid());
+        // A file is moved onto the folder itself, where only the tool puts it inside.
+        VTLog::finishWriting();
+        QVERIFY(readFile(VTLog::sharedController().currentLogPath())
+                    .contains("Error moving file: " + files("A").toUtf8() + ": "));
         // Into its own descendant: refused, and what stands there is not deleted for it.
         writeFile(files("A/B/A/kept"), "kept");
         editor().populateTemplateStructure();
@@ -257,6 +276,47 @@ private Q_SLOTS:
         QTRY_VERIFY(row("C/A/x.txt").isValid());
         QCOMPARE(readFile(files("C/x.txt")), "other x");
         QCOMPARE(readFile(files("C/A/x.txt")), "x");
+    }
+
+    /// Where an administrator has to agree and nobody can be asked, nothing changes, whatever is tried.
+    void editingIsGuarded_data()
+    {
+        QTest::addColumn<std::function<void()>>("edit");
+        const auto row = [](const char *name, std::function<void()> edit) {
+            QTest::newRow(name) << std::move(edit);
+        };
+        row("new folder", [this] { editor().addFolder(); });
+        row("project item", [this] { editor().addProject(m_work->filePath("in/x.txt")); });
+        row("import files", [this] { editor().showImportFileDialog(); });
+        row("import folders", [this] { editor().showImportFolderStructureDialog(); });
+        row("remove items", [this] { editor().removeFiles(); });
+        row("duplicate items", [this] { editor().duplicateFiles(); });
+        row("drag inside", [this] { drop(dragged({"top.txt"}), "A"); });
+        row("drop from outside", [this] { drop(fromOutside({m_work->filePath("in/x.txt")}), "B"); });
+        row("new template", [this] { list().createNewTemplate(); });
+        row("duplicate template", [this] { list().duplicateTemplate(); });
+        row("remove template", [this] { list().removeTemplate(); });
+        row("default template", [this] { list().toggleDefault(); });
+    }
+    void editingIsGuarded()
+    {
+        if (platform::isSuperUser())
+            QSKIP("Nobody has to agree to what the super-user does.");
+        QFETCH(std::function<void()>, edit);
+        writeFile(m_work->filePath("in/x.txt"), "new");
+        storeSetting(settings::requireAdminPasswordForEditing, 1LL);
+        auto &authorization = VTAuthorization::sharedController();
+        authorization.setHasGUI(VTAuthorization::UserInterface::No);
+        const auto restore = qScopeGuard([&] { authorization.setHasGUI(VTAuthorization::UserInterface::Yes); });
+        select({"A/x.txt"});
+        const QStringList before = everythingInTheLibrary();
+        SheetAnswerer answers({"Remove"});
+        edit();
+        QCoreApplication::processEvents(); // a drop is taken in when the drag is over
+        editor().waitForImports();
+        QCOMPARE(everythingInTheLibrary(), before);
+        QVERIFY(answers.seen.isEmpty() && !window().findChild<ImportPanel *>());
+        QVERIFY(settings::defaultTemplate.text().isEmpty());
     }
 
     void droppingFromOutside()

@@ -143,9 +143,19 @@ private Q_SLOTS:
         }
     }
 
+    void theSavePanelGivesTheFolderOnly_data()
+    {
+        QTest::addColumn<qlonglong>("isFixed");
+        QTest::addColumn<QString>("before");
+        QTest::newRow("which is kept where projects go to one place") << 1LL << "";
+        QTest::newRow("for this once where they do not") << 0LL << "/somewhere else";
+    }
     void theSavePanelGivesTheFolderOnly()
     {
-        storeSetting(settings::fixedProjectLocationPath, "");
+        QFETCH(qlonglong, isFixed);
+        QFETCH(QString, before);
+        storeSetting(settings::useFixedProjectLocation, isFixed);
+        storeSetting(settings::fixedProjectLocationPath, before);
         open();
         m_delegate->tableController().setData(m_delegate->tableController().index(2, 1), "P", Qt::EditRole);
         const QString folder = m_work->filePath("Chosen");
@@ -160,7 +170,7 @@ private Q_SLOTS:
         QCOMPARE(name->text(), QString("007"));
         QTest::keyClick(name, Qt::Key_Return);
         QTRY_VERIFY(platform::targetExists(folder + "/007/P/P.txt"));
-        QCOMPARE(settings::standard().string(settings::fixedProjectLocationPath), folder);
+        QCOMPARE(settings::standard().string(settings::fixedProjectLocationPath), isFixed == 1 ? folder : before);
     }
 
     void thePopUp()
