@@ -147,7 +147,9 @@ private Q_SLOTS:
             QVERIFY(!Manager::createDirectory(file("closed") + "/new", auth));
             QVERIFY(!Manager::removeFile(file("closed/x"), auth));
             QVERIFY(!Manager::moveFile(file("closed/x"), file("taken"), auth));
-            QCOMPARE(logged().size(), 3);
+            QVERIFY(!Manager::copyFile(file("file"), file("file"), auth));
+            QCOMPARE(readFile(file("file")), "theirs"); // the clean-up leaves what stood there before
+            QCOMPARE(logged().size(), 4);
             // A folder never goes onto or into what stands there already, nor into itself.
             for (const QString &taken : {file("folder"), file("file"), file("source") + "/new"}) {
                 QVERIFY(!Manager::copyFile(file("source"), taken, auth));
