@@ -111,10 +111,10 @@ private Q_SLOTS:
         QCOMPARE(run({"clear-history"}).status, 0);
         // Where an administrator has to agree and nobody can be asked: not done, and said so.
         setSettings({{"requireAdminPasswordForEditing", 1}});
-        if (getuid() != 0) {
-            QCOMPARE(run({"template", "new", "Guarded"}).status, 3);
-            QCOMPARE(run({"template", "rename", "Two", "Too"}).status, 0); // not guarded in the window either
-        }
+        if (getuid() == 0)
+            QSKIP("Nobody has to agree to what the super-user does.");
+        QCOMPARE(run({"template", "new", "Guarded"}).status, 3);
+        QCOMPARE(run({"template", "rename", "Two", "Too"}).status, 0); // not guarded in the window either
     }
 
     void settingsAndParameters()
@@ -150,7 +150,7 @@ private Q_SLOTS:
         QCOMPARE(run({"parameters", "import", "list.plist", "--yes"}).status, 0);
         QCOMPARE(first()["title"].toString(), "Reel");
         if (getuid() == 0)
-            return;
+            QSKIP("Nobody has to agree to what the super-user does.");
         setSettings({{"requireAdminPasswordForPrefs", 1}}); // as the window's preferences are
         QCOMPARE(run({"settings", "set", "autoQuit", "on"}).status, 3);
         QCOMPARE(run({"parameters", "add", "X"}).status, 3);

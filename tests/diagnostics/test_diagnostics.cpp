@@ -241,7 +241,7 @@ private Q_SLOTS:
         const QString second = Utils::gatherLogsForApps({"My App"}, Silent::Yes);
         QVERIFY2(second.contains("/My App Logs_20"), qPrintable(second)); // the first stays
         if (getuid() == 0)
-            return;
+            QSKIP("The super-user reads everything.");
         chmod(joined(logs, "My App.1.log").toUtf8(), 0); // one that cannot be read: no archive that lacks it
         QVERIFY(Utils::gatherLogsForApps({"My App"}, Silent::Yes).isNull());
     }

@@ -105,7 +105,7 @@ private Q_SLOTS:
             QCOMPARE(readFile(shortcuts::filePath()), bad);
         }
         if (geteuid() == 0)
-            return;
+            QSKIP("The super-user writes into any folder.");
         QVERIFY(platform::removeTree(shortcuts::filePath()).ok());
         QCOMPARE(chmod(m_home.file("Library/Preferences").toUtf8(), 0500), 0);
         QVERIFY(!table.setKeyboardShortcut("new-project", {}, {39, 768}));
@@ -160,7 +160,7 @@ private Q_SLOTS:
     void capturesEveryKey()
     {
         if (geteuid() != 0)
-            return; // only the super-user can put the manager where it belongs
+            QSKIP("Only the super-user can put the manager where it belongs.");
         const QString manager = Delegate::managerPath();
         const bool hadLibrary = platform::targetExists("/Library");
         writeFile(manager, "#!/bin/sh\necho \"$@\" >>\"$HOME/ran\"\n");

@@ -104,7 +104,7 @@ private Q_SLOTS:
     void turnsFiveGenerations()
     {
         if (platform::isSuperUser())
-            return; // its current file lies beside no generations
+            QSKIP("The super-user's current file lies beside no generations.");
         for (const char *message : {"1", "2", "3", "4", "5", "6", "7"}) {
             VTLog::createNewLog();
             VTLog::appendLog(message);
@@ -135,7 +135,7 @@ private Q_SLOTS:
     void losesNoLine()
     {
         if (platform::isSuperUser())
-            return; // keeps no older generation
+            QSKIP("The super-user keeps no older generation.");
         for (int n = 1; n <= 5; ++n)
             VTLog::createNewLog();
         std::vector<std::thread> threads;
