@@ -23,8 +23,8 @@ QString below(const QString &folder, const char *component)
     return folder.isNull() ? QString() : platform::joined(folder, QString::fromLatin1(component));
 }
 
-/// The super-user's path below the console user's home. The second cut is one character shorter than its prefix; it
-/// must stay so, and the separator that is left over is what the joining needs anyway.
+/// The super-user's path below the console user's home. The last cut is one character shorter than its prefix and
+/// leaves the "t" of "root" as a folder; it must stay so.
 QString redirectedToConsoleUser(QString path)
 {
     if (path.startsWith(platform::superUserHome()))

@@ -135,9 +135,22 @@ private Q_SLOTS:
         QCOMPARE(name(87), QString("Alt+1")); // the keypad's
         QCOMPARE(Delegate::nameForKeyCode(39, 0x1B00), QString("Ctrl+Shift+Alt+Cmd+S"));
         QVERIFY(Delegate::nameForKeyCode(50, 0).isNull()); // Shift by itself
-        QCOMPARE(Delegate::nameOfKeyText(QString(QChar(0x1E))), QString("Up Arrow"));
-        QCOMPARE(Delegate::nameOfKeyText("\x03"), QString("Return"));
-        QCOMPARE(Delegate::nameOfKeyText("%"), QString("%"));
+    }
+
+    void namesOfKeyTexts_data()
+    {
+        QTest::addColumn<char16_t>("character");
+        QTest::addColumn<QString>("name");
+        QTest::newRow("an arrow") << u'\x1E' << "Up Arrow";
+        QTest::newRow("an arrow, by its other character") << u'\xF700' << "Up Arrow";
+        QTest::newRow("the keypad's Enter") << u'\x03' << "Return";
+        QTest::newRow("the Return key") << u'\r' << "Enter";
+        QTest::newRow("no key with a name") << u'%' << "%";
+    }
+    void namesOfKeyTexts()
+    {
+        QFETCH(char16_t, character);
+        QTEST(Delegate::nameOfKeyText(QString(QChar(character))), "name");
     }
 
     void bareKeysGetModifiers()

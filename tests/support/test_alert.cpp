@@ -130,6 +130,9 @@ private Q_SLOTS:
     {
         Delegate delegate;
         m_presenter->code = 0;
+        // With buttons by name, the delegate is not told and the caller waits all the same.
+        QCOMPARE(VTAlert::alertSheetWithMessageText("m", {}, {}, {}, {}, nullptr, &delegate, "ended", Block::No), 0);
+        QCOMPARE(delegate.codes, QList<qlonglong>());
         QCOMPARE(VTAlert::alertSheet({"m", {}}, nullptr, &delegate, "ended", Block::Yes, nullptr), 0);
         QCOMPARE(delegate.codes, QList<qlonglong>{0});
         m_presenter->delay = -1ms;

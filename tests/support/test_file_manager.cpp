@@ -8,11 +8,13 @@
 #include "platform/files/FinderInfo.h"
 #include "platform/files/Trash.h"
 #include "support/FileFallback.h"
+#include "support/VTAuthorization.h"
 #include "support/VTFileManager.h"
 #include "support/VTLog.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
+#include <QRegularExpression>
 #include <QScopeGuard>
 #include <QTest>
 #include <QThread>
@@ -163,6 +165,16 @@ private Q_SLOTS:
         QCOMPARE(namesIn(file("folder")) + namesIn(file("source")), QStringList{"x"});
     }
 
+    void movesAFileIntoAFolderThatStandsThere()
+    {
+        QVERIFY(platform::makeFolders(file("folder")).ok());
+        for (const char *contents : {"first", "second"}) { // but never onto a namesake
+            writeFile(file("x"), contents);
+            QCOMPARE(Manager::moveFile(file("x"), file("folder")), qstrcmp(contents, "first") == 0);
+        }
+        QCOMPARE(readFile(file("folder/x")) + readFile(file("x")), "firstsecond");
+    }
+
     void changesTheCaseWithoutLosingAnything()
     {
         writeFile(file("Project/x"), "mine");
@@ -200,6 +212,30 @@ private Q_SLOTS:
         static_cast<void>(Manager::moveFile(file("source"), elsewhere.filePath("moved")));
         platform::setImmutable(file("source/locked"), false);
         QCOMPARE(namesIn(elsewhere.filePath("moved")), QStringList{"locked"});
+    }
+
+    void namesWhatIsTakenInTheTrash()
+    {
+        for (const auto &[name, form] : {std::pair{"x.mov", "/x_\\d{14}\\.mov$"}, {"x", "/x_\\d{14}\\.$"}}) {
+            writeFile(platform::homeTrashFiles() + u'/' + name);
+            const QString target = VTAuthorization::sharedController().trashTarget(file(name));
+            QVERIFY2(QRegularExpression(form).match(target).hasMatch(), qPrintable(target));
+        }
+    }
+
+    /// Asked to delete in place of trashing, it deletes at the target, where nothing stands.
+    void deletesTheTargetInsteadOfTrashing()
+    {
+        if (!platform::isSuperUser())
+            QSKIP("Only the super-user deletes in place of trashing.");
+        writeFile(file("x"), "x");
+        auto &authorization = VTAuthorization::sharedController();
+        const QString target = authorization.trashTarget(file("x"));
+        QVERIFY(platform::makeFolders(platform::homeTrashFiles()).ok());
+        makeLink(target, "missing"); // counts as nothing, and shows when the tool is through
+        QVERIFY(authorization.authTrashFile(file("x"), VTAuthorization::DeleteOnRootAccount::Yes));
+        QTRY_VERIFY(kindOf(target) == FileKind::Missing);
+        QCOMPARE(readFile(file("x")), "x");
     }
 
     void trashesWhatMatches()

@@ -46,6 +46,31 @@ private Q_SLOTS:
         QVERIFY(names.constBegin()->startsWith(VTLocalPaths::tempDirectory() + u'/'));
     }
 
+    /// A folder of the super-user's is one of the console user's, cut off as it always was.
+    void redirectsTheSuperUsersFolders_data()
+    {
+        QTest::addColumn<QString>("chosen");
+        QTest::addColumn<QString>("folder");
+        QTest::newRow("in the home") << "$HOME/Desk"
+                                     << "~/Desk";
+        QTest::newRow("by the older name") << "/var/root/Desk"
+                                           << "~/Desk";
+        QTest::newRow("by the older name in full") << "/private/var/root/Desk"
+                                                   << "~/t/Desk";
+    }
+    void redirectsTheSuperUsersFolders()
+    {
+        if (!platform::isSuperUser())
+            QSKIP("Only the super-user's folders are redirected.");
+        QFETCH(QString, chosen);
+        QFETCH(QString, folder);
+        writeFile(qEnvironmentVariable("HOME") + "/.config/user-dirs.dirs",
+                  "XDG_DESKTOP_DIR=\"" + chosen.toUtf8() + "\"\n");
+        const QString desktop = VTLocalPaths::desktopDirectory();
+        QVERIFY(QFile::remove(qEnvironmentVariable("HOME") + "/.config/user-dirs.dirs"));
+        QCOMPARE(desktop, expanded(folder));
+    }
+
     void guardsTheStandardFolders()
     {
         const auto guard = [](const char *path) {

@@ -7,6 +7,7 @@
 #include "platform/desktop/Desktop.h"
 #include "platform/files/FileSystem.h"
 #include "platform/files/FileTree.h"
+#include "support/VTException.h"
 #include "support/VTLog.h"
 
 #include <QCoreApplication>
@@ -71,8 +72,12 @@ private Q_SLOTS:
         VTLog::appendLog("%@", "100% %@ %d");
         VTLog::appendLog("%@", platform::fromNative("\303\244 \377"));
         VTLog::appendLog("%@", " \n\t");
+        // What is printed as well is formatted twice.
+        VTLog::appendLogAndPrint("%@", "100%% %@");
+        QCOMPARE(VTException::logException({"Name", "100%% %@"}, "run"), "Exception in run. Name - 100%% %@.");
         VTLog::finishWriting();
-        QCOMPARE(messagesOf(current()), QStringList({"a", "", "b", "100% %@ %d", "\u00E4 \uFFFD", ""}));
+        QCOMPARE(messagesOf(current()), QStringList({"a", "", "b", "100% %@ %d", "\u00E4 \uFFFD", "", "100% (null)",
+                                                     "Exception in run. Name - 100% (null)."}));
         QCOMPARE(VTLog::sharedController().bytesWritten(), quint64(readFile(current()).size() - headerSize));
         QCOMPARE(VTLog::sharedController().bytesInQueue(), 0u);
     }

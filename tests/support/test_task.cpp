@@ -142,17 +142,25 @@ private Q_SLOTS:
         }
     }
 
+    void cutsShort_data()
+    {
+        QTest::addColumn<double>("timeout");
+        QTest::addColumn<int>("whole");
+        QTest::newRow("whole seconds only") << 1.9 << 1;
+        QTest::newRow("less than one") << 0.5 << 0;
+        QTest::newRow("less than none") << -1.0 << 0;
+    }
     void cutsShort()
     {
-        for (const auto &[timeout, whole] : {std::pair{1.9, 1}, {0.5, 0}, {-1.0, 0}}) {
-            VTLog::createNewLog();
-            int status = 0;
-            const double seconds =
-                secondsOnWorker([&] { status = VTTask::terminationCodeFromTask("/bin/sleep", {"20"}, timeout); });
-            QCOMPARE(status, SIGTERM);
-            QVERIFY2(seconds >= whole && seconds < whole + 0.8, qPrintable(QString::number(seconds)));
-            QCOMPARE(log().count(" - Task /bin/sleep timed out. Terminating...\n"), 1);
-        }
+        QFETCH(double, timeout);
+        QFETCH(int, whole);
+        VTLog::createNewLog();
+        int status = 0;
+        const double seconds =
+            secondsOnWorker([&] { status = VTTask::terminationCodeFromTask("/bin/sleep", {"20"}, timeout); });
+        QCOMPARE(status, SIGTERM);
+        QVERIFY2(seconds >= whole && seconds < whole + 0.8, qPrintable(QString::number(seconds)));
+        QCOMPARE(log().count(" - Task /bin/sleep timed out. Terminating...\n"), 1);
     }
 
     void keepsWhatWasReadInTime()
@@ -164,6 +172,15 @@ private Q_SLOTS:
         int status = 0;
         QVERIFY(secondsOnWorker([&] { status = VTTask::terminationCodeFromTask(shell, script("exit 4"), 30.0); }) < 1);
         QCOMPARE(status, 4);
+    }
+
+    /// The standard output to its end first: a tool that fills the other meanwhile stands still until its time is up.
+    void readsTheStandardOutputFirst()
+    {
+        std::optional<QByteArray> data;
+        secondsOnWorker(
+            [&] { data = VTTask::dataFromTask(shell, script("exec 3>&1 >&2 head -c 4000000 /dev/zero"), 1.0); });
+        QVERIFY(data && !data->isEmpty() && data->size() < 4'000'000);
     }
 
     void cutsNothingShortOnTheMainThread()

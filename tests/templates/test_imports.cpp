@@ -116,6 +116,10 @@ private Q_SLOTS:
         QVERIFY(!targetExists(m_files + "/A/B/C/x") && !targetExists(m_files + "/A/Show.app"));
         QCOMPARE(VTFileManager::finderColorIndexForPath(m_files + "/A/B"), 6);
         QCOMPARE(VTFileManager::finderColorIndexForPath(m_files), 10); // the chosen folder's parent, as it must stay
+        // The last source wins, also where it has no folder of the name.
+        QVERIFY(platform::makeFolders(m_in + "/other/E/F").ok());
+        QVERIFY(importjobs::createFolderStructure({{m_in + "/A", m_in + "/other/E"}, m_files}, nobody).ok());
+        QCOMPARE(VTFileManager::finderColorIndexForPath(m_files + "/A/B"), 0);
     }
 
     void theLibrary()

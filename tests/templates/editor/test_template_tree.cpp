@@ -151,11 +151,11 @@ private Q_SLOTS:
 
     void cellGeometry()
     {
-        const QSize icon(16, 16);
+        const QSize icon(16, 12);
         const QRect bounds(10, 20, 200, 30);
         QCOMPARE(VTImageTextCell::cellSize({50, 18}, icon), QSize(69, 18));
         QCOMPARE(VTImageTextCell::cellSize({50, 18}, {}), QSize(53, 18));
-        QCOMPARE(VTImageTextCell::imageRectForBounds(bounds, icon), QRect(13, 7, 16, 16));
+        QCOMPARE(VTImageTextCell::imageRectForBounds(bounds, icon), QRect(13, 9, 16, 12));
         QCOMPARE(VTImageTextCell::titleRectForBounds(bounds, icon, true), QRect(29, 1, 181, 30));
         QCOMPARE(VTImageTextCell::titleRectForBounds(bounds, icon, false), QRect(29, 4, 181, 30));
         QVERIFY(VTImageTextCell::titleRectForBounds(bounds, {}, true).isNull());
