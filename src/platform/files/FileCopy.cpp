@@ -117,8 +117,13 @@ int copyWithHoles(int source, int destination, off_t size, CopyMonitor *monitor)
         data += length;
         dataCopied += length;
     }
-    if (data < 0 && errno != ENXIO) // ENXIO: only a hole is left
+    if (data < 0 && errno != ENXIO) // ENXIO: only a hole is left, or nothing any more
         return errno;
+    struct stat now;
+    if (fstat(source, &now) != 0)
+        return errno;
+    if (now.st_size < size) // cut off between two stretches of data
+        return ESTALE;
     if (!goesOn(monitor, size - dataCopied))
         return errno;
     return ftruncate(destination, size) == 0 ? 0 : errno;

@@ -256,19 +256,23 @@ private Q_SLOTS:
 
     void noticesAFileThatShrinks_data()
     {
-        QTest::addColumn<qint64>("start");
-        QTest::newRow("whole") << qint64{0};
-        QTest::newRow("behind a hole") << qint64{8 << 20};
+        QTest::addColumn<QList<qint64>>("stretches"); // of 300,000 bytes of data
+        QTest::addColumn<qint64>("left");
+        QTest::newRow("whole") << QList<qint64>{0} << qint64{100'000};
+        QTest::newRow("behind a hole") << QList<qint64>{8 << 20} << qint64{(8 << 20) + 100'000};
+        QTest::newRow("between two stretches") << QList<qint64>{0, 16 << 20} << qint64{400'000};
     }
     void noticesAFileThatShrinks()
     {
-        QFETCH(qint64, start);
+        QFETCH(QList<qint64>, stretches);
+        QFETCH(qint64, left);
         const QString source = m_home->file("source");
         writeFile(source);
         const int file = open(native(source).constData(), O_WRONLY | O_CLOEXEC);
-        QCOMPARE(pwrite(file, QByteArray(300'000, 'x').constData(), 300'000, start), 300'000);
+        for (const qint64 start : stretches)
+            QCOMPARE(pwrite(file, QByteArray(300'000, 'x').constData(), 300'000, start), 300'000);
         close(file);
-        shrinking = {native(source), start + 100'000};
+        shrinking = {native(source), left};
         const Outcome copied = copyItem(source, m_home->file("copy"));
         shrinking = {};
         QCOMPARE(copied.cause(), Cause::Unreachable);
