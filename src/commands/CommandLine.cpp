@@ -74,9 +74,17 @@ public:
             if (const Outcome taken = takeWord(m_words[m_at++]); !taken.ok())
                 return taken;
         }
-        const auto given = static_cast<int>(m_invocation.arguments.size());
         if (m_invocation.has(helpOption.name))
             return m_invocation;
+        if (const Outcome enough = checkWhatWasGiven(); !enough.ok())
+            return enough;
+        return m_invocation;
+    }
+
+private:
+    Outcome checkWhatWasGiven() const
+    {
+        const auto given = static_cast<int>(m_invocation.arguments.size());
         if (given < m_verb.least || (m_verb.most >= 0 && given > m_verb.most) ||
             m_invocation.arguments.contains(QString()))
             return misused(
@@ -86,10 +94,9 @@ public:
             if (option.isRequired && !m_invocation.has(option.name))
                 return misused(Text::tr("“%1” needs %2.").arg(m_verb.name(), QLatin1String(option.name)), &m_verb);
         }
-        return m_invocation;
+        return {};
     }
 
-private:
     Outcome takeWord(const QString &word)
     {
         const bool isValue = m_verb.valueAt == m_invocation.arguments.size();
@@ -103,12 +110,18 @@ private:
         }
         const qsizetype equals = word.startsWith(QLatin1String("--")) ? word.indexOf(u'=') : -1;
         const QString name = equals > 0 ? word.first(equals) : word == u"-h" ? QLatin1String(helpOption.name) : word;
-        const Option *option = name == QLatin1String(helpOption.name) ? &helpOption : m_verb.option(name);
-        if (!option && name == QLatin1String(yesOption.name))
-            option = &yesOption;
+        const Option *option = optionNamed(name);
         if (!option)
             return misused(Text::tr("%1 does not know “%2”.").arg(m_verb.name(), platform::forDisplay(word)), &m_verb);
         return takeOption(*option, equals > 0 ? word.mid(equals + 1) : QString());
+    }
+
+    const Option *optionNamed(const QString &name) const
+    {
+        if (name == QLatin1String(helpOption.name))
+            return &helpOption;
+        const Option *option = m_verb.option(name);
+        return !option && name == QLatin1String(yesOption.name) ? &yesOption : option;
     }
 
     Outcome takeOption(const Option &option, QString value)

@@ -279,6 +279,11 @@ int CreateCommand::create()
     if (m_status == ExitStatus::failed)
         complain(m_status,
                  Text::tr("The log names each item and the cause: %1").arg(VTLog::sharedController().currentLogPath()));
+    return report(result, isThere);
+}
+
+int CreateCommand::report(const CreationResult &result, bool isThere) const
+{
     if (m_invocation.has("--json"))
         printObject(result, nullptr);
     else if (isThere && !result.cancelled)

@@ -36,6 +36,8 @@ private:
     [[nodiscard]] bool findTemplate();
     [[nodiscard]] int printPlan();
     [[nodiscard]] int create();
+    /** Prints what was made. */
+    [[nodiscard]] int report(const CreationResult &result, bool isThere) const;
     /** Says it on standard error, remembers it and its status for the end. False, for whoever has to stop then. */
     bool fail(int status, const QString &problem);
     bool fail(const platform::Outcome &failure, const QString &problem);

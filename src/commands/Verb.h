@@ -1,9 +1,9 @@
 #pragma once
 
 #include <QHash>
-#include <QList>
 #include <QString>
 #include <QStringList>
+#include <span>
 
 class TerminalPresenter;
 class Invocation;
@@ -44,7 +44,7 @@ struct Verb
     int most = 0;               ///< -1: any number
     const char *help = nullptr; ///< in the context "Commands"
     int (*run)(const Invocation &) = nullptr;
-    QList<Option> options = {};
+    std::span<const Option> options = {};
     Guard guard = Guard::Start;
     Logged logged = Logged::Yes;
     Completes completes = Completes::Nothing; ///< what its arguments are
@@ -58,7 +58,7 @@ struct Verb
 };
 
 /** All of them, in the order in which they are explained. */
-[[nodiscard]] const QList<Verb> &verbs();
+[[nodiscard]] std::span<const Verb> verbs();
 
 /** A verb with what it was given. A plain value. */
 class Invocation

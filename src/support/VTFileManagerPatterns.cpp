@@ -42,6 +42,14 @@ bool matches(QStringView pattern, QStringView name)
     return p == pattern.size();
 }
 
+QList<FolderEntry> entriesOf(const QString &folder)
+{
+    const auto entries = platform::listFolder(folder);
+    if (!entries && !entries.outcome().is(platform::Cause::NotAFolder)) // a file matches, but holds nothing
+        VTLog::appendLog("A folder is left out of a search: %@", entries.outcome().description());
+    return entries.valueOr({});
+}
+
 /// One step of a pattern: what of the candidates' contents goes on to the next.
 QStringList step(const QStringList &candidates, const QString &component)
 {
@@ -52,10 +60,7 @@ QStringList step(const QStringList &candidates, const QString &component)
                 found.append(path);
             continue;
         }
-        const auto entries = platform::listFolder(candidate);
-        if (!entries && !entries.outcome().is(platform::Cause::NotAFolder)) // a file matches, but holds nothing
-            VTLog::appendLog("A folder is left out of a search: %@", entries.outcome().description());
-        for (const FolderEntry &entry : entries.valueOr({})) {
+        for (const FolderEntry &entry : entriesOf(candidate)) {
             const QString path = joined(candidate, entry.name);
             if (matches(component, entry.name) && VTFileManager::fileExistsAtPath(path))
                 found.append(path);

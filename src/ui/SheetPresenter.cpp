@@ -14,6 +14,47 @@ namespace {
 
 constexpr int pictureSide = 48;
 
+/// A sheet's buttons by what they answer; all but main may be null.
+struct Buttons
+{
+    QPushButton *main;
+    QPushButton *alternate;
+    QPushButton *other;
+    QPushButton *safe; ///< the one that loses nothing, where another does
+};
+
+Buttons addButtons(QMessageBox *box, const AlertPresenter::Sheet &sheet)
+{
+    const auto add = [box](const QString &title, QMessageBox::ButtonRole role) {
+        return title.isNull() ? nullptr : box->addButton(title, role);
+    };
+    Buttons buttons{};
+    buttons.main = sheet.defaultButton.isNull() ? box->addButton(QMessageBox::Ok)
+                                                : add(sheet.defaultButton, QMessageBox::AcceptRole);
+    buttons.alternate = add(sheet.alternateButton, QMessageBox::RejectRole);
+    buttons.other = add(sheet.otherButton, QMessageBox::DestructiveRole);
+    buttons.safe = !sheet.safeAnswer                               ? nullptr
+                   : *sheet.safeAnswer == VTAlert::alternateReturn ? buttons.alternate
+                   : *sheet.safeAnswer == VTAlert::otherReturn     ? buttons.other
+                                                                   : buttons.main;
+    return buttons;
+}
+
+/// Where an answer loses something, Return and Escape give the one that does not; else Escape never goes on with what
+/// was asked.
+void fill(QMessageBox *box, const AlertPresenter::Sheet &sheet, const Buttons &buttons)
+{
+    const auto [main, alternate, other, safe] = buttons;
+    const QIcon icon = (safe && safe != main) || !alternate ? icons::named("warning") : icons::application();
+    box->setIconPixmap(icon.pixmap(pictureSide, pictureSide));
+    box->setText(platform::forDisplay(sheet.messageText));
+    box->setInformativeText(platform::forDisplay(sheet.informativeText));
+    box->setDefaultButton(safe ? safe : main);
+    box->setEscapeButton(safe ? safe : other ? other : alternate ? alternate : main);
+    for (auto *label : box->findChildren<QLabel *>()) // the box's own format reaches its first label only
+        label->setTextFormat(Qt::PlainText);
+}
+
 } // namespace
 
 void SheetPresenter::present(const Sheet &sheet, std::function<void(int)> answer)
@@ -26,26 +67,8 @@ void SheetPresenter::present(const Sheet &sheet, std::function<void(int)> answer
     auto *box = new QMessageBox(window);
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setWindowModality(Qt::WindowModal);
-    box->setText(platform::forDisplay(sheet.messageText));
-    box->setInformativeText(platform::forDisplay(sheet.informativeText));
-    auto *main = sheet.defaultButton.isNull() ? box->addButton(QMessageBox::Ok)
-                                              : box->addButton(sheet.defaultButton, QMessageBox::AcceptRole);
-    QPushButton *alternate =
-        sheet.alternateButton.isNull() ? nullptr : box->addButton(sheet.alternateButton, QMessageBox::RejectRole);
-    QPushButton *other =
-        sheet.otherButton.isNull() ? nullptr : box->addButton(sheet.otherButton, QMessageBox::DestructiveRole);
-    // Where an answer loses something, Return and Escape give the one that does not; else Escape never goes on with
-    // what was asked.
-    QPushButton *safe = !sheet.safeAnswer                               ? nullptr
-                        : *sheet.safeAnswer == VTAlert::alternateReturn ? alternate
-                        : *sheet.safeAnswer == VTAlert::otherReturn     ? other
-                                                                        : main;
-    const QIcon icon = (safe && safe != main) || !alternate ? icons::named("warning") : icons::application();
-    box->setIconPixmap(icon.pixmap(pictureSide, pictureSide));
-    box->setDefaultButton(safe ? safe : main);
-    box->setEscapeButton(safe ? safe : other ? other : alternate ? alternate : main);
-    for (auto *label : box->findChildren<QLabel *>()) // the box's own format reaches its first label only
-        label->setTextFormat(Qt::PlainText);
+    const Buttons buttons = addButtons(box, sheet);
+    fill(box, sheet, buttons);
 
     const auto answered = std::make_shared<bool>(false);
     const auto answerOnce = [this, alert = sheet.alert, answered, answer = std::move(answer)](int code) {
@@ -57,9 +80,9 @@ void SheetPresenter::present(const Sheet &sheet, std::function<void(int)> answer
     };
     connect(box, &QMessageBox::finished, this, [=] {
         const QAbstractButton *clicked = box->clickedButton();
-        answerOnce(clicked == other && other           ? VTAlert::otherReturn
-                   : clicked == alternate && alternate ? VTAlert::alternateReturn
-                                                       : VTAlert::defaultReturn);
+        answerOnce(clicked && clicked == buttons.other       ? VTAlert::otherReturn
+                   : clicked && clicked == buttons.alternate ? VTAlert::alternateReturn
+                                                             : VTAlert::defaultReturn);
     });
     // A parent window that is destroyed takes its sheet along: whoever waits must hear of it.
     connect(box, &QObject::destroyed, this, [answerOnce] { answerOnce(VTAlert::otherReturn); });

@@ -3,6 +3,7 @@
 #include "platform/base/NativePath.h"
 
 #include <QCoreApplication>
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
 
@@ -14,58 +15,50 @@ struct Text
     Q_DECLARE_TR_FUNCTIONS(Outcome)
 };
 
+struct Row
+{
+    int number;
+    Cause cause;
+};
+constexpr Row causes[] = {
+    {0, Cause::None},
+    {EEXIST, Cause::Exists},
+    {ENOTEMPTY, Cause::Exists},
+    {ENOENT, Cause::Missing},
+    {EACCES, Cause::NeedsRights},
+    {EPERM, Cause::NeedsRights},
+    {ENOSPC, Cause::NoSpace},
+    {EDQUOT, Cause::NoSpace},
+    {EROFS, Cause::ReadOnly},
+    {EINVAL, Cause::NotSupported}, // what a file system answers to a name that it cannot hold
+    {ENOTSUP, Cause::NotSupported},
+    {ENOSYS, Cause::NotSupported},
+    {EXDEV, Cause::NotSupported},
+    {EILSEQ, Cause::NotSupported},
+    {EFBIG, Cause::NotSupported},
+    {EOVERFLOW, Cause::NotSupported},
+    {ENAMETOOLONG, Cause::NameTooLong},
+    {ENOTDIR, Cause::NotAFolder},
+    {ELOOP, Cause::NotAFolder},
+    {EISDIR, Cause::IsAFolder},
+    {EBUSY, Cause::Busy},
+    {ETXTBSY, Cause::Busy},
+    {EAGAIN, Cause::Busy},
+    {EIO, Cause::Unreachable},
+    {ESTALE, Cause::Unreachable},
+    {ENODEV, Cause::Unreachable},
+    {ENXIO, Cause::Unreachable},
+    {ENOTCONN, Cause::Unreachable},
+    {EHOSTDOWN, Cause::Unreachable},
+    {EHOSTUNREACH, Cause::Unreachable},
+    {ETIMEDOUT, Cause::TimedOut},
+    {ECANCELED, Cause::Cancelled},
+};
+
 Cause causeOf(int number)
 {
-    switch (number) {
-    case 0:
-        return Cause::None;
-    case EEXIST:
-    case ENOTEMPTY:
-        return Cause::Exists;
-    case ENOENT:
-        return Cause::Missing;
-    case EACCES:
-    case EPERM:
-        return Cause::NeedsRights;
-    case ENOSPC:
-    case EDQUOT:
-        return Cause::NoSpace;
-    case EROFS:
-        return Cause::ReadOnly;
-    case EINVAL: // what a file system answers to a name that it cannot hold
-    case ENOTSUP:
-    case ENOSYS:
-    case EXDEV:
-    case EILSEQ:
-    case EFBIG:
-    case EOVERFLOW:
-        return Cause::NotSupported;
-    case ENAMETOOLONG:
-        return Cause::NameTooLong;
-    case ENOTDIR:
-    case ELOOP:
-        return Cause::NotAFolder;
-    case EISDIR:
-        return Cause::IsAFolder;
-    case EBUSY:
-    case ETXTBSY:
-    case EAGAIN:
-        return Cause::Busy;
-    case EIO:
-    case ESTALE:
-    case ENODEV:
-    case ENXIO:
-    case ENOTCONN:
-    case EHOSTDOWN:
-    case EHOSTUNREACH:
-        return Cause::Unreachable;
-    case ETIMEDOUT:
-        return Cause::TimedOut;
-    case ECANCELED:
-        return Cause::Cancelled;
-    default:
-        return Cause::Other;
-    }
+    const auto *const row = std::ranges::find(causes, number, &Row::number);
+    return row == std::end(causes) ? Cause::Other : row->cause;
 }
 
 QString generalSentence(Cause cause)
