@@ -197,7 +197,7 @@ Result<Invocation> readCommandLine(const QStringList &words)
     qsizetype count = 0;
     if (const Verb *verb = verbOf(words, count))
         return WordReader(words.mid(count), *verb).read();
-    const QString first = words[0];
+    const QString &first = words[0];
     if (!first.startsWith(u'-') && first.endsWith(QLatin1String(".tzt"), Qt::CaseInsensitive)) {
         Invocation window;
         window.files = words;
