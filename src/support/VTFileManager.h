@@ -21,11 +21,11 @@ struct LabelColor
 };
 
 /**
- * The gateway to what belongs to the user, templates and projects: they are made, copied, moved, deleted and trashed here,
- * or in FileOperations.h, which does the same and says how it ended. It clears the locked flag of what it is about to
- * change, logs a failure and then tries the system's tool, with administrator rights where permission is what is missing.
- * The forms with a time-out wait after success until the effect can be seen. The program's own files (settings, log) and
- * the dates of a new project do not come this way.
+ * The gateway to what belongs to the user, templates and projects: they are made, copied, moved, deleted and trashed
+ * here, or in FileOperations.h, which does the same and says how it ended. It clears the locked flag of what it is
+ * about to change, logs a failure and then tries the system's tool, with administrator rights where permission is what
+ * is missing. The forms with a time-out wait after success until the effect can be seen. The program's own files
+ * (settings, log) and the dates of a new project do not come this way.
  *
  * Has no state; every operation may be called from any thread and blocks it. On the main thread the work is done on a
  * worker while the event loop turns with the windows closed to input. Paths are absolute. No operation but the type

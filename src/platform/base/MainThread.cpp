@@ -13,8 +13,8 @@
 namespace platform {
 namespace {
 
-/// Opened once. Who waits for it goes on at once then, or within a second after the application has gone: nobody will open
-/// it any more.
+/// Opened once. Who waits for it goes on at once then, or within a second after the application has gone: nobody will
+/// open it any more.
 class Gate
 {
 public:
