@@ -13,6 +13,7 @@
 #include "platform/files/FileSystem.h"
 #include "support/Settings.h"
 #include "support/VTLog.h"
+#include "templates/VTDataController.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -47,11 +48,16 @@ class SilentHost : public CreationHost
     void quitIfWanted() override {}
 };
 
-double secondsOfCreation(const QString &templateName, const QString &destination)
+double secondsOfCreation(const QString &templateName, const QString &location)
 {
+    ProjectRequest request;
+    request.parameters = {FilenameParameter({{"title", "Name"}, {"val", "Bench"}})};
+    request.templateName = templateName;
+    request.templateFiles = VTDataController::filesFolder(templateName);
+    request.location = location;
     return timing::secondsOf([&] {
         SilentHost host;
-        if (!ProjectCreation(host).createProject(templateName, destination).ok())
+        if (!ProjectCreation(host).createProject(request).ok())
             qFatal("The creation failed");
     });
 }
@@ -70,7 +76,7 @@ void measure(const QString &work, const QString &library, int count)
         if (!platform::makeFolders(target + "/command").ok())
             qFatal("Cannot make %s", qPrintable(target));
         const double copy = timing::secondsOf("/bin/cp", {"-a", files, target + "/cp"});
-        const double creation = secondsOfCreation(name, target + "/running/Bench");
+        const double creation = secondsOfCreation(name, target + "/running");
         const double command = timing::secondsOf(program, {"create", "--in", target + "/command", "--template", name});
         if (round < 0)
             continue; // the first round fills the caches

@@ -129,21 +129,6 @@ void TessaroAppDelegate::populateTemplatePopUp()
         static_cast<void>(settings::selectedProjectTemplate.store(selected)); // logged
 }
 
-QStringList TessaroAppDelegate::pathComponentsFromParameters() const
-{
-    return ::pathComponentsFromParameters();
-}
-
-QString TessaroAppDelegate::pathNameFromParameters() const
-{
-    return ::pathNameFromParameters();
-}
-
-QString TessaroAppDelegate::projectNameFromParameters() const
-{
-    return ::projectNameFromParameters();
-}
-
 void TessaroAppDelegate::useStandardParameters()
 {
     static_cast<void>(restoreShippedParameters()); // logged; the table shows what is stored

@@ -40,9 +40,8 @@ public:
     /** Reads the library anew and selects the template of the next project. */
     void populateTemplatePopUp();
 
-    [[nodiscard]] QStringList pathComponentsFromParameters() const;
-    [[nodiscard]] QString pathNameFromParameters() const;
-    [[nodiscard]] QString projectNameFromParameters() const;
+    /** What the project pane shows, as one value: everything about the project but where it goes. */
+    [[nodiscard]] ProjectRequest shownRequest() const;
 
     /** Takes in a template bundle, in the background, and shows it. False, and nothing happens, for any other file. */
     bool openFile(const QString &path);
@@ -50,8 +49,8 @@ public:
     void openFiles(const QStringList &paths);
     void bringToFront();
 
-    /** Creates the project of the current parameters out of the template. */
-    void createTemplate(const QString &templateName, const QString &atPath);
+    /** Creates the project, whatever is shown by then. */
+    void createTemplate(const ProjectRequest &request);
 
     /** What the shortcut keys' list (VTKeys.plist) can ask for, by identifier. */
     [[nodiscard]] static const QHash<QString, void (TessaroAppDelegate::*)()> &commandsOfShortcuts();
@@ -105,8 +104,8 @@ private:
 
     void importOldTessaroTemplate();
     void restoreShippedTemplates();
-    [[nodiscard]] bool parametersAreComplete();
-    [[nodiscard]] bool mayOverwriteAtFixedLocation(const QString &destination, const QString &relativePath);
+    [[nodiscard]] bool isComplete(const ProjectRequest &request);
+    [[nodiscard]] bool mayOverwriteAtFixedLocation(const ProjectRequest &request);
     void askForDestination();
 
     int m_awakeCount = 0;
@@ -116,5 +115,6 @@ private:
     std::unique_ptr<MainWindow> m_window;
     std::unique_ptr<VTProjectTableController> m_tableController;
     QPointer<VTSavePanel> m_savePanel;
+    ProjectRequest m_request; ///< the project for which the panel asks
     QPointer<VTPreferenceController> m_preferences;
 };

@@ -2,7 +2,6 @@
 #include "app/TessaroAppDelegate.h"
 
 #include "app/MainWindow.h"
-#include "parameters/ParameterStore.h"
 #include "parameters/ProjectNaming.h"
 #include "parameters/table/VTProjectTableController.h"
 #include "platform/base/MainThread.h"
@@ -13,6 +12,7 @@
 #include "support/VTFileManager.h"
 #include "support/VTLocalPaths.h"
 #include "support/VTLog.h"
+#include "templates/VTDataController.h"
 #include "ui/VTSavePanel.h"
 
 #include <QApplication>
@@ -22,34 +22,46 @@ void TessaroAppDelegate::createNewProject()
     if (m_creating || m_savePanel) // a shortcut may arrive while the sheet of the last one is up
         return;
     m_tableController->finishEditing();
+    m_tableController->bringUpToDate();
     VTLog::appendLog("Creating new project");
-    if (!parametersAreComplete())
+    ProjectRequest request = shownRequest();
+    if (!isComplete(request))
         return;
-    const QString relativePath = pathNameFromParameters();
-    VTLog::appendLog("Validated folder name: %@", relativePath);
+    VTLog::appendLog("Validated folder name: %@", request.relativePath());
 
-    const QString fixed = settings::fixedProjectLocationPath.text();
-    if (!settings::useFixedProjectLocation.isOn() || fixed.isEmpty())
+    request.location = settings::fixedProjectLocationPath.text();
+    const bool isFixed = settings::useFixedProjectLocation.isOn() && !request.location.isEmpty();
+    m_request = std::move(request);
+    if (!isFixed)
         return askForDestination();
-    const QString destination = platform::joined(fixed, relativePath);
-    VTLog::appendLog("Creating project at fixed location %@", destination);
-    if (mayOverwriteAtFixedLocation(destination, relativePath))
-        createTemplate(settings::selectedProjectTemplate.text(), destination);
+    VTLog::appendLog("Creating project at fixed location %@", m_request.destination());
+    if (mayOverwriteAtFixedLocation(m_request))
+        createTemplate(m_request);
 }
 
-bool TessaroAppDelegate::parametersAreComplete()
+ProjectRequest TessaroAppDelegate::shownRequest() const
 {
-    const FilenameParameters parameters = storedParameters();
-    if (const auto blank = naming::firstBlankRequired(parameters)) {
-        VTAlert::show({platform::formatString(tr("'%@' cannot be left blank"), parameters[*blank].title()),
+    ProjectRequest request;
+    request.parameters = m_tableController->dataArray();
+    request.separator = settings::separatorChar.text();
+    const QString selected = m_window->selectedTemplate();
+    request.templateName = selected.isEmpty() ? settings::selectedProjectTemplate.text() : selected;
+    request.templateFiles = VTDataController::filesFolder(request.templateName);
+    return request;
+}
+
+bool TessaroAppDelegate::isComplete(const ProjectRequest &request)
+{
+    if (const auto blank = naming::firstBlankRequired(request.parameters)) {
+        VTAlert::show({platform::formatString(tr("'%@' cannot be left blank"), request.parameters[*blank].title()),
                        tr("Please fill in this parameter before creating a project.")});
         m_tableController->editItem(static_cast<int>(*blank));
         return false;
     }
     QString problem;
-    if (pathNameFromParameters().isEmpty())
+    if (request.relativePath().isEmpty())
         problem = tr("You must specify at least one parameter.");
-    else if (naming::hasUnusableLevel(pathComponentsFromParameters()))
+    else if (naming::hasUnusableLevel(request.levels()))
         problem =
             tr("The values give a folder level without a usable name (nothing, or dots only). Please change them.");
     if (problem.isNull())
@@ -59,15 +71,16 @@ bool TessaroAppDelegate::parametersAreComplete()
     return false;
 }
 
-bool TessaroAppDelegate::mayOverwriteAtFixedLocation(const QString &destination, const QString &relativePath)
+bool TessaroAppDelegate::mayOverwriteAtFixedLocation(const ProjectRequest &request)
 {
-    const bool exists = platform::resultInBackground([&] { return VTFileManager::fileExistsAtPath(destination); });
+    const bool exists =
+        platform::resultInBackground([&] { return VTFileManager::fileExistsAtPath(request.destination()); });
     if (!exists)
         return true;
     VTLog::appendLog("Destination file already exists; asking user what to do");
     const int answer =
         VTAlert::show({tr("Project already exists"),
-                       platform::formatString(tr("Are you sure you wish to overwrite %@?"), relativePath),
+                       platform::formatString(tr("Are you sure you wish to overwrite %@?"), request.relativePath()),
                        tr("Overwrite"),
                        tr("Cancel"),
                        {},
@@ -83,10 +96,10 @@ void TessaroAppDelegate::askForDestination()
     m_savePanel = new VTSavePanel(m_window.get());
     m_savePanel->setAttribute(Qt::WA_DeleteOnClose);
     m_savePanel->setWindowTitle(tr("Choose a destination"));
-    m_savePanel->setAccessoryView(m_window->makeBrowseAccessory(pathNameFromParameters()));
+    m_savePanel->setAccessoryView(m_window->makeBrowseAccessory(m_request.relativePath()));
     const QString start = settings::fixedProjectLocationPath.text();
     m_savePanel->setDirectory(VTFileManager::isDirectoryAtPath(start) ? start : VTLocalPaths::userDirectory());
-    m_savePanel->setSuggestedName(pathComponentsFromParameters().constFirst());
+    m_savePanel->setSuggestedName(m_request.levels().constFirst());
     connect(m_savePanel, &VTSavePanel::finished, this, &TessaroAppDelegate::destinationBrowseDidEnd);
     m_savePanel->open();
 }
@@ -99,21 +112,22 @@ void TessaroAppDelegate::destinationBrowseDidEnd(int returnCode)
         return;
     panel->hide();
     // Only the folder counts: the name typed in the panel is not the project's.
-    const QString folder = platform::parentPath(panel->chosenPath());
+    m_request.location = platform::parentPath(panel->chosenPath());
     if (settings::useFixedProjectLocation.isOn())
-        static_cast<void>(
-            settings::fixedProjectLocationPath.store(folder)); // logged; this project goes there all the same
-    createTemplate(settings::selectedProjectTemplate.text(), platform::joined(folder, pathNameFromParameters()));
+        static_cast<void>(settings::fixedProjectLocationPath.store(
+            m_request.location)); // logged; this project goes there all the same
+    createTemplate(m_request);
 }
 
-void TessaroAppDelegate::createTemplate(const QString &templateName, const QString &atPath)
+void TessaroAppDelegate::createTemplate(const ProjectRequest &request)
 {
     m_creating = true;
     m_window->showCreated({});
-    const CreationResult result = ProjectCreation(*this).createProject(templateName, atPath);
+    const CreationResult result = ProjectCreation(*this).createProject(request);
     m_creating = false;
+    m_tableController->follow(); // what came during the creation
     if (result.ok() && !settings::autoOpenFolder.isOn())
-        m_window->showCreated(atPath);
+        m_window->showCreated(result.request.destination());
 }
 
 void TessaroAppDelegate::startProcessing()

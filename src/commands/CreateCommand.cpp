@@ -73,20 +73,18 @@ CreateCommand::CreateCommand(const Invocation &invocation)
 {
 }
 
-CreateCommand::~CreateCommand() = default;
-
 int CreateCommand::run()
 {
     VTLog::appendLog("Creating new project");
     if (!findTemplate() || !readParameters() || !parametersAreComplete() || !findDestination())
         return refused();
-    VTLog::appendLog("Validated folder name: %@", naming::pathName(m_levels));
-    if (platform::kindOf(m_destination) != platform::FileKind::Missing && !m_invocation.has("--overwrite")) {
+    VTLog::appendLog("Validated folder name: %@", m_request.relativePath());
+    if (platform::kindOf(m_request.destination()) != platform::FileKind::Missing && !m_invocation.has("--overwrite")) {
         fail(ExitStatus::notOverwritten,
              Text::tr(
                  "A project with this name already exists: %1\nUse --overwrite to move it to the Trash and create it "
                  "anew.")
-                 .arg(m_destination));
+                 .arg(m_request.destination()));
         return refused();
     }
     return m_isDryRun ? printPlan() : create();
@@ -146,31 +144,26 @@ bool CreateCommand::findTemplate()
     if (!findLibrary(location, names))
         return false;
     const QString wanted = m_invocation.value("--template");
-    m_templateName = wanted.isNull() ? chosenTemplate(names) : wanted;
-    if (wanted.isNull() && m_templateName.isNull())
+    m_request.templateName = wanted.isNull() ? chosenTemplate(names) : wanted;
+    if (wanted.isNull() && m_request.templateName.isNull())
         return fail(ExitStatus::failed, Text::tr("There is no template in %1.").arg(location));
-    if (!names.contains(m_templateName))
+    if (!names.contains(m_request.templateName))
         return fail(ExitStatus::wrongUsage,
-                    Text::tr("There is no template “%1”. %2").arg(m_templateName, listed(names)));
-    m_filesFolder = location + platform::formatString("/%@.tzt/Files", m_templateName);
+                    Text::tr("There is no template “%1”. %2").arg(m_request.templateName, listed(names)));
+    m_request.templateFiles = location + platform::formatString("/%@.tzt/Files", m_request.templateName);
     return true;
 }
 
 bool CreateCommand::readParameters()
 {
-    if (m_isDryRun) {
-        m_parameters = rules::withDynamicValues(rules::asLoaded(storedParameters()), settings::dateFormat.text(),
-                                                VTLocalPaths::username(), std::time(nullptr));
-    } else {
-        m_table = std::make_unique<VTProjectTableController>();
-        m_table->awakeFromNib();
-        m_parameters = m_table->dataArray();
-    }
+    if (!m_isDryRun)
+        keepDamagedParameters();
+    m_request.parameters = currentParameters();
+    m_request.separator = settings::separatorChar.text();
     for (const QString &setting : m_invocation.values("--set")) {
         if (!applyValue(setting))
             return false;
     }
-    m_levels = naming::pathComponents(m_parameters, settings::separatorChar.text());
     return true;
 }
 
@@ -180,41 +173,34 @@ bool CreateCommand::applyValue(const QString &setting)
     const QString title = setting.first(equals);
     const QString value = setting.mid(equals + 1);
     QStringList titles;
-    for (const FilenameParameter &parameter : m_parameters)
+    for (const FilenameParameter &parameter : m_request.parameters)
         titles.append(parameter.title());
     const qsizetype row = titles.indexOf(title);
     QString problem;
     if (row < 0)
         problem = Text::tr("There is no parameter “%1”. %2").arg(title, listed(titles));
-    else if (m_parameters[row].isLocked())
+    else if (m_request.parameters[row].isLocked())
         problem = Text::tr("The parameter “%1” is locked.").arg(title);
-    else if (m_parameters[row].kind() == FilenameParameter::Kind::Choice &&
-             !m_parameters[row].choices().contains(value))
+    else if (m_request.parameters[row].kind() == FilenameParameter::Kind::Choice &&
+             !m_request.parameters[row].choices().contains(value))
         problem = Text::tr("“%1” is not among the choices of “%2”. %3")
-                      .arg(value, title, listed(m_parameters[row].choices()));
+                      .arg(value, title, listed(m_request.parameters[row].choices()));
     if (!problem.isNull())
         return fail(ExitStatus::wrongUsage, problem);
-    if (!m_table) {
-        const bool strict = settings::strictNaming.isOn();
-        m_parameters[row] = rules::withTypedValue(m_parameters[row], value, strict);
-        return true;
-    }
-    const auto column = VTProjectTableController::ValueColumn;
-    const bool stored = m_table->setData(m_table->index(static_cast<int>(row), column), value, Qt::EditRole);
-    m_parameters = m_table->dataArray();
-    return stored;
+    m_request = withTypedValue(m_request, row, value, settings::strictNaming.isOn());
+    return true;
 }
 
 bool CreateCommand::parametersAreComplete()
 {
     QString problem;
-    if (const auto blank = naming::firstBlankRequired(m_parameters))
-        problem = platform::formatString(Text::tr("'%@' cannot be left blank"), m_parameters[*blank].title()) + u'\n' +
-                  Text::tr("Please fill in this parameter before creating a project.") + u' ' +
-                  Text::tr("(--set \"%1=…\")").arg(m_parameters[*blank].title());
-    else if (naming::pathName(m_levels).isEmpty())
+    if (const auto blank = naming::firstBlankRequired(m_request.parameters))
+        problem = platform::formatString(Text::tr("'%@' cannot be left blank"), m_request.parameters[*blank].title()) +
+                  u'\n' + Text::tr("Please fill in this parameter before creating a project.") + u' ' +
+                  Text::tr("(--set \"%1=…\")").arg(m_request.parameters[*blank].title());
+    else if (m_request.relativePath().isEmpty())
         problem = Text::tr("Unable to create folder") + u'\n' + Text::tr("You must specify at least one parameter.");
-    else if (naming::hasUnusableLevel(m_levels))
+    else if (naming::hasUnusableLevel(m_request.levels()))
         problem =
             Text::tr("Unable to create folder") + u'\n' +
             Text::tr(
@@ -241,14 +227,14 @@ bool CreateCommand::findDestination()
                 (exists ? Text::tr("%1 is not a folder.") : Text::tr("The folder %1 does not exist.")).arg(folder));
         }
     }
-    m_destination = joined(folder, naming::pathName(m_levels));
+    m_request.location = folder;
     return true;
 }
 
 int CreateCommand::printPlan()
 {
-    const TreeListing tree = listTree(m_filesFolder);
-    const CreationPlan plan = planCreation(tree, m_levels);
+    const TreeListing tree = listTree(m_request.templateFiles);
+    const CreationPlan plan = planCreation(tree, m_request.levels());
     for (const QString &level : plan.tooLongLevels)
         fail(ExitStatus::failed, Text::tr("The folder name is too long: %1").arg(level));
     for (const platform::Outcome &unreadable : tree.unreadable)
@@ -261,21 +247,22 @@ int CreateCommand::printPlan()
     if (m_invocation.has("--json"))
         printObject({}, &plan);
     else
-        print(drawn(plan, m_destination));
+        print(drawn(plan, m_request.destination()));
     return m_status;
 }
 
 int CreateCommand::create()
 {
-    const CreationResult result = ProjectCreation(*this).createProject(m_templateName, m_destination);
+    const CreationResult result = ProjectCreation(*this).createProject(m_request);
+    m_request = result.request;
     m_problems += result.errors;
-    const bool isThere = VTFileManager::fileExistsAtPath(m_destination);
+    const bool isThere = VTFileManager::fileExistsAtPath(m_request.destination());
     if (result.cancelled)
         m_status = ExitStatus::notOverwritten;
     else if (!result.ok())
         m_status = ExitStatus::failed;
     else if (!isThere)
-        fail(ExitStatus::failed, Text::tr("The project was made, and is gone: %1").arg(m_destination));
+        fail(ExitStatus::failed, Text::tr("The project was made, and is gone: %1").arg(m_request.destination()));
     if (m_status == ExitStatus::failed)
         complain(m_status,
                  Text::tr("The log names each item and the cause: %1").arg(VTLog::sharedController().currentLogPath()));
@@ -287,13 +274,8 @@ int CreateCommand::report(const CreationResult &result, bool isThere) const
     if (m_invocation.has("--json"))
         printObject(result, nullptr);
     else if (isThere && !result.cancelled)
-        print(m_destination + u'\n');
+        print(m_request.destination() + u'\n');
     return m_status;
-}
-
-void CreateCommand::incrementDynamicValues()
-{
-    m_table->incrementDynamicValues();
 }
 
 void CreateCommand::printObject(const CreationResult &result, const CreationPlan *plan) const
@@ -302,10 +284,10 @@ void CreateCommand::printObject(const CreationResult &result, const CreationPlan
         return platform::forDisplay(name);
     };
     QJsonObject object{
-        {"project", shown(naming::pathName(m_levels))},
-        {"name", shown(naming::projectName(m_levels))},
-        {"path", shown(m_destination)},
-        {"template", shown(m_templateName)},
+        {"project", shown(m_request.relativePath())},
+        {"name", shown(m_request.name())},
+        {"path", shown(m_request.destination())},
+        {"template", shown(m_request.templateName)},
         {"folders", plan ? plan->folders() : result.folders},
         {"files", plan ? plan->files() : result.files},
         {"renamed", plan ? plan->renamed() : result.renamed},

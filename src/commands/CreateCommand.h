@@ -3,20 +3,16 @@
 #include "commands/Verb.h"
 #include "creation/CreationPlan.h"
 #include "creation/ProjectCreation.h"
-#include "parameters/FilenameParameter.h"
+#include "creation/ProjectRequest.h"
 #include "platform/files/TemporaryFolder.h"
 
-#include <memory>
 #include <optional>
-
-class VTProjectTableController;
 
 /** `Tessaro create`: the window's creation, with the command line in place of table, pop-up and panel. */
 class CreateCommand : private CreationHost
 {
 public:
     explicit CreateCommand(const Invocation &invocation);
-    ~CreateCommand() override;
 
     [[nodiscard]] int run();
 
@@ -24,7 +20,7 @@ private:
     // CreationHost: no spinner, nothing is revealed, and quitting is what a command does anyway.
     void startProcessing() override {}
     void finishProcessing() override {}
-    void incrementDynamicValues() override;
+    void incrementDynamicValues() override {}
     void reveal(const QString &) override {}
     void quitIfWanted() override {}
 
@@ -47,14 +43,9 @@ private:
 
     const Invocation &m_invocation;
     const bool m_isDryRun;
-    std::unique_ptr<VTProjectTableController> m_table; ///< absent in a dry run, which stores nothing
     std::optional<platform::TemporaryFolder>
         m_unpacked; ///< the shipped templates, for a dry run before the first start
-    FilenameParameters m_parameters;
-    QStringList m_levels;
-    QString m_templateName;
-    QString m_filesFolder;
-    QString m_destination;
+    ProjectRequest m_request;
     QStringList m_problems;
     int m_status = 0;
 };

@@ -4,10 +4,11 @@
 #include "commands/TerminalOutput.h"
 #include "parameters/ParameterList.h"
 #include "parameters/ParameterStore.h"
-#include "parameters/table/VTProjectTableController.h"
+#include "parameters/ValueRules.h"
 #include "platform/base/NativePath.h"
 #include "platform/files/WholeFile.h"
 #include "support/Settings.h"
+#include "support/VTLog.h"
 
 #include <QCoreApplication>
 #include <QJsonArray>
@@ -33,11 +34,6 @@ QJsonObject asObject(const FilenameParameter &parameter)
     if (parameter.kind() == FilenameParameter::Kind::Choice)
         object.insert("choices", QJsonArray::fromStringList(parameter.choices()));
     return object;
-}
-
-int misused(const QString &sentence)
-{
-    return complain(ExitStatus::wrongUsage, sentence);
 }
 
 /// The row of the parameter, or why it cannot be told.
@@ -75,24 +71,36 @@ platform::Result<QVariant> entryFromWord(Column column, const QString &word)
     }
 }
 
-int finish(const FilenameParameters &list)
+/// Changes the list as it is stored at that moment; what the change refuses is told.
+int change(const ListChange &change)
 {
-    const Outcome stored = storeParameters(list);
-    return stored.ok() ? ExitStatus::done : complain(stored, Text::tr("The parameters could not be stored."));
+    bool refused = false;
+    const Outcome stored = changeParameters([&](FilenameParameters list) {
+        auto changed = change(std::move(list));
+        refused = !changed;
+        return changed;
+    });
+    if (stored.ok())
+        return ExitStatus::done;
+    return refused ? complain(stored) : complain(stored, Text::tr("The parameters could not be stored."));
+}
+
+Outcome invalid(const QString &sentence)
+{
+    return Outcome::failure(platform::Cause::Invalid, {}, sentence);
 }
 
 } // namespace
 
 int commands::listParameters(const Invocation &invocation)
 {
-    VTProjectTableController table;
-    table.awakeFromNib();
+    const FilenameParameters parameters = currentParameters();
     qsizetype widest = 0;
-    for (const FilenameParameter &parameter : table.dataArray())
+    for (const FilenameParameter &parameter : parameters)
         widest = qMax(widest, parameter.title().size());
     QJsonArray list;
     QString lines;
-    for (const FilenameParameter &parameter : table.dataArray()) {
+    for (const FilenameParameter &parameter : parameters) {
         list.append(asObject(parameter));
         lines += QStringLiteral("%1 %2  %3  %4\n")
                      .arg(parameter.beginsFolder() ? QStringLiteral("/") : QStringLiteral(" "),
@@ -109,61 +117,66 @@ int commands::listParameters(const Invocation &invocation)
 
 int commands::addParameter(const Invocation &invocation)
 {
-    FilenameParameters list = parameterlist::withNewParameter(storedParameters(), invocation.argument(0));
-    const int row = static_cast<int>(list.size()) - 1;
-    if (const QString kind = invocation.argument(1); !kind.isNull()) {
-        const auto value = entryFromWord(Column::Kind, kind);
-        if (!value)
-            return complain(value.outcome());
-        list = parameterlist::withEntry(list, row, parameterlist::keyOf(Column::Kind), *value);
-    }
-    if (const QString value = invocation.argument(2); !value.isNull()) {
-        list = parameterlist::withEntry(list, row, parameterlist::keyOf(Column::Default), value);
-        list = parameterlist::withEntry(list, row, recordkey::value, list[row].choices().value(0, value));
-    }
-    return finish(list);
+    return change([&](const FilenameParameters &stored) -> platform::Result<FilenameParameters> {
+        FilenameParameters list = parameterlist::withNewParameter(stored, invocation.argument(0));
+        const int row = static_cast<int>(list.size()) - 1;
+        if (const QString kind = invocation.argument(1); !kind.isNull()) {
+            const auto value = entryFromWord(Column::Kind, kind);
+            if (!value)
+                return value.outcome();
+            list = parameterlist::withEntry(list, row, parameterlist::keyOf(Column::Kind), *value);
+        }
+        if (const QString value = invocation.argument(2); !value.isNull()) {
+            list = parameterlist::withEntry(list, row, parameterlist::keyOf(Column::Default), value);
+            list = parameterlist::withEntry(list, row, recordkey::value, list[row].choices().value(0, value));
+        }
+        return list;
+    });
 }
 
 int commands::removeParameter(const Invocation &invocation)
 {
-    const FilenameParameters list = storedParameters();
-    const auto row = rowOf(list, invocation.argument(0));
-    if (!row)
-        return complain(row.outcome());
-    if (!invocation.has("--yes"))
-        return complain(ExitStatus::notOverwritten,
-                        Text::tr("Nothing was removed. This cannot be undone; say --yes to do it."));
-    return finish(parameterlist::without(list, {*row}));
+    return change([&](const FilenameParameters &list) -> platform::Result<FilenameParameters> {
+        const auto row = rowOf(list, invocation.argument(0));
+        if (!row)
+            return row.outcome();
+        if (!invocation.has("--yes"))
+            return Outcome::failure(platform::Cause::Declined, {},
+                                    Text::tr("Nothing was removed. This cannot be undone; say --yes to do it."));
+        return parameterlist::without(list, {*row});
+    });
 }
 
 int commands::moveParameter(const Invocation &invocation)
 {
-    FilenameParameters list = storedParameters();
-    const auto row = rowOf(list, invocation.argument(0));
-    if (!row)
-        return complain(row.outcome());
-    bool isNumber = false;
-    const int position = invocation.argument(1).toInt(&isNumber);
-    if (!isNumber || position < 1 || position > list.size())
-        return misused(Text::tr("The position is a number from 1 to %1.").arg(list.size()));
-    list.move(*row, position - 1);
-    return finish(list);
+    return change([&](FilenameParameters list) -> platform::Result<FilenameParameters> {
+        const auto row = rowOf(list, invocation.argument(0));
+        if (!row)
+            return row.outcome();
+        bool isNumber = false;
+        const int position = invocation.argument(1).toInt(&isNumber);
+        if (!isNumber || position < 1 || position > list.size())
+            return invalid(Text::tr("The position is a number from 1 to %1.").arg(list.size()));
+        list.move(*row, position - 1);
+        return list;
+    });
 }
 
 int commands::setParameter(const Invocation &invocation)
 {
-    const FilenameParameters list = storedParameters();
-    const auto row = rowOf(list, invocation.argument(0));
-    if (!row)
-        return complain(row.outcome());
-    const auto column = parameterlist::columnOfWord(invocation.argument(1));
-    if (!column)
-        return misused(Text::tr("A parameter has no “%1”. It has: %2.")
-                           .arg(invocation.argument(1), parameterlist::columnWords().join(QStringLiteral(", "))));
-    const auto value = entryFromWord(*column, invocation.argument(2));
-    if (!value)
-        return complain(value.outcome());
-    return finish(parameterlist::withEntry(list, *row, parameterlist::keyOf(*column), *value));
+    return change([&](const FilenameParameters &list) -> platform::Result<FilenameParameters> {
+        const auto row = rowOf(list, invocation.argument(0));
+        if (!row)
+            return row.outcome();
+        const auto column = parameterlist::columnOfWord(invocation.argument(1));
+        if (!column)
+            return invalid(Text::tr("A parameter has no “%1”. It has: %2.")
+                               .arg(invocation.argument(1), parameterlist::columnWords().join(QStringLiteral(", "))));
+        const auto value = entryFromWord(*column, invocation.argument(2));
+        if (!value)
+            return value.outcome();
+        return parameterlist::withEntry(list, *row, parameterlist::keyOf(*column), *value);
+    });
 }
 
 int commands::exportParameters(const Invocation &invocation)
@@ -184,13 +197,14 @@ int commands::importParameters(const Invocation &invocation)
     if (!invocation.has("--yes"))
         return complain(ExitStatus::notOverwritten,
                         Text::tr("Nothing was changed. The list would be replaced; say --yes to do it."));
-    return finish(*list);
+    return change([&](const FilenameParameters &) { return list; });
 }
 
 int commands::clearHistory(const Invocation &)
 {
-    VTProjectTableController table;
-    table.awakeFromNib();
-    table.clearHistory();
-    return ExitStatus::done;
+    VTLog::appendLog("Clearing history");
+    const int status = change([](const FilenameParameters &list) { return rules::withHistoryCleared(list); });
+    if (status == ExitStatus::done)
+        VTLog::appendLog("History successfully cleared");
+    return status;
 }

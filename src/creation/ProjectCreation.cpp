@@ -8,7 +8,6 @@
 #include "support/FileOperations.h"
 #include "support/VTAlert.h"
 #include "support/VTLog.h"
-#include "templates/VTDataController.h"
 
 #include <QCoreApplication>
 
@@ -28,25 +27,29 @@ struct Text
 
 } // namespace
 
-CreationResult ProjectCreation::createProject(const QString &templateName, const QString &atPath)
+CreationResult ProjectCreation::createProject(const ProjectRequest &request)
 {
+    m_result.request = request;
     m_host.startProcessing();
-    VTLog::appendLog("Creating template %@ at %@...", templateName, atPath);
+    takeNextNumbers(storedParameters());
+    VTLog::appendLog("Creating template %@ at %@...", request.templateName, m_result.request.destination());
 
-    const Outcome claimed = claimDestination(atPath);
+    const Outcome claimed = claimDestination();
     if (claimed.is(Cause::Declined)) {
         m_result.cancelled = true;
         m_host.finishProcessing();
         return m_result;
     }
+    const QString destination = m_result.request.destination();
     if (!claimed.ok())
-        tell(formatString(Text::tr("Unable to create folder %@"), atPath), checkDestination(claimed));
+        tell(formatString(Text::tr("Unable to create folder %@"), destination), checkDestination(claimed));
 
     // From here on nothing ends the sequence: what could be made is renamed, dated and counted, and each failure told.
-    copyTemplate(VTDataController::filesFolder(templateName), atPath);
-    renameTemplateFiles(atPath, projectNameFromParameters());
-    updateTimestamps(atPath);
-    m_host.reveal(atPath);
+    copyTemplate(request.templateFiles, destination);
+    renameTemplateFiles(destination, m_result.request.name());
+    updateTimestamps(destination);
+    m_host.reveal(destination);
+    VTLog::appendLog("Incrementing dynamic values");
     m_host.incrementDynamicValues();
     m_host.quitIfWanted();
     VTLog::appendLog("Template created successfully");
@@ -54,26 +57,54 @@ CreationResult ProjectCreation::createProject(const QString &templateName, const
     return m_result;
 }
 
-/// Makes the project's own folder, its parents first. Made in one step that fails when anything stands there, so that
-/// of two programs that create the same project at once only one goes on and the other asks. Cause::Declined: nothing
-/// may be created.
-Outcome ProjectCreation::claimDestination(const QString &destination)
+void ProjectCreation::takeNextNumbers(const FilenameParameters &stored)
+{
+    const QString before = m_result.request.relativePath();
+    m_result.request = withNextNumbers(m_result.request, stored);
+    if (const QString now = m_result.request.relativePath(); now != before)
+        VTLog::appendLog("Another program has taken the number of %@; this project is %@", before, now);
+}
+
+/// Makes the project's own folder, its parents first. It is made in one step that fails when anything stands there, so
+/// that of two programs that create the same project at once only one goes on and the other asks. Cause::Declined:
+/// nothing may be created.
+Outcome ProjectCreation::claimDestination()
 {
     for (;;) {
+        const QString destination = m_result.request.destination();
         if (platform::kindOf(destination) != FileKind::Missing && !putAwayExisting(destination))
             return Outcome::failure(Cause::Declined, destination);
-        const QString parent = platform::parentPath(destination);
-        const Outcome above =
-            VTFileManager::isDirectoryAtPath(parent) ? Outcome() : fileoperations::createDirectory(parent, patience);
-        if (!above.ok())
-            return above;
-        const Outcome made = platform::makeNewFolder(destination);
-        if (made.ok())
+        const Outcome made = claimOnce();
+        if (made.is(Cause::Busy)) // the numbers are another's by now
+            takeNextNumbers(storedParameters());
+        else if (made.ok())
             return made;
         // Something that stands there and cannot be looked at (a mount that is gone) would be asked about for ever.
-        if (!made.is(Cause::Exists) || platform::kindOf(destination) == FileKind::Missing)
+        else if (!made.is(Cause::Exists) || platform::kindOf(destination) == FileKind::Missing)
             return fileoperations::createDirectory(destination, patience);
     }
+}
+
+/// One try: folder and numbers become this project's in one step, so that of any number of programs at once each has
+/// numbers of its own. Where the folder cannot be made the numbers are taken all the same, as its failure does not end
+/// the creation. Cause::Exists: something stands there; Cause::Busy: the numbers have been taken by another.
+Outcome ProjectCreation::claimOnce()
+{
+    const QString destination = m_result.request.destination();
+    Outcome made;
+    const Outcome stored =
+        changeParameters([&](const FilenameParameters &list) -> platform::Result<FilenameParameters> {
+            if (withNextNumbers(m_result.request, list).parameters != m_result.request.parameters)
+                return made = Outcome::failure(Cause::Busy, destination);
+            made = platform::makeFolders(platform::parentPath(destination));
+            if (made.ok())
+                made = platform::makeNewFolder(destination);
+            if (made.is(Cause::Exists) && platform::kindOf(destination) != FileKind::Missing)
+                return made;
+            return withNumbersTaken(list, m_result.request);
+        });
+    static_cast<void>(stored); // the log says what the settings could not take
+    return made;
 }
 
 /// Asks, and moves the existing project to the Trash. False: it stays, and so nothing may be created.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "creation/ProjectRequest.h"
 #include "platform/files/FileSystem.h"
 
 #include <QStringList>
@@ -11,7 +12,7 @@ public:
     virtual ~CreationHost() = default;
     virtual void startProcessing() = 0;
     virtual void finishProcessing() = 0;
-    /** The counters advance: the next project gets the next number. */
+    /** The counters have advanced: the next project gets the next number, which can be shown now. */
     virtual void incrementDynamicValues() = 0;
     /** The project stands; shown to the user if the user wants that. */
     virtual void reveal(const QString &project) = 0;
@@ -23,6 +24,7 @@ struct CreationResult
 {
     bool cancelled = false; ///< the user did not want the existing project overwritten, or it could not be put away
     QStringList errors;     ///< one sentence for each message shown
+    ProjectRequest request; ///< what was made: with other numbers than asked for where those had been taken
     qsizetype folders = 0;
     qsizetype files = 0;
     qsizetype renamed = 0;
@@ -43,7 +45,7 @@ public:
 
     /** The whole sequence. A folder or a copy that fails does not end it: what could be made is finished and told of.
      */
-    [[nodiscard]] CreationResult createProject(const QString &templateName, const QString &atPath);
+    [[nodiscard]] CreationResult createProject(const ProjectRequest &request);
 
     /** Renames every item below the folder whose name says template, children before their parents, links themselves.
      */
@@ -51,10 +53,10 @@ public:
     /** Dates every item below the folder, the folder itself not. */
     void updateTimestamps(const QString &folder);
 
-    [[nodiscard]] const CreationResult &result() const { return m_result; }
-
 private:
-    platform::Outcome claimDestination(const QString &destination);
+    platform::Outcome claimDestination();
+    platform::Outcome claimOnce();
+    void takeNextNumbers(const FilenameParameters &stored);
     [[nodiscard]] bool putAwayExisting(const QString &destination);
     void copyTemplate(const QString &files, const QString &destination);
     void renameBelow(const QString &folder, const QString &newName);

@@ -174,6 +174,20 @@ FilenameParameters without(const FilenameParameters &list, const QList<int> &row
     return remaining;
 }
 
+std::optional<qsizetype> rowOfSame(const FilenameParameters &list, qsizetype row, const FilenameParameters &other)
+{
+    const QString title = list[row].title();
+    const auto isSame = [&](const FilenameParameter &parameter) {
+        return parameter.title() == title;
+    };
+    auto before = std::count_if(list.begin(), list.begin() + row, isSame);
+    for (qsizetype i = 0; i < other.size(); ++i) {
+        if (isSame(other[i]) && before-- == 0)
+            return i;
+    }
+    return std::nullopt;
+}
+
 std::optional<Moved> moved(const FilenameParameters &list, QList<int> rows, int dropRow)
 {
     std::sort(rows.begin(), rows.end());

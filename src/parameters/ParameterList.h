@@ -35,6 +35,10 @@ inline constexpr int columnCount = 7;
 [[nodiscard]] FilenameParameters withEntry(FilenameParameters list, int row, const QString &key, const QVariant &value);
 [[nodiscard]] FilenameParameters without(const FilenameParameters &list, const QList<int> &rows);
 
+/** Where a row's parameter is in another list: the first of the same title, of several the same one of them. */
+[[nodiscard]] std::optional<qsizetype> rowOfSame(const FilenameParameters &list, qsizetype row,
+                                                 const FilenameParameters &other);
+
 struct Moved
 {
     FilenameParameters list;

@@ -1,7 +1,9 @@
 #include "parameters/ParameterStore.h"
 
 #include "parameters/ProjectNaming.h"
+#include "parameters/ValueRules.h"
 #include "support/Settings.h"
+#include "support/VTLocalPaths.h"
 #include "support/VTLog.h"
 
 using platform::Outcome;
@@ -11,9 +13,25 @@ FilenameParameters storedParameters()
     return parametersFromVariant(settings::filenameTemplate.value());
 }
 
-Outcome storeParameters(const FilenameParameters &parameters)
+FilenameParameters currentParameters()
 {
-    return settings::filenameTemplate.store(variantFromParameters(parameters));
+    return withDynamicValues(rules::asLoaded(storedParameters()));
+}
+
+FilenameParameters withDynamicValues(FilenameParameters parameters)
+{
+    return rules::withDynamicValues(std::move(parameters), settings::dateFormat.text(), VTLocalPaths::username(),
+                                    std::time(nullptr));
+}
+
+Outcome changeParameters(const ListChange &change)
+{
+    return settings::filenameTemplate.change([&](const QVariant &stored) -> platform::Result<QVariant> {
+        const auto list = change(parametersFromVariant(stored));
+        if (!list)
+            return list.outcome();
+        return QVariant(variantFromParameters(*list));
+    });
 }
 
 Outcome restoreShippedParameters()
@@ -37,17 +55,7 @@ void keepDamagedParameters()
         static_cast<void>(restoreShippedParameters());
 }
 
-QStringList pathComponentsFromParameters()
-{
-    return naming::pathComponents(storedParameters(), settings::separatorChar.text());
-}
-
 QString pathNameFromParameters()
 {
-    return naming::pathName(pathComponentsFromParameters());
-}
-
-QString projectNameFromParameters()
-{
-    return naming::projectName(pathComponentsFromParameters());
+    return naming::pathName(naming::pathComponents(storedParameters(), settings::separatorChar.text()));
 }

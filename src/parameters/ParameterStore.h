@@ -3,17 +3,30 @@
 #include "parameters/FilenameParameter.h"
 #include "platform/base/Outcome.h"
 
-/** The list of parameters as it is kept in the settings, and what follows from it at the moment of the call. Any
- * thread. */
+#include <functional>
+
+/**
+ * The list of parameters as it is kept in the settings, where windows and commands share it: whoever changes it says
+ * what becomes of the list as it is at that moment, never what it was when they last looked. Any thread.
+ */
 
 [[nodiscard]] FilenameParameters storedParameters();
-platform::Outcome storeParameters(const FilenameParameters &parameters);
+/** As the list is when the program starts: defaults in place of values that nobody keeps, today's date, the user. */
+[[nodiscard]] FilenameParameters currentParameters();
+/** The list with today's date and the user's name. */
+[[nodiscard]] FilenameParameters withDynamicValues(FilenameParameters parameters);
+
+using ListChange = std::function<platform::Result<FilenameParameters>(FilenameParameters)>;
+/**
+ * Stores what the function makes of the stored list; what it refuses to change stays. It is called exactly once, under
+ * the lock of the settings: of several programs at once each builds on what the others made.
+ */
+platform::Outcome changeParameters(const ListChange &change);
 /** The shipped list applies again. */
 platform::Outcome restoreShippedParameters();
 /** What stands in place of the list and is none, or records in it that are none, is put away under another key and said
    in the log, so that nothing is lost. */
 void keepDamagedParameters();
 
-[[nodiscard]] QStringList pathComponentsFromParameters();
+/** What a project of the stored values is called, all levels. */
 [[nodiscard]] QString pathNameFromParameters();
-[[nodiscard]] QString projectNameFromParameters();

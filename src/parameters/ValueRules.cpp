@@ -106,15 +106,6 @@ FilenameParameters withDynamicValues(FilenameParameters parameters, const QStrin
     return parameters;
 }
 
-FilenameParameters withCountersAdvanced(FilenameParameters parameters)
-{
-    for (FilenameParameter &parameter : parameters) {
-        if (parameter.kind() == FilenameParameter::Kind::Counter)
-            parameter.setValue(incrementNumber(parameter.value()));
-    }
-    return parameters;
-}
-
 FilenameParameters withHistoryCleared(FilenameParameters parameters)
 {
     for (FilenameParameter &parameter : parameters) {

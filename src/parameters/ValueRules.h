@@ -36,7 +36,6 @@ inline constexpr qsizetype historyLimit = 50;
 // The whole list.
 [[nodiscard]] FilenameParameters withDynamicValues(FilenameParameters parameters, const QString &dateFormat,
                                                    const QString &userName, std::time_t now);
-[[nodiscard]] FilenameParameters withCountersAdvanced(FilenameParameters parameters);
 [[nodiscard]] FilenameParameters withHistoryCleared(FilenameParameters parameters);
 /** As at start-up: values without history go back to their defaults, counters and choices stay. */
 [[nodiscard]] FilenameParameters asLoaded(FilenameParameters parameters);

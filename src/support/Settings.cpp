@@ -222,6 +222,11 @@ Outcome Setting::store(const QVariant &value) const
                                    : settings::standard().setValue(*this, value);
 }
 
+Outcome Setting::change(const platform::UserDefaults::Change &change) const
+{
+    return settings::standard().changeValue(*this, change);
+}
+
 Outcome Setting::reset() const
 {
     return settings::standard().removeValue(*this);

@@ -44,6 +44,8 @@ struct Setting
     [[nodiscard]] QVariant value() const;
     /** As it is; checked() comes before, where a person typed it. Machine-wide where the row says so. */
     platform::Outcome store(const QVariant &value) const;
+    /** A value of the user's that depends on what it was; see UserDefaults::changeValue(). */
+    platform::Outcome change(const platform::UserDefaults::Change &change) const;
     /** The default applies again. */
     platform::Outcome reset() const;
 };

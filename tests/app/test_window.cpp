@@ -107,7 +107,7 @@ private Q_SLOTS:
         QTRY_COMPARE(processing.size(), 2);
         QCOMPARE(readFile(fixed("Acme_007/Promo/Promo.txt")), QByteArray("one"));
         QCOMPARE(value(1), QString("008"));
-        QCOMPARE(m_delegate->pathNameFromParameters(), QString("Acme_008/Promo"));
+        QCOMPARE(m_delegate->shownRequest().relativePath(), QString("Acme_008/Promo"));
         QCOMPARE(part<QLabel>("createdLabel")->text(), QString("Created ‘Promo’."));
         QVERIFY(!part<Spinner>("spinner")->isSpinning() && part<QPushButton>("createButton")->isEnabled());
     }

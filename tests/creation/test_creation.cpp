@@ -4,6 +4,7 @@
 #include "harness/Answers.h"
 #include "harness/StoredSettings.h"
 #include "harness/TemporaryHome.h"
+#include "parameters/ParameterStore.h"
 #include "platform/base/NativePath.h"
 #include "platform/desktop/Desktop.h"
 #include "platform/files/FileSystem.h"
@@ -69,7 +70,9 @@ class TestCreation : public QObject
         return platform::joined(VTDataController::filesFolder("Test"), item);
     }
     QString project(const QString &item = {}) const { return platform::joined(m_work->filePath("Acme/Promo"), item); }
-    CreationResult create() { return ProjectCreation(m_host).createProject("Test", project()); }
+    /// What a window would ask for that shows the stored values.
+    ProjectRequest request() const { return {storedParameters(), {}, "_", "Test", files(), m_work->path()}; }
+    CreationResult create() { return ProjectCreation(m_host).createProject(request()); }
     void answer(bool goOn)
     {
         m_presenter.reset(); // an old one takes its place in the program along

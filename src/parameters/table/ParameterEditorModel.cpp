@@ -102,7 +102,10 @@ bool ParameterEditorModel::setData(const QModelIndex &index, const QVariant &val
     const bool isShown = !isFlag(column) && value == parameterlist::shownValue(list, index.row(), column);
     if (isShown || !parameterlist::isEditable(list, index.row(), column))
         return false;
-    store(parameterlist::withEntry(list, index.row(), parameterlist::keyOf(column), stored));
+    change([&](const FilenameParameters &now) {
+        const auto row = parameterlist::rowOfSame(list, index.row(), now);
+        return row ? parameterlist::withEntry(now, static_cast<int>(*row), parameterlist::keyOf(column), stored) : now;
+    });
     Q_EMIT dataChanged(index.siblingAtColumn(0), index.siblingAtColumn(parameterlist::columnCount - 1));
     return true;
 }
@@ -151,21 +154,23 @@ bool ParameterEditorModel::canDropMimeData(const QMimeData *data, Qt::DropAction
 bool ParameterEditorModel::dropMimeData(const QMimeData *data, Qt::DropAction, int row, int, const QModelIndex &parent)
 {
     const int dropRow = row >= 0 ? row : parent.isValid() ? parent.row() : rowCount();
-    const auto result = parameterlist::moved(storedParameters(), rowsOf(*data), dropRow);
-    if (!result)
-        return false;
+    std::optional<parameterlist::Moved> result;
     beginResetModel();
-    store(result->list);
+    change([&](const FilenameParameters &list) {
+        result = parameterlist::moved(list, rowsOf(*data), dropRow);
+        return result ? result->list : list;
+    });
     endResetModel();
-    Q_EMIT rowsDropped(result->selection);
-    return true;
+    if (result)
+        Q_EMIT rowsDropped(result->selection);
+    return result.has_value();
 }
 
 int ParameterEditorModel::addNewFilenameParam()
 {
     const int row = rowCount();
     beginInsertRows({}, row, row);
-    store(parameterlist::withNewParameter(storedParameters(), tr("New Parameter")));
+    change([](const FilenameParameters &list) { return parameterlist::withNewParameter(list, tr("New Parameter")); });
     endInsertRows();
     return row;
 }
@@ -173,7 +178,7 @@ int ParameterEditorModel::addNewFilenameParam()
 void ParameterEditorModel::remove(const QList<int> &rows)
 {
     beginResetModel();
-    store(parameterlist::without(storedParameters(), rows));
+    change([&](const FilenameParameters &list) { return parameterlist::without(list, rows); });
     endResetModel();
 }
 
@@ -192,9 +197,11 @@ void ParameterEditorModel::reload()
     endResetModel();
 }
 
-void ParameterEditorModel::store(const FilenameParameters &list)
+void ParameterEditorModel::change(const std::function<FilenameParameters(FilenameParameters)> &change)
 {
-    static_cast<void>(storeParameters(list)); // the table shows what is stored
+    const platform::Outcome stored = changeParameters(
+        [&](FilenameParameters list) { return platform::Result<FilenameParameters>(change(std::move(list))); });
+    static_cast<void>(stored); // the table shows what is stored
     notify();
     Q_EMIT listChanged();
 }

@@ -3,6 +3,7 @@
 #include "parameters/ParameterList.h"
 
 #include <QAbstractTableModel>
+#include <functional>
 
 /**
  * The table in which the list of parameters itself is edited. It keeps no copy: every read goes to the stored list,
@@ -50,5 +51,5 @@ Q_SIGNALS:
     void listChanged();
 
 private:
-    void store(const FilenameParameters &list);
+    void change(const std::function<FilenameParameters(FilenameParameters)> &change);
 };

@@ -1,6 +1,8 @@
 #include "parameters/table/VTProjectTableController.h"
 
+#include "parameters/ParameterList.h"
 #include "parameters/ParameterStore.h"
+#include "parameters/ProjectNaming.h"
 #include "parameters/ValueRules.h"
 #include "platform/base/MainThread.h"
 #include "platform/base/NativePath.h"
@@ -145,12 +147,13 @@ bool VTProjectTableController::setData(const QModelIndex &index, const QVariant 
 {
     if (role != Qt::EditRole || !index.isValid() || !checkIndex(index) || index.column() != ValueColumn)
         return false;
+    const bool strict = settings::strictNaming.isOn();
     bool keptTyped = false;
-    FilenameParameter &parameter = m_dataArray[index.row()];
-    parameter = rules::withTypedValue(parameter, value.toString(), settings::strictNaming.isOn(), &keptTyped);
+    changeRow(index.row(), [&](const FilenameParameter &parameter) {
+        return rules::withTypedValue(parameter, value.toString(), strict, &keptTyped);
+    });
     if (keptTyped)
         VTLog::appendLog("string length is 0");
-    store();
     Q_EMIT dataChanged(index, index);
     updateFilenamePreview();
     return true;
@@ -160,6 +163,8 @@ void VTProjectTableController::finishEditing()
 {
     if (m_views.tableView)
         m_views.tableView->finishEditing();
+    if (m_isBehind)
+        follow();
 }
 
 void VTProjectTableController::startProcessing()
@@ -193,76 +198,137 @@ void VTProjectTableController::revertToDefaultValue()
     const auto selected = m_views.tableView ? m_views.tableView->firstSelectedRow() : std::nullopt;
     if (!selected)
         return;
-    FilenameParameter &parameter = m_dataArray[*selected];
     // Records carry their name as "title": the line says (null), and existing readers of the log know it so.
-    VTLog::appendLog("Reverting %@ to its default value",
-                     parameter.entry("name").isValid() ? parameter.entry("name").toString() : QString());
-    parameter.setValue(rules::revertedValue(parameter));
-    store();
-    Q_EMIT dataChanged(index(*selected, TitleColumn), index(*selected, ValueColumn));
+    const QVariant name = m_dataArray[*selected].entry("name");
+    VTLog::appendLog("Reverting %@ to its default value", name.isValid() ? name.toString() : QString());
+    changeRow(*selected, [](FilenameParameter parameter) {
+        parameter.setValue(rules::revertedValue(parameter));
+        return parameter;
+    });
     updateFilenamePreview();
 }
 
 void VTProjectTableController::clearHistory()
 {
     VTLog::appendLog("Clearing history");
-    setDataArray(rules::withHistoryCleared(m_dataArray));
+    change(rules::withHistoryCleared);
     VTLog::appendLog("History successfully cleared");
 }
 
 void VTProjectTableController::incrementDynamicValues()
 {
-    VTLog::appendLog("Incrementing dynamic values");
-    setDataArray(rules::withCountersAdvanced(m_dataArray));
-    updateFilenamePreview();
+    follow();
 }
 
 void VTProjectTableController::updateDynamicValues()
 {
     VTLog::appendLog("Updating dynamic values");
-    setDataArray(rules::withDynamicValues(m_dataArray, settings::dateFormat.text(), VTLocalPaths::username(),
-                                          std::time(nullptr)));
+    change(withDynamicValues);
     updateFilenamePreview();
+}
+
+void VTProjectTableController::bringUpToDate()
+{
+    follow();
+    if (withDynamicValues(m_dataArray) != m_dataArray)
+        updateDynamicValues();
 }
 
 void VTProjectTableController::loadFilenameData()
 {
     VTLog::appendLog("Loading filename parameter data");
     keepDamagedParameters();
-    const FilenameParameters stored = storedParameters();
-    VTLog::appendLog("Params: %@", described(stored));
-    setDataArray(rules::asLoaded(stored));
+    VTLog::appendLog("Params: %@", described(storedParameters()));
+    change(rules::asLoaded);
     updateFilenamePreview();
     VTLog::appendLog("Filename parameter data loaded successfully");
 }
 
-void VTProjectTableController::setDataArray(FilenameParameters parameters)
+void VTProjectTableController::follow()
 {
-    if (parameters == m_dataArray && !m_dataArray.isEmpty())
-        return store();
-    if (parameters.size() == m_dataArray.size() && !parameters.isEmpty()) {
-        // The rows stay: so do the selection and the place of the one who looks at them.
-        m_dataArray = std::move(parameters);
-        Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, ColumnCount - 1));
-    } else {
-        beginResetModel();
-        m_dataArray = std::move(parameters);
-        endResetModel();
-    }
-    store();
-    Q_EMIT emptinessChanged(m_dataArray.isEmpty());
+    show(storedParameters());
+    updateFilenamePreview();
 }
 
-void VTProjectTableController::store()
+void VTProjectTableController::change(const std::function<FilenameParameters(FilenameParameters)> &change)
 {
-    static_cast<void>(storeParameters(m_dataArray)); // the log says what the settings could not take
+    FilenameParameters changed;
+    const platform::Outcome stored = changeParameters([&](FilenameParameters list) {
+        changed = change(std::move(list));
+        return platform::Result<FilenameParameters>(changed);
+    });
+    static_cast<void>(stored); // the log says what the settings could not take
+    show(std::move(changed));
+}
+
+/// A parameter that another program has taken out of the list is changed no more.
+void VTProjectTableController::changeRow(int row, const std::function<FilenameParameter(FilenameParameter)> &change)
+{
+    this->change([&](FilenameParameters list) {
+        if (const auto there = parameterlist::rowOfSame(m_dataArray, row, list))
+            list[*there] = change(list[*there]);
+        return list;
+    });
+}
+
+bool VTProjectTableController::isEdited(int row) const
+{
+    return m_views.tableView && m_views.tableView->indexWidget(index(row, ValueColumn));
+}
+
+void VTProjectTableController::show(FilenameParameters parameters)
+{
+    m_isBehind = !replaceRows(parameters);
+    if (m_isBehind)
+        return;
+    for (int row = 0; row < rowCount(); ++row) {
+        if (m_dataArray[row] == parameters[row])
+            continue;
+        m_dataArray[row] = parameters[row];
+        if (!isEdited(row)) // what is being typed stays
+            Q_EMIT dataChanged(index(row, TitleColumn), index(row, ValueColumn));
+    }
+}
+
+/// Rows that came or went, between those at both ends that stayed: so do the selection, the edit and the place of the
+/// one who looks at them. False, and nothing changed, when a row that is being edited would go.
+bool VTProjectTableController::replaceRows(const FilenameParameters &parameters)
+{
+    const auto sameTitle = [](const FilenameParameter &a, const FilenameParameter &b) {
+        return a.title() == b.title();
+    };
+    const auto [oldEnd, newEnd] =
+        std::mismatch(m_dataArray.cbegin(), m_dataArray.cend(), parameters.cbegin(), parameters.cend(), sameTitle);
+    const auto first = static_cast<int>(oldEnd - m_dataArray.cbegin());
+    const auto tail = std::mismatch(m_dataArray.crbegin(), std::make_reverse_iterator(oldEnd), parameters.crbegin(),
+                                    std::make_reverse_iterator(newEnd), sameTitle);
+    const auto oldCount = static_cast<int>(tail.first.base() - oldEnd);
+    const auto newCount = static_cast<int>(tail.second.base() - newEnd);
+    for (int row = first; row < first + oldCount; ++row) {
+        if (isEdited(row))
+            return false;
+    }
+    if (oldCount > 0) {
+        beginRemoveRows({}, first, first + oldCount - 1);
+        m_dataArray.remove(first, oldCount);
+        endRemoveRows();
+    }
+    if (newCount > 0) {
+        beginInsertRows({}, first, first + newCount - 1);
+        for (int row = first; row < first + newCount; ++row)
+            m_dataArray.insert(row, parameters[row]);
+        endInsertRows();
+    }
+    if (oldCount > 0 || newCount > 0 || parameters.isEmpty())
+        Q_EMIT emptinessChanged(m_dataArray.isEmpty());
+    return true;
 }
 
 void VTProjectTableController::updateFilenamePreview()
 {
     if (!m_views.previewPathControl)
         return;
-    const QString path = pathNameFromParameters();
+    const QString path = naming::pathName(naming::pathComponents(m_dataArray, settings::separatorChar.text()));
     if (path.isNull()) {
         VTLog::appendLog("Error: null filename for path display");
         return;

@@ -4,6 +4,7 @@
 
 #include <QAbstractTableModel>
 #include <QPointer>
+#include <functional>
 
 class PathControl;
 class QLabel;
@@ -12,8 +13,8 @@ class VTTabbedEditTableView;
 
 /**
  * The table in which the user fills in the filename parameters: model and controller. Keeps a working copy of the
- * stored records, equal to the stored list after every change. Without a view (on the command line) it is the same
- * engine: every view member may stay unset. Main thread only.
+ * stored records, equal to the stored list after every change; a change is made to the list as it is stored at that
+ * moment, so that what other programs have made of it stays. Every view member may stay unset. Main thread only.
  */
 class VTProjectTableController : public QAbstractTableModel
 {
@@ -52,7 +53,15 @@ public:
     void editItem(int row);
 
     void clearHistory();
+    /** Shows the counters as a creation has left them. */
     void incrementDynamicValues();
+    /** The day may have changed since the values were filled in. */
+    void bringUpToDate();
+    /**
+     * Shows what another program has stored. The edit in progress goes on; where its own row is no longer in its place,
+     * the rows follow when it ends.
+     */
+    void follow();
 
 public Q_SLOTS:
     void loadFilenameData();
@@ -69,13 +78,17 @@ Q_SIGNALS:
     void emptinessChanged(bool empty);
 
 private:
-    void setDataArray(FilenameParameters parameters);
-    void store();
+    void change(const std::function<FilenameParameters(FilenameParameters)> &change);
+    void changeRow(int row, const std::function<FilenameParameter(FilenameParameter)> &change);
+    void show(FilenameParameters parameters);
+    [[nodiscard]] bool isEdited(int row) const;
+    [[nodiscard]] bool replaceRows(const FilenameParameters &parameters);
     [[nodiscard]] QVariant titleData(const FilenameParameter &parameter, int role) const;
     [[nodiscard]] QVariant valueData(const FilenameParameter &parameter, int role) const;
     void showWarning(bool exists);
 
     FilenameParameters m_dataArray;
     Views m_views;
+    bool m_isBehind = false;     ///< rows came or went during an edit of one of them
     quint64 m_previewNumber = 0; ///< an answer about an earlier preview's existence is not shown
 };

@@ -141,11 +141,15 @@ bool UserDefaults::equalsOne(const QString &key) const
     return found.typeId() != QMetaType::QString && found.canConvert<double>() && found.toDouble() == 1.0;
 }
 
-Outcome UserDefaults::store(Domain &domain, const QString &key, const QVariant &value)
+bool UserDefaults::holds(const Domain &domain, const QString &key, const QVariant &value)
 {
-    refresh(domain);
-    if (domain.problem.ok() && domain.values.value(key) == value && domain.values.value(key).typeId() == value.typeId())
-        return {};
+    const QVariant stored = domain.values.value(key);
+    return domain.problem.ok() && stored == value && stored.typeId() == value.typeId();
+}
+
+/// Of the machine's file the caller tells, who knows what it does instead; of a refused change, too.
+Outcome UserDefaults::store(Domain &domain, const QString &key, const Change &change)
+{
     const Outcome folderMade = makeFolders(parentPath(domain.file));
     Outcome lockFailure;
     std::optional<FileLock> held;
@@ -159,24 +163,37 @@ Outcome UserDefaults::store(Domain &domain, const QString &key, const QVariant &
         m_onProblem(QStringLiteral("Settings %1 are locked by another program; writing all the same").arg(domain.file));
     domain.stamp = "?"; // re-read whatever the stamp says: two writes may fall into one tick of the file system's clock
     refresh(domain);
-    if (value.isValid())
-        domain.values.insert(key, value);
+    const Result<QVariant> value = change(lookUp(key));
+    if (!value)
+        return value.outcome();
+    if (holds(domain, key, *value))
+        return {};
+    if (value->isValid())
+        domain.values.insert(key, *value);
     else
         domain.values.remove(key);
     const Outcome written = !folderMade.ok()       ? folderMade
                             : !domain.problem.ok() ? domain.problem
                                                    : writePropertyListFile(domain.file, domain.values);
     domain.stamp = stampOf(domain.file);
+    if (!written.ok() && &domain == &m_user)
+        m_onProblem(QStringLiteral("Unable to write settings %1").arg(written.description()));
     return written;
 }
 
 Outcome UserDefaults::setValue(const QString &key, const QVariant &value)
 {
     const std::scoped_lock lock(m_mutex);
-    const Outcome written = store(m_user, key, value);
-    if (!written.ok())
-        m_onProblem(QStringLiteral("Unable to write settings %1").arg(written.description()));
-    return written;
+    refresh(m_user);
+    if (holds(m_user, key, value))
+        return {};
+    return store(m_user, key, [&](const QVariant &) { return value; });
+}
+
+Outcome UserDefaults::changeValue(const QString &key, const Change &change)
+{
+    const std::scoped_lock lock(m_mutex);
+    return store(m_user, key, change);
 }
 
 Outcome UserDefaults::removeValue(const QString &key)
@@ -187,11 +204,11 @@ Outcome UserDefaults::removeValue(const QString &key)
 Outcome UserDefaults::setMachineWideValue(const QString &key, const QVariant &value)
 {
     const std::scoped_lock lock(m_mutex);
-    const Domain before = m_machine;
-    const Outcome written = store(m_machine, key, value);
-    if (written.ok())
+    refresh(m_machine);
+    const QVariantMap before = m_machine.values;
+    if (holds(m_machine, key, value) || store(m_machine, key, [&](const QVariant &) { return value; }).ok())
         return {};
-    m_machine = before;
+    m_machine.values = before;
     m_onProblem(QStringLiteral("Unable to write machine-wide settings; keeping %1 for this user").arg(key));
     return setValue(key, value);
 }

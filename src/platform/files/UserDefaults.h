@@ -41,6 +41,13 @@ public:
 
     /** When the file could not be written, the value lasts as long as this process. */
     Outcome setValue(const QString &key, const QVariant &value);
+    /** What a value becomes, from what it is at that moment; a failure leaves it as it is. */
+    using Change = std::function<Result<QVariant>(const QVariant &current)>;
+    /**
+     * Changes a value that depends on what it was: the function is called once, under the lock, so that of two programs
+     * that do so at once each builds on the other's. It may read settings, not write them. Its failure comes back.
+     */
+    Outcome changeValue(const QString &key, const Change &change);
     /** What the machine-wide domain or the registered defaults hold shows again. */
     Outcome removeValue(const QString &key);
     /** Into the machine-wide domain; into the user's when this process may not write that one. */
@@ -55,7 +62,8 @@ private:
         Outcome problem;  ///< why it could not be read: it may hold anything, so it must not be replaced
     };
     void refresh(Domain &domain) const;
-    Outcome store(Domain &domain, const QString &key, const QVariant &value);
+    [[nodiscard]] static bool holds(const Domain &domain, const QString &key, const QVariant &value);
+    Outcome store(Domain &domain, const QString &key, const Change &change);
     [[nodiscard]] QVariant lookUp(const QString &key) const;
 
     mutable std::recursive_mutex m_mutex;

@@ -203,7 +203,7 @@ private Q_SLOTS:
         QCOMPARE(values(), QStringList({"default", "two", "7", "", "Green"}));
         for (int row = 0; row < 3; ++row)
             QVERIFY(engine.setData(engine.index(row, 1), "9", Qt::EditRole));
-        engine.incrementDynamicValues();
+        QVERIFY(engine.setData(engine.index(2, 1), "10", Qt::EditRole));
         QCOMPARE(values(), QStringList({"9", "9", "10", "", "Green"}));
         Q_EMIT Notifications::hub().VTTessaroReloadFilenameParams(); // what was typed without a history goes
         Q_EMIT Notifications::hub().VTTessaroRefreshDynamicValues();

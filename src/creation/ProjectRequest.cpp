@@ -1,0 +1,77 @@
+#include "creation/ProjectRequest.h"
+
+#include "parameters/ParameterList.h"
+#include "parameters/ProjectNaming.h"
+#include "parameters/ValueRules.h"
+#include "platform/base/NativePath.h"
+
+namespace {
+
+bool isCounter(const FilenameParameter &parameter)
+{
+    return parameter.kind() == FilenameParameter::Kind::Counter;
+}
+
+/// Whether the value is there again after the next start, or the default in its place.
+bool isKept(const FilenameParameter &parameter)
+{
+    return rules::asLoaded({parameter}).constFirst() == parameter;
+}
+
+} // namespace
+
+QStringList ProjectRequest::levels() const
+{
+    return naming::pathComponents(parameters, separator);
+}
+
+QString ProjectRequest::relativePath() const
+{
+    return naming::pathName(levels());
+}
+
+QString ProjectRequest::name() const
+{
+    return naming::projectName(levels());
+}
+
+QString ProjectRequest::destination() const
+{
+    return platform::joined(location, relativePath());
+}
+
+ProjectRequest withTypedValue(ProjectRequest request, qsizetype row, const QString &typed, bool strictNaming)
+{
+    FilenameParameter &parameter = request.parameters[row];
+    parameter = rules::withTypedValue(parameter, typed, strictNaming);
+    request.typed.insert(row, parameter.value());
+    return request;
+}
+
+ProjectRequest withNextNumbers(ProjectRequest request, const FilenameParameters &stored)
+{
+    for (qsizetype row = 0; row < request.parameters.size(); ++row) {
+        const auto there = parameterlist::rowOfSame(request.parameters, row, stored);
+        if (isCounter(request.parameters[row]) && !request.typed.contains(row) && there && isCounter(stored[*there]))
+            request.parameters[row].setValue(stored[*there].value());
+    }
+    return request;
+}
+
+FilenameParameters withNumbersTaken(FilenameParameters stored, const ProjectRequest &request)
+{
+    for (qsizetype row = 0; row < request.parameters.size(); ++row) {
+        const auto there = parameterlist::rowOfSame(request.parameters, row, stored);
+        if (!there)
+            continue;
+        FilenameParameter &parameter = stored[*there];
+        if (const auto typed = request.typed.constFind(row); typed != request.typed.cend()) {
+            const FilenameParameter filledIn = rules::withTypedValue(parameter, *typed, false);
+            parameter = isKept(filledIn) ? filledIn : parameter;
+        }
+        const QString number = request.parameters[row].value();
+        if (isCounter(request.parameters[row]) && isCounter(parameter) && parameter.value() == number)
+            parameter.setValue(rules::incrementNumber(number));
+    }
+    return stored;
+}
