@@ -10,6 +10,7 @@
 #include "platform/desktop/ApplicationLauncher.h"
 #include "platform/desktop/Desktop.h"
 #include "platform/files/ApplicationBundle.h"
+#include "platform/files/FileWatch.h"
 #include "preferences/VTPreferenceController.h"
 #include "support/Notifications.h"
 #include "support/Settings.h"
@@ -61,7 +62,37 @@ bool TessaroAppDelegate::awakeFromNib()
     if (!platform::registeredApplication(siblingApplication).isNull())
         m_window->removeProductFamilyItem();
     toolbarNewProjectAction();
+    watchSettings();
     return true;
+}
+
+void TessaroAppDelegate::watchSettings()
+{
+    m_seenTemplate = settings::selectedProjectTemplate.text();
+    m_seenDefault = settings::defaultTemplate.text();
+    m_settingsWatch = std::make_unique<platform::FileWatch>(settings::userFile(), [this] { followSettings(); });
+    // A home on a share may have been written to from another machine; and the day may be another.
+    connect(qApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
+        if (state == Qt::ApplicationActive)
+            followSettings();
+    });
+}
+
+void TessaroAppDelegate::followSettings()
+{
+    if (m_creating) // its own steps write settings, and it follows at its end
+        return;
+    m_tableController->bringUpToDate();
+    followTemplate(settings::selectedProjectTemplate.text(), m_seenTemplate);
+    followTemplate(settings::defaultTemplate.text(), m_seenDefault);
+    Q_EMIT Notifications::hub().settingsWritten();
+}
+
+/// Only what was changed moves the pop-up: what the user chose in it stays.
+void TessaroAppDelegate::followTemplate(const QString &name, QString &seen)
+{
+    if (std::exchange(seen, name) != name && m_window->shownTemplates().contains(name))
+        m_window->setTemplates(m_window->shownTemplates(), name);
 }
 
 void TessaroAppDelegate::applicationDidFinishLaunching()

@@ -13,6 +13,10 @@ class VTProjectTableController;
 class VTPreferenceController;
 class VTSavePanel;
 
+namespace platform {
+class FileWatch;
+}
+
 /**
  * The application's delegate and the owner of its one window: start-up, the two panes, the template pop-up, the
  * creation of projects, Help. Main thread only. Made before the interface; awakeFromNib() makes that;
@@ -104,6 +108,9 @@ private:
 
     void importOldTessaroTemplate();
     void restoreShippedTemplates();
+    void watchSettings();
+    void followSettings();
+    void followTemplate(const QString &name, QString &seen);
     [[nodiscard]] bool isComplete(const ProjectRequest &request);
     [[nodiscard]] bool mayOverwriteAtFixedLocation(const ProjectRequest &request);
     void askForDestination();
@@ -112,6 +119,9 @@ private:
     bool m_creating = false;
     bool m_templatesShown = false; ///< the pane is filled when it is first shown: that would only slow the start
     int m_imports = 0;             ///< bundles that are being taken in
+    QString m_seenTemplate;        ///< "selectedProjectTemplate" and "defaultTemplate" when they were last looked at
+    QString m_seenDefault;
+    std::unique_ptr<platform::FileWatch> m_settingsWatch;
     std::unique_ptr<MainWindow> m_window;
     std::unique_ptr<VTProjectTableController> m_tableController;
     QPointer<VTSavePanel> m_savePanel;

@@ -4,6 +4,7 @@
 #include "parameters/ParameterStore.h"
 #include "parameters/ValueRules.h"
 #include "platform/base/LocalTime.h"
+#include "support/Notifications.h"
 #include "support/Settings.h"
 #include "support/VTAlert.h"
 #include "ui/Icons.h"
@@ -46,6 +47,15 @@ ParametersPane::ParametersPane(Ui::Prefs_Dialog &ui, QWidget &window)
     connect(m_ui.dateFormatPopUp, &QComboBox::activated, this, &ParametersPane::changeDateFormat);
     connect(m_ui.dateFormatText, &QLineEdit::textChanged, this, &ParametersPane::changeCustomDateFormat);
     populateDateFormats();
+    connect(&Notifications::hub(), &Notifications::settingsWritten, this, &ParametersPane::follow);
+}
+
+/// What is being typed here stays; it is stored when it is finished, and all else comes then.
+void ParametersPane::follow()
+{
+    if (m_ui.parameterTable->indexWidget(m_ui.parameterTable->currentIndex()))
+        return;
+    m_parameters.reload();
 }
 
 void ParametersPane::setUpTable()

@@ -17,6 +17,8 @@ Q_SIGNALS:
     void VTTessaroRefreshDynamicValues();
     /** Start editing the first parameter. */
     void VTTessaroEditFirstParameter();
+    /** The settings' file was written, by this program or another: follow, without disturbing what is being typed. */
+    void settingsWritten();
     /** The set of templates changed: show it anew. */
     void VTTessaroRefreshTemplates();
 

@@ -291,6 +291,11 @@ platform::UserDefaults &standard()
     return *defaults;
 }
 
+QString userFile()
+{
+    return preferencesFile(Domain::User);
+}
+
 void registerDefaults()
 {
     QVariantMap defaults;

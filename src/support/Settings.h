@@ -110,6 +110,9 @@ struct Facts
 /** The one store of this process, on com.vantrel.Tessaro.plist in the user's and the machine's preferences folder. */
 [[nodiscard]] platform::UserDefaults &standard();
 
+/** The file of the user's domain. */
+[[nodiscard]] QString userFile();
+
 /** Registers the rows' defaults; the parameter list comes from the bundle's resource Filename_Defaults. */
 void registerDefaults();
 

@@ -33,7 +33,8 @@ public:
     /** Commits the value being typed, if any, and ends the edit. */
     void finishEditing()
     {
-        QWidget *editor = Base::state() == Base::EditingState ? Base::indexWidget(Base::currentIndex()) : nullptr;
+        // Not asked by the view's state: that ends when a row elsewhere is removed, and the editor stays.
+        QWidget *editor = Base::indexWidget(Base::currentIndex());
         if (!editor)
             return;
         Base::commitData(editor);

@@ -184,6 +184,28 @@ private Q_SLOTS:
         QCOMPARE(settings::standard().string(settings::selectedProjectTemplate), QString("Two"));
     }
 
+    /// Another program on the same settings: the window shows it, and makes what it shows.
+    void followsOtherPrograms()
+    {
+        open();
+        m_delegate->tableController().setData(m_delegate->tableController().index(2, 1), "P", Qt::EditRole);
+        platform::UserDefaults other(settings::userFile(), m_work->filePath("machine.plist"), [](const QString &) {});
+        QVariantList list = other.value(settings::filenameTemplate).toList();
+        QVariantMap job = list[1].toMap();
+        job["val"] = "009";
+        list[1] = job;
+        list.append(record({{"title", "Reel"}, {"val", "R1"}}));
+        QVERIFY(other.setValue(settings::filenameTemplate, list).ok());
+        QVERIFY(other.setValue(settings::separatorChar, "-").ok());
+        QVERIFY(other.setValue(settings::selectedProjectTemplate, "Two").ok());
+        QTRY_COMPARE(m_delegate->shownRequest().relativePath(), QString("009/P-R1"));
+        QTRY_COMPARE(window().selectedTemplate(), QString("Two"));
+        m_delegate->createNewProject();
+        QVERIFY(platform::targetExists(fixed("009/P-R1/Sub/two P-R1.txt")));
+        QCOMPARE(value(1), QString("010"));
+        QCOMPARE(other.value(settings::filenameTemplate).toList()[1].toMap()["val"].toString(), "010");
+    }
+
     void withoutTemplatesOrParameters()
     {
         storeSetting(settings::filenameTemplate, QVariantList{});

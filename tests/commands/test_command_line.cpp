@@ -216,6 +216,51 @@ private Q_SLOTS:
         QCOMPARE(everythingIn(target()).size(), items); // neither mixed nor doubled
     }
 
+    /// Each gets a number of its own and files of its own name, and no parameter that is added meanwhile is lost.
+    void twelveAtOnce()
+    {
+        QCOMPARE(run({"templates"}).status, 0);
+        std::vector<std::unique_ptr<QProcess>> creations;
+        std::vector<std::unique_ptr<QProcess>> additions;
+        for (int i = 0; i < 12; ++i) {
+            creations.push_back(start({"create", "--in", target(), "--set", QString("Client=C%1").arg(i)}));
+            additions.push_back(start({"parameters", "add", QString("Extra %1").arg(i)}));
+        }
+        QStringList numbers;
+        for (const auto &creation : creations) {
+            const Outcome outcome = finished(*creation);
+            QVERIFY2(outcome.status == 0, outcome.errors.constData());
+            const QString path = QString::fromUtf8(outcome.output).trimmed();
+            const QString level = platform::lastComponent(platform::parentPath(path));
+            numbers << level.section('_', 1);
+            const QString name = platform::lastComponent(path);
+            const QStringList made = everythingIn(path);
+            QVERIFY(!made.isEmpty());
+            for (const QString &item : made) {
+                const QString itemName = platform::lastComponent(item);
+                QVERIFY2(!itemName.contains("Untitled") || itemName.contains(name), qPrintable(item));
+            }
+        }
+        std::sort(numbers.begin(), numbers.end());
+        QStringList wanted;
+        for (int i = 1; i <= 12; ++i)
+            wanted << QString("%1").arg(i, 3, 10, QChar('0'));
+        QCOMPARE(numbers, wanted);
+        QCOMPARE(platform::listFolder(target())->size(), 12);
+        for (const auto &addition : additions)
+            QCOMPARE(finished(*addition).status, 0);
+        QCOMPARE(run({"parameters"}).output.count("Extra "), 12);
+    }
+
+    /// To look is not to change.
+    void aListingStoresNothing()
+    {
+        setSettings({{"filenameTemplate", QVariantList{record({{"val", "typed"}, {"defaultVal", "d"}})}}});
+        const QByteArray before = readFile(settingsFile());
+        QVERIFY(run({"parameters"}).output.contains("d\n"));
+        QCOMPARE(readFile(settingsFile()), before);
+    }
+
     void refusals_data()
     {
         QTest::addColumn<QVariantMap>("settings");

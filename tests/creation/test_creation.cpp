@@ -170,6 +170,39 @@ private Q_SLOTS:
         QVERIFY(m_host.calls.contains("count"));
     }
 
+    /// What other programs store meanwhile belongs to other projects.
+    void whatWasShownIsMade()
+    {
+        writeFile(files("Template.txt"));
+        const ProjectRequest shown = request();
+        storeSetting(settings::separatorChar, "+");
+        storeSetting(settings::filenameTemplate, QVariantList{QVariantMap{{"title", "Acme"}, {"val", "Zulu"}}});
+        storeSetting(settings::selectedProjectTemplate, "Another");
+        QVERIFY(ProjectCreation(m_host).createProject(shown).ok());
+        QCOMPARE(kindOf(project("Promo.txt")), FileKind::File);
+        QCOMPARE(storedParameters()[0].value(), "Zulu");
+    }
+
+    /// Another program was faster: this project gets the next number, nothing is asked and nothing left behind.
+    void aNumberIsGivenOnce()
+    {
+        writeFile(files("Template.txt"));
+        const auto counter = [](const char *number) {
+            return QVariantList{QVariantMap{{"title", "Job"}, {"type", 2}, {"val", number}, {"folder", true}},
+                                QVariantMap{{"title", "Name"}, {"val", "Promo"}, {"folder", true}}};
+        };
+        storeSetting(settings::filenameTemplate, counter("041"));
+        const ProjectRequest shown = request();
+        storeSetting(settings::filenameTemplate, counter("042"));
+        writeFile(m_work->filePath("041/Promo/theirs"));
+        const CreationResult result = ProjectCreation(m_host).createProject(shown);
+        QVERIFY(result.ok() && m_presenter->messages.isEmpty());
+        QCOMPARE(result.request.destination(), m_work->filePath("042/Promo"));
+        QCOMPARE(kindOf(m_work->filePath("042/Promo/Promo.txt")), FileKind::File);
+        QCOMPARE(storedParameters()[0].value(), "043");
+        QCOMPARE(platform::listFolder(m_work->filePath("041/Promo"))->size(), 1);
+    }
+
     void asksBeforeOverwriting()
     {
         writeFile(project("old"), "work");

@@ -186,6 +186,7 @@ void ParameterEditorModel::restoreDefaultParams()
 {
     beginResetModel();
     static_cast<void>(restoreShippedParameters()); // the table shows what is stored
+    m_rowsSeen = rowCount();
     endResetModel();
     notify();
     Q_EMIT listChanged();
@@ -193,8 +194,14 @@ void ParameterEditorModel::restoreDefaultParams()
 
 void ParameterEditorModel::reload()
 {
-    beginResetModel();
-    endResetModel();
+    if (rowCount() == std::exchange(m_rowsSeen, rowCount())) {
+        if (m_rowsSeen > 0)
+            Q_EMIT dataChanged(index(0, 0), index(m_rowsSeen - 1, columnCount() - 1));
+    } else {
+        beginResetModel();
+        endResetModel();
+    }
+    Q_EMIT listChanged();
 }
 
 void ParameterEditorModel::change(const std::function<FilenameParameters(FilenameParameters)> &change)
@@ -202,6 +209,7 @@ void ParameterEditorModel::change(const std::function<FilenameParameters(Filenam
     const platform::Outcome stored = changeParameters(
         [&](FilenameParameters list) { return platform::Result<FilenameParameters>(change(std::move(list))); });
     static_cast<void>(stored); // the table shows what is stored
+    m_rowsSeen = rowCount();
     notify();
     Q_EMIT listChanged();
 }

@@ -52,4 +52,6 @@ Q_SIGNALS:
 
 private:
     void change(const std::function<FilenameParameters(FilenameParameters)> &change);
+
+    int m_rowsSeen = rowCount(); ///< when the views were last told
 };

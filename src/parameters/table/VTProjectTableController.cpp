@@ -290,38 +290,52 @@ void VTProjectTableController::show(FilenameParameters parameters)
     }
 }
 
-/// Rows that came or went, between those at both ends that stayed: so do the selection, the edit and the place of the
-/// one who looks at them. False, and nothing changed, when a row that is being edited would go.
+/// Rows come and go around the one that is being edited, which stays as it is. False, and nothing changed, when that
+/// one would go.
 bool VTProjectTableController::replaceRows(const FilenameParameters &parameters)
+{
+    const bool wasEmpty = m_dataArray.isEmpty();
+    int edited = 0;
+    while (edited < rowCount() && !isEdited(edited))
+        ++edited;
+    if (edited == rowCount()) {
+        replaceRows(0, rowCount(), parameters);
+    } else if (const auto there = parameterlist::rowOfSame(m_dataArray, edited, parameters)) {
+        replaceRows(edited + 1, rowCount(), parameters.mid(*there + 1));
+        replaceRows(0, edited, parameters.first(*there));
+    } else {
+        return false;
+    }
+    if (wasEmpty != m_dataArray.isEmpty() || wasEmpty)
+        Q_EMIT emptinessChanged(m_dataArray.isEmpty());
+    return true;
+}
+
+/// The rows from first to before end become those of the list. What both have at the ends stays, and with it the
+/// selection and the place of the one who looks at it.
+void VTProjectTableController::replaceRows(int first, int end, const FilenameParameters &list)
 {
     const auto sameTitle = [](const FilenameParameter &a, const FilenameParameter &b) {
         return a.title() == b.title();
     };
-    const auto [oldEnd, newEnd] =
-        std::mismatch(m_dataArray.cbegin(), m_dataArray.cend(), parameters.cbegin(), parameters.cend(), sameTitle);
-    const auto first = static_cast<int>(oldEnd - m_dataArray.cbegin());
-    const auto tail = std::mismatch(m_dataArray.crbegin(), std::make_reverse_iterator(oldEnd), parameters.crbegin(),
-                                    std::make_reverse_iterator(newEnd), sameTitle);
-    const auto oldCount = static_cast<int>(tail.first.base() - oldEnd);
-    const auto newCount = static_cast<int>(tail.second.base() - newEnd);
-    for (int row = first; row < first + oldCount; ++row) {
-        if (isEdited(row))
-            return false;
-    }
-    if (oldCount > 0) {
-        beginRemoveRows({}, first, first + oldCount - 1);
-        m_dataArray.remove(first, oldCount);
+    const auto old = m_dataArray.mid(first, end - first);
+    const auto [oldHead, newHead] = std::mismatch(old.cbegin(), old.cend(), list.cbegin(), list.cend(), sameTitle);
+    const auto [oldTail, newTail] = std::mismatch(old.crbegin(), std::make_reverse_iterator(oldHead), list.crbegin(),
+                                                  std::make_reverse_iterator(newHead), sameTitle);
+    const auto start = first + static_cast<int>(oldHead - old.cbegin());
+    const auto removed = static_cast<int>(oldTail.base() - oldHead);
+    const auto added = static_cast<int>(newTail.base() - newHead);
+    if (removed > 0) {
+        beginRemoveRows({}, start, start + removed - 1);
+        m_dataArray.remove(start, removed);
         endRemoveRows();
     }
-    if (newCount > 0) {
-        beginInsertRows({}, first, first + newCount - 1);
-        for (int row = first; row < first + newCount; ++row)
-            m_dataArray.insert(row, parameters[row]);
+    if (added > 0) {
+        beginInsertRows({}, start, start + added - 1);
+        for (int i = 0; i < added; ++i)
+            m_dataArray.insert(start + i, *(newHead + i));
         endInsertRows();
     }
-    if (oldCount > 0 || newCount > 0 || parameters.isEmpty())
-        Q_EMIT emptinessChanged(m_dataArray.isEmpty());
-    return true;
 }
 
 void VTProjectTableController::updateFilenamePreview()

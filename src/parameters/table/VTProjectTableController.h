@@ -58,8 +58,8 @@ public:
     /** The day may have changed since the values were filled in. */
     void bringUpToDate();
     /**
-     * Shows what another program has stored. The edit in progress goes on; where its own row is no longer in its place,
-     * the rows follow when it ends.
+     * Shows what another program has stored. The edit in progress goes on; where its parameter has been removed, the
+     * rows follow when it ends.
      */
     void follow();
 
@@ -83,12 +83,13 @@ private:
     void show(FilenameParameters parameters);
     [[nodiscard]] bool isEdited(int row) const;
     [[nodiscard]] bool replaceRows(const FilenameParameters &parameters);
+    void replaceRows(int first, int end, const FilenameParameters &list);
     [[nodiscard]] QVariant titleData(const FilenameParameter &parameter, int role) const;
     [[nodiscard]] QVariant valueData(const FilenameParameter &parameter, int role) const;
     void showWarning(bool exists);
 
     FilenameParameters m_dataArray;
     Views m_views;
-    bool m_isBehind = false;     ///< rows came or went during an edit of one of them
+    bool m_isBehind = false;     ///< the parameter being edited has been removed
     quint64 m_previewNumber = 0; ///< an answer about an earlier preview's existence is not shown
 };

@@ -220,6 +220,74 @@ private Q_SLOTS:
         QCOMPARE(settings::standard().string("filenameTemplate.damaged"), "rubbish");
     }
 
+    /// Another program changes the list while a value is being typed here.
+    void followsOthers_data()
+    {
+        QTest::addColumn<QVariantList>("theirs");
+        QTest::addColumn<QStringList>("while typing");
+        QTest::addColumn<QStringList>("after");
+        const auto titled = [](const char *title, const char *value, const QVariantMap &more = {}) {
+            QVariantMap record{{"title", title}, {"type", 0}, {"val", value}};
+            record.insert(more);
+            return QVariant(record);
+        };
+        QTest::newRow("a value") << QVariantList{titled("A", "new"), titled("B", "2"), titled("C", "3")}
+                                 << QStringList{"A=new", "B=2", "C=3"} << QStringList{"A=new", "B=typed", "C=3"};
+        QTest::newRow("the value being typed")
+            << QVariantList{titled("A", "1"), titled("B", "new"), titled("C", "3")}
+            << QStringList{"A=1", "B=new", "C=3"} << QStringList{"A=1", "B=typed", "C=3"};
+        QTest::newRow("rows around it") << QVariantList{titled("Z", "0"), titled("B", "2"), titled("C", "3"),
+                                                        titled("D", "4")}
+                                        << QStringList{"Z=0", "B=2", "C=3", "D=4"}
+                                        << QStringList{"Z=0", "B=typed", "C=3", "D=4"};
+        QTest::newRow("its row moved") << QVariantList{titled("B", "2"), titled("C", "3"), titled("A", "1")}
+                                       << QStringList{"B=2", "C=3", "A=1"} << QStringList{"B=typed", "C=3", "A=1"};
+        QTest::newRow("its row gone") << QVariantList{titled("A", "1"), titled("C", "9")}
+                                      << QStringList{"A=1", "B=2", "C=3"} << QStringList{"A=1", "C=9"};
+        QTest::newRow("its kind") << QVariantList{titled("A", "1"), titled("B", "2", {{"type", 2}}), titled("C", "3")}
+                                  << QStringList{"A=1", "B=2", "C=3"} << QStringList{"A=1", "B=typed", "C=3"};
+    }
+    void followsOthers()
+    {
+        QFETCH(QVariantList, theirs);
+        const auto titled = [](const char *title, const char *value) {
+            return QVariant(QVariantMap{{"title", title}, {"type", 0}, {"val", value}});
+        };
+        Form form({titled("A", "1"), titled("B", "2"), titled("C", "3")});
+        const auto values = [&] {
+            QStringList list;
+            for (const FilenameParameter &parameter : form.controller.dataArray())
+                list << parameter.title() + '=' + parameter.value();
+            return list;
+        };
+        form.controller.editItem(1);
+        QApplication::focusWidget()->setProperty("mine", true);
+        type("typ");
+        storeSetting(settings::filenameTemplate, theirs);
+        form.controller.follow();
+        QTEST(values(), "while typing");
+        QVERIFY(QApplication::focusWidget() && QApplication::focusWidget()->property("mine").toBool());
+        type("ed");
+        form.controller.finishEditing();
+        QTEST(values(), "after");
+        QVERIFY(form.isStored());
+    }
+
+    /// What this window only shows, it does not put back when it stores something else.
+    void putsNothingBack()
+    {
+        Form form({record("041", {{"title", "Job"}, {"type", 2}}), record("x", {{"title", "Name"}})});
+        storeSetting(settings::filenameTemplate,
+                     QVariantList{record("042", {{"title", "Job"}, {"type", 2}}), record("x", {{"title", "Name"}}),
+                                  record("a", {{"title", "Reel"}})});
+        form.set(1, "Promo");
+        const FilenameParameters stored = storedParameters();
+        QCOMPARE(stored.size(), 3);
+        QCOMPARE(stored[0].value(), "042");
+        QCOMPARE(stored[1].value(), "Promo");
+        QVERIFY(form.isStored() && form.path.path().contains("042_Promo"));
+    }
+
     void warnsOfAnExistingProject()
     {
         const QString projects = QDir::homePath() + "/Projects";

@@ -8,6 +8,7 @@
 
 #include <QCoreApplication>
 #include <QTest>
+#include <set>
 #include <sys/stat.h>
 #include <thread>
 #include <unistd.h>
@@ -144,6 +145,41 @@ private Q_SLOTS:
              QVariantMap{{"n", 1LL}, {"b", true}, {"s", "1"}, {"neg", -5LL}, {"r", 1.5}, {"d", QByteArray("\0\xFF", 2)}}
                  .asKeyValueRange())
             QCOMPARE(open().value(key), value);
+    }
+
+    /// A number that every program takes and moves on: none is given out twice.
+    void changesWhatIsThereAtThatMoment()
+    {
+        constexpr int takers = 6;
+        constexpr int each = 40;
+        std::vector<std::thread> threads;
+        std::vector<std::vector<int>> taken(takers);
+        for (int i = 0; i < takers; ++i) {
+            threads.emplace_back([&, i] {
+                UserDefaults settings(user(), machine(), [](const QString &) {});
+                for (int n = 0; n < each; ++n) {
+                    const Outcome changed = settings.changeValue("n", [&](const QVariant &now) -> Result<QVariant> {
+                        taken[i].push_back(now.toInt());
+                        return QVariant(now.toLongLong() + 1);
+                    });
+                    static_cast<void>(changed); // the numbers tell
+                }
+            });
+        }
+        std::set<int> all;
+        for (int i = 0; i < takers; ++i) {
+            threads[i].join();
+            all.insert(taken[i].begin(), taken[i].end());
+        }
+        QCOMPARE(all.size(), std::size_t(takers * each));
+        QCOMPARE(*all.rbegin(), takers * each - 1);
+
+        UserDefaults settings = open();
+        const QByteArray before = readFile(user());
+        const Outcome refused = settings.changeValue(
+            "n", [](const QVariant &) -> Result<QVariant> { return Outcome::failure(Cause::Declined, "n"); });
+        QVERIFY(refused.is(Cause::Declined) && m_problems.isEmpty());
+        QCOMPARE(readFile(user()), before);
     }
 
     void losesNothingOfOtherWriters()
