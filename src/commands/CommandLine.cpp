@@ -182,9 +182,10 @@ int exitStatusOf(const Outcome &outcome)
         return ExitStatus::wrongUsage;
     case Cause::Exists:
     case Cause::Declined:
-    case Cause::Cancelled:
     case Cause::RightsRefused:
         return ExitStatus::notOverwritten;
+    case Cause::Cancelled:
+        return ExitStatus::stopped;
     default:
         return ExitStatus::failed;
     }

@@ -8,7 +8,8 @@ namespace ExitStatus {
 inline constexpr int done = 0;
 inline constexpr int failed = 1; ///< or partly failed
 inline constexpr int wrongUsage = 2;
-inline constexpr int notOverwritten = 3; ///< exists and was not overwritten, or cancelled, or rights refused
+inline constexpr int notOverwritten = 3; ///< exists and was not overwritten, or declined, or rights refused
+inline constexpr int stopped = 4;        ///< on the way, by a signal: nothing was kept
 } // namespace ExitStatus
 
 /** The exit status that goes with the cause of a failure. Pure. */

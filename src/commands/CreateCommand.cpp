@@ -8,6 +8,7 @@
 #include "parameters/ProjectNaming.h"
 #include "parameters/ValueRules.h"
 #include "parameters/table/VTProjectTableController.h"
+#include "platform/base/Interruption.h"
 #include "platform/base/NativePath.h"
 #include "support/Settings.h"
 #include "support/VTFileManager.h"
@@ -253,11 +254,15 @@ int CreateCommand::printPlan()
 
 int CreateCommand::create()
 {
-    const CreationResult result = ProjectCreation(*this).createProject(m_request);
+    ProjectCreation creation(*this);
+    const platform::Interruption interruption(creation.stop());
+    const CreationResult result = creation.createProject(m_request);
     m_request = result.request;
     m_problems += result.errors;
     const bool isThere = VTFileManager::fileExistsAtPath(m_request.destination());
-    if (result.cancelled)
+    if (result.stopped)
+        fail(ExitStatus::stopped, Text::tr("Stopped. Nothing of the project was kept."));
+    else if (result.cancelled)
         m_status = ExitStatus::notOverwritten;
     else if (!result.ok())
         m_status = ExitStatus::failed;
@@ -273,7 +278,7 @@ int CreateCommand::report(const CreationResult &result, bool isThere) const
 {
     if (m_invocation.has("--json"))
         printObject(result, nullptr);
-    else if (isThere && !result.cancelled)
+    else if (isThere && !result.cancelled && !result.stopped)
         print(m_request.destination() + u'\n');
     return m_status;
 }

@@ -63,8 +63,8 @@ QString exitStatusText()
 {
     return Text::tr(
         "Exit status: 0 done; 1 failed, or partly failed; 2 wrong usage; 3 the project or template exists and was "
-        "not overwritten, the command was cancelled (--yes says yes), or the administrator's rights were "
-        "refused.");
+        "not overwritten, the command was declined (--yes says yes), or the administrator's rights were "
+        "refused; 4 stopped on the way (Ctrl+C): nothing was kept.");
 }
 
 QString wholeHelp()

@@ -25,6 +25,15 @@ struct Text
     Q_DECLARE_TR_FUNCTIONS(ProjectCreation)
 };
 
+QStringList missingLevels(QString folder)
+{
+    QStringList missing;
+    for (; !folder.isEmpty() && folder != u'/' && platform::kindOf(folder) == FileKind::Missing;
+         folder = platform::parentPath(folder))
+        missing.prepend(folder);
+    return missing;
+}
+
 } // namespace
 
 CreationResult ProjectCreation::createProject(const ProjectRequest &request)
@@ -44,10 +53,14 @@ CreationResult ProjectCreation::createProject(const ProjectRequest &request)
     if (!claimed.ok())
         tell(formatString(Text::tr("Unable to create folder %@"), destination), checkDestination(claimed));
 
-    // From here on nothing ends the sequence: what could be made is renamed, dated and counted, and each failure told.
-    copyTemplate(request.templateFiles, destination);
-    renameTemplateFiles(destination, m_result.request.name());
-    updateTimestamps(destination);
+    // From here on no failure ends the sequence: what could be made is renamed, dated and counted, and each failure
+    // told. Only when it is stopped nothing stays.
+    build();
+    if (m_monitor.cancelled) {
+        takeBack();
+        m_host.finishProcessing();
+        return m_result;
+    }
     m_host.reveal(destination);
     VTLog::appendLog("Incrementing dynamic values");
     m_host.incrementDynamicValues();
@@ -55,6 +68,41 @@ CreationResult ProjectCreation::createProject(const ProjectRequest &request)
     VTLog::appendLog("Template created successfully");
     m_host.finishProcessing();
     return m_result;
+}
+
+void ProjectCreation::build()
+{
+    const QString destination = m_result.request.destination();
+    m_place.emplace(destination);
+    copyTemplate(m_result.request.templateFiles, m_place->folder());
+    renameTemplateFiles(m_place->folder(), m_result.request.name());
+    updateTimestamps(m_place->folder());
+    if (m_monitor.cancelled)
+        return;
+    const Outcome placed = m_place->putInPlace();
+    if (placed.ok())
+        return;
+    VTLog::appendLog("Error moving file: %@", placed.description());
+    tell(formatString(Text::tr("Unable to move file %@ to %@"), m_place->folder(), destination),
+         checkDestination(placed));
+}
+
+void ProjectCreation::takeBack()
+{
+    m_result.stopped = true;
+    const Outcome taken = platform::resultInBackground([&] { return m_place->takeAway(); });
+    const Outcome returned = changeParameters([&](FilenameParameters list) -> platform::Result<FilenameParameters> {
+        return withNumbersReturned(std::move(list), m_result.request);
+    });
+    static_cast<void>(returned); // the log says what the settings could not take
+    for (; taken.ok() && !m_levelsMade.isEmpty(); m_levelsMade.removeLast()) {
+        if (!platform::removeEmptyFolder(m_levelsMade.constLast()).ok()) // another project is in it by now
+            break;
+    }
+    VTLog::appendLog("The creation was stopped");
+    if (!taken.ok())
+        tell(formatString(Text::tr("Something of the stopped project is left in %@"), m_result.request.destination()),
+             taken.description());
 }
 
 void ProjectCreation::takeNextNumbers(const FilenameParameters &stored)
@@ -96,6 +144,7 @@ Outcome ProjectCreation::claimOnce()
         changeParameters([&](const FilenameParameters &list) -> platform::Result<FilenameParameters> {
             if (withNextNumbers(m_result.request, list).parameters != m_result.request.parameters)
                 return made = Outcome::failure(Cause::Busy, destination);
+            m_levelsMade = missingLevels(platform::parentPath(destination));
             made = platform::makeFolders(platform::parentPath(destination));
             if (made.ok())
                 made = platform::makeNewFolder(destination);
@@ -135,12 +184,13 @@ bool ProjectCreation::putAwayExisting(const QString &destination)
 void ProjectCreation::copyTemplate(const QString &files, const QString &destination)
 {
     const Outcome copied = VTFileManager::isDirectoryAtPath(destination)
-                               ? fileoperations::copyContentsOfDirectory(files, destination, patience)
+                               ? fileoperations::copyContentsOfDirectory(files, destination, patience, &m_monitor)
                                : Outcome::failure(Cause::Missing, destination);
-    if (copied.ok())
+    if (copied.ok() || copied.is(Cause::Cancelled))
         return;
-    VTLog::appendLog("Error copying file: %@", copied.description());
-    tell(Text::tr("Unable to copy contents of template"), checkDestination(copied));
+    const Outcome shown = m_place->shown(copied);
+    VTLog::appendLog("Error copying file: %@", shown.description());
+    tell(Text::tr("Unable to copy contents of template"), checkDestination(shown));
 }
 
 void ProjectCreation::renameTemplateFiles(const QString &folder, const QString &newName)
@@ -150,13 +200,15 @@ void ProjectCreation::renameTemplateFiles(const QString &folder, const QString &
 
 void ProjectCreation::renameBelow(const QString &folder, const QString &newName)
 {
-    VTLog::appendLog("Renaming template files from %@ to %@", folder, newName);
+    if (m_monitor.cancelled)
+        return;
+    VTLog::appendLog("Renaming template files from %@ to %@", m_place->shown(folder), newName);
     const auto entries = platform::listFolder(folder);
     const bool isThere = platform::kindOf(folder) == FileKind::Folder;
     if (!entries && isThere) { // a project that could not be made has been told of
-        VTLog::appendLog("Unable to read folder: %@", entries.outcome().description());
-        tell(formatString(Text::tr("Unable to look for names to replace in %@"), folder),
-             entries.outcome().description());
+        const QString why = m_place->shown(entries.outcome()).description();
+        VTLog::appendLog("Unable to read folder: %@", why);
+        tell(formatString(Text::tr("Unable to look for names to replace in %@"), m_place->shown(folder)), why);
     }
     for (const auto &entry : entries.valueOr({})) {
         const bool isFolder = entry.kind == FileKind::Folder;
@@ -178,25 +230,28 @@ void ProjectCreation::renameEntry(const QString &folder, const platform::FolderE
     const bool taken =
         platform::kindOf(to) != FileKind::Missing && platform::identityOf(to) != platform::identityOf(from);
     if (taken)
-        VTLog::appendLog("Error moving file: %@ is taken", to);
+        VTLog::appendLog("Error moving file: %@ is taken", m_place->shown(to));
     const Outcome moved = taken ? Outcome::failure(Cause::Exists, to) : fileoperations::moveFile(from, to);
     if (moved.ok())
         ++m_result.renamed;
     else
-        tell(formatString(Text::tr("Unable to move file %@ to %@"), from, to), checkDestination(moved));
+        tell(formatString(Text::tr("Unable to move file %@ to %@"), m_place->shown(from), m_place->shown(to)),
+             checkDestination(m_place->shown(moved)));
 }
 
 void ProjectCreation::updateTimestamps(const QString &folder)
 {
+    if (m_monitor.cancelled)
+        return;
     platform::performInBackground([&] {
-        const auto entering = [](const QString &path) {
-            VTLog::appendLog("Updating timestamps for folder %@", path);
+        const auto entering = [this](const QString &path) {
+            VTLog::appendLog("Updating timestamps for folder %@", m_place->shown(path));
         };
         // In this process, without a tool for each item; what it may not touch goes through the tool with rights.
         for (const Outcome &untouched : platform::touchBelow(folder, entering)) {
             const bool mayHelp = untouched.needsRights() && platform::kindOf(untouched.item()) != FileKind::Link;
             if (!mayHelp || !VTFileManager::touchFile(untouched.item()))
-                VTLog::appendLog("Error updating timestamp: %@", untouched.description());
+                VTLog::appendLog("Error updating timestamp: %@", m_place->shown(untouched).description());
         }
     });
 }

@@ -1,9 +1,12 @@
 #pragma once
 
 #include "creation/ProjectRequest.h"
+#include "creation/Workplace.h"
+#include "platform/files/FileCopy.h"
 #include "platform/files/FileSystem.h"
 
 #include <QStringList>
+#include <optional>
 
 /** What surrounds a creation: the window with its table, or the command line. */
 class CreationHost
@@ -23,12 +26,13 @@ public:
 struct CreationResult
 {
     bool cancelled = false; ///< the user did not want the existing project overwritten, or it could not be put away
+    bool stopped = false;   ///< it was stopped on the way, and taken back
     QStringList errors;     ///< one sentence for each message shown
     ProjectRequest request; ///< what was made: with other numbers than asked for where those had been taken
     qsizetype folders = 0;
     qsizetype files = 0;
     qsizetype renamed = 0;
-    [[nodiscard]] bool ok() const { return !cancelled && errors.isEmpty(); }
+    [[nodiscard]] bool ok() const { return !cancelled && !stopped && errors.isEmpty(); }
 };
 
 /**
@@ -47,6 +51,9 @@ public:
      */
     [[nodiscard]] CreationResult createProject(const ProjectRequest &request);
 
+    /** Set by anyone, a signal's handler too: the creation stops at its next look, and nothing of it is left. */
+    [[nodiscard]] std::atomic<bool> &stop() { return m_monitor.cancelled; }
+
     /** Renames every item below the folder whose name says template, children before their parents, links themselves.
      */
     void renameTemplateFiles(const QString &folder, const QString &newName);
@@ -58,6 +65,8 @@ private:
     platform::Outcome claimOnce();
     void takeNextNumbers(const FilenameParameters &stored);
     [[nodiscard]] bool putAwayExisting(const QString &destination);
+    void build();
+    void takeBack();
     void copyTemplate(const QString &files, const QString &destination);
     void renameBelow(const QString &folder, const QString &newName);
     void renameEntry(const QString &folder, const platform::FolderEntry &entry, const QString &newName);
@@ -65,4 +74,7 @@ private:
 
     CreationHost &m_host;
     CreationResult m_result;
+    platform::CopyMonitor m_monitor;
+    std::optional<Workplace> m_place;
+    QStringList m_levelsMade; ///< the folders above the project's own that this creation has made, innermost last
 };

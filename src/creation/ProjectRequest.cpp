@@ -75,3 +75,15 @@ FilenameParameters withNumbersTaken(FilenameParameters stored, const ProjectRequ
     }
     return stored;
 }
+
+FilenameParameters withNumbersReturned(FilenameParameters stored, const ProjectRequest &request)
+{
+    for (qsizetype row = 0; row < request.parameters.size(); ++row) {
+        const auto there = parameterlist::rowOfSame(request.parameters, row, stored);
+        const QString number = request.parameters[row].value();
+        if (there && isCounter(request.parameters[row]) && isCounter(stored[*there]) &&
+            stored[*there].value() == rules::incrementNumber(number))
+            stored[*there].setValue(number);
+    }
+    return stored;
+}

@@ -44,3 +44,6 @@ struct ProjectRequest
  * start, and its counters stand at the next number. A counter that another program has moved on stays where it is.
  */
 [[nodiscard]] FilenameParameters withNumbersTaken(FilenameParameters stored, const ProjectRequest &request);
+
+/** The stored list after a project was given up: its numbers are free again, unless another has taken the next. */
+[[nodiscard]] FilenameParameters withNumbersReturned(FilenameParameters stored, const ProjectRequest &request);

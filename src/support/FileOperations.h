@@ -7,6 +7,10 @@
 #include <QString>
 #include <chrono>
 
+namespace platform {
+struct CopyMonitor;
+}
+
 /**
  * What VTFileManager does, with how it ended: the cause of a failure is the plain operation's, also where the tool that
  * was tried after it failed, too. Threads, locks, logging and rights are VTFileManager's.
@@ -29,8 +33,9 @@ Outcome trashFile(const QString &path, ShouldAuth shouldAuth = ShouldAuth::Yes);
 Outcome trashFile(const QString &path, seconds timeout);
 Outcome compressFile(const QString &path, const QString &toDestinationFile);
 
-/** Unlike the given operation, a folder that cannot be read is a failure. */
-Outcome copyContentsOfDirectory(const QString &source, const QString &toPath, seconds timeout);
+/** Unlike the given operation, a folder that cannot be read is a failure. Cause::Cancelled as the monitor says. */
+Outcome copyContentsOfDirectory(const QString &source, const QString &toPath, seconds timeout,
+                                platform::CopyMonitor *monitor = nullptr);
 /** Unlike the given operation, a folder that cannot be read is a failure. */
 [[nodiscard]] platform::Result<bool> isFolderEmpty(const QString &folder);
 

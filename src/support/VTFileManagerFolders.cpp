@@ -42,14 +42,14 @@ QStringList trashMatching(const QString &folder, const std::function<bool(const 
 
 /// All items from the first on, in batches that end at a failure; an item that failed gets its tool, then it goes on.
 Outcome copyItems(const QString &source, const QString &toPath, std::vector<platform::NamePair> names,
-                  std::chrono::seconds timeout)
+                  std::chrono::seconds timeout, platform::CopyMonitor *monitor)
 {
     while (!names.empty()) {
-        const platform::CopyReport report = platform::copyEntries(source, toPath, names);
+        const platform::CopyReport report = platform::copyEntries(source, toPath, names, monitor);
         if (!report.attributesLost.isNull())
             VTLog::appendLog("Unable to keep the labels of %@ at the destination", report.attributesLost);
-        if (report.outcome.ok())
-            return {};
+        if (report.outcome.ok() || report.outcome.is(Cause::Cancelled))
+            return report.outcome;
         if (report.copied >= names.size()) { // one of the two folders itself cannot be opened
             VTLog::appendLog("Error copying file: %@. Authorizing...", report.outcome.description());
             return report.outcome;
@@ -75,7 +75,8 @@ QList<FolderEntry> fileoperations::entriesOf(const QString &folder)
     return entries.valueOr({});
 }
 
-Outcome fileoperations::copyContentsOfDirectory(const QString &source, const QString &toPath, seconds timeout)
+Outcome fileoperations::copyContentsOfDirectory(const QString &source, const QString &toPath, seconds timeout,
+                                                platform::CopyMonitor *monitor)
 {
     return platform::resultInBackground([&] {
         const auto entries = platform::listFolder(source);
@@ -87,7 +88,7 @@ Outcome fileoperations::copyContentsOfDirectory(const QString &source, const QSt
             names.push_back({name, name});
         }
         VTFileManager::unlockFile(toPath);
-        return copyItems(source, toPath, std::move(names), timeout);
+        return copyItems(source, toPath, std::move(names), timeout, monitor);
     });
 }
 

@@ -14,6 +14,7 @@
 #include <QJsonObject>
 #include <QProcess>
 #include <QTest>
+#include <csignal>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -250,6 +251,46 @@ private Q_SLOTS:
         for (const auto &addition : additions)
             QCOMPARE(finished(*addition).status, 0);
         QCOMPARE(run({"parameters"}).output.count("Extra "), 12);
+    }
+
+    /// Killed at any moment there is no half project; asked to end there is none, and no number is lost.
+    void endsInTheMiddle_data()
+    {
+        QTest::addColumn<int>("signal");
+        QTest::newRow("Ctrl+C") << SIGINT;
+        QTest::newRow("kill") << SIGTERM;
+        QTest::newRow("kill -9") << SIGKILL;
+    }
+    void endsInTheMiddle()
+    {
+        QFETCH(int, signal);
+        constexpr int count = 3000;
+        const QString library = m_home->filePath("Library/Application Support/Vantrel/Tessaro/Templates");
+        for (int i = 0; i < count; ++i)
+            writeFile(library + QString("/Big.tzt/Files/%1/Template %2").arg(i % 30).arg(i), "x");
+        int stopped = 0;
+        for (int delay = 5; delay <= 105; delay += 20) {
+            auto process = start({"create", "--in", target(), "--template", "Big"});
+            QVERIFY(process->waitForStarted());
+            QTest::qSleep(delay);
+            ::kill(static_cast<pid_t>(process->processId()), signal);
+            QVERIFY(process->waitForFinished());
+            const bool wasDone = process->exitStatus() == QProcess::NormalExit && process->exitCode() == 0;
+            stopped += wasDone ? 0 : 1;
+            qsizetype made = 0;
+            for (const QString &item : everythingIn(target())) {
+                const bool isSeen = !item.contains("/."); // what is being built is hidden
+                made += isSeen && platform::lastComponent(item).contains("Untitled") ? 1 : 0;
+            }
+            const qsizetype whole = count + 1; // the project's own folder, too
+            QVERIFY2(made == 0 || made == 1 || made == whole, qPrintable(QString::number(made)));
+            if (signal != SIGKILL && !wasDone && process->exitStatus() == QProcess::NormalExit) {
+                QCOMPARE(process->exitCode(), 4);
+                QCOMPARE(everythingIn(target()), QStringList());
+            }
+            QVERIFY(platform::removeTree(target()).ok() && platform::makeFolders(target()).ok());
+        }
+        QVERIFY(stopped > 0);
     }
 
     /// To look is not to change.

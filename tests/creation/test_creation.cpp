@@ -21,7 +21,9 @@
 #include <QTest>
 #include <fcntl.h>
 #include <memory>
+#include <set>
 #include <sys/stat.h>
+#include <thread>
 #include <unistd.h>
 
 using platform::FileKind;
@@ -201,6 +203,66 @@ private Q_SLOTS:
         QCOMPARE(kindOf(m_work->filePath("042/Promo/Promo.txt")), FileKind::File);
         QCOMPARE(storedParameters()[0].value(), "043");
         QCOMPARE(platform::listFolder(m_work->filePath("041/Promo"))->size(), 1);
+    }
+
+    /// Whoever looks while it is made sees an empty folder or the whole project.
+    void nobodySeesHalfAProject()
+    {
+        constexpr int count = 400;
+        for (int i = 0; i < count; ++i)
+            writeFile(files(QString("Template %1").arg(i)), "x");
+        std::atomic<bool> over = false;
+        std::set<qsizetype> seen;
+        std::thread watcher([&] {
+            while (!over) {
+                if (const auto entries = platform::listFolder(project()))
+                    seen.insert(entries->size());
+            }
+        });
+        const CreationResult result = create();
+        over = true;
+        watcher.join();
+        QVERIFY(result.ok());
+        seen.erase(0);
+        seen.erase(count);
+        QVERIFY2(seen.empty(), qPrintable(QString("%1 items").arg(seen.empty() ? 0 : *seen.begin())));
+        QCOMPARE(platform::listFolder(platform::parentPath(project()))->size(), 1); // nothing hidden is left
+    }
+
+    /// Something came into the claimed folder meanwhile: it stays, and so does what is made.
+    void aPlaceThatIsTakenMeanwhile()
+    {
+        QVERIFY(platform::makeFolders(project()).ok());
+        Workplace place(project());
+        QVERIFY(place.isHidden());
+        writeFile(place.folder() + "/ours", "ours");
+        writeFile(place.folder() + "/both", "ours");
+        writeFile(project("both"), "theirs");
+        const platform::Outcome placed = place.putInPlace();
+        QVERIFY(placed.is(platform::Cause::Exists));
+        QCOMPARE(placed.item(), project("both"));
+        QCOMPARE(readFile(project("ours")), QByteArray("ours"));
+        QCOMPARE(readFile(project("both")), QByteArray("theirs"));
+        QCOMPARE(readFile(place.folder() + "/both"), QByteArray("ours"));
+        QCOMPARE(place.shown(place.folder() + "/both"), project("both"));
+    }
+
+    void leavesNothingWhenStopped()
+    {
+        storeSetting(settings::filenameTemplate,
+                     QVariantList{QVariantMap{{"title", "Job"}, {"type", 2}, {"val", "041"}, {"folder", true}},
+                                  QVariantMap{{"title", "Name"}, {"val", "Promo"}, {"folder", true}}});
+        writeFile(files("Sub/Template.txt"), "x");
+        writeFile(m_work->filePath("before"), "x");
+        ProjectCreation creation(m_host);
+        creation.stop() = true;
+        const CreationResult result = creation.createProject(request());
+        QVERIFY(result.stopped && !result.ok() && result.errors.isEmpty());
+        QCOMPARE(m_host.calls, QStringList({"start", "finish"}));
+        QCOMPARE(storedParameters()[0].value(), "041");
+        QCOMPARE(platform::listFolder(m_work->path())->size(), 2); // the library, and what was there
+        QVERIFY(create().ok());
+        QCOMPARE(kindOf(m_work->filePath("041/Promo/Sub/Promo.txt")), FileKind::File);
     }
 
     void asksBeforeOverwriting()

@@ -78,7 +78,17 @@ private Q_SLOTS:
         request = withNextNumbers(request, stored);
         QTEST(request.relativePath(), "path");
         QCOMPARE(request.destination(), "/projects/" + request.relativePath());
-        QTEST(valuesOf(withNumbersTaken(stored, request)), "after");
+        const FilenameParameters after = withNumbersTaken(stored, request);
+        QTEST(valuesOf(after), "after");
+        // Given up: the numbers are free again, but for those that another has moved on from.
+        const FilenameParameters returned = withNumbersReturned(after, request);
+        const FilenameParameters another = withNumbersTaken(after, withNextNumbers(request, after));
+        for (qsizetype row = 0; row < stored.size(); ++row) {
+            if (stored[row].kind() != FilenameParameter::Kind::Counter || typed == "100")
+                continue;
+            QCOMPARE(returned[row].value(), stored[row].value());
+            QCOMPARE(withNumbersReturned(another, request)[row].value(), another[row].value());
+        }
     }
 
     void whatIsTypedEntersTheHistory()

@@ -212,6 +212,19 @@ Outcome moveItem(const QString &source, const QString &destination)
     return copied.ok() ? removeTree(source) : copied;
 }
 
+Outcome replaceEmptyFolder(const QString &folder, const QString &empty)
+{
+    const PathAt from(folder);
+    const PathAt to(empty);
+    return renameat(from.folder(), from.name(), to.folder(), to.name()) == 0 ? Outcome() : Outcome::fromErrno(empty);
+}
+
+Outcome removeEmptyFolder(const QString &folder)
+{
+    const PathAt at(folder);
+    return unlinkat(at.folder(), at.name(), AT_REMOVEDIR) == 0 ? Outcome() : Outcome::fromErrno(folder);
+}
+
 TreeSize measureTree(const QString &path, const std::atomic<bool> &cancelled)
 {
     raiseDescriptorLimit();

@@ -15,6 +15,13 @@ namespace platform {
 
 /** Never overwrites: fails with EEXIST when anything stands at the destination. Across file systems copies, removes. */
 Outcome moveItem(const QString &source, const QString &destination);
+/**
+ * The folder takes the place of an empty one of the same file system, in one step: nobody sees anything between the
+ * two. Cause::Exists when that one is not empty any more; both stay then, as after any failure.
+ */
+Outcome replaceEmptyFolder(const QString &folder, const QString &empty);
+/** Cause::Exists when something is in it. */
+Outcome removeEmptyFolder(const QString &folder);
 /** The item, with everything below it. Links are removed, never followed. What is missing is success. */
 Outcome removeTree(const QString &path);
 /** The same for what this process has just made: folders that it has closed to itself again are opened first. */
