@@ -2,11 +2,13 @@
 #include "app/TessaroAppDelegate.h"
 
 #include "app/MainWindow.h"
+#include "creation/Unfinished.h"
 #include "diagnostics/VTBugReporter.h"
 #include "diagnostics/VTSoftwareUpdate.h"
 #include "parameters/ParameterStore.h"
 #include "parameters/table/VTProjectTableController.h"
 #include "platform/base/MainThread.h"
+#include "platform/base/NativePath.h"
 #include "platform/desktop/ApplicationLauncher.h"
 #include "platform/desktop/Desktop.h"
 #include "platform/files/ApplicationBundle.h"
@@ -111,7 +113,27 @@ void TessaroAppDelegate::applicationDidFinishLaunching()
             helpUserManual();
         static_cast<void>(settings::firstRun.turn(false)); // who cannot store it is greeted again
     }
+    offerToPutAwayLeftovers();
     Q_EMIT Notifications::hub().VTTessaroEditFirstParameter();
+}
+
+void TessaroAppDelegate::offerToPutAwayLeftovers()
+{
+    for (const Leftover &leftover : leftovers()) {
+        VTLog::appendLog("A creation of %@ was cut off; %@ is left of it", leftover.destination, leftover.folder);
+        const int answer =
+            VTAlert::show({tr("A project was not finished"),
+                           tr("Tessaro or the computer stopped while ‘%1’ was being made. What had been copied is in "
+                              "%2.\n\nMove it to the Trash, or keep it there?")
+                               .arg(platform::lastComponent(leftover.destination), leftover.folder),
+                           tr("Move to Trash"),
+                           tr("Keep"),
+                           {},
+                           VTAlert::alternateReturn});
+        const platform::Outcome ended = answer == VTAlert::defaultReturn ? putAway(leftover) : forget(leftover);
+        if (!ended.ok())
+            VTAlert::show({tr("The unfinished project could not be put away"), ended.description()});
+    }
 }
 
 QStringList TessaroAppDelegate::toolbarSelectableItemIdentifiers() const

@@ -108,6 +108,7 @@ private:
 
     void importOldTessaroTemplate();
     void restoreShippedTemplates();
+    void offerToPutAwayLeftovers();
     void watchSettings();
     void followSettings();
     void followTemplate(const QString &name, QString &seen);

@@ -7,6 +7,7 @@ class Invocation;
 namespace commands {
 
 int create(const Invocation &invocation);
+int cleanUp(const Invocation &invocation);
 
 int listTemplates(const Invocation &invocation);
 int newTemplate(const Invocation &invocation);

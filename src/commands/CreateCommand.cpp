@@ -4,10 +4,9 @@
 #include "commands/Commands.h"
 #include "commands/TerminalOutput.h"
 #include "commands/TreeDrawing.h"
+#include "creation/Unfinished.h"
 #include "parameters/ParameterStore.h"
 #include "parameters/ProjectNaming.h"
-#include "parameters/ValueRules.h"
-#include "parameters/table/VTProjectTableController.h"
 #include "platform/base/Interruption.h"
 #include "platform/base/NativePath.h"
 #include "support/Settings.h"
@@ -65,7 +64,27 @@ QString drawn(const CreationPlan &plan, const QString &destination)
 
 int commands::create(const Invocation &invocation)
 {
+    const auto left = leftovers();
+    for (const Leftover &leftover : left)
+        complain(ExitStatus::done, Text::tr("A creation was cut off. This is left of it: %1").arg(leftover.folder));
+    if (!left.isEmpty())
+        complain(ExitStatus::done, Text::tr("Tessaro clean-up --yes moves it to the Trash."));
     return CreateCommand(invocation).run();
+}
+
+int commands::cleanUp(const Invocation &invocation)
+{
+    int status = ExitStatus::done;
+    for (const Leftover &leftover : leftovers()) {
+        print(leftover.folder + u'\n');
+        if (!invocation.has("--yes"))
+            status = ExitStatus::notOverwritten;
+        else if (const platform::Outcome away = putAway(leftover); !away.ok())
+            status = complain(away);
+    }
+    if (status == ExitStatus::notOverwritten)
+        complain(status, Text::tr("Nothing was moved to the Trash; say --yes to do it."));
+    return status;
 }
 
 CreateCommand::CreateCommand(const Invocation &invocation)

@@ -74,12 +74,15 @@ void ProjectCreation::build()
 {
     const QString destination = m_result.request.destination();
     m_place.emplace(destination);
+    if (m_place->isHidden())
+        m_note.emplace(m_place->folder(), destination);
     copyTemplate(m_result.request.templateFiles, m_place->folder());
     renameTemplateFiles(m_place->folder(), m_result.request.name());
     updateTimestamps(m_place->folder());
     if (m_monitor.cancelled)
         return;
     const Outcome placed = m_place->putInPlace();
+    m_note.reset();
     if (placed.ok())
         return;
     VTLog::appendLog("Error moving file: %@", placed.description());
@@ -91,6 +94,7 @@ void ProjectCreation::takeBack()
 {
     m_result.stopped = true;
     const Outcome taken = platform::resultInBackground([&] { return m_place->takeAway(); });
+    m_note.reset();
     const Outcome returned = changeParameters([&](FilenameParameters list) -> platform::Result<FilenameParameters> {
         return withNumbersReturned(std::move(list), m_result.request);
     });
@@ -100,6 +104,9 @@ void ProjectCreation::takeBack()
             break;
     }
     VTLog::appendLog("The creation was stopped");
+    if (m_hasPutAway)
+        tell(formatString(Text::tr("The old project %@ is in the Trash"), m_result.request.destination()),
+             Text::tr("It was put there before the creation was stopped."));
     if (!taken.ok())
         tell(formatString(Text::tr("Something of the stopped project is left in %@"), m_result.request.destination()),
              taken.description());
@@ -172,6 +179,7 @@ bool ProjectCreation::putAwayExisting(const QString &destination)
         return false;
     }
     const Outcome trashed = fileoperations::trashFile(destination, patience);
+    m_hasPutAway = m_hasPutAway || trashed.ok();
     if (trashed.ok())
         return true;
     tell(formatString(Text::tr("Unable to move %@ to the Trash"), destination),

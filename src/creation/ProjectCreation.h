@@ -1,6 +1,7 @@
 #pragma once
 
 #include "creation/ProjectRequest.h"
+#include "creation/Unfinished.h"
 #include "creation/Workplace.h"
 #include "platform/files/FileCopy.h"
 #include "platform/files/FileSystem.h"
@@ -76,5 +77,7 @@ private:
     CreationResult m_result;
     platform::CopyMonitor m_monitor;
     std::optional<Workplace> m_place;
-    QStringList m_levelsMade; ///< the folders above the project's own that this creation has made, innermost last
+    std::optional<CreationNote> m_note;
+    bool m_hasPutAway = false; ///< an existing project is in the Trash
+    QStringList m_levelsMade;  ///< the folders above the project's own that this creation has made, innermost last
 };

@@ -1,18 +1,21 @@
 // The window, driven by keys and clicks, from its first start to a finished project.
 #include "app/MainWindow.h"
 #include "app/TessaroAppDelegate.h"
+#include "creation/Unfinished.h"
 #include "harness/Records.h"
 #include "harness/SheetAnswerer.h"
 #include "harness/StoredSettings.h"
 #include "harness/TemporaryHome.h"
 #include "parameters/table/VTProjectTableController.h"
 #include "platform/base/NativePath.h"
+#include "platform/base/PropertyList.h"
 #include "platform/desktop/Desktop.h"
 #include "platform/files/ApplicationBundle.h"
 #include "platform/files/FileSystem.h"
 #include "platform/files/WholeFile.h"
 #include "support/Settings.h"
 #include "support/VTAlert.h"
+#include "support/VTLocalPaths.h"
 #include "ui/SheetPresenter.h"
 #include "ui/Spinner.h"
 #include "ui/VTSavePanel.h"
@@ -204,6 +207,27 @@ private Q_SLOTS:
         QVERIFY(platform::targetExists(fixed("009/P-R1/Sub/two P-R1.txt")));
         QCOMPARE(value(1), QString("010"));
         QCOMPARE(other.value(settings::filenameTemplate).toList()[1].toMap()["val"].toString(), "010");
+    }
+
+    void offersToPutAwayWhatAKillHasLeft()
+    {
+        const QString hidden = m_work->filePath("Projects/.P.tessaro-1");
+        const auto cutOff = [&] {
+            writeFile(hidden + "/half", "x");
+            writeFile(VTLocalPaths::appSupportDirectory(VTLocalPaths::Domain::User) + "/Vantrel/Tessaro/Unfinished/n",
+                      platform::writePropertyList(
+                          QVariantMap{{"folder", hidden}, {"destination", m_work->filePath("Projects/P")}}));
+        };
+        for (const bool isKept : {true, false}) {
+            cutOff();
+            SheetAnswerer answers({isKept ? "Keep" : "Move to Trash"});
+            open();
+            QCOMPARE(answers.seen.size(), 1);
+            QVERIFY(answers.seen[0].contains(hidden));
+            QCOMPARE(platform::targetExists(hidden), isKept);
+            QVERIFY(leftovers().isEmpty());
+            m_delegate.reset();
+        }
     }
 
     void withoutTemplatesOrParameters()

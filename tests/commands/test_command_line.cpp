@@ -13,6 +13,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QTest>
 #include <csignal>
 #include <sys/stat.h>
@@ -287,6 +288,16 @@ private Q_SLOTS:
             if (signal != SIGKILL && !wasDone && process->exitStatus() == QProcess::NormalExit) {
                 QCOMPARE(process->exitCode(), 4);
                 QCOMPARE(everythingIn(target()), QStringList());
+            }
+            const QStringList hidden = everythingIn(target()).filter(QRegularExpression(R"(/\.[^/]*tessaro-\w+$)"));
+            const Outcome left = run({"clean-up"});
+            QCOMPARE(left.output, hidden.isEmpty() ? QByteArray() : hidden[0].toUtf8() + '\n');
+            QCOMPARE(left.status, hidden.isEmpty() ? 0 : 3);
+            if (!hidden.isEmpty()) {
+                QVERIFY(createIn({}).errors.contains(hidden[0].toUtf8()));
+                QCOMPARE(run({"clean-up", "--yes"}).status, 0);
+                QVERIFY(!platform::targetExists(hidden[0]));
+                QCOMPARE(run({"clean-up"}).output, QByteArray());
             }
             QVERIFY(platform::removeTree(target()).ok() && platform::makeFolders(target()).ok());
         }
