@@ -11,6 +11,8 @@
 
 namespace {
 
+/// Property of an editor: what it showed before anything was typed.
+constexpr const char *textBefore = "textBefore";
 constexpr int chevronSide = 16;
 constexpr int margin = 8;
 constexpr float hairlineOpacity = 0.15F;
@@ -27,6 +29,12 @@ QColor faint(QColor colour, float opacity)
 {
     colour.setAlphaF(opacity);
     return colour;
+}
+
+QString textIn(const QWidget *editor)
+{
+    const auto *combo = qobject_cast<const QComboBox *>(editor);
+    return combo ? combo->currentText() : qobject_cast<const QLineEdit *>(editor)->text();
 }
 
 } // namespace
@@ -92,7 +100,20 @@ QWidget *ValueCellDelegate::createEditor(QWidget *parent, const QStyleOptionView
     return editor;
 }
 
+/// A value that changes while its editor is open shows there, unless something has been typed: that stays.
 void ValueCellDelegate::setEditorData(QWidget *editor, const QModelIndex &index) const
+{
+    const QVariant before = editor->property(textBefore);
+    if (before.isValid() && before.toString() != textIn(editor))
+        return;
+    show(editor, index);
+    editor->setProperty(textBefore, textIn(editor));
+    auto *combo = qobject_cast<QComboBox *>(editor);
+    if (auto *line = combo ? combo->lineEdit() : qobject_cast<QLineEdit *>(editor); line && before.isValid())
+        line->selectAll();
+}
+
+void ValueCellDelegate::show(QWidget *editor, const QModelIndex &index) const
 {
     const QString value = index.data(Qt::EditRole).toString();
     if (auto *combo = qobject_cast<QComboBox *>(editor)) {
@@ -113,7 +134,7 @@ void ValueCellDelegate::setModelData(QWidget *editor, QAbstractItemModel *model,
             model->setData(index, combo->currentData());
         return;
     }
-    model->setData(index, combo ? combo->currentText() : qobject_cast<QLineEdit *>(editor)->text());
+    model->setData(index, textIn(editor));
 }
 
 void ValueCellDelegate::updateEditorGeometry(QWidget *editor, const QStyleOptionViewItem &option,

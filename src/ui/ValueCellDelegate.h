@@ -40,5 +40,6 @@ protected:
     void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override;
 
 private:
+    void show(QWidget *editor, const QModelIndex &index) const;
     [[nodiscard]] QWidget *createCombo(QWidget *parent, const QModelIndex &index, CellEditor kind) const;
 };

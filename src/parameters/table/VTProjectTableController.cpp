@@ -285,8 +285,7 @@ void VTProjectTableController::show(FilenameParameters parameters)
         if (m_dataArray[row] == parameters[row])
             continue;
         m_dataArray[row] = parameters[row];
-        if (!isEdited(row)) // what is being typed stays
-            Q_EMIT dataChanged(index(row, TitleColumn), index(row, ValueColumn));
+        Q_EMIT dataChanged(index(row, TitleColumn), index(row, ValueColumn));
     }
 }
 

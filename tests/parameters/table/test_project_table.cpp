@@ -273,6 +273,25 @@ private Q_SLOTS:
         QVERIFY(form.isStored());
     }
 
+    /// An editor that is open and untouched shows the new value, and leaving it puts nothing back.
+    void anUntouchedEditorFollows()
+    {
+        Form form({record("old", {{"title", "A"}, {"saveHistory", true}}), record("x", {{"title", "B"}})});
+        form.controller.editItem(0);
+        storeSetting(settings::filenameTemplate, QVariantList{record("new", {{"title", "A"}, {"saveHistory", true}}),
+                                                              record("x", {{"title", "B"}})});
+        form.controller.follow();
+        QCOMPARE(qobject_cast<QComboBox *>(form.editor(0))->currentText(), "new");
+        press(Qt::Key_Tab);
+        QTRY_COMPARE(form.editedRow(), 1);
+        QCOMPARE(form.value(0), "new");
+        form.controller.editItem(0);
+        type("typed over"); // the whole text was selected
+        form.controller.finishEditing();
+        QCOMPARE(form.value(0), "typed over");
+        QVERIFY(form.isStored());
+    }
+
     /// What this window only shows, it does not put back when it stores something else.
     void putsNothingBack()
     {
