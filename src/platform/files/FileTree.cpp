@@ -92,7 +92,11 @@ private:
         const auto work = [&] {
             for (std::size_t i = next++; i < entries.size() && m_error == 0; i = next++) {
                 const std::string &name = entries[i].name;
-                removeEntry(folder, name.c_str(), entries[i].type == DT_DIR, below.empty() ? name : below + '/' + name);
+                std::string path = below;
+                if (!below.empty())
+                    path += '/';
+                path += name;
+                removeEntry(folder, name.c_str(), entries[i].type == DT_DIR, path);
             }
         };
         const auto shareable = static_cast<std::size_t>(entries.end() - folders);
