@@ -121,15 +121,14 @@ void TessaroAppDelegate::offerToPutAwayLeftovers()
 {
     for (const Leftover &leftover : leftovers()) {
         VTLog::appendLog("A creation of %@ was cut off; %@ is left of it", leftover.destination, leftover.folder);
-        const int answer =
-            VTAlert::show({tr("A project was not finished"),
-                           tr("Tessaro or the computer stopped while ‘%1’ was being made. What had been copied is in "
-                              "%2.\n\nMove it to the Trash, or keep it there?")
-                               .arg(platform::lastComponent(leftover.destination), leftover.folder),
-                           tr("Move to Trash"),
-                           tr("Keep"),
-                           {},
-                           VTAlert::alternateReturn});
+        const int answer = VTAlert::show(
+            {tr("A project was not finished"),
+             tr("Tessaro or the computer stopped while ‘%1’ was being made. What had been copied is here:\n\n%2")
+                 .arg(platform::lastComponent(leftover.destination), leftover.folder),
+             tr("Move to Trash"),
+             tr("Keep"),
+             {},
+             VTAlert::alternateReturn});
         const platform::Outcome ended = answer == VTAlert::defaultReturn ? putAway(leftover) : forget(leftover);
         if (!ended.ok())
             VTAlert::show({tr("The unfinished project could not be put away"), ended.description()});
