@@ -31,12 +31,13 @@ void TessaroAppDelegate::createNewProject()
 
     request.location = settings::fixedProjectLocationPath.text();
     const bool isFixed = settings::useFixedProjectLocation.isOn() && !request.location.isEmpty();
-    m_request = std::move(request);
-    if (!isFixed)
+    if (!isFixed) {
+        m_request = std::move(request);
         return askForDestination();
-    VTLog::appendLog("Creating project at fixed location %@", m_request.destination());
-    if (mayOverwriteAtFixedLocation(m_request))
-        createTemplate(m_request);
+    }
+    VTLog::appendLog("Creating project at fixed location %@", request.destination());
+    if (mayOverwriteAtFixedLocation(request)) // a shortcut may ask for another project meanwhile: this one is this
+        createTemplate(request);
 }
 
 ProjectRequest TessaroAppDelegate::shownRequest() const
