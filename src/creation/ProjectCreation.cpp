@@ -55,8 +55,7 @@ CreationResult ProjectCreation::createProject(const ProjectRequest &request)
 
     // From here on no failure ends the sequence: what could be made is renamed, dated and counted, and each failure
     // told. Only when it is stopped nothing stays.
-    build();
-    if (m_monitor.cancelled) {
+    if (!build()) {
         takeBack();
         m_host.finishProcessing();
         return m_result;
@@ -70,7 +69,9 @@ CreationResult ProjectCreation::createProject(const ProjectRequest &request)
     return m_result;
 }
 
-void ProjectCreation::build()
+/// False when it was stopped. That is asked for the last time before the project is put in place: from then on it
+/// stands, and its numbers are taken.
+bool ProjectCreation::build()
 {
     const QString destination = m_result.request.destination();
     m_place.emplace(destination);
@@ -80,14 +81,15 @@ void ProjectCreation::build()
     renameTemplateFiles(m_place->folder(), m_result.request.name());
     updateTimestamps(m_place->folder());
     if (m_monitor.cancelled)
-        return;
+        return false;
     const Outcome placed = m_place->putInPlace();
     m_note.reset();
     if (placed.ok())
-        return;
+        return true;
     VTLog::appendLog("Error moving file: %@", placed.description());
     tell(formatString(Text::tr("Unable to move file %@ to %@"), m_place->folder(), destination),
          checkDestination(placed));
+    return true;
 }
 
 void ProjectCreation::takeBack()
@@ -95,10 +97,12 @@ void ProjectCreation::takeBack()
     m_result.stopped = true;
     const Outcome taken = platform::resultInBackground([&] { return m_place->takeAway(); });
     m_note.reset();
-    const Outcome returned = changeParameters([&](FilenameParameters list) -> platform::Result<FilenameParameters> {
-        return withNumbersReturned(std::move(list), m_result.request);
-    });
-    static_cast<void>(returned); // the log says what the settings could not take
+    if (taken.ok()) { // what is left of a project keeps its number
+        const Outcome returned = changeParameters([&](FilenameParameters list) -> platform::Result<FilenameParameters> {
+            return withNumbersReturned(std::move(list), m_result.request);
+        });
+        static_cast<void>(returned); // the log says what the settings could not take
+    }
     for (; taken.ok() && !m_levelsMade.isEmpty(); m_levelsMade.removeLast()) {
         if (!platform::removeEmptyFolder(m_levelsMade.constLast()).ok()) // another project is in it by now
             break;

@@ -66,7 +66,7 @@ private:
     platform::Outcome claimOnce();
     void takeNextNumbers(const FilenameParameters &stored);
     [[nodiscard]] bool putAwayExisting(const QString &destination);
-    void build();
+    [[nodiscard]] bool build();
     void takeBack();
     void copyTemplate(const QString &files, const QString &destination);
     void renameBelow(const QString &folder, const QString &newName);

@@ -70,6 +70,8 @@ Outcome Workplace::putInPlace()
 
 Outcome Workplace::takeAway()
 {
+    if (!isHidden() && platform::kindOf(m_destination) == platform::FileKind::Missing)
+        return {};   // it could not be made
     if (!isHidden()) // what is ours in it cannot be told from what is another's
         return Outcome::failure(Cause::Exists, m_destination);
     const Outcome removed = platform::removeOwnTree(m_folder);
