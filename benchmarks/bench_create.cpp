@@ -1,7 +1,9 @@
 // Creating a project against `cp -a` of the same tree, in the same run.
 //
-//   bench_create [FILES]...            default: 1000 10000, a hundredth as many folders, files of 2 KiB
+//   bench_create [cold] [FILES[/PER-FOLDER]]...      default: 1000 10000, 100 files of 2 KiB in a folder
+//   bench_create 0                                   one file of 2 GiB
 //
+// With cold, every turn begins with nothing of the template in memory; only the super-user can have that.
 // Three take turns, each into a new destination: `cp -a` as a process; a creation in a program that runs already, as in
 // the window (claim, copy, renaming, dates); and `Tessaro create` as a process, with its start-up. Nothing is deleted
 // before the end, because creating files soon after a large deletion is slow on ext4 and would make every ratio 1.
@@ -18,15 +20,28 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QTemporaryDir>
+#include <unistd.h>
 
 namespace {
 
 constexpr int rounds = 7;
 
-void makeTemplate(const QString &files, int count)
+void makeLargeTemplate(const QString &files)
+{
+    QFile file(files + QStringLiteral("/Template.mov"));
+    const QByteArray piece(1 << 20, 'x');
+    if (!platform::makeFolders(files).ok() || !file.open(QIODevice::WriteOnly))
+        qFatal("Cannot make the template");
+    for (int i = 0; i < 2048; ++i) {
+        if (file.write(piece) != piece.size())
+            qFatal("Cannot write the template");
+    }
+}
+
+void makeTemplate(const QString &files, int count, int perFolder)
 {
     const QByteArray contents(2048, 'x');
-    const int folders = std::max(1, count / 100);
+    const int folders = std::max(1, count / perFolder);
     for (int i = 0; i < count; ++i) {
         const QString folder = files + QStringLiteral("/Folder %1").arg(i % folders);
         if (i < folders && !platform::makeFolders(folder).ok())
@@ -62,21 +77,37 @@ double secondsOfCreation(const QString &templateName, const QString &location)
     });
 }
 
-void measure(const QString &work, const QString &library, int count)
+/// Writes back what waits for it, so that nobody pays for what another has written; and forgets what was read.
+void prepareTurn(bool isCold)
 {
-    const QString name = QStringLiteral("Bench %1").arg(count);
+    if (!isCold)
+        return;
+    sync();
+    QFile caches(QStringLiteral("/proc/sys/vm/drop_caches"));
+    if (!caches.open(QIODevice::WriteOnly) || caches.write("3") != 1)
+        qFatal("Only the super-user can empty the caches");
+}
+
+void measure(const QString &work, const QString &library, const QString &what, bool isCold)
+{
+    const int count = what.section(u'/', 0, 0).toInt();
+    const int perFolder = what.contains(u'/') ? what.section(u'/', 1).toInt() : 100;
+    const QString name = QStringLiteral("Bench %1 %2").arg(count).arg(perFolder);
     const QString files = library + u'/' + name + QStringLiteral(".tzt/Files");
-    makeTemplate(files, count);
+    count == 0 ? makeLargeTemplate(files) : makeTemplate(files, count, perFolder);
     const QString program = platform::parentPath(QCoreApplication::applicationFilePath()) + QStringLiteral("/Tessaro");
     std::vector<double> copies;
     std::vector<double> creations;
     std::vector<double> commands;
     for (int round = -1; round < rounds; ++round) {
-        const QString target = work + QStringLiteral("/%1-%2").arg(count).arg(round);
+        const QString target = work + QStringLiteral("/%1-%2-%3").arg(count).arg(perFolder).arg(round);
         if (!platform::makeFolders(target + "/command").ok())
             qFatal("Cannot make %s", qPrintable(target));
+        prepareTurn(isCold);
         const double copy = timing::secondsOf("/bin/cp", {"-a", files, target + "/cp"});
+        prepareTurn(isCold);
         const double creation = secondsOfCreation(name, target + "/running");
+        prepareTurn(isCold);
         const double command = timing::secondsOf(program, {"create", "--in", target + "/command", "--template", name});
         if (round < 0)
             continue; // the first round fills the caches
@@ -84,7 +115,8 @@ void measure(const QString &work, const QString &library, int count)
         creations.push_back(creation);
         commands.push_back(command);
     }
-    QTextStream(stdout) << count << " files: cp -a " << timing::median(copies) * 1000 << " ms\n";
+    QTextStream(stdout) << count << " files, " << perFolder << " in a folder" << (isCold ? ", cold" : "") << ": cp -a "
+                        << timing::median(copies) * 1000 << " ms\n";
     timing::printRatio("in a running program", creations, "cp -a", copies);
     timing::printRatio("Tessaro create", commands, "cp -a", copies);
 }
@@ -103,9 +135,10 @@ int main(int argc, char **argv)
         qFatal("The settings cannot be written");
     const QString library = work.filePath("Library/Application Support/Vantrel/Tessaro/Templates");
     QStringList counts = QCoreApplication::arguments().mid(1);
+    const bool isCold = counts.removeAll(QStringLiteral("cold")) > 0;
     if (counts.isEmpty())
         counts = QStringList{"1000", "10000"};
     for (const QString &count : counts)
-        measure(work.path(), library, count.toInt());
+        measure(work.path(), library, count, isCold);
     return 0;
 }

@@ -1,7 +1,7 @@
 # Sourced by ./run and ./test: the Debian packages that building, running and testing need, and their installation.
 
 build_packages="g++ cmake ninja-build ccache mold pkg-config qt6-base-dev qt6-svg-dev libplist-dev libarchive-dev
-  libxcb1-dev libxkbcommon-x11-dev"
+  libxcb1-dev libxkbcommon-x11-dev libfontconfig-dev"
 run_packages="fonts-dejavu-core libqt6svg6 qt6-qpa-plugins"
 test_packages="xvfb xauth openbox dbus dbus-daemon attr e2fsprogs util-linux
   passwd polkitd pkexec x11-xkb-utils locales qt6-l10n-tools clang-format"

@@ -10,11 +10,12 @@ namespace {
 
 /// The rooms, from the bottom up. Rooms of one level do not know of each other.
 const QList<QStringList> levels{
+    {"platform/plain"},
     {"helper"},
     {"platform/base"},
     {"platform/files"},
     {"platform/process", "platform/archive"},
-    {"platform/desktop"},
+    {"platform/process/bus", "platform/desktop"},
     {"support"},
     {"ui", "templates", "parameters", "diagnostics"},
     {"creation"},

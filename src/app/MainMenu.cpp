@@ -12,7 +12,7 @@ struct Item
 {
     const char *text; ///< null: a separator
     const char *shortcut;
-    void (TessaroAppDelegate::*slot)();
+    void (TessaroAppDelegate::*slot)(); ///< null: a menu of the recent projects
     bool waitsForCreation;
 };
 
@@ -33,6 +33,8 @@ const QList<Menu> &menus()
     static const QList<Menu> table{
         {QT_TRANSLATE_NOOP("MainMenu", "&Project"),
          {{QT_TRANSLATE_NOOP("MainMenu", "&Create Project"), "Ctrl+Return", &Delegate::createNewProject, true},
+          {QT_TRANSLATE_NOOP("MainMenu", "&Undo"), "Ctrl+Z", &Delegate::undoCreation, true},
+          {QT_TRANSLATE_NOOP("MainMenu", "&Recent Projects"), "", nullptr, true},
           {nullptr, nullptr, nullptr, false},
           {QT_TRANSLATE_NOOP("MainMenu", "&Preferences…"), "Ctrl+,", &Delegate::showPreferences, true},
           {QT_TRANSLATE_NOOP("MainMenu", "Clear &History"), "", &Delegate::clearHistory, true},
@@ -69,6 +71,15 @@ const QList<Menu> &menus()
     return table;
 }
 
+QMenu *recentProjects(QMenu &menu, const QString &title, TessaroAppDelegate &delegate)
+{
+    QMenu *recent = menu.addMenu(title);
+    recent->setToolTipsVisible(true);
+    QObject::connect(recent, &QMenu::aboutToShow, &delegate,
+                     [recent, &delegate] { delegate.fillRecentProjects(recent); });
+    return recent;
+}
+
 } // namespace
 
 QList<QAction *> buildMenus(QMenuBar &menuBar, TessaroAppDelegate &delegate)
@@ -81,10 +92,12 @@ QList<QAction *> buildMenus(QMenuBar &menuBar, TessaroAppDelegate &delegate)
                 built->addSeparator();
                 continue;
             }
-            QAction *action = built->addAction(Text::tr(item.text));
+            QAction *action = item.slot ? built->addAction(Text::tr(item.text))
+                                        : recentProjects(*built, Text::tr(item.text), delegate)->menuAction();
             action->setObjectName(QString::fromLatin1(item.text).remove(u'&'));
             action->setShortcut(QKeySequence(QLatin1String(item.shortcut)));
-            QObject::connect(action, &QAction::triggered, &delegate, item.slot);
+            if (item.slot)
+                QObject::connect(action, &QAction::triggered, &delegate, item.slot);
             if (item.waitsForCreation)
                 waiting.append(action);
         }

@@ -6,6 +6,7 @@
 #include "platform/base/NativePath.h"
 #include "templates/editor/TemplatePane.h"
 #include "ui/Icons.h"
+#include "ui/ProgressLine.h"
 #include "ui/ValueCellDelegate.h"
 #include "ui_MainWindow.h"
 
@@ -28,6 +29,7 @@ MainWindow::MainWindow(TessaroAppDelegate &delegate)
     m_ui->tableView->setItemDelegate(new ValueCellDelegate(m_ui->tableView));
     m_ui->warningImage->setPixmap(icons::named("warning").pixmap(warningSide, warningSide));
     m_ui->emptyParameters->setContents("empty-parameters", tr("No parameters yet"), tr("Use the Standard Parameters"));
+    m_ui->centralLayout->addWidget(new ProgressLine(m_ui->centralwidget));
     buildToolbar();
     buildMenus();
     connectPanes();
@@ -63,6 +65,8 @@ void MainWindow::buildMenus()
 {
     m_busyActions = ::buildMenus(*menuBar(), m_delegate);
     m_busyActions += {m_newProjectItem, m_templatesItem};
+    m_undoAction = menuBar()->findChild<QAction *>(QStringLiteral("Undo"));
+    setUndoable({});
 }
 
 void MainWindow::connectPanes()
@@ -71,6 +75,7 @@ void MainWindow::connectPanes()
     connect(m_ui->projectTemplatePopUp, &QComboBox::activated, &m_delegate, &TessaroAppDelegate::changeProjectTemplate);
     connect(m_ui->emptyParameters, &EmptyState::activated, &m_delegate, &TessaroAppDelegate::useStandardParameters);
     connect(m_ui->installTemplates, &QPushButton::clicked, &m_delegate, &TessaroAppDelegate::installStandardTemplates);
+    connect(m_ui->undoButton, &QPushButton::clicked, &m_delegate, &TessaroAppDelegate::undoCreation);
     connect(m_ui->showButton, &QPushButton::clicked, this, [this] { m_delegate.showProject(m_created); });
 }
 
@@ -147,6 +152,22 @@ void MainWindow::showCreated(const QString &project)
     m_ui->createdLabel->setText(project.isNull() ? QString() : tr("Created ‘%1’.").arg(name));
     m_ui->createdLabel->setToolTip(platform::forDisplay(project));
     m_ui->showButton->setVisible(!project.isNull());
+    m_ui->undoButton->setVisible(!project.isNull());
+}
+
+void MainWindow::setUndoable(const QString &name)
+{
+    m_isUndoable = !name.isNull();
+    const QString shown = fontMetrics().elidedText(name, Qt::ElideMiddle, longestCreatedName);
+    const QString forMenu = QString(shown).replace(u'&', QLatin1String("&&"));
+    m_undoAction->setText(m_isUndoable ? tr("&Undo the Creation of ‘%1’").arg(forMenu) : tr("&Undo"));
+    m_undoAction->setEnabled(m_isUndoable);
+}
+
+void MainWindow::showMessage(const QString &text)
+{
+    showCreated({});
+    m_ui->createdLabel->setText(text);
 }
 
 void MainWindow::setProcessing(bool processing)
@@ -154,10 +175,11 @@ void MainWindow::setProcessing(bool processing)
     if (processing)
         m_focusBefore = focusWidget();
     for (QWidget *control : QList<QWidget *>{m_ui->projectTemplatePopUp, m_ui->parameterStack, m_ui->createButton,
-                                             m_ui->previewPathControl, m_ui->showButton})
+                                             m_ui->previewPathControl, m_ui->showButton, m_ui->undoButton})
         control->setEnabled(!processing);
     for (QAction *action : std::as_const(m_busyActions))
         action->setEnabled(!processing);
+    m_undoAction->setEnabled(!processing && m_isUndoable);
     if (!processing && m_preferencesOpen)
         setPreferencesOpen(true);
     m_ui->createButton->setEnabled(!processing && m_ui->projectTemplatePopUp->count() > 0);

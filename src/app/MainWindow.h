@@ -43,6 +43,10 @@ public:
 
     /** A line at the bottom that says what was created, with a button that shows it; a null path clears it. */
     void showCreated(const QString &project);
+    /** What the menu's Undo takes back; a null name: nothing. */
+    void setUndoable(const QString &name);
+    /** A line in its place that says something else; until the next project. */
+    void showMessage(const QString &text);
     void setProcessing(bool processing);
     /** Their menu item is disabled while they are. */
     void setPreferencesOpen(bool open);
@@ -72,6 +76,8 @@ private:
     QList<QAction *> m_busyActions;  ///< not to be started while a project is being created
     QPointer<QWidget> m_focusBefore; ///< what had the focus when the controls were dimmed
     QString m_created;
+    QAction *m_undoAction = nullptr;
+    bool m_isUndoable = false;
     bool m_painted = false;
     bool m_preferencesOpen = false;
 };

@@ -52,8 +52,12 @@ bool TessaroAppDelegate::awakeFromNib()
 {
     if (std::exchange(m_awakeCount, 1) != 0)
         return true;
-    if (settings::requireAdminPassword.isOn() && !VTAuthorization::sharedController().authStart())
+    if (settings::requireAdminPassword.isOn() && !VTAuthorization::sharedController().authStart()) {
+        VTAlert::show({tr("Tessaro needs an administrator’s password to start"),
+                       tr("It was not given, or there is nobody who could ask for it. An administrator can switch this "
+                          "off with: sudo Tessaro settings unset requireAdminPassword")});
         return false;
+    }
     VTSoftwareUpdate().startup();
     m_tableController = std::make_unique<VTProjectTableController>();
     m_window = std::make_unique<MainWindow>(*this);

@@ -2,13 +2,16 @@
 
 #include "app/HelpPages.h"
 #include "creation/ProjectCreation.h"
+#include "creation/Undo.h"
 
 #include <QHash>
 #include <QObject>
 #include <QPointer>
 #include <memory>
+#include <optional>
 
 class MainWindow;
+class QMenu;
 class VTProjectTableController;
 class VTPreferenceController;
 class VTSavePanel;
@@ -65,6 +68,8 @@ public Q_SLOTS:
     void changeProjectTemplate();
     /** The create action: checks the parameters, finds the destination, creates. */
     void createNewProject();
+    /** Takes the last creation of this window back. */
+    void undoCreation();
     void destinationBrowseDidEnd(int returnCode);
 
     void importTemplate();
@@ -83,6 +88,8 @@ public Q_SLOTS:
     void installStandardTemplates();
     void showTemplateLibrary();
     void showProject(const QString &project);
+    /** A menu of the remembered projects, read when it opens. */
+    void fillRecentProjects(QMenu *menu);
 
     void checkForUpdates();
     void viewLog();
@@ -112,6 +119,8 @@ private:
     void watchSettings();
     void followSettings();
     void followTemplate(const QString &name, QString &seen);
+    void undoProject(const Manifest &manifest);
+    void tellWhatStays(const Manifest &manifest, const QList<KeptItem> &kept) const;
     [[nodiscard]] bool isComplete(const ProjectRequest &request);
     [[nodiscard]] bool mayOverwriteAtFixedLocation(const ProjectRequest &request);
     void askForDestination();
@@ -126,6 +135,7 @@ private:
     std::unique_ptr<MainWindow> m_window;
     std::unique_ptr<VTProjectTableController> m_tableController;
     QPointer<VTSavePanel> m_savePanel;
-    ProjectRequest m_request; ///< the project for which the panel asks
+    std::optional<Manifest> m_undoable; ///< the last creation of this window, until it is undone
+    ProjectRequest m_request;           ///< the project for which the panel asks
     QPointer<VTPreferenceController> m_preferences;
 };

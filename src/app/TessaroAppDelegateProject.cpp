@@ -127,7 +127,14 @@ void TessaroAppDelegate::createTemplate(const ProjectRequest &request)
     const CreationResult result = ProjectCreation(*this).createProject(request);
     m_creating = false;
     m_tableController->follow(); // what came during the creation
-    if (result.ok() && !settings::autoOpenFolder.isOn())
+    for (const QString &note : result.notes)
+        VTAlert::show({note, {}});
+    if (!result.manifest.file.isEmpty())
+        m_undoable = result.manifest;
+    m_window->setUndoable(m_undoable ? platform::forOneLine(m_undoable->name()) : QString());
+    if (result.stopped)
+        m_window->showMessage(tr("Stopped; nothing of the project was kept."));
+    else if (result.ok() && !settings::autoOpenFolder.isOn())
         m_window->showCreated(result.request.destination());
 }
 

@@ -2,6 +2,7 @@
 
 #include "commands/TerminalOutput.h"
 #include "commands/TerminalPresenter.h"
+#include "commands/TerminalProgress.h"
 #include "platform/base/NativePath.h"
 #include "support/Settings.h"
 #include "support/VTAlert.h"
@@ -224,11 +225,14 @@ int runCommand(const Invocation &invocation)
         VTLog::sharedController().setLoggingDisabled(true);
     else if (invocation.verb->logged == Logged::Yes)
         VTLog::createNewTaskLog();
+    else
+        VTLog::joinTaskLog();
     if (invocation.verb->guard == Guard::None)
         return finished(invocation.verb->run(invocation));
     settings::registerDefaults();
     TerminalPresenter presenter(invocation.has("--overwrite") || invocation.has("--yes"));
     VTAlert::setPresenter(&presenter);
+    const TerminalProgress progress;
     const bool mayStart = !settings::requireAdminPassword.isOn() || VTAuthorization::sharedController().authStart();
     int status = !mayStart || !isAllowed(invocation.verb->guard) ? refuseRights() : invocation.verb->run(invocation);
     if (status == ExitStatus::done && presenter.hasComplained()) // said while it went on

@@ -8,6 +8,8 @@ namespace commands {
 
 int create(const Invocation &invocation);
 int cleanUp(const Invocation &invocation);
+int history(const Invocation &invocation);
+int undo(const Invocation &invocation);
 
 int listTemplates(const Invocation &invocation);
 int newTemplate(const Invocation &invocation);

@@ -51,12 +51,11 @@ QString remarkText(const PlanItem &item)
 QString drawn(const CreationPlan &plan, const QString &destination)
 {
     QList<DrawnItem> items;
-    items.reserve(plan.items.size());
-    for (const PlanItem &item : plan.items) {
+    plan.forEachItem([&](const PlanItem &item) {
         const auto depth = item.folder.isEmpty() ? 0 : static_cast<int>(item.folder.count(u'/')) + 1;
         const QString slash = item.kind == platform::FileKind::Folder ? QStringLiteral("/") : QString();
         items.append({depth, platform::forOneLine(item.newName) + slash + remarkText(item)});
-    }
+    });
     return drawnTree(platform::forOneLine(destination), items);
 }
 
@@ -253,17 +252,20 @@ bool CreateCommand::findDestination()
 
 int CreateCommand::printPlan()
 {
-    const TreeListing tree = listTree(m_request.templateFiles);
-    const CreationPlan plan = planCreation(tree, m_request.levels());
+    std::atomic<bool> stopped = false;
+    const platform::Interruption interruption(stopped);
+    const CreationPlan plan = planCreation(m_request.templateFiles, m_request.levels(), stopped);
+    if (stopped)
+        return complain(ExitStatus::stopped, Text::tr("Stopped."));
     for (const QString &level : plan.tooLongLevels)
         fail(ExitStatus::failed, Text::tr("The folder name is too long: %1").arg(level));
-    for (const platform::Outcome &unreadable : tree.unreadable)
+    for (const platform::Outcome &unreadable : plan.unreadable)
         fail(ExitStatus::failed,
              Text::tr("This folder of the template cannot be read: %1").arg(unreadable.description()));
-    for (const PlanItem &item : plan.items) {
+    plan.forEachItem([&](const PlanItem &item) {
         if (item.remark != PlanItem::Remark::None)
             m_status = ExitStatus::failed;
-    }
+    });
     if (m_invocation.has("--json"))
         printObject({}, &plan);
     else
@@ -278,6 +280,8 @@ int CreateCommand::create()
     const CreationResult result = creation.createProject(m_request);
     m_request = result.request;
     m_problems += result.errors;
+    for (const QString &note : result.notes)
+        complain(ExitStatus::done, note);
     const bool isThere = VTFileManager::fileExistsAtPath(m_request.destination());
     if (result.stopped)
         fail(ExitStatus::stopped, Text::tr("Stopped. Nothing of the project was kept."));
@@ -316,19 +320,20 @@ void CreateCommand::printObject(const CreationResult &result, const CreationPlan
         {"files", plan ? plan->files() : result.files},
         {"renamed", plan ? plan->renamed() : result.renamed},
         {"errors", QJsonArray::fromStringList(m_problems)},
+        {"notes", QJsonArray::fromStringList(result.notes)},
     };
     if (plan) {
         static const QHash<PlanItem::Remark, QString> remarks{{PlanItem::Remark::NameTaken, "name taken"},
                                                               {PlanItem::Remark::NameTooLong, "name too long"}};
         QJsonArray items;
-        for (const PlanItem &item : plan->items) {
+        plan->forEachItem([&](const PlanItem &item) {
             QJsonObject entry{{"path", shown(item.folder.isEmpty() ? item.newName : joined(item.folder, item.newName))},
                               {"was", shown(item.oldName)},
                               {"folder", item.kind == platform::FileKind::Folder}};
             if (const QString remark = remarks.value(item.remark); !remark.isNull())
                 entry.insert("remark", remark);
             items.append(entry);
-        }
+        });
         object.insert("items", items);
     }
     print(object);

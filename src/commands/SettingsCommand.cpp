@@ -26,9 +26,12 @@ int complainAboutKey(const QString &key)
                     Text::tr("There is no setting “%1”. Tessaro settings lists them.").arg(key));
 }
 
-/// A protection that is on is switched off only when an administrator agrees.
+/// A protection that is on is switched off only when an administrator agrees. The one of the start is switched on only
+/// where rights can be had: else nothing would start any more.
 bool mayChange(const settings::Setting &setting, bool isOffAfterwards)
 {
+    if (&setting == &settings::requireAdminPassword && !isOffAfterwards)
+        return VTAuthorization::sharedController().authAfresh();
     const bool isProtectedNow = setting.scope == settings::Scope::Machine && settings::standard().equalsOne(setting);
     return !isProtectedNow || !isOffAfterwards || VTAuthorization::sharedController().authAfresh();
 }

@@ -209,6 +209,14 @@ int commands::importStructure(const Invocation &invocation)
     const QString from = platform::absolutePath(invocation.value("--from"));
     if (!VTFileManager::isDirectoryAtPath(from))
         return complain(ExitStatus::failed, Text::tr("%1 is not a folder.").arg(from));
+    const QString bundle = VTDataController::bundlePath(invocation.argument(0));
+    for (const QString &path : {bundle, VTDataController::filesFolder(invocation.argument(0))}) {
+        if (platform::kindOf(path) == platform::FileKind::Link)
+            return complain(ExitStatus::failed,
+                            Text::tr("%1 is a link; what it leads to is not changed from here.").arg(path));
+        if (!VTFileManager::isDirectoryAtPath(path))
+            return complain(ExitStatus::failed, Text::tr("This is no template, it lacks the folder %1.").arg(path));
+    }
     const ImportHost nobody{[] {}, [](const QString &) {},
                             [] {
                             }};

@@ -29,7 +29,7 @@ enum class Guard {
     Editing,     ///< and as before a template is changed
     Preferences, ///< and as before the preferences open
 };
-/** Whether a verb begins a log of its own. */
+/** Whether a verb begins a log of its own. One that only asks something does not: five of them would empty the ring. */
 enum class Logged { No, Yes };
 
 /**

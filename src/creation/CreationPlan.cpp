@@ -2,86 +2,110 @@
 
 #include "platform/base/NativePath.h"
 
-#include <QHash>
-#include <QSet>
+#include <algorithm>
+#include <unordered_set>
 
-using platform::FileKind;
 using Remark = PlanItem::Remark;
 
 namespace {
 
 const QString placeholder = QStringLiteral("template");
-
-QString inProject(const QString &folder, const QString &name)
-{
-    return folder.isEmpty() ? name : folder + u'/' + name;
-}
+constexpr std::string_view placeholderBytes = "template";
 
 bool isTooLong(const QString &name)
 {
     return platform::toNative(name).size() > longestName;
 }
 
-/// Follows the names that stand in one folder while its items are renamed, one after the other.
-struct FolderNames
+/// Most names do not: no texts are made of them.
+bool mentionsPlaceholder(std::string_view name)
 {
-    QSet<QString> taken;
+    const auto isSame = [](char inName, char wanted) {
+        return (inName | 0x20) == wanted; // the word is of small ASCII letters, and no other byte becomes one of these
+    };
+    return std::search(name.begin(), name.end(), placeholderBytes.begin(), placeholderBytes.end(), isSame) !=
+           name.end();
+}
 
-    void rename(PlanItem &item, const QString &wanted)
-    {
-        if (wanted == item.oldName)
-            return;
-        if (isTooLong(wanted)) {
-            item.remark = Remark::NameTooLong;
-        } else if (taken.contains(wanted)) {
-            item.remark = Remark::NameTaken;
-        } else {
-            taken.remove(item.oldName);
-            taken.insert(wanted);
-            item.newName = wanted;
-        }
+void nameItem(platform::TreeFolder &folder, platform::TreeItem &item, const QString &projectName,
+              std::unordered_set<std::string> &taken)
+{
+    const std::string own = folder.nameOf(item);
+    const QString name = platform::fromNative(own);
+    const QString inProject = nameInProject(name, projectName);
+    const QByteArray wanted = platform::toNative(inProject);
+    if (inProject == name)
+        return;
+    if (wanted.size() > longestName) {
+        item.remark = static_cast<unsigned char>(Remark::NameTooLong);
+    } else if (taken.contains(wanted.toStdString())) {
+        item.remark = static_cast<unsigned char>(Remark::NameTaken);
+    } else {
+        taken.erase(own);
+        taken.insert(wanted.toStdString());
+        folder.rename(item, wanted.toStdString());
     }
-};
+}
 
 } // namespace
 
+void nameItems(platform::TreeFolder &folder, const QString &projectName)
+{
+    if (!mentionsPlaceholder(folder.names)) // a name's end is a null byte: no word goes across two names
+        return;
+    std::unordered_set<std::string> taken;
+    for (const platform::TreeItem &item : folder.items)
+        taken.insert(folder.nameOf(item));
+    for (platform::TreeItem &item : folder.items) {
+        if (mentionsPlaceholder(folder.nameOf(item)))
+            nameItem(folder, item, projectName, taken);
+    }
+}
+
 QString nameInProject(const QString &name, const QString &projectName)
 {
-    if (!name.contains(placeholder, Qt::CaseInsensitive)) // most names: no copies made of them
-        return name;
     if (!platform::withoutExtension(name).toLower().contains(placeholder))
         return name;
     return QString(name).replace(placeholder, projectName, Qt::CaseInsensitive);
 }
 
-qsizetype CreationPlan::folders() const
+void CreationPlan::forEachItem(const std::function<void(const PlanItem &)> &visit) const
 {
-    return std::count_if(items.begin(), items.end(), [](const auto &item) { return item.kind == FileKind::Folder; });
+    const std::function<void(std::uint32_t, const QString &)> visitFolder = [&](std::uint32_t number,
+                                                                                const QString &path) {
+        const platform::TreeFolder &folder = tree.folders[number];
+        for (const platform::TreeItem &item : folder.items) {
+            const PlanItem shown{path, platform::fromNative(folder.nameOf(item)),
+                                 platform::fromNative(folder.newNameOf(item)), platform::kindOfType(item.type),
+                                 static_cast<Remark>(item.remark)};
+            visit(shown);
+            if (item.folder != 0)
+                visitFolder(item.folder, path.isEmpty() ? shown.newName : path + u'/' + shown.newName);
+        }
+    };
+    visitFolder(0, QLatin1String(""));
 }
 
 qsizetype CreationPlan::renamed() const
 {
-    return std::count_if(items.begin(), items.end(), [](const auto &item) { return item.isRenamed(); });
+    qsizetype count = 0;
+    for (const platform::TreeFolder &folder : tree.folders)
+        count += std::count_if(folder.items.begin(), folder.items.end(),
+                               [](const auto &item) { return item.newName != item.name; });
+    return count;
 }
 
-CreationPlan planCreation(const TreeListing &tree, const QStringList &levels)
+CreationPlan planCreation(const QString &templateFiles, const QStringList &levels, const std::atomic<bool> &cancelled)
 {
-    CreationPlan plan{levels, {}, {}};
+    CreationPlan plan{levels, {}, {}, {}};
     std::copy_if(levels.begin(), levels.end(), std::back_inserter(plan.tooLongLevels), isTooLong);
     const QString projectName = levels.isEmpty() ? QString() : levels.constLast();
-
-    QHash<QString, FolderNames> names; // by the folder's path in the template
-    for (const ListedItem &item : tree.items)
-        names[item.folder].taken.insert(item.name);
-
-    QHash<QString, QString> folderInProject{{QString(QLatin1String("")), QString(QLatin1String(""))}};
-    plan.items.reserve(tree.items.size());
-    for (const ListedItem &item : tree.items) {
-        PlanItem planned{folderInProject.value(item.folder), item.name, item.name, item.kind, Remark::None};
-        names[item.folder].rename(planned, nameInProject(item.name, projectName));
-        if (item.kind == FileKind::Folder)
-            folderInProject.insert(inProject(item.folder, item.name), inProject(planned.folder, planned.newName));
-        plan.items.append(planned);
-    }
+    plan.tree = platform::readTree(
+        templateFiles, [&](platform::TreeFolder &folder) { nameItems(folder, projectName); }, cancelled);
+    plan.tree.forEachFolder([&](std::uint32_t number) {
+        if (const int error = plan.tree.folders[number].error; error != 0)
+            plan.unreadable.append(
+                platform::Outcome::fromNumber(error, platform::joined(templateFiles, plan.tree.pathOf(number))));
+    });
     return plan;
 }

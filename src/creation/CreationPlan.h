@@ -1,16 +1,13 @@
 #pragma once
 
-#include "templates/TreeListing.h"
+#include "platform/files/Tree.h"
 
 #include <QStringList>
 
-/**
- * What a creation will make, as a plain value: computed from the template's tree and the project's folder levels,
- * without looking at the disk. Pure; any thread.
- */
+/** One item of a plan, as people see it. */
 struct PlanItem
 {
-    enum class Remark {
+    enum class Remark : unsigned char {
         None,
         NameTaken,   ///< its new name belongs to a sibling: it will keep its old one
         NameTooLong, ///< its new name has more than 255 bytes: it will keep its old one
@@ -25,18 +22,33 @@ struct PlanItem
     [[nodiscard]] bool isRenamed() const { return oldName != newName; }
 };
 
+/**
+ * What a creation will make, and what will go wrong with it, as a value: computed from the template's tree and the
+ * project's folder levels. What a dry run shows is what is made.
+ */
 struct CreationPlan
 {
-    QStringList levels;        ///< the project's folder levels, outermost first
-    QList<PlanItem> items;     ///< in listing order, a folder before what lies in it
-    QStringList tooLongLevels; ///< levels whose names have more than 255 bytes: the folder cannot be made
+    QStringList levels;                  ///< the project's folder levels, outermost first
+    QStringList tooLongLevels;           ///< levels whose names have more than 255 bytes: the folder cannot be made
+    platform::Tree tree;                 ///< each item with its name in the project; its remark is PlanItem's
+    QList<platform::Outcome> unreadable; ///< folders of the template, or all of it, in listing order
 
-    [[nodiscard]] qsizetype folders() const;
-    [[nodiscard]] qsizetype files() const { return items.size() - folders(); }
+    /** In listing order, a folder before what lies in it. */
+    void forEachItem(const std::function<void(const PlanItem &)> &visit) const;
+    [[nodiscard]] qsizetype folders() const { return static_cast<qsizetype>(tree.folders.size()) - 1; }
+    [[nodiscard]] qsizetype files() const { return static_cast<qsizetype>(tree.itemCount()) - folders(); }
     [[nodiscard]] qsizetype renamed() const;
 };
 
-[[nodiscard]] CreationPlan planCreation(const TreeListing &tree, const QStringList &levels);
+/** Reads the template's tree. Ends early when cancelled. Blocks; any thread. */
+[[nodiscard]] CreationPlan planCreation(const QString &templateFiles, const QStringList &levels,
+                                        const std::atomic<bool> &cancelled);
+
+/**
+ * Gives each item of one folder its name in the project, one after the other in listing order: a name that is taken at
+ * that moment, or too long, is not given, and the item keeps its own. Pure.
+ */
+void nameItems(platform::TreeFolder &folder, const QString &projectName);
 
 /** Most file systems take names of 255 bytes (NAME_MAX of limits.h). */
 inline constexpr qsizetype longestName = 255;

@@ -1,11 +1,12 @@
 #include "creation/ProjectCreation.h"
 
-#include "creation/CreationPlan.h"
 #include "parameters/ParameterStore.h"
 #include "platform/base/MainThread.h"
 #include "platform/base/NativePath.h"
 #include "platform/files/FileTree.h"
+#include "platform/files/Trash.h"
 #include "support/FileOperations.h"
+#include "support/LongWork.h"
 #include "support/VTAlert.h"
 #include "support/VTLog.h"
 
@@ -14,6 +15,7 @@
 using platform::Cause;
 using platform::FileKind;
 using platform::formatString;
+using platform::joined;
 using platform::Outcome;
 
 namespace {
@@ -77,13 +79,27 @@ bool ProjectCreation::build()
     m_place.emplace(destination);
     if (m_place->isHidden())
         m_note.emplace(m_place->folder(), destination);
-    copyTemplate(m_result.request.templateFiles, m_place->folder());
-    renameTemplateFiles(m_place->folder(), m_result.request.name());
-    updateTimestamps(m_place->folder());
+    m_place->make();
+    if (!m_place->isHidden())
+        m_note.reset();
+    const LongWork work(Text::tr("Creating %1").arg(platform::forOneLine(m_result.request.name())), m_monitor,
+                        [this](const std::atomic<bool> &over) {
+                            const quint64 bytes = platform::measureTree(m_result.request.templateFiles, over).bytes;
+                            m_monitor.bytesTotal = over ? 0 : bytes;
+                        });
+    copyTemplate();
+    finishNames();
+    updateDates();
     if (m_monitor.cancelled)
         return false;
     const Outcome placed = m_place->putInPlace();
+    if (m_note && !placed.ok())
+        m_note->leaveSomethingBehind();
     m_note.reset();
+    remember();
+    if (!m_stored.ok())
+        tell(Text::tr("What was typed, and the numbers that were taken, could not be stored"),
+             withCause(Text::tr("The next project may get the same number."), m_stored));
     if (placed.ok())
         return true;
     VTLog::appendLog("Error moving file: %@", placed.description());
@@ -96,6 +112,8 @@ void ProjectCreation::takeBack()
 {
     m_result.stopped = true;
     const Outcome taken = platform::resultInBackground([&] { return m_place->takeAway(); });
+    if (m_note && !taken.ok())
+        m_note->leaveSomethingBehind();
     m_note.reset();
     if (taken.ok()) { // what is left of a project keeps its number
         const Outcome returned = changeParameters([&](FilenameParameters list) -> platform::Result<FilenameParameters> {
@@ -108,12 +126,39 @@ void ProjectCreation::takeBack()
             break;
     }
     VTLog::appendLog("The creation was stopped");
-    if (m_hasPutAway)
-        tell(formatString(Text::tr("The old project %@ is in the Trash"), m_result.request.destination()),
-             Text::tr("It was put there before the creation was stopped."));
+    if (m_hasPutAway && taken.ok())
+        bringBackOld();
     if (!taken.ok())
         tell(formatString(Text::tr("Something of the stopped project is left in %@"), m_result.request.destination()),
              taken.description());
+}
+
+void ProjectCreation::bringBackOld()
+{
+    const QString destination = m_result.request.destination();
+    Outcome back = platform::makeFolders(platform::parentPath(destination));
+    if (back.ok())
+        back = m_oldInTrash.isNull() ? Outcome::failure(Cause::Missing, destination)
+                                     : platform::putBackFromTrash(m_oldInTrash, destination);
+    if (!back.ok())
+        tell(formatString(Text::tr("The old project %@ is in the Trash"), destination),
+             withCause(Text::tr("It was put there before the creation was stopped."), back));
+}
+
+/// So that it can be found again and undone. A project stands without that, too.
+void ProjectCreation::remember()
+{
+    const ProjectRequest &request = m_result.request;
+    const auto identity = platform::identityOf(request.destination());
+    if (!identity)
+        return;
+    m_result.manifest = {{},        request.destination(), request.templateName, QDateTime::currentDateTime(),
+                         *identity, request.parameters,    m_levelsMade,         m_oldInTrash};
+    const Outcome kept = platform::resultInBackground([&] { return ::remember(m_result.manifest, m_plan.tree); });
+    if (kept.ok())
+        return;
+    m_result.manifest.file.clear();
+    VTLog::appendLog("Unable to remember the project for its undoing: %@", kept.description());
 }
 
 void ProjectCreation::takeNextNumbers(const FilenameParameters &stored)
@@ -163,7 +208,7 @@ Outcome ProjectCreation::claimOnce()
                 return made;
             return withNumbersTaken(list, m_result.request);
         });
-    static_cast<void>(stored); // the log says what the settings could not take
+    m_stored = made.is(Cause::Busy) || made.is(Cause::Exists) ? Outcome() : stored;
     return made;
 }
 
@@ -182,90 +227,22 @@ bool ProjectCreation::putAwayExisting(const QString &destination)
         VTLog::appendLog("User chose to cancel.");
         return false;
     }
-    const Outcome trashed = fileoperations::trashFile(destination, patience);
+    QString inTrash;
+    const Outcome trashed = fileoperations::trashFile(destination, patience, &inTrash);
     m_hasPutAway = m_hasPutAway || trashed.ok();
     if (trashed.ok())
+        m_oldInTrash = inTrash;
+    if (trashed.ok())
         return true;
+    if (trashed.is(Cause::Declined)) { // there is no Trash for it, and it was to be kept then
+        VTLog::appendLog("User chose to keep the old project.");
+        return false;
+    }
     tell(formatString(Text::tr("Unable to move %@ to the Trash"), destination),
          withCause(Text::tr("The old project was left as it is, and no new one was created. Please check that you have "
                             "write permissions for the folder it lies in."),
                    trashed));
     return false;
-}
-
-void ProjectCreation::copyTemplate(const QString &files, const QString &destination)
-{
-    const Outcome copied = VTFileManager::isDirectoryAtPath(destination)
-                               ? fileoperations::copyContentsOfDirectory(files, destination, patience, &m_monitor)
-                               : Outcome::failure(Cause::Missing, destination);
-    if (copied.ok() || copied.is(Cause::Cancelled))
-        return;
-    const Outcome shown = m_place->shown(copied);
-    VTLog::appendLog("Error copying file: %@", shown.description());
-    tell(Text::tr("Unable to copy contents of template"), checkDestination(shown));
-}
-
-void ProjectCreation::renameTemplateFiles(const QString &folder, const QString &newName)
-{
-    platform::performInBackground([&] { renameBelow(folder, newName); });
-}
-
-void ProjectCreation::renameBelow(const QString &folder, const QString &newName)
-{
-    if (m_monitor.cancelled)
-        return;
-    VTLog::appendLog("Renaming template files from %@ to %@", m_place->shown(folder), newName);
-    const auto entries = platform::listFolder(folder);
-    const bool isThere = platform::kindOf(folder) == FileKind::Folder;
-    if (!entries && isThere) { // a project that could not be made has been told of
-        const QString why = m_place->shown(entries.outcome()).description();
-        VTLog::appendLog("Unable to read folder: %@", why);
-        tell(formatString(Text::tr("Unable to look for names to replace in %@"), m_place->shown(folder)), why);
-    }
-    for (const auto &entry : entries.valueOr({})) {
-        const bool isFolder = entry.kind == FileKind::Folder;
-        ++(isFolder ? m_result.folders : m_result.files);
-        if (isFolder) // children first, so that their paths stay valid
-            renameBelow(platform::joined(folder, entry.name), newName);
-        renameEntry(folder, entry, newName);
-    }
-}
-
-void ProjectCreation::renameEntry(const QString &folder, const platform::FolderEntry &entry, const QString &newName)
-{
-    const QString wanted = nameInProject(entry.name, newName);
-    if (wanted == entry.name)
-        return;
-    const QString from = platform::joined(folder, entry.name);
-    const QString to = platform::joined(folder, wanted);
-    // A sibling that has the name already is never replaced: the move's last resort is a tool that would do so.
-    const bool taken =
-        platform::kindOf(to) != FileKind::Missing && platform::identityOf(to) != platform::identityOf(from);
-    if (taken)
-        VTLog::appendLog("Error moving file: %@ is taken", m_place->shown(to));
-    const Outcome moved = taken ? Outcome::failure(Cause::Exists, to) : fileoperations::moveFile(from, to);
-    if (moved.ok())
-        ++m_result.renamed;
-    else
-        tell(formatString(Text::tr("Unable to move file %@ to %@"), m_place->shown(from), m_place->shown(to)),
-             checkDestination(m_place->shown(moved)));
-}
-
-void ProjectCreation::updateTimestamps(const QString &folder)
-{
-    if (m_monitor.cancelled)
-        return;
-    platform::performInBackground([&] {
-        const auto entering = [this](const QString &path) {
-            VTLog::appendLog("Updating timestamps for folder %@", m_place->shown(path));
-        };
-        // In this process, without a tool for each item; what it may not touch goes through the tool with rights.
-        for (const Outcome &untouched : platform::touchBelow(folder, entering)) {
-            const bool mayHelp = untouched.needsRights() && platform::kindOf(untouched.item()) != FileKind::Link;
-            if (!mayHelp || !VTFileManager::touchFile(untouched.item()))
-                VTLog::appendLog("Error updating timestamp: %@", m_place->shown(untouched).description());
-        }
-    });
 }
 
 void ProjectCreation::tell(const QString &message, const QString &informativeText)

@@ -1,10 +1,13 @@
 #pragma once
 
+#include "creation/CreationPlan.h"
+#include "creation/Manifest.h"
 #include "creation/ProjectRequest.h"
 #include "creation/Unfinished.h"
 #include "creation/Workplace.h"
-#include "platform/files/FileCopy.h"
 #include "platform/files/FileSystem.h"
+#include "platform/files/TreeCopy.h"
+#include "platform/plain/CopyMonitor.h"
 
 #include <QStringList>
 #include <optional>
@@ -29,10 +32,12 @@ struct CreationResult
     bool cancelled = false; ///< the user did not want the existing project overwritten, or it could not be put away
     bool stopped = false;   ///< it was stopped on the way, and taken back
     QStringList errors;     ///< one sentence for each message shown
+    QStringList notes;      ///< what is worth a word, and no failure; not shown yet
     ProjectRequest request; ///< what was made: with other numbers than asked for where those had been taken
     qsizetype folders = 0;
     qsizetype files = 0;
     qsizetype renamed = 0;
+    Manifest manifest; ///< for undoing it; without a file where there is nothing to undo
     [[nodiscard]] bool ok() const { return !cancelled && !stopped && errors.isEmpty(); }
 };
 
@@ -68,7 +73,14 @@ private:
     [[nodiscard]] bool putAwayExisting(const QString &destination);
     [[nodiscard]] bool build();
     void takeBack();
-    void copyTemplate(const QString &files, const QString &destination);
+    void bringBackOld();
+    void remember();
+    void copyTemplate();
+    void noteLosses(const platform::Losses &losses);
+    void finishNames();
+    void updateDates();
+    [[nodiscard]] bool isMade(std::uint32_t folder) const;
+    void count(const platform::TreeFolder &folder);
     void renameBelow(const QString &folder, const QString &newName);
     void renameEntry(const QString &folder, const platform::FolderEntry &entry, const QString &newName);
     void tell(const QString &message, const QString &informativeText);
@@ -78,6 +90,10 @@ private:
     platform::CopyMonitor m_monitor;
     std::optional<Workplace> m_place;
     std::optional<CreationNote> m_note;
-    bool m_hasPutAway = false; ///< an existing project is in the Trash
-    QStringList m_levelsMade;  ///< the folders above the project's own that this creation has made, innermost last
+    CreationPlan m_plan;
+    QStringList m_copiedByTool; ///< folders in the workplace
+    QString m_oldInTrash;       ///< where an existing project lies that was put away; null where there was none
+    bool m_hasPutAway = false;  ///< an existing project is in the Trash
+    platform::Outcome m_stored; ///< of the numbers that were taken
+    QStringList m_levelsMade;   ///< the folders above the project's own that this creation has made, innermost last
 };

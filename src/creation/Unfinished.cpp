@@ -54,7 +54,8 @@ CreationNote::CreationNote(const QString &folder, const QString &destination)
 
 CreationNote::~CreationNote()
 {
-    static_cast<void>(platform::removeTree(m_file)); // one that stays names a folder that is gone: it is forgotten
+    if (!m_isToStay)
+        static_cast<void>(platform::removeTree(m_file)); // one that stays names a folder that is gone: it is forgotten
 }
 
 QList<Leftover> leftovers()

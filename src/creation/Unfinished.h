@@ -15,14 +15,16 @@ class CreationNote
 public:
     /** Where the note cannot be made the project is made all the same. */
     CreationNote(const QString &folder, const QString &destination);
-    /** The creation has come to an end of its own. */
+    /** The creation has come to an end of its own: the note goes, unless something was left behind. */
     ~CreationNote();
+    void leaveSomethingBehind() { m_isToStay = true; }
     CreationNote(const CreationNote &) = delete;
     CreationNote &operator=(const CreationNote &) = delete;
 
 private:
     QString m_file;
     std::optional<platform::FileLock> m_lock;
+    bool m_isToStay = false;
 };
 
 /** What a creation that was cut off has left behind. */

@@ -12,8 +12,6 @@ using platform::Outcome;
 
 namespace {
 
-constexpr int tries = 10;
-
 QString hiddenName(const QString &name)
 {
     const auto number = QString::number(QRandomGenerator::global()->generate64(), 36);
@@ -27,17 +25,15 @@ Workplace::Workplace(const QString &destination)
     : m_destination(destination)
     , m_folder(destination)
 {
-    if (platform::kindOf(destination) != platform::FileKind::Folder) // it could not be made: there is no place to take
-        return;
-    for (int i = 0; i < tries; ++i) {
-        const QString folder =
+    if (platform::kindOf(destination) == platform::FileKind::Folder) // else there is no place to take
+        m_folder =
             platform::joined(platform::parentPath(destination), hiddenName(platform::lastComponent(destination)));
-        const Outcome made = platform::makeNewFolder(folder);
-        if (made.ok())
-            m_folder = folder;
-        if (!made.is(Cause::Exists))
-            return;
-    }
+}
+
+void Workplace::make()
+{
+    if (isHidden() && !platform::makeNewFolder(m_folder).ok())
+        m_folder = m_destination;
 }
 
 QString Workplace::shown(const QString &path) const

@@ -12,8 +12,11 @@
 class Workplace
 {
 public:
-    /** The destination is the project's own, still empty folder. */
+    /** The destination is the project's own, still empty folder. Nothing is made yet: what will be is noted first, so
+        that it is found whenever the program is ended. */
     explicit Workplace(const QString &destination);
+    /** Where the hidden folder cannot be made, the destination is the workplace from now on. */
+    void make();
 
     [[nodiscard]] const QString &folder() const { return m_folder; }
     [[nodiscard]] bool isHidden() const { return m_folder != m_destination; }

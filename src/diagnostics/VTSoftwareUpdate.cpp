@@ -4,6 +4,7 @@
 #include "platform/desktop/ApplicationLauncher.h"
 #include "platform/files/ApplicationBundle.h"
 #include "platform/files/FileSystem.h"
+#include "platform/plain/StartedThread.h"
 #include "support/GlobalSettings.h"
 #include "support/VTFileManager.h"
 #include "support/VTLocalPaths.h"
@@ -53,7 +54,9 @@ void VTSoftwareUpdate::startup()
     const bool isNumber = check.typeId() == QMetaType::Bool || check.typeId() == QMetaType::LongLong;
     if (isNumber && check.toLongLong() == 0) // only an explicit no
         return;
-    std::thread(&VTSoftwareUpdate::automaticallyCheckForUpdates).detach();
+    if (std::thread thread = platform::startedThread(&VTSoftwareUpdate::automaticallyCheckForUpdates);
+        thread.joinable())
+        thread.detach();
 }
 
 void VTSoftwareUpdate::automaticallyCheckForUpdates()

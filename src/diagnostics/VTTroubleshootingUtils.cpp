@@ -5,7 +5,6 @@
 #include "platform/base/LocalTime.h"
 #include "platform/base/MainThread.h"
 #include "platform/base/NativePath.h"
-#include "platform/desktop/Desktop.h"
 #include "platform/files/FileSystem.h"
 #include "platform/files/FileTree.h"
 #include "platform/files/TreeCopy.h"
@@ -36,20 +35,13 @@ QString logFolder(Domain domain)
     return VTLocalPaths::libraryDirectory(domain) + QStringLiteral("/Logs/Vantrel");
 }
 
-bool view(const QString &path, const QString &hint)
-{
-    if (VTFileManager::fileExistsAtPath(path))
-        return platform::openWithDefaultApplication(path);
-    VTAlert::show({Text::tr("No log found"), hint});
-    return false;
-}
-
 /// Collects files into one folder, each below its own path, and counts them.
 class Gathering
 {
 public:
-    explicit Gathering(QString folder)
+    Gathering(QString folder, platform::CopyMonitor &monitor)
         : m_folder(std::move(folder))
+        , m_monitor(monitor)
     {
     }
 
@@ -86,7 +78,7 @@ public:
                                  : source;
         Outcome outcome = platform::makeFolders(m_folder + folder);
         if (outcome.ok())
-            outcome = platform::copyItem(real, target);
+            outcome = platform::copyItem(real, target, nullptr, &m_monitor);
         if (!outcome.ok())
             return fail(complaint, outcome.description());
         ++m_count;
@@ -103,6 +95,7 @@ private:
     }
 
     QString m_folder;
+    platform::CopyMonitor &m_monitor;
     int m_count = 0;
 };
 
@@ -167,17 +160,6 @@ QString VTTroubleshootingUtils::taskLogPath(const QString &name)
     return logFolder(Domain::User) + formatString("/%@.1.task.log", name);
 }
 
-bool VTTroubleshootingUtils::viewLogForApp(const QString &name)
-{
-    return view(logPath(name), Text::tr("You must perform a task before viewing the log."));
-}
-
-bool VTTroubleshootingUtils::viewTaskLogForApp(const QString &name)
-{
-    return view(taskLogPath(name),
-                Text::tr("You must run the application as a task (e.g. through Cronwick) before viewing a log."));
-}
-
 QString VTTroubleshootingUtils::gatherLogsForApps(const QStringList &names, Silent silent,
                                                   const QStringList &additionalFiles, const QString &toFolder)
 {
@@ -185,7 +167,9 @@ QString VTTroubleshootingUtils::gatherLogsForApps(const QStringList &names, Sile
         return {};
     VTLog::finishWriting();
     const QString folder = joined(VTLocalPaths::tempDirectory(), QStringLiteral("VT_App_Logs"));
-    Gathering gathering(folder);
+    platform::CopyMonitor monitor;
+    const LongWork work(Text::tr("Gathering the logs"), monitor);
+    Gathering gathering(folder, monitor);
     const bool gathered = platform::resultInBackground([&] {
         if (!gathering.prepare())
             return false;

@@ -1,5 +1,7 @@
 #include "helper/Plan.h"
 
+#include "helper/UserFolders.h"
+
 #include <algorithm>
 #include <array>
 #include <cerrno>
@@ -23,18 +25,21 @@ struct Usage
     const char *tool;
     std::vector<std::string> options;
     std::vector<Role> paths;
-    std::vector<std::string> ontoNothing; ///< added where no folder stands at the destination: it is to stay so
+    Plan::Verb verb;
 };
 
 const std::array<Usage, 6> usages{{
-    {"/bin/cp", {"-f", "-p", "-R"}, {Role::Read, Role::Written}, {"-T", "--remove-destination"}},
-    {"/bin/mv", {"-f"}, {Role::Changed, Role::Written}, {"-T"}},
-    {"/bin/mkdir", {"-p"}, {Role::NewFolder}, {}},
-    {"/bin/rm", {"-Rdf"}, {Role::Changed}, {}},
-    {"/bin/rm", {"-R", "-f"}, {Role::Changed}, {}},
-    {"/usr/bin/touch", {"-c"}, {Role::Written}, {}},
+    {"/bin/cp", {"-f", "-p", "-R"}, {Role::Read, Role::Written}, Plan::Verb::Copy},
+    {"/bin/mv", {"-f"}, {Role::Changed, Role::Written}, Plan::Verb::Move},
+    {"/bin/mkdir", {"-p"}, {Role::NewFolder}, Plan::Verb::MakeFolders},
+    {"/bin/rm", {"-Rdf"}, {Role::Changed}, Plan::Verb::Remove},
+    {"/bin/rm", {"-R", "-f"}, {Role::Changed}, Plan::Verb::Remove},
+    {"/usr/bin/touch", {"-c"}, {Role::Written}, Plan::Verb::Touch},
 }};
 
+/// Nobody's projects lie anywhere below these, and a file there can be as good as a password.
+constexpr std::array systemTrees{"/etc", "/usr",   "/boot", "/proc",        "/sys",      "/bin",      "/sbin",
+                                 "/lib", "/lib64", "/root", "/run/systemd", "/run/udev", "/var/spool"};
 /// Folders that are refused themselves, and of which every folder right inside is refused too.
 constexpr std::array systemParents{"/",    "/usr",   "/usr/local", "/usr/share", "/var",     "/home",
                                    "/etc", "/media", "/mnt",       "/run",       "/Library", "/var/lib"};
@@ -70,14 +75,54 @@ bool isFolderAt(const struct stat &info, const std::string &path)
     return stat(path.c_str(), &other) == 0 && isSame(info, other);
 }
 
+/// Files that lie directly in a folder of the system are the system's.
+int refusalOfFile(int folder, const std::string &name)
+{
+    struct stat info;
+    struct stat parent;
+    if (fstatat(folder, name.c_str(), &info, AT_SYMLINK_NOFOLLOW) != 0 || fstat(folder, &parent) != 0)
+        return 0; // nothing there yet
+    const auto isParent = [&](const char *path) {
+        return isFolderAt(parent, path);
+    };
+    return std::any_of(systemParents.begin(), systemParents.end(), isParent) ? EPERM : 0;
+}
+
+bool isSystemTree(const struct stat &info)
+{
+    return std::any_of(systemTrees.begin(), systemTrees.end(),
+                       [&](const char *tree) { return isFolderAt(info, tree); });
+}
+
+/// The folder itself, or one that it lies in.
+bool isInSystemTree(int folder)
+{
+    platform::UniqueDescriptor at(openat(folder, ".", O_PATH | O_DIRECTORY | O_CLOEXEC));
+    struct stat previous
+    {
+    };
+    for (struct stat info; at.isOpen() && fstat(at.get(), &info) == 0; previous = info) {
+        if (isSystemTree(info))
+            return true;
+        if (isSame(info, previous))
+            return false; // the root is its own parent
+        at.reset(openat(at.get(), "..", O_PATH | O_DIRECTORY | O_CLOEXEC));
+    }
+    return true; // it could not be looked at
+}
+
 /// By what the path leads to, not by its name: dots, links, slashes and bind mounts make no difference to it.
 int refusalOf(int folder, const std::string &name, const std::string &home)
 {
-    const Descriptor item(openat(folder, name.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC));
+    const platform::UniqueDescriptor item(openat(folder, name.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC));
     struct stat info;
-    if (!item.isOpen() || fstat(item.get(), &info) != 0)
-        return 0; // nothing there yet, or no folder
-    const Descriptor above(openat(item.get(), "..", O_PATH | O_DIRECTORY | O_CLOEXEC));
+    if (isInSystemTree(folder))
+        return EPERM;
+    if (!item.isOpen())
+        return refusalOfFile(folder, name);
+    if (fstat(item.get(), &info) != 0)
+        return errno;
+    const platform::UniqueDescriptor above(openat(item.get(), "..", O_PATH | O_DIRECTORY | O_CLOEXEC));
     struct stat parent;
     if (!above.isOpen() || fstat(above.get(), &parent) != 0)
         return EPERM;
@@ -96,11 +141,14 @@ int refusalOf(int folder, const std::string &name, const std::string &home)
         if (std::any_of(homeFolders.begin(), homeFolders.end(), isHomes) ||
             std::any_of(homeParents.begin(), homeParents.end(), isInHomes))
             return EPERM;
+        const std::vector<std::string> named = userFolders(home);
+        if (std::any_of(named.begin(), named.end(), [&](const std::string &path) { return isFolderAt(info, path); }))
+            return EPERM;
     }
     return info.st_dev != parent.st_dev ? EBUSY : 0;
 }
 
-std::string nameOf(const Descriptor &folder)
+std::string nameOf(const platform::UniqueDescriptor &folder)
 {
     std::array<char, 4096> name;
     const std::string link = "/proc/self/fd/" + std::to_string(folder.get());
@@ -121,7 +169,7 @@ std::vector<std::string> componentsOf(const std::string &path)
 }
 
 /// Opens the folders of the path one by one, none through a link, as far as they exist; the rest stays a name.
-int pin(const std::string &path, Descriptor &folder, std::string &rest)
+int pin(const std::string &path, platform::UniqueDescriptor &folder, std::string &rest)
 {
     if (path.empty() || path[0] != '/')
         return EINVAL;
@@ -131,7 +179,7 @@ int pin(const std::string &path, Descriptor &folder, std::string &rest)
         return EPERM;
     std::size_t next = 0;
     for (; next + 1 < components.size(); ++next) {
-        Descriptor deeper(
+        platform::UniqueDescriptor deeper(
             openat(folder.get(), components[next].c_str(), O_PATH | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
         if (!deeper.isOpen() && errno != ENOENT)
             return errno;
@@ -148,24 +196,8 @@ int pin(const std::string &path, Descriptor &folder, std::string &rest)
     return 0;
 }
 
-/// Makes what is missing above the last component, through no link that appears meanwhile.
-int makeFoldersAbove(Descriptor &folder, std::string &rest)
-{
-    for (std::size_t slash = rest.find('/'); slash != std::string::npos; slash = rest.find('/')) {
-        const std::string step = rest.substr(0, slash);
-        if (mkdirat(folder.get(), step.c_str(), 0755) != 0 && errno != EEXIST)
-            return errno;
-        Descriptor deeper(openat(folder.get(), step.c_str(), O_PATH | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
-        if (!deeper.isOpen())
-            return errno;
-        folder = std::move(deeper);
-        rest.erase(0, slash + 1);
-    }
-    return 0;
-}
-
-/// A folder that stands there is held open and written into; what is no folder must not become one, or a link.
-int holdDestination(Descriptor &folder, std::string &rest, bool &isFolder)
+/// Into a folder that stands there; what is no folder must not become one, or a link.
+int holdDestination(platform::UniqueDescriptor &folder, std::string &rest, const std::string &nameInside)
 {
     struct stat info;
     if (fstatat(folder.get(), rest.c_str(), &info, AT_SYMLINK_NOFOLLOW) != 0)
@@ -174,12 +206,11 @@ int holdDestination(Descriptor &folder, std::string &rest, bool &isFolder)
         return ELOOP;
     if (!S_ISDIR(info.st_mode))
         return 0;
-    Descriptor held(openat(folder.get(), rest.c_str(), O_PATH | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+    platform::UniqueDescriptor held(openat(folder.get(), rest.c_str(), O_PATH | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
     if (!held.isOpen())
         return errno;
     folder = std::move(held);
-    rest = ".";
-    isFolder = true;
+    rest = nameInside;
     return 0;
 }
 
@@ -206,31 +237,22 @@ int prepare(const std::string &tool, const std::vector<std::string> &arguments, 
                                      [&](const Usage &known) { return isCalledSo(known, tool, arguments); });
     if (usage == usages.end())
         return EACCES;
-    if (access(tool.c_str(), X_OK) != 0)
-        return ENOENT;
-    plan = {tool, usage->options, {}, {}};
+    plan = {usage->verb, tool, {}};
     for (std::size_t i = 0; i < usage->paths.size(); ++i) {
         const Role role = usage->paths[i];
-        Descriptor folder;
+        platform::UniqueDescriptor folder;
         std::string rest;
         int failure = pin(arguments[usage->options.size() + i], folder, rest);
         if (failure == 0 && role != Role::Read)
             failure = refusalOf(folder.get(), rest, home);
-        if (failure == 0 && role == Role::NewFolder)
-            failure = makeFoldersAbove(folder, rest);
-        else if (failure == 0 && rest.find('/') != std::string::npos)
+        if (failure == 0 && role != Role::NewFolder && rest.find('/') != std::string::npos)
             failure = ENOENT;
-        bool isFolder = false;
         if (failure == 0 && role == Role::Written)
-            failure = holdDestination(folder, rest, isFolder);
+            failure = holdDestination(folder, rest, plan.items.empty() ? "." : plan.items.front().name);
         if (failure != 0)
             return failure;
-        if (role == Role::Written && !isFolder)
-            plan.arguments.insert(plan.arguments.begin(), usage->ontoNothing.begin(), usage->ontoNothing.end());
-        const auto number = Plan::firstFolder + static_cast<int>(plan.folders.size());
-        plan.arguments.push_back("/proc/self/fd/" + std::to_string(number) + '/' + rest);
-        plan.folderNames.push_back(nameOf(folder));
-        plan.folders.push_back(std::move(folder));
+        std::string name = nameOf(folder);
+        plan.items.push_back({std::move(folder), rest, std::move(name)});
     }
     return 0;
 }

@@ -14,8 +14,8 @@ namespace {
 
 /// Tools at a time; further requests wait in the stream.
 constexpr std::size_t mostTools = 8;
-/// How long a tool may take to end when it is asked to, in looks of ten milliseconds.
-constexpr int looksBeforeKilling = 50;
+/// How long a tool may take to end when it is asked to, in looks of ten milliseconds: it takes away what it has made.
+constexpr int looksBeforeKilling = 1000;
 constexpr int looksAfterKilling = 100;
 constexpr timespec tenMilliseconds{0, 10'000'000};
 
@@ -52,7 +52,7 @@ void Service::run()
                 tool.readErrorOutput();
         }
         if ((watched[1].revents & POLLIN) != 0)
-            open = collectEnded();
+            open = collectEnded() && performWaiting();
         if ((watched[0].revents & (POLLRDHUP | POLLHUP | POLLERR | POLLNVAL)) != 0)
             break;
         if (open && (watched[0].revents & POLLIN) != 0)
@@ -68,14 +68,21 @@ bool Service::takeRequests()
     if (got < 0)
         return errno == EINTR;
     m_decoder.add(piece.data(), static_cast<std::size_t>(got));
+    return performWaiting() && got > 0;
+}
+
+/// As many of the requests that have been read as there is room for.
+bool Service::performWaiting()
+{
     Message request;
-    for (;;) {
+    while (m_tools.size() < mostTools) {
         const Decoder::Result result = m_decoder.next(request);
         if (result != Decoder::Result::Complete)
-            return got > 0 && result == Decoder::Result::Incomplete;
+            return result == Decoder::Result::Incomplete;
         if (!perform(request))
             return false;
     }
+    return true;
 }
 
 bool Service::perform(const Message &request)
@@ -87,7 +94,7 @@ bool Service::perform(const Message &request)
     int failure = prepare(request.texts.front(), arguments, m_home, plan);
     ToolProcess tool;
     if (failure == 0)
-        failure = tool.start(plan);
+        failure = tool.start(plan, m_caller);
     if (failure != 0)
         return send({MessageType::Refused, request.id, failure, {}});
     m_tools.emplace(request.id, std::move(tool));

@@ -15,11 +15,12 @@ namespace helper {
 class Service
 {
 public:
-    /** The stream, the signal descriptor that tells of ended children, and the home of whoever was asked. */
-    Service(int input, int output, int childSignals, std::string home)
+    /** The stream, the signal descriptor that tells of ended children, and whoever was asked, with his home. */
+    Service(int input, int output, int childSignals, uid_t caller, std::string home)
         : m_input(input)
         , m_output(output)
         , m_childSignals(childSignals)
+        , m_caller(caller)
         , m_home(std::move(home))
     {
     }
@@ -29,6 +30,7 @@ public:
 
 private:
     [[nodiscard]] bool takeRequests();
+    [[nodiscard]] bool performWaiting();
     [[nodiscard]] bool perform(const Message &request);
     [[nodiscard]] bool collectEnded();
     [[nodiscard]] bool send(const Message &message) const;
@@ -37,6 +39,7 @@ private:
     int m_input;
     int m_output;
     int m_childSignals;
+    uid_t m_caller;
     std::string m_home;
     Decoder m_decoder;
     std::map<std::uint32_t, ToolProcess> m_tools;

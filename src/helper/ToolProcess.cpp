@@ -3,76 +3,78 @@
 #include <array>
 #include <cerrno>
 #include <csignal>
-#include <cstdlib>
+#include <cstdio>
+#include <cstring>
 #include <fcntl.h>
+#include <sys/prctl.h>
 #include <sys/wait.h>
-
-extern char **environ;
+#include <unistd.h>
 
 namespace helper {
 namespace {
 
 constexpr std::size_t maximumErrorText = 4096;
 
-/// In the child, after the fork: nothing but calls that are safe there.
-[[noreturn]] void become(const Plan &plan, char *const *arguments, int null, int errorOutput)
+platform::CopyMonitor monitor; ///< of the one request that a process works on
+
+void stop(int)
 {
-    setpgid(0, 0); // what the tool starts is ended with it
-    std::signal(SIGPIPE, SIG_DFL);
-    sigset_t none;
-    sigemptyset(&none);
-    sigprocmask(SIG_SETMASK, &none, nullptr);
-    bool connected =
-        dup2(null, STDIN_FILENO) >= 0 && dup2(null, STDOUT_FILENO) >= 0 && dup2(errorOutput, STDERR_FILENO) >= 0;
-    // First out of the way of their final numbers, which may be in use by one another.
-    std::array<int, 2> moved{-1, -1};
-    for (std::size_t i = 0; i < plan.folders.size() && connected; ++i) {
-        moved[i] = fcntl(plan.folders[i].get(), F_DUPFD_CLOEXEC, Plan::firstFolder + 10);
-        connected = moved[i] >= 0;
+    monitor.cancelled = true;
+}
+
+int carryOut(const Plan &plan, TreeWork &work)
+{
+    switch (plan.verb) {
+    case Plan::Verb::Copy:
+        return work.copy(plan.items[0], plan.items[1]);
+    case Plan::Verb::Move:
+        return work.move(plan.items[0], plan.items[1]);
+    case Plan::Verb::MakeFolders:
+        return work.makeFolders(plan.items[0]);
+    case Plan::Verb::Remove:
+        return work.remove(plan.items[0]);
+    case Plan::Verb::Touch:
+        return work.touch(plan.items[0]);
     }
-    for (std::size_t i = 0; i < plan.folders.size() && connected; ++i)
-        connected = dup2(moved[i], Plan::firstFolder + static_cast<int>(i)) >= 0;
-    if (connected)
-        execve(plan.tool.c_str(), arguments, environ);
-    _exit(127);
+    return EINVAL;
+}
+
+/// In the child, after the fork: the helper has but one thread, so that everything may be called here.
+[[noreturn]] void work(const Plan &plan, uid_t caller, int errorOutput)
+{
+    setpgid(0, 0);
+    prctl(PR_SET_NAME, ("tessaro-" + plan.tool.substr(plan.tool.rfind('/') + 1)).c_str());
+    prctl(PR_SET_PDEATHSIG, SIGTERM); // a helper that is killed takes its work with it
+    struct sigaction action
+    {
+    };
+    action.sa_handler = stop; // without SA_RESTART: a call that waits is left
+    sigaction(SIGTERM, &action, nullptr);
+    platform::raiseDescriptorLimit();
+    TreeWork treeWork(caller, monitor);
+    const int error = carryOut(plan, treeWork);
+    if (error != 0)
+        dprintf(errorOutput, "%s: %s: %s", plan.tool.c_str(), treeWork.where().c_str(), strerror(error));
+    _exit(error == 0 ? 0 : monitor.cancelled ? 128 + SIGTERM : 1);
 }
 
 } // namespace
 
-int ToolProcess::start(const Plan &plan)
+int ToolProcess::start(const Plan &plan, uid_t caller)
 {
-    std::vector<char *> arguments{const_cast<char *>(plan.tool.c_str())};
-    for (const std::string &argument : plan.arguments)
-        arguments.push_back(const_cast<char *>(argument.c_str()));
-    arguments.push_back(nullptr);
     int ends[2];
-    const Descriptor null(open("/dev/null", O_RDWR | O_CLOEXEC));
-    if (!null.isOpen() || pipe2(ends, O_CLOEXEC) != 0)
+    if (pipe2(ends, O_CLOEXEC) != 0)
         return errno;
     m_errorOutput.reset(ends[0]);
-    const Descriptor writing(ends[1]);
+    const platform::UniqueDescriptor writing(ends[1]);
     fcntl(m_errorOutput.get(), F_SETFL, O_NONBLOCK);
     m_pid = fork();
     if (m_pid == 0)
-        become(plan, arguments.data(), null.get(), writing.get());
+        work(plan, caller, writing.get());
     if (m_pid < 0)
         return errno;
-    m_folderNames = plan.folderNames;
     setpgid(m_pid, m_pid); // from both sides, whichever comes first
     return 0;
-}
-
-std::string ToolProcess::errorText() const
-{
-    std::string text = m_errorText;
-    for (std::size_t i = 0; i < m_folderNames.size(); ++i) {
-        const std::string inside = "/proc/self/fd/" + std::to_string(Plan::firstFolder + static_cast<int>(i));
-        for (std::size_t at = text.find(inside); at != std::string::npos;
-             at = text.find(inside, at + m_folderNames[i].size()))
-            text.replace(at, inside.size(), m_folderNames[i]);
-    }
-    text.resize(std::min(text.size(), maximumErrorText)); // the folders' names may be long
-    return text;
 }
 
 void ToolProcess::readErrorOutput()

@@ -85,6 +85,6 @@ int main(int argumentCount, char **)
     const int childSignals = resetSignals();
     if (childSignals < 0)
         return notStarted;
-    helper::Service(STDIN_FILENO, STDOUT_FILENO, childSignals, helper::homeOf(*caller)).run();
+    helper::Service(STDIN_FILENO, STDOUT_FILENO, childSignals, *caller, helper::homeOf(*caller)).run();
     _exit(0);
 }

@@ -1,8 +1,19 @@
 #include "preferences/BoundSwitch.h"
 
+#include "support/VTAlert.h"
 #include "support/VTAuthorization.h"
 
 #include <QCheckBox>
+#include <QCoreApplication>
+
+namespace {
+
+struct Text
+{
+    Q_DECLARE_TR_FUNCTIONS(BoundSwitch)
+};
+
+} // namespace
 
 void bindSwitch(QCheckBox &box, const settings::SwitchSetting &setting)
 {
@@ -15,9 +26,19 @@ void bindProtection(QCheckBox &box, const settings::SwitchSetting &setting)
 {
     box.setChecked(setting.isOn());
     QObject::connect(&box, &QCheckBox::clicked, &box, [&box, &setting](bool isOn) {
-        if (!isOn && !VTAuthorization::sharedController().authAfresh())
-            box.setChecked(true);
-        else
-            static_cast<void>(setting.turn(isOn)); // the log says what failed
+        // Switched on where no rights can be had, it would close the door for good: asked beforehand.
+        const bool locksOut = isOn && &setting == &settings::requireAdminPassword;
+        const bool mayTurn = (isOn && !locksOut) || VTAuthorization::sharedController().authAfresh();
+        const platform::Outcome turned = mayTurn ? setting.turn(isOn) : platform::Outcome();
+        if (mayTurn && turned.ok())
+            return;
+        box.setChecked(!isOn);
+        if (!turned.ok())
+            VTAlert::show({Text::tr("The switch was left as it was"), turned.description()}, box.window());
+        else if (locksOut)
+            VTAlert::show(
+                {Text::tr("The switch was left off"),
+                 Text::tr("Administrator rights could not be had just now. Tessaro would not start any more.")},
+                box.window());
     });
 }

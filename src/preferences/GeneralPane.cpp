@@ -36,6 +36,10 @@ GeneralPane::GeneralPane(Ui::Prefs_Dialog &ui, QWidget &window)
     bindSwitch(*ui.autoOpenFolder, settings::autoOpenFolder);
     bindSwitch(*ui.autoQuit, settings::autoQuit);
     bindSwitch(*ui.autoExpandFolders, settings::autoExpandFolders);
+    if (!settings::holdForEveryUser())
+        ui.hintAdmin->setText(
+            tr("An administrator’s. It holds for you alone, unless an administrator sets it for every "
+               "user of this computer. Switching one off asks for it."));
     bindProtection(*ui.prefsAdminPass, settings::requireAdminPassword);
     bindProtection(*ui.prefsAdminPassEditing, settings::requireAdminPasswordForEditing);
     bindProtection(*ui.prefsAdminPassPrefs, settings::requireAdminPasswordForPrefs);

@@ -1,4 +1,4 @@
-// VTFileManager's core operations: create, copy, move, remove and trash, each with its fallback and its time-out form.
+// VTFileManager's core operations: create, copy, move and remove, each with its fallback and its time-out form.
 #include "support/FileOperations.h"
 
 #include "platform/base/MainThread.h"
@@ -6,7 +6,6 @@
 #include "platform/base/Users.h"
 #include "platform/files/FileSystem.h"
 #include "platform/files/FileTree.h"
-#include "platform/files/Trash.h"
 #include "platform/files/TreeCopy.h"
 #include "support/FileFallback.h"
 #include "support/VTLocalPaths.h"
@@ -18,6 +17,7 @@
 
 using platform::Cause;
 using platform::FileKind;
+using platform::isMissing;
 using platform::kindOf;
 using platform::Outcome;
 
@@ -31,9 +31,9 @@ struct Text
 /// Where only the letter case changes, the old path may still resolve; a short fixed pause stands in for the wait.
 constexpr std::chrono::microseconds caseRenamePause{500};
 
-bool isMissing(const QString &path)
+QString shownName(const QString &path)
 {
-    return kindOf(path) == FileKind::Missing;
+    return platform::forOneLine(platform::lastComponent(path));
 }
 
 bool differOnlyInCase(const QString &source, const QString &toPath)
@@ -56,10 +56,11 @@ bool wouldMoveInto(const QString &source, const QString &toPath)
            isMissing(platform::joined(toPath, platform::lastComponent(source)));
 }
 
-void noteTrashed(const QString &target, const QString &path)
+bool isOnAnotherDrive(const QString &source, const QString &toPath)
 {
-    if (const Outcome noted = platform::noteInTrash(target, path); !noted.ok())
-        VTLog::appendLog("%@ is in the Trash, but without a note of where it was: %@", path, noted.description());
+    const auto from = platform::identityOf(source);
+    const auto to = platform::identityOf(platform::parentPath(toPath));
+    return from && to && from->device != to->device;
 }
 
 } // namespace
@@ -72,8 +73,11 @@ Outcome createDirectory(const QString &path, ShouldAuth shouldAuth)
     if (made.ok())
         return made;
     VTLog::appendLog("Error creating folder: %@. Authorizing...", made.description());
-    return fallBackToTool(shouldAuth, made, VTAuthorization::createDirCommand(path),
-                          [&] { return VTAuthorization::sharedController().authCreateDir(path); });
+    platform::CopyMonitor own;
+    const LongWork work(Text::tr("Creating %1").arg(shownName(path)), own);
+    return fallBackToTool(
+        shouldAuth, made, VTAuthorization::createDirCommand(path),
+        [&] { return VTAuthorization::sharedController().authCreateDir(path); }, work.monitor());
 }
 
 Outcome createDirectory(const QString &path, seconds timeout)
@@ -94,25 +98,29 @@ Outcome copyFile(const QString &source, const QString &toPath, ShouldAuth should
     }
     VTFileManager::unlockFile(platform::parentPath(toPath));
     const bool isNew = isMissing(toPath);
-    QString attributesLost;
+    platform::CopyMonitor own;
+    const LongWork work(Text::tr("Copying %1").arg(shownName(source)), own, measureOf({source}, own));
+    platform::Losses losses;
     const Outcome copied =
-        platform::resultInBackground([&] { return platform::copyItem(source, toPath, &attributesLost); });
-    if (!attributesLost.isNull())
-        VTLog::appendLog("Unable to keep the labels of %@ at the destination", attributesLost);
-    if (copied.ok())
+        platform::resultInBackground([&] { return platform::copyItem(source, toPath, &losses, &work.monitor()); });
+    logLosses(losses);
+    if (copied.ok() || copied.is(Cause::Cancelled))
         return copied;
     VTLog::appendLog("Error copying file: %@. Authorizing...", copied.description());
     // A folder into itself: the tool would half do it before it notices.
     if (copied.is(Cause::IntoItself) || wouldMergeFolders(source, toPath))
         return copied;
-    if (fallBackToTool(shouldAuth, copied, VTAuthorization::copyCommand(source, toPath), [&] {
-            return VTAuthorization::sharedController().authCopyFile(source, toPath);
-        }).ok())
+    if (kindOf(toPath) == FileKind::Link) // the tool would write through it
+        return copied;
+    const Outcome byTool = fallBackToTool(
+        shouldAuth, copied, VTAuthorization::copyCommand(source, toPath),
+        [&] { return VTAuthorization::sharedController().authCopyFile(source, toPath); }, work.monitor());
+    if (byTool.ok())
         return {};
     const bool wasOwnTool = platform::isSuperUser() || !copied.needsRights();
     if (isNew && wasOwnTool) // on a full disk the tool leaves what it got to
         static_cast<void>(platform::resultInBackground([&] { return platform::removeOwnTree(toPath); }));
-    return copied;
+    return byTool.is(Cause::Cancelled) ? byTool : copied;
 }
 
 Outcome copyFile(const QString &source, const QString &toPath, seconds timeout)
@@ -136,15 +144,24 @@ Outcome moveFile(const QString &source, const QString &toPath, ShouldAuth should
                 VTLog::appendLog("Error moving file: %@ was left as %@", source, between);
         }
     }
-    const Outcome moved = platform::resultInBackground([&] { return platform::moveItem(source, toPath); });
-    if (moved.ok())
+    platform::CopyMonitor own;
+    const LongWork work(Text::tr("Moving %1").arg(shownName(source)), own, measureOf({source}, own));
+    platform::Losses losses;
+    const Outcome moved =
+        platform::resultInBackground([&] { return platform::moveItem(source, toPath, &work.monitor(), &losses); });
+    logLosses(losses);
+    if (moved.ok() || moved.is(Cause::Cancelled))
         return moved;
     VTLog::appendLog("Error moving file: %@. Authorizing...", moved.description());
     if (moved.is(Cause::IntoItself) || (wouldMergeFolders(source, toPath) && !wouldMoveInto(source, toPath)) ||
         (moved.is(Cause::Exists) && differOnlyInCase(source, toPath)))
         return moved;
-    return fallBackToTool(shouldAuth, moved, VTAuthorization::moveCommand(source, toPath),
-                          [&] { return VTAuthorization::sharedController().authMoveFile(source, toPath); });
+    // To another drive the tool, with no more rights than these, would leave two halves where nothing was moved.
+    if (isOnAnotherDrive(source, toPath) && (platform::isSuperUser() || !moved.needsRights()))
+        return moved;
+    return fallBackToTool(
+        shouldAuth, moved, VTAuthorization::moveCommand(source, toPath),
+        [&] { return VTAuthorization::sharedController().authMoveFile(source, toPath); }, work.monitor());
 }
 
 Outcome moveFile(const QString &source, const QString &toPath, seconds timeout)
@@ -164,14 +181,17 @@ Outcome removeFile(const QString &path, ShouldAuth shouldAuth)
     VTFileManager::unlockFile(path);
     if (isMissing(path))
         return {};
-    const Outcome removed = platform::resultInBackground([&] { return platform::removeTree(path); });
-    if (removed.ok())
+    platform::CopyMonitor own;
+    const LongWork work(Text::tr("Removing %1").arg(shownName(path)), own, measureOf({path}, own));
+    const Outcome removed = platform::resultInBackground([&] { return platform::removeTree(path, &work.monitor()); });
+    if (removed.ok() || removed.is(Cause::Cancelled))
         return removed;
     VTLog::appendLog("Error removing file: %@. Authorizing...", removed.description());
     if (VTLocalPaths::isPathSystemDirectory(path, VTLocalPaths::Match::Exact))
         return VTAuthorization::sharedController().authRemoveFile(path) ? Outcome() : removed; // refuses, and says so
-    return fallBackToTool(shouldAuth, removed, VTAuthorization::removeCommand(path),
-                          [&] { return VTAuthorization::sharedController().authRemoveFile(path); });
+    return fallBackToTool(
+        shouldAuth, removed, VTAuthorization::removeCommand(path),
+        [&] { return VTAuthorization::sharedController().authRemoveFile(path); }, work.monitor());
 }
 
 Outcome removeFile(const QString &path, seconds timeout)
@@ -180,40 +200,33 @@ Outcome removeFile(const QString &path, seconds timeout)
     return removed.ok() ? waitUntil([&] { return isMissing(path); }, timeout, path) : removed;
 }
 
-Outcome trashFile(const QString &path, ShouldAuth shouldAuth)
+void logLosses(const platform::Losses &losses)
 {
-    VTFileManager::unlockFile(path);
-    if (isMissing(path))
-        return {};
-    const Outcome trashed = platform::resultInBackground([&] { return platform::moveToTrash(path); });
-    if (trashed.ok() || shouldAuth == ShouldAuth::No)
-        return trashed;
-    auto &authorization = VTAuthorization::sharedController();
-    if (VTLocalPaths::isPathSystemDirectory(path, VTLocalPaths::Match::Exact))
-        return authorization.authTrashFile(path) ? Outcome() : trashed; // refuses, and says so
-    const QString target = authorization.trashTarget(path);
-    const VTAuthorization::Command command = VTAuthorization::moveCommand(path, target);
-    if (platform::isWritable(platform::parentPath(path)) &&
-        VTTask::terminationCodeFromTask(command.tool, command.arguments) == 0) {
-        noteTrashed(target, path);
-        return {};
+    const std::pair<const char *, QString> kinds[] = {
+        {"labels", losses.labels}, {"mode", losses.modes}, {"owner", losses.owners}, {"dates", losses.dates}};
+    for (const auto &[kind, item] : kinds) {
+        if (!item.isNull())
+            VTLog::appendLog("Unable to keep the %@ of %@ at the destination", QString::fromLatin1(kind), item);
     }
-    if (platform::isSuperUser() || !platform::moveNeedsRights(path))
-        return trashed;
-    const QString free = authorization.trashTarget(path); // the tool may have begun to fill the first
-    if (!authorization.authMoveFile(path, free) || !authorization.lastToolSucceeded())
-        return trashed;
-    noteTrashed(free, path);
-    return {};
-}
-
-Outcome trashFile(const QString &path, seconds timeout)
-{
-    const Outcome trashed = trashFile(path);
-    return trashed.ok() ? waitUntil([&] { return isMissing(path); }, timeout, path) : trashed;
 }
 
 } // namespace fileoperations
+
+LongWork::Measure measureOf(const QStringList &paths, platform::CopyMonitor &monitor)
+{
+    return [paths, &monitor](const std::atomic<bool> &over) {
+        platform::TreeSize all;
+        for (const QString &path : paths) {
+            const platform::TreeSize size = platform::measureTree(path, over);
+            all.items += size.items;
+            all.bytes += size.bytes;
+        }
+        if (over)
+            return;
+        monitor.itemsTotal = all.items;
+        monitor.bytesTotal = all.bytes;
+    };
+}
 
 QString withCause(const QString &informativeText, const Outcome &failure)
 {

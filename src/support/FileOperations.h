@@ -2,14 +2,16 @@
 
 #include "platform/base/Outcome.h"
 #include "platform/files/FileSystem.h"
+#include "support/LongWork.h"
 #include "support/VTFileManager.h"
 
-#include <QString>
+#include <QStringList>
 #include <chrono>
 
 namespace platform {
-struct CopyMonitor;
-}
+class CopyMonitor;
+struct Losses;
+} // namespace platform
 
 /**
  * What VTFileManager does, with how it ended: the cause of a failure is the plain operation's, also where the tool that
@@ -29,8 +31,14 @@ Outcome moveFile(const QString &source, const QString &toPath, ShouldAuth should
 Outcome moveFile(const QString &source, const QString &toPath, seconds timeout);
 Outcome removeFile(const QString &path, ShouldAuth shouldAuth = ShouldAuth::Yes);
 Outcome removeFile(const QString &path, seconds timeout);
-Outcome trashFile(const QString &path, ShouldAuth shouldAuth = ShouldAuth::Yes);
-Outcome trashFile(const QString &path, seconds timeout);
+/**
+ * Into the Trash of the item's own drive, whole or not at all, and says where it lies by then. Where the drive has none
+ * the user is asked: the item is put beside under a dated name, deleted, or stays (Cause::Declined). Its original path
+ * is the one that it is known by, where that is given: an item that was put aside for its successor.
+ */
+Outcome trashFile(const QString &path, ShouldAuth shouldAuth = ShouldAuth::Yes, QString *inTrash = nullptr,
+                  const QString &knownAs = {});
+Outcome trashFile(const QString &path, seconds timeout, QString *inTrash = nullptr);
 Outcome compressFile(const QString &path, const QString &toDestinationFile);
 
 /** Unlike the given operation, a folder that cannot be read is a failure. Cause::Cancelled as the monitor says. */
@@ -42,7 +50,13 @@ Outcome copyContentsOfDirectory(const QString &source, const QString &toPath, se
 /** What the given operations go through: to them a folder that cannot be read is an empty one. The log says so. */
 [[nodiscard]] QList<platform::FolderEntry> entriesOf(const QString &folder);
 
+/** One line for each kind of loss. */
+void logLosses(const platform::Losses &losses);
+
 } // namespace fileoperations
+
+/** For work on the items and all below them. */
+[[nodiscard]] LongWork::Measure measureOf(const QStringList &paths, platform::CopyMonitor &monitor);
 
 /** A message's informative text: the given one first, then the item and the system's own words for what happened. */
 [[nodiscard]] QString withCause(const QString &informativeText, const platform::Outcome &failure);

@@ -229,7 +229,8 @@ Outcome Setting::change(const platform::UserDefaults::Change &change) const
 
 Outcome Setting::reset() const
 {
-    return settings::standard().removeValue(*this);
+    return scope == Scope::Machine ? settings::standard().setMachineWideValue(*this, {})
+                                   : settings::standard().removeValue(*this);
 }
 
 QString TextSetting::text() const
@@ -286,9 +287,24 @@ Result<QVariant> checked(const Setting &setting, const QString &typed, const Fac
 
 platform::UserDefaults &standard()
 {
-    static auto *defaults = new platform::UserDefaults(preferencesFile(Domain::User), preferencesFile(Domain::Local),
-                                                       [](const QString &problem) { VTLog::appendLog("%@", problem); });
+    static auto *defaults = [] {
+        auto *made = new platform::UserDefaults(preferencesFile(Domain::User), preferencesFile(Domain::Local),
+                                                [](const QString &problem) { VTLog::appendLog("%@", problem); });
+        QStringList protections;
+        for (const Setting *setting : all()) {
+            if (setting->scope == Scope::Machine)
+                protections.append(*setting);
+        }
+        made->letMachineDecide(protections);
+        return made;
+    }();
     return *defaults;
+}
+
+bool holdForEveryUser()
+{
+    const QString file = preferencesFile(Domain::Local);
+    return platform::isWritable(platform::targetExists(file) ? file : platform::parentPath(file));
 }
 
 QString userFile()

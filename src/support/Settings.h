@@ -110,6 +110,9 @@ struct Facts
 /** The one store of this process, on com.vantrel.Tessaro.plist in the user's and the machine's preferences folder. */
 [[nodiscard]] platform::UserDefaults &standard();
 
+/** Whether machine-wide settings that this process stores hold for every user; else they are this user's own. */
+[[nodiscard]] bool holdForEveryUser();
+
 /** The file of the user's domain. */
 [[nodiscard]] QString userFile();
 

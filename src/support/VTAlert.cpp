@@ -3,6 +3,7 @@
 #include "platform/base/Console.h"
 #include "platform/base/FormatString.h"
 #include "platform/base/MainThread.h"
+#include "platform/plain/StartedThread.h"
 #include "support/AlertPresenter.h"
 
 #include <QCoreApplication>
@@ -81,7 +82,7 @@ int VTAlert::timedAlertSheetWithMessageText(const QString &messageText, const QS
     std::condition_variable changed;
     bool answered = false;
     VTAlert alert;
-    std::thread timer([&] {
+    std::thread timer = platform::startedThread([&] {
         std::unique_lock lock(mutex);
         if (!changed.wait_for(lock, interval, [&] { return answered; }))
             alert.end(defaultReturn);
@@ -93,7 +94,8 @@ int VTAlert::timedAlertSheetWithMessageText(const QString &messageText, const QS
         answered = true;
         changed.notify_all();
     }
-    timer.join();
+    if (timer.joinable())
+        timer.join();
     return code;
 }
 

@@ -231,14 +231,15 @@ VTAuthorization::Command VTAuthorization::removeCommand(const QString &path)
 
 bool VTAuthorization::authCopyFile(const QString &source, const QString &toPath)
 {
-    return hasBothPaths(source, toPath, "authCopyFile") && run(copyCommand(source, toPath));
+    return hasBothPaths(source, toPath, "authCopyFile") && !platform::isMissing(source) &&
+           run(copyCommand(source, toPath));
 }
 
 bool VTAuthorization::authMoveFile(const QString &source, const QString &toPath)
 {
     return hasBothPaths(source, toPath, "authMoveFile") &&
            !isRefused(source, "Unable to move path %@ because it is a system directory.") &&
-           run(moveCommand(source, toPath));
+           !platform::isMissing(source) && run(moveCommand(source, toPath));
 }
 
 bool VTAuthorization::authCreateDir(const QString &path)

@@ -6,7 +6,17 @@
 #include "support/FileOperations.h"
 #include "support/VTLog.h"
 
+#include <QCoreApplication>
 #include <QUuid>
+
+namespace {
+
+struct Text
+{
+    Q_DECLARE_TR_FUNCTIONS(FileOperations)
+};
+
+} // namespace
 
 using platform::joined;
 using platform::Outcome;
@@ -20,8 +30,11 @@ Outcome fileoperations::compressFile(const QString &path, const QString &toDesti
     // Under another name until it is whole: half an archive is none.
     const QString growing = joined(platform::parentPath(toDestinationFile),
                                    u'.' + QUuid::createUuid().toString(QUuid::WithoutBraces) + QStringLiteral(".zip"));
+    platform::CopyMonitor own;
+    const LongWork work(Text::tr("Compressing %1").arg(platform::forOneLine(platform::lastComponent(path))), own,
+                        measureOf({path}, own));
     const platform::CompressReport report =
-        platform::resultInBackground([&] { return platform::compressZip(path, growing); });
+        platform::resultInBackground([&] { return platform::compressZip(path, growing, &work.monitor()); });
     for (const QString &skipped : report.skipped)
         VTLog::appendLog("Left out of the archive %@: %@", toDestinationFile, skipped);
     for (const QString &renamed : report.renamed)

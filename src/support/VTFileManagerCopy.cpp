@@ -5,6 +5,7 @@
 #include "platform/base/FormatString.h"
 #include "platform/base/MainThread.h"
 #include "platform/base/NativePath.h"
+#include "support/FileOperations.h"
 #include "support/VTLog.h"
 
 #include <QMetaMethod>
@@ -79,9 +80,8 @@ bool VTFileManager::copyFileWithProgress(const QString &source, const QString &d
         {[=](const FileOperation &operation, const CopyOperation::Progress &progress) {
              tell(receiver, "fileOperationProgress", withProgress(record, progress), operation);
          },
-         [=](const FileOperation &operation, const platform::Outcome &outcome, const QString &attributesLost) {
-             if (!attributesLost.isNull())
-                 VTLog::appendLog("Unable to keep the labels of %@ at the destination", attributesLost);
+         [=](const FileOperation &operation, const platform::Outcome &outcome, const platform::Losses &losses) {
+             fileoperations::logLosses(losses);
              if (!outcome.ok() && !outcome.is(platform::Cause::Cancelled))
                  VTLog::appendLog("Error copying file: %@", outcome.description());
              QVariantMap last = record;

@@ -46,8 +46,7 @@ Outcome copyItems(const QString &source, const QString &toPath, std::vector<plat
 {
     while (!names.empty()) {
         const platform::CopyReport report = platform::copyEntries(source, toPath, names, monitor);
-        if (!report.attributesLost.isNull())
-            VTLog::appendLog("Unable to keep the labels of %@ at the destination", report.attributesLost);
+        fileoperations::logLosses(report.losses);
         if (report.outcome.ok() || report.outcome.is(Cause::Cancelled))
             return report.outcome;
         if (report.copied >= names.size()) { // one of the two folders itself cannot be opened

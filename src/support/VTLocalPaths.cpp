@@ -27,6 +27,8 @@ QString below(const QString &folder, const char *component)
 /// leaves the "t" of "root" as a folder; it must stay so.
 QString redirectedToConsoleUser(QString path)
 {
+    if (VTLocalPaths::currentConsoleUser().isEmpty()) // nobody is there: the super-user's own places
+        return path;
     if (path.startsWith(platform::superUserHome()))
         path = path.mid(platform::superUserHome().size());
     if (path.startsWith(QLatin1String("/var/root")))
@@ -152,7 +154,7 @@ QString VTLocalPaths::userDirectory()
     if (!platform::isSuperUser())
         return platform::homeFolder();
     const QString user = currentConsoleUser();
-    return user.isNull() ? QString() : platform::homeFolderOf(user);
+    return user.isEmpty() ? platform::superUserHome() : platform::homeFolderOf(user);
 }
 
 QString VTLocalPaths::tempDirectory()
@@ -162,7 +164,8 @@ QString VTLocalPaths::tempDirectory()
 
 QString VTLocalPaths::username()
 {
-    return platform::isSuperUser() ? currentConsoleUser() : platform::loginName();
+    const QString atConsole = platform::isSuperUser() ? currentConsoleUser() : QString();
+    return atConsole.isEmpty() ? platform::loginName() : atConsole;
 }
 
 QString VTLocalPaths::currentConsoleUser()

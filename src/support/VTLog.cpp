@@ -6,6 +6,7 @@
 #include "platform/base/System.h"
 #include "platform/base/Users.h"
 #include "platform/files/ApplicationBundle.h"
+#include "platform/files/FileLock.h"
 #include "platform/files/FileSystem.h"
 #include "platform/files/FileTree.h"
 #include "platform/files/WholeFile.h"
@@ -23,6 +24,7 @@ constexpr qsizetype promptLength =
     99;                               // characters; a message longer than this, or with more pending, is not waited for
 constexpr quint64 sizeLimit = 499999; // bytes of entries, the header not counted; above it the next generation starts
 constexpr int generations = 5;
+constexpr std::chrono::seconds lockPatience{5}; // a rotation takes milliseconds
 
 QString userLogFolder()
 {
@@ -84,16 +86,22 @@ void VTLog::createNewTaskLog()
     createNewLog();
 }
 
+void VTLog::joinTaskLog()
+{
+    sharedController().m_isTask = true;
+    sharedController().m_startsOnDemand = true;
+}
+
 void VTLog::createNewLog(const QString &name)
 {
     VTLog &log = sharedController();
     log.m_writeQueue.addAndDrain([&log, name] { log.startNewLog(name); });
 }
 
-void VTLog::startNewLog(const QString &name)
+void VTLog::startNewLog(const QString &name, Rotates rotates)
 {
-    m_fileHandle.close();
     if (isSwitchedOff()) {
+        m_fileHandle.close();
         printToConsole("Logging is disabled");
         m_loggingDisabled = true;
         return;
@@ -103,18 +111,41 @@ void VTLog::startNewLog(const QString &name)
         if (!name.isNull() && m_appName.isNull())
             m_appName = name;
     }
-    m_bytesWritten = 0;
     const QString folder = userLogFolder();
     const QString current = currentLogPath();
     for (const QString &needed : {folder, platform::parentPath(current)}) {
         if (!platform::makeFolders(needed).ok())
             return printToConsole(platform::formatString("Unable to create folder %@.", needed));
     }
+    // Two programs at once would shift each other's generations. Where no lock is to be had, that risk remains.
+    const auto lock = platform::FileLock::acquire(
+        joined(folder, QStringLiteral(".%1%2.lock").arg(appName(), m_isTask ? QStringLiteral(".task") : QString())),
+        lockPatience);
+    // Of several that reach the limit together one has done it for all.
+    const bool isDone = rotates == Rotates::Always && !m_fileHandle.isInItsPlace();
+    m_fileHandle.close();
+    m_bytesWritten = 0;
+    if (isDone || beginFile(folder, rotates))
+        openCurrentLog();
+}
+
+/// A new current log with its header, or another program's, with a header of this one's added.
+bool VTLog::beginFile(const QString &folder, Rotates rotates)
+{
+    const QString current = currentLogPath();
+    const QByteArray head = header().toUtf8();
+    m_headerBytes = static_cast<quint64>(head.size());
+    if (rotates == Rotates::UnlessInUse && platform::AppendFile::isInUse(current)) {
+        platform::AppendFile theirs;
+        if (theirs.open(current).ok() && theirs.append(head).ok())
+            return true;
+    }
     if (platform::targetExists(current) && !shiftGenerations(folder))
-        return;
-    if (const auto made = platform::replaceFile(current, header().toUtf8()); !made.ok())
-        return printToConsole(platform::formatString("Unable to create log file %@ - %@", current, made.sentence()));
-    openCurrentLog();
+        return false;
+    const auto made = platform::replaceFile(current, head, platform::Waits::ForTheSystem);
+    if (!made.ok())
+        printToConsole(platform::formatString("Unable to create log file %@ - %@", current, made.sentence()));
+    return made.ok();
 }
 
 bool VTLog::shiftGenerations(const QString &folder) const
@@ -135,8 +166,13 @@ bool VTLog::shiftGenerations(const QString &folder) const
 
 void VTLog::openCurrentLog()
 {
-    // Appending: when another program of the same name writes here too, neither overwrites the other's lines.
-    static_cast<void>(m_fileHandle.open(currentLogPath())); // the next entry looks whether it is
+    // Appending: when another program of the same name writes here too, neither overwrites the other's lines. While a
+    // rotation is on its way there is no current file, and the one that is open takes the entry.
+    platform::AppendFile current;
+    if (!current.open(currentLogPath()).ok())
+        return;
+    m_fileHandle = std::move(current);
+    m_bytesWritten = m_fileHandle.size() - qMin(m_fileHandle.size(), m_headerBytes);
 }
 
 void VTLog::printAndAppend(const QString &message)
@@ -164,8 +200,10 @@ void VTLog::appendLogOnThread(const QString &message)
     try {
         if (m_loggingDisabled)
             return;
-        if (!m_fileHandle.isOpen())
+        if (!m_fileHandle.isOpen() || !m_fileHandle.isInItsPlace())
             openCurrentLog();
+        if (!m_fileHandle.isOpen() && m_startsOnDemand)
+            startNewLog({});
         if (m_fileHandle.isOpen()) {
             writeEntry(message);
         } else {
@@ -189,9 +227,11 @@ void VTLog::writeEntry(const QString &message)
         return printToConsole(platform::formatString("Unable to log the following information: %@", message));
     m_bytesWritten += static_cast<quint64>(line.size());
     if (m_bytesWritten > sizeLimit) {
+        startNewLog(appName(), Rotates::Always);
+        if (m_bytesWritten > 0)
+            return; // another program has begun it
         // Written here and now, not queued behind what other threads have queued: it is the new file's first entry.
         const QString first = QStringLiteral("Log truncated at 500KB");
-        startNewLog(appName());
         m_bytesInQueue += static_cast<quint64>(first.size());
         appendLogOnThread(first);
     }

@@ -11,6 +11,10 @@
  * The program's one log: a UTF-8 text file per application in the user's log folder, a ring of five generations,
  * written by one background writer so that callers never wait for the disk except for short messages in quiet periods.
  *
+ * Several programs may write into the same log: one that starts while another writes joins its file with a header of
+ * its own, so that no running program's lines are rotated away, and a program whose file has been rotated goes on in
+ * the new one.
+ *
  * One object for the whole process, made on first use, never destroyed. Every operation may be called from any thread.
  * No operation fails towards its caller: what goes wrong goes to the console, and the next entry tries again.
  */
@@ -25,6 +29,9 @@ public:
     static void createNewLog(const QString &name = {});
     /** The same for a run without a window: "<name>.1.task.log", with generations of its own. */
     static void createNewTaskLog();
+    /** For a run that only asks something: the same file, but no header and no rotation; one is made by the first entry
+        where there is none. */
+    static void joinTaskLog();
 
     /**
      * Formats, trims and queues one message. On disk when it returns, if the message is not empty, at most 99
@@ -60,17 +67,21 @@ private:
     static void printAndAppend(const QString &message);
     void append(const QString &message);
     void appendLogOnThread(const QString &message);
-    void startNewLog(const QString &name);
+    enum class Rotates { UnlessInUse, Always };
+    void startNewLog(const QString &name, Rotates rotates = Rotates::UnlessInUse);
+    [[nodiscard]] bool beginFile(const QString &folder, Rotates rotates);
     [[nodiscard]] bool shiftGenerations(const QString &folder) const;
     void openCurrentLog();
     void writeEntry(const QString &message);
 
     mutable std::mutex m_nameMutex;
     QString m_appName;
-    platform::AppendFile m_fileHandle; ///< touched by operations on the queue only
+    platform::AppendFile m_fileHandle; ///< this and the next are touched by operations on the queue only
+    quint64 m_headerBytes = 0;
     platform::SerialQueue m_writeQueue;
     std::atomic<quint64> m_bytesWritten = 0;
     std::atomic<quint64> m_bytesInQueue = 0;
     std::atomic<bool> m_loggingDisabled = false;
     std::atomic<bool> m_isTask = false;
+    std::atomic<bool> m_startsOnDemand = false;
 };

@@ -4,9 +4,11 @@
 #include "platform/base/MainThread.h"
 #include "platform/files/FileSystem.h"
 #include "platform/files/Packages.h"
+#include "platform/plain/StartedThread.h"
 #include "platform/process/ChildProcess.h"
 #include "support/VTLog.h"
 
+#include <QCoreApplication>
 #include <condition_variable>
 
 using platform::ChildProcess;
@@ -73,7 +75,7 @@ public:
         : m_slot(std::move(slot))
     {
         const auto whole = std::chrono::seconds(seconds < 1 ? 0 : static_cast<long long>(seconds));
-        m_timer = std::thread([this, whole] {
+        m_timer = platform::startedThread([this, whole] {
             std::unique_lock lock(m_mutex);
             if (m_changed.wait_for(lock, whole, [this] { return m_over; }))
                 return;
@@ -87,7 +89,8 @@ public:
             m_over = true;
             m_changed.notify_all();
         }
-        m_timer.join();
+        if (m_timer.joinable())
+            m_timer.join();
         m_slot->set({});
     }
     TimeLimit(const TimeLimit &) = delete;
@@ -189,9 +192,11 @@ void VTTask::joinReader()
     if (!m_reader.joinable())
         return;
     if (m_reader.get_id() == std::this_thread::get_id())
-        m_reader.detach(); // the delegate lets go of its own task
-    else
-        m_reader.join();
+        return m_reader.detach(); // the delegate lets go of its own task
+    // The delegate may be waiting for the main thread.
+    while (platform::MainThread::isCurrent() && QCoreApplication::instance() && !m_state->isRead)
+        platform::MainThread::turnLoop(std::chrono::milliseconds(10));
+    m_reader.join();
 }
 
 void VTTask::asyncDataFromTask(const QString &tool, const QStringList &arguments, Delegate delegate, QVariant object)
@@ -202,9 +207,18 @@ void VTTask::asyncDataFromTask(const QString &tool, const QStringList &arguments
     run->child = std::make_shared<ChildProcess>(tool, arguments);
     run->delegate = std::move(delegate);
     run->object = std::move(object);
-    const std::scoped_lock lock(m_state->mutex);
-    m_state->run = run;
-    m_reader = std::thread([this, state = m_state, run] { launchAsyncTask(state, run); });
+    {
+        const std::scoped_lock lock(m_state->mutex);
+        m_state->run = run;
+        m_state->isRead = false;
+    }
+    const auto read = [this, state = m_state, run] {
+        launchAsyncTask(state, run);
+        state->isRead = true;
+    };
+    m_reader = platform::startedThread(read);
+    if (!m_reader.joinable())
+        read();
 }
 
 void VTTask::launchAsyncTask(const std::shared_ptr<State> &state, const std::shared_ptr<AsyncRun> &run)

@@ -4,6 +4,7 @@
 #include <QString>
 #include <QStringList>
 #include <QVariant>
+#include <atomic>
 #include <functional>
 #include <memory>
 #include <mutex>
@@ -73,6 +74,7 @@ private:
     {
         std::mutex mutex;
         std::shared_ptr<AsyncRun> run;
+        std::atomic<bool> isRead = false; ///< the reading thread is through
     };
     void launchAsyncTask(const std::shared_ptr<State> &state, const std::shared_ptr<AsyncRun> &run);
     bool asyncTaskReturnData(State &state, const std::shared_ptr<AsyncRun> &run, const QByteArray &chunk);

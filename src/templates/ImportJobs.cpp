@@ -3,8 +3,11 @@
 #include "platform/base/FormatString.h"
 #include "platform/base/NativePath.h"
 #include "platform/files/FileSystem.h"
+#include "platform/files/FileTree.h"
 #include "platform/files/Packages.h"
+#include "platform/files/StagingFolder.h"
 #include "support/FileOperations.h"
+#include "support/InPlace.h"
 #include "support/VTAlert.h"
 #include "support/VTLog.h"
 
@@ -61,6 +64,38 @@ int askToOverwrite(const QString &name)
          VTAlert::otherReturn});
 }
 
+/// In the Trash; where there is none, removed as was asked for.
+Outcome putAside(const QString &path, const QString &knownAs)
+{
+    const Outcome trashed =
+        fileoperations::trashFile(path, ShouldAuth::No, nullptr, path == knownAs ? QString() : knownAs);
+    return trashed.ok() ? trashed : fileoperations::removeFile(path, patience);
+}
+
+/// What is half copied when the program is killed must not be a part of the template: it lies in the bundle, beside the
+/// tree. Null outside a template.
+QString bundleAround(const QString &destination)
+{
+    for (QString above = parentPath(destination); !above.isEmpty() && above != u"/"; above = parentPath(above)) {
+        if (platform::extensionOf(above).toLower() == u"tzt")
+            return above;
+    }
+    return {};
+}
+
+void clearBundle(const QString &destination)
+{
+    if (const QString bundle = bundleAround(joined(destination, QStringLiteral("x"))); !bundle.isNull())
+        fileoperations::putAbandonedInTrash(bundle);
+}
+
+Outcome copyInPlace(const QString &source, const QString &destination, fileoperations::Replaces replaces)
+{
+    return fileoperations::makeInPlace(
+        {destination, bundleAround(destination), replaces, putAside},
+        [&](const QString &path) { return fileoperations::copyFile(source, path, patience); });
+}
+
 Outcome copyOne(const QString &source, const QString &destination, bool &overwriteAll)
 {
     const Relation relation = relationOf(source, destination);
@@ -70,18 +105,19 @@ Outcome copyOne(const QString &source, const QString &destination, bool &overwri
     }
     const bool sourceIsThere = platform::kindOf(source) != platform::FileKind::Missing;
     const bool mayReplace = sourceIsThere && relation == Relation::Apart;
+    auto replaces = fileoperations::Replaces::Nothing;
     if (mayReplace && VTFileManager::fileExistsAtPath(destination)) {
         const int answer = overwriteAll ? VTAlert::defaultReturn : askToOverwrite(lastComponent(destination));
         if (answer == VTAlert::otherReturn)
             return Outcome::failure(Cause::Declined, destination);
         overwriteAll = overwriteAll || answer == VTAlert::alternateReturn;
-        static_cast<void>(VTFileManager::removeFile(destination, patience)); // if it stays, the copy fails and says so
+        replaces = fileoperations::Replaces::WhatStandsThere;
     }
     VTLog::appendLog("Copying file %@ to %@", source, destination);
     const Outcome copied = !sourceIsThere ? Outcome::failure(Cause::Missing, source)
                            : !mayReplace  ? Outcome::failure(Cause::IntoItself, source)
-                                          : fileoperations::copyFile(source, destination, patience);
-    if (!copied.ok())
+                                          : copyInPlace(source, destination, replaces);
+    if (!copied.ok() && !copied.is(Cause::Cancelled))
         VTAlert::show(
             {formatString(Text::tr("Unable to copy file %@ to %@"), source, destination), checkDestination(copied)});
     return copied;
@@ -125,6 +161,8 @@ public:
     bool collect(const QString &folder)
     {
         const auto identity = platform::identityOf(folder + QStringLiteral("/."));
+        if (!identity)
+            keepFirst(unreadable, Outcome::fromErrno(folder));
         if (!identity || m_entered.contains(*identity))
             return false;
         m_entered.append(*identity);
@@ -133,28 +171,70 @@ public:
         keepFirst(unreadable, entries.outcome());
         for (const auto &entry : entries.valueOr({})) {
             const QString path = joined(folder, entry.name);
-            if (VTFileManager::isDirectoryAtPath(path) && !platform::isPackage(path))
+            if (leadsToFolder(path, entry.kind) && !platform::isPackage(path))
                 hasFolders = collect(path) || hasFolders;
         }
-        if (!hasFolders)
+        if (!hasFolders && (entries || m_entered.size() > 1)) // of a source that cannot be read nothing is known
             leaves.append(folder);
         m_entered.removeLast();
         return true;
     }
 
 private:
+    bool leadsToFolder(const QString &path, platform::FileKind kind)
+    {
+        if (kind != platform::FileKind::Link)
+            return kind == platform::FileKind::Folder;
+        const auto isThere = platform::isThereForCertain(path); // a link that leads nowhere is no folder
+        keepFirst(unreadable, isThere.outcome());
+        return isThere.valueOr(false) && platform::leadsToFolder(path);
+    }
+
     QList<platform::FileIdentity> m_entered;
 };
+
+/// Each item where nothing stands yet; folders that stand there are gone into.
+void moveWhatIsNew(const QString &from, const QString &to)
+{
+    for (const auto &entry : platform::listFolder(from).valueOr({})) {
+        const QString made = joined(from, entry.name);
+        const QString target = joined(to, entry.name);
+        if (!platform::moveItem(made, target).ok() && VTFileManager::isDirectoryAtPath(target))
+            moveWhatIsNew(made, target);
+    }
+}
+
+/// The whole structure is made beside the tree first, so that a kill leaves no half of it in there.
+void makeStaged(const ImportJob &job, const QStringList &folders)
+{
+    const QString bundle = bundleAround(job.destFolder);
+    const auto staging = platform::StagingFolder::make(bundle.isNull() ? job.destFolder : bundle);
+    if (!staging)
+        return;
+    for (const QString &relative : folders) {
+        static_cast<void>(
+            platform::makeFolders(staging->path() + (relative.startsWith(u'/') ? relative : u'/' + relative)));
+        copyLabels(job.sourceFiles, relative, staging->path());
+    }
+    moveWhatIsNew(staging->path(), job.destFolder);
+}
 
 } // namespace
 
 Outcome importjobs::copyFiles(const ImportJob &job, const ImportHost &host)
 {
     host.begin();
+    clearBundle(job.destFolder);
+    platform::CopyMonitor monitor;
+    const LongWork work(Text::tr("Copying %n items", nullptr, static_cast<int>(job.sourceFiles.size())), monitor,
+                        measureOf(job.sourceFiles, monitor));
     bool overwriteAll = false;
     Outcome first;
-    for (const QString &source : job.sourceFiles)
+    for (const QString &source : job.sourceFiles) {
+        if (monitor.cancelled)
+            break; // what has been copied stays, whole
         keepFirst(first, copyOne(source, joined(job.destFolder, lastComponent(source)), overwriteAll));
+    }
     host.showFolder(job.sourceFiles.isEmpty() ? QString() : job.destFolder);
     host.end();
     return first;
@@ -164,7 +244,8 @@ importjobs::Leaves importjobs::subFoldersInDirectory(const QString &folder)
 {
     LeafCollector collector;
     static_cast<void>(collector.collect(folder)); // a folder without any is its own leaf
-    return {collector.leaves.isEmpty() ? QStringList{folder} : collector.leaves, collector.unreadable};
+    const bool isLeaf = collector.leaves.isEmpty() && collector.unreadable.ok();
+    return {isLeaf ? QStringList{folder} : collector.leaves, collector.unreadable};
 }
 
 importjobs::Leaves importjobs::structurePaths(const QStringList &sources)
@@ -182,11 +263,14 @@ importjobs::Leaves importjobs::structurePaths(const QStringList &sources)
 Outcome importjobs::createFolderStructure(const ImportJob &job, const ImportHost &host)
 {
     host.begin();
+    clearBundle(job.destFolder);
     const Leaves paths = structurePaths(job.sourceFiles);
     VTLog::appendLog("Creating subdirectories: %@", paths.folders.join(QStringLiteral(", ")));
     Outcome first = paths.unreadable;
     if (!first.ok())
         VTLog::appendLog("Unable to read folder: %@", first.description());
+    makeStaged(job, paths.folders);
+    // What stands already costs nothing here; what could not be staged is made, with rights where they are needed.
     for (const QString &relative : paths.folders) {
         const QString below = relative.startsWith(u'/') ? relative : u'/' + relative;
         keepFirst(first, fileoperations::createDirectory(job.destFolder + below, patience));

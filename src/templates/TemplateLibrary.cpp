@@ -4,6 +4,7 @@
 #include "platform/base/NativePath.h"
 #include "platform/files/FileSystem.h"
 #include "support/FileOperations.h"
+#include "support/InPlace.h"
 #include "support/Settings.h"
 #include "support/VTAlert.h"
 #include "support/VTLog.h"
@@ -52,7 +53,9 @@ Change createTemplate(const QString &wantedName)
     const QString bundle = VTFileManager::uniqueFilename(VTDataController::bundlePath(wantedName));
     VTLog::appendLog("Creating new template %@...", bundle);
     const QString files = bundle + QStringLiteral("/Files");
-    const Outcome made = fileoperations::createDirectory(files, patience);
+    const Outcome made = fileoperations::makeInPlace({bundle}, [](const QString &path) {
+        return fileoperations::createDirectory(path + QStringLiteral("/Files"), patience);
+    });
     if (!made.ok())
         return failed(made, nameOf(bundle), formatString(Text::tr("Unable to create directory %@"), files),
                       checkDestination(made));
@@ -65,7 +68,8 @@ Change duplicateTemplate(const QString &name)
     const QString source = VTDataController::bundlePath(name);
     const QString destination =
         VTFileManager::uniqueFilename(VTDataController::bundlePath(formatString("%@ Duplicate", name)));
-    const Outcome copied = fileoperations::copyFile(source, destination, patience);
+    const Outcome copied = fileoperations::makeInPlace(
+        {destination}, [&](const QString &path) { return fileoperations::copyFile(source, path, patience); });
     if (!copied.ok())
         return failed(copied, nameOf(destination),
                       formatString(Text::tr("Unable to copy file %@ to %@"), source, destination),
@@ -86,6 +90,8 @@ Change removeTemplate(const QString &name)
         return {Outcome::failure(Cause::Declined, name), name};
     VTLog::appendLog("Removing template %@", name);
     const Outcome trashed = fileoperations::trashFile(VTDataController::bundlePath(name), patience);
+    if (trashed.is(Cause::Declined)) // there is no Trash for it, and it was to be kept then
+        return {trashed, name};
     if (!trashed.ok())
         return failed(trashed, name, formatString(Text::tr("Unable to remove template %@"), name),
                       withCause(Text::tr("Please check that you have write permissions for this file."), trashed));
@@ -125,17 +131,20 @@ Change addTemplate(const QString &given)
     if (bundle.startsWith(location))
         return {{}, nameOf(bundle)};
     const QString destination = joined(location, lastComponent(bundle));
-    if (!VTFileManager::isDirectoryAtPath(bundle)) // before anything is moved aside for it
+    if (!VTFileManager::isDirectoryAtPath(bundle) ||
+        !VTFileManager::isDirectoryAtPath(
+            joined(bundle, QStringLiteral("Files")))) // before anything is moved aside for it
         return refused(Cause::NotAFolder, nameOf(bundle), formatString(Text::tr("%@ is not a template"), bundle),
-                       Text::tr("A template is a folder whose name ends in “.tzt”. Please choose such a folder."));
+                       Text::tr("A template is a folder whose name ends in “.tzt”, with a folder “Files” in it. Please "
+                                "choose such a folder."));
     if (!VTFileManager::fileExistsAtPath(location))
-        static_cast<void>(VTFileManager::createDirectory(location));       // without it the copy fails and says so
-    if (platform::identityOf(bundle) == platform::identityOf(destination)) // the library by another name
+        static_cast<void>(VTFileManager::createDirectory(location)); // without it the copy fails and says so
+    const auto identity = platform::identityOf(bundle);
+    if (identity && identity == platform::identityOf(destination)) // the library by another name
         return {{}, nameOf(bundle)};
-    if (platform::kindOf(destination) != platform::FileKind::Missing)
-        static_cast<void>(
-            VTFileManager::trashFile(destination, importPatience)); // if it stays, the copy fails and says so
-    const Outcome copied = fileoperations::copyFile(bundle, destination, importPatience);
+    const Outcome copied = fileoperations::makeInPlace(
+        {destination, {}, fileoperations::Replaces::WhatStandsThere},
+        [&](const QString &path) { return fileoperations::copyFile(bundle, path, importPatience); });
     if (!copied.ok())
         return failed(copied, nameOf(destination),
                       formatString(Text::tr("Unable to copy file %@ to %@"), bundle, destination),

@@ -3,6 +3,7 @@
 #include "platform/base/NativePath.h"
 #include "platform/files/FileSystem.h"
 #include "platform/files/Packages.h"
+#include "platform/plain/StartedThread.h"
 #include "support/VTFileManager.h"
 #include "support/VTLog.h"
 
@@ -124,7 +125,7 @@ private:
         };
         std::thread second;
         if (folders.size() >= worthSharing && !m_isShared.exchange(true))
-            second = std::thread(work);
+            second = platform::startedThread(work);
         work();
         if (second.joinable()) {
             second.join();

@@ -6,6 +6,7 @@
 #include "platform/files/ApplicationBundle.h"
 #include "platform/files/FileSystem.h"
 #include "support/FileOperations.h"
+#include "support/InPlace.h"
 #include "support/Settings.h"
 #include "support/VTAlert.h"
 #include "support/VTLocalPaths.h"
@@ -13,6 +14,7 @@
 
 #include <QCoreApplication>
 
+using platform::Cause;
 using platform::FolderEntry;
 using platform::joined;
 using platform::Outcome;
@@ -20,7 +22,6 @@ using platform::Outcome;
 namespace {
 
 constexpr std::chrono::seconds createPatience{20};
-constexpr std::chrono::seconds trashPatience{10};
 
 struct Text
 {
@@ -40,20 +41,35 @@ Outcome unpack(const QString &archive, const QString &location)
                : report.outcome;
 }
 
-/// One shipped template; what stands there under its name goes to the Trash first.
+/// One shipped template; what stands there under its name goes to the Trash when the new one is whole.
 Outcome install(const QString &archive, const QString &location)
 {
     const QString name = platform::withoutExtension(platform::lastComponent(archive));
     const QString target = joined(location, name + QStringLiteral(".tzt"));
-    if (platform::kindOf(target) != platform::FileKind::Missing) {
-        const Outcome trashed = fileoperations::trashFile(target, trashPatience);
-        if (!trashed.ok()) {
-            // Unpacking over it would mix the user's template with the shipped one.
-            VTLog::appendLog("Unable to move %@ to the Trash; leaving it as it is", target);
-            return trashed;
-        }
-    }
-    return unpack(archive, location);
+    const Outcome installed =
+        fileoperations::makeInPlace({target, {}, fileoperations::Replaces::WhatStandsThere}, [&](const QString &path) {
+            const Outcome unpacked = unpack(archive, platform::parentPath(path));
+            return unpacked.ok() && !platform::leadsToFolder(path) ? Outcome::failure(Cause::Damaged, archive)
+                                                                   : unpacked;
+        });
+    if (!installed.ok())
+        VTLog::appendLog("Unable to install %@: %@", target, installed.description());
+    return installed;
+}
+
+/// Whole or not at all: a library that stands is taken for complete by every later start.
+Outcome makeLibrary(const QString &location, Outcome &installed)
+{
+    const Outcome above = fileoperations::createDirectory(platform::parentPath(location), createPatience);
+    if (!above.ok())
+        return above;
+    return fileoperations::makeInPlace({location}, [&](const QString &path) {
+        const Outcome made = fileoperations::createDirectory(path, createPatience);
+        if (made.ok())
+            installed = VTDataController::installShippedTemplates(path);
+        // Without a template that will not unpack there is still a library; without room there is none.
+        return installed.is(Cause::NoSpace) ? installed : made;
+    });
 }
 
 } // namespace
@@ -91,17 +107,18 @@ QStringList VTDataController::templates() const
 Outcome VTDataController::populateDefaultTemplates(Force force)
 {
     const QString location = templateLocation();
-    const bool isNew = !VTFileManager::fileExistsAtPath(location);
-    if (!isNew && force == Force::No)
-        return {};
-    const Outcome made = isNew ? fileoperations::createDirectory(location, createPatience) : Outcome();
-    if (!made.ok()) {
+    const platform::Result<bool> stands = platform::isThereForCertain(location);
+    if (!stands) { // a library that cannot be looked at is no new one
+        VTLog::appendLog("Unable to look at the template library: %@", stands.outcome().description());
+        return stands.outcome();
+    }
+    if (*stands)
+        return force == Force::No ? Outcome() : installShippedTemplates(location);
+    Outcome installed;
+    const Outcome made = makeLibrary(location, installed);
+    if (!made.ok())
         VTAlert::show(
             {platform::formatString(Text::tr("Unable to create directory %@"), location), checkDestination(made)});
-        if (force == Force::No)
-            return made;
-    }
-    const Outcome installed = installShippedTemplates(location);
     return made.ok() ? installed : made;
 }
 
@@ -141,6 +158,7 @@ Outcome VTDataController::populateTemplates()
 {
     const Outcome installed = populateDefaultTemplates();
     VTLog::appendLog("Populating templates");
+    fileoperations::putAbandonedInTrash(templateLocation());
     const auto names = templateNames(templateLocation());
     if (!names)
         VTLog::appendLog("Unable to read the template library: %@", names.outcome().description());

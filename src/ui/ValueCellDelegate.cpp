@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QCompleter>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QPainter>
 
@@ -98,6 +99,18 @@ QWidget *ValueCellDelegate::createEditor(QWidget *parent, const QStyleOptionView
     editor->setAutoFillBackground(true);
     editor->setAccessibleName(index.data(CellRole::AccessibleName).toString());
     return editor;
+}
+
+bool ValueCellDelegate::eventFilter(QObject *editor, QEvent *event)
+{
+    const auto *combo = qobject_cast<QComboBox *>(editor);
+    const auto *line = combo ? combo->lineEdit() : qobject_cast<QLineEdit *>(editor);
+    const bool isUndo =
+        event->type() == QEvent::ShortcutOverride && static_cast<QKeyEvent *>(event)->matches(QKeySequence::Undo);
+    if (!isUndo || !line || line->isUndoAvailable())
+        return QStyledItemDelegate::eventFilter(editor, event);
+    event->ignore(); // it would take the key all the same
+    return true;
 }
 
 /// A value that changes while its editor is open shows there, unless something has been typed: that stays.

@@ -37,6 +37,8 @@ public:
                               const QModelIndex &index) const override;
 
 protected:
+    /** Undo, where an editor has nothing to take back, is the window's. */
+    bool eventFilter(QObject *editor, QEvent *event) override;
     void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override;
 
 private:

@@ -25,10 +25,27 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
 #include <QTimer>
+#include <sys/syscall.h>
+#include <unistd.h>
+
+namespace {
+
+std::atomic<useconds_t> slowness = 0; ///< of each file's copy, in microseconds
+
+} // namespace
+
+/// In the C library's place: a disk that takes its time.
+extern "C" ssize_t copy_file_range(int source, off64_t *sourceOffset, int destination, off64_t *destinationOffset,
+                                   size_t length, unsigned flags)
+{
+    usleep(slowness);
+    return syscall(SYS_copy_file_range, source, sourceOffset, destination, destinationOffset, length, flags);
+}
 
 class TestWindow : public QObject
 {
@@ -113,6 +130,99 @@ private Q_SLOTS:
         QCOMPARE(m_delegate->shownRequest().relativePath(), QString("Acme_008/Promo"));
         QCOMPARE(part<QLabel>("createdLabel")->text(), QString("Created ‘Promo’."));
         QVERIFY(!part<Spinner>("spinner")->isSpinning() && part<QPushButton>("createButton")->isEnabled());
+    }
+
+    /// Ctrl+Z while a row is in edit and nothing was typed there is the window's.
+    void undoFromTheKeyboard_data()
+    {
+        QTest::addColumn<bool>("byKey");
+        QTest::newRow("Ctrl+Z") << true;
+        QTest::newRow("the button") << false;
+    }
+    void undoFromTheKeyboard()
+    {
+        QFETCH(bool, byKey);
+        open();
+        auto &table = m_delegate->tableController();
+        table.setData(table.index(2, 1), "P", Qt::EditRole);
+        m_delegate->createNewProject();
+        QCOMPARE(value(1), QString("008"));
+        auto *action = window().findChild<QAction *>("Undo");
+        QVERIFY(action->isEnabled() && action->text().contains("P"));
+        table.editItem(0);
+        if (byKey) {
+            typeInto("x");
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Z, Qt::ControlModifier); // what was typed
+            QVERIFY(platform::targetExists(fixed("007/P")));
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Z, Qt::ControlModifier);
+        } else {
+            part<QPushButton>("undoButton")->click();
+        }
+        QTRY_VERIFY(!platform::targetExists(fixed("007")));
+        QTRY_COMPARE(value(1), QString("007"));
+        QCOMPARE(part<QLabel>("createdLabel")->text(), QString("‘P’ is in the Trash."));
+        QVERIFY(!action->isEnabled() && !part<QPushButton>("undoButton")->isVisible());
+    }
+
+    void recentProjects()
+    {
+        open();
+        auto &table = m_delegate->tableController();
+        table.setData(table.index(2, 1), "A & B", Qt::EditRole);
+        m_delegate->createNewProject();
+        writeFile(fixed("007/A & B/mine"), "work");
+        QMenu menu;
+        m_delegate->fillRecentProjects(&menu);
+        QMenu *latest = menu.actions().constFirst()->menu();
+        QCOMPARE(latest->title(), QString("007 ▸ A && B"));
+        SheetAnswerer answers({"OK"});
+        latest->actions().constLast()->trigger();
+        QCOMPARE(answers.seen, QStringList{"Part of ‘A & B’ stays|• mine: the creation has not made it"});
+        QCOMPARE(platform::listFolder(fixed("007/A & B"))->size(), 1);
+    }
+
+    /// The way out of long work is open while everything else is closed.
+    void aLongCreationIsStopped_data()
+    {
+        QTest::addColumn<bool>("byKey");
+        QTest::newRow("Escape") << true;
+        QTest::newRow("Cancel") << false;
+    }
+    void aLongCreationIsStopped()
+    {
+        QFETCH(bool, byKey);
+        for (int i = 0; i < 300; ++i)
+            writeFile(m_work->filePath(QString("Library/One.tzt/Files/Folder/%1").arg(i)), "x");
+        open();
+        auto &table = m_delegate->tableController();
+        table.setData(table.index(2, 1), "P", Qt::EditRole);
+        slowness = 100'000;
+        bool wasShown = false;
+        bool createIsClosed = false;
+        QTimer::singleShot(1000, &window(), [&] {
+            auto *line = part<QWidget>("progressLine");
+            auto *cancel = line->findChild<QPushButton *>();
+            const auto labels = line->findChildren<QLabel *>();
+            wasShown =
+                line->isVisible() && labels[0]->text() == "Creating P" && labels[1]->text().contains(" of 302 items");
+            const auto inWindow = [&](QWidget *widget) {
+                return widget->mapTo(&window(), widget->rect().center());
+            };
+            QTest::mouseClick(window().windowHandle(), Qt::LeftButton, {}, inWindow(part<QPushButton>("showButton")));
+            QTest::keyClick(window().windowHandle(), Qt::Key_2, Qt::ControlModifier);
+            createIsClosed = window().shownPane() == MainWindow::Pane::Project;
+            if (byKey)
+                QTest::keyClick(window().windowHandle(), Qt::Key_Escape);
+            else
+                QTest::mouseClick(window().windowHandle(), Qt::LeftButton, {}, inWindow(cancel));
+        });
+        m_delegate->createNewProject();
+        slowness = 0;
+        QVERIFY(wasShown && createIsClosed);
+        QVERIFY(!platform::targetExists(fixed("007")));
+        QCOMPARE(value(1), QString("007"));
+        QVERIFY(!part<QWidget>("progressLine")->isVisible());
+        QCOMPARE(part<QLabel>("createdLabel")->text(), QString("Stopped; nothing of the project was kept."));
     }
 
     void whatIsBeingTypedCounts()

@@ -58,6 +58,13 @@ class TestCommandLine : public QObject
         return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
     }
     Outcome run(const QStringList &words) const { return finished(*start(words)); }
+    Outcome inShell(const QString &script) const
+    {
+        QProcess shell;
+        shell.setWorkingDirectory(m_home->path());
+        shell.start("/bin/sh", {"-c", script, QCoreApplication::applicationDirPath() + "/Tessaro"});
+        return finished(shell);
+    }
     Outcome createIn(QStringList words) const { return run(QStringList{"create", "--in", target()} + words); }
 
     void setSettings(const QVariantMap &settings) const
@@ -216,6 +223,32 @@ private Q_SLOTS:
         QVERIFY(platform::makeFolders(target()).ok());
         QCOMPARE(createIn({"--set", "Job number=100"}).status, 0);
         QCOMPARE(everythingIn(target()).size(), items); // neither mixed nor doubled
+    }
+
+    void historyAndUndo()
+    {
+        QCOMPARE(run({"undo"}).status, 1);
+        const auto made = [&](const char *client) {
+            return QString::fromUtf8(createIn({"--set", QString("Client=") + client}).output).trimmed();
+        };
+        const QString first = made("First");
+        const QString second = made("Second");
+        const QByteArrayList lines = run({"history"}).output.trimmed().split('\n');
+        QCOMPARE(lines.size(), 2);
+        QVERIFY(lines[0].endsWith(second.toUtf8()) && lines[1].endsWith(first.toUtf8()));
+        QCOMPARE(run({"undo", "nothing of the name"}).status, 2);
+        const Outcome undone = run({"undo"});
+        QCOMPARE(undone.status, 0);
+        QCOMPARE(undone.output, second.toUtf8() + '\n');
+        QVERIFY(!platform::targetExists(second));
+        QCOMPARE(platform::listFolder(target())->size(), 1); // the level above it came with it
+        writeFile(first + "/mine", "work");
+        const Outcome kept = run({"undo", first});
+        QCOMPARE(kept.status, 1);
+        QVERIFY(kept.errors.contains((first + "/mine").toUtf8()));
+        QCOMPARE(everythingIn(first), QStringList{first + "/mine"});
+        QCOMPARE(QJsonDocument::fromJson(run({"history", "--json"}).output).array().size(), 0);
+        QVERIFY(made("Third").contains("Third_002")); // 001 is still taken, by what stayed
     }
 
     /// Each gets a number of its own and files of its own name, and no parameter that is added meanwhile is lost.
@@ -397,12 +430,6 @@ private Q_SLOTS:
     /// Bytes that are no UTF-8, wherever they come from: the home folder, a file's name.
     void bytesOfAnyKind()
     {
-        const auto inShell = [&](const QString &script) {
-            QProcess shell;
-            shell.setWorkingDirectory(m_home->path());
-            shell.start("/bin/sh", {"-c", script, QCoreApplication::applicationDirPath() + "/Tessaro"});
-            return finished(shell);
-        };
         const QString home = "bad=$(printf 'h\\377'); mkdir -p \"$bad\"; export HOME=\"$PWD/$bad\"; ";
         QCOMPARE(inShell(home + "\"$0\" settings set separatorChar +").status, 0);
         QCOMPARE(inShell(home + "\"$0\" settings get separatorChar").output, "+\n");
@@ -412,6 +439,38 @@ private Q_SLOTS:
         QCOMPARE(inShell(home + "\"$0\" parameters export \"$bad.plist\"").status, 0);
         QVERIFY(platform::readPropertyListFile(folder + ".plist").ok());
         QCOMPARE(inShell("\"$0\" --help >/dev/full").status, 1);
+    }
+
+    /// Where no thread is to be had the work is done without one.
+    void worksWithoutThreads()
+    {
+        if (geteuid() == 0)
+            QSKIP("The super-user may always have another.");
+        const QString home = "HOME='" + m_home->path() + "' ";
+        const QString limited = "ulimit -u 1; " + home + "exec \"$0\" ";
+        QCOMPARE(run({"templates"}).status, 0);
+        const Outcome made = inShell(limited + "create --in '" + target() + "' --set Client=Acme");
+        QVERIFY2(made.status == 0, made.errors.constData());
+        QVERIFY(everythingIn(target()).size() > 3);
+        QCOMPARE(inShell(limited + "template duplicate Photography").status, 0);
+        QCOMPARE(inShell(limited + "template restore --yes").status, 0);
+    }
+
+    void templatesThatAreNone()
+    {
+        const QString library = m_home->filePath("Library/Application Support/Vantrel/Tessaro/Templates");
+        QCOMPARE(run({"template", "new", "Film"}).status, 0);
+        QVERIFY(platform::makeFolders(m_home->filePath("Bare.tzt")).ok());
+        const Outcome imported = run({"template", "import", "Bare.tzt"});
+        QVERIFY(imported.status == 1 && imported.errors.contains("folder \u201CFiles\u201D"));
+        QVERIFY(!platform::targetExists(library + "/Bare.tzt"));
+        // What lies behind a link is not changed from here.
+        writeFile(m_home->filePath("elsewhere/Files/x"), "x");
+        writeFile(m_home->filePath("from/A/x"), "x");
+        QCOMPARE(symlink(m_home->filePath("elsewhere").toUtf8(), (library + "/Linked.tzt").toUtf8()), 0);
+        const Outcome behind = run({"template", "structure", "Linked", "--from", "from"});
+        QVERIFY(behind.status == 1 && behind.errors.contains("Linked.tzt is a link"));
+        QCOMPARE(everythingIn(m_home->filePath("elsewhere")).size(), 2);
     }
 
     /// A library that cannot be written to, a folder of a template that cannot be read: said, and no success.

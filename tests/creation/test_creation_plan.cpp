@@ -1,9 +1,35 @@
-// What a creation will make, computed without the disk.
+// What a creation will make, computed before anything is made.
 #include "creation/CreationPlan.h"
 
-#include <QTest>
+#include "harness/TemporaryHome.h"
 
-using platform::FileKind;
+#include <QTest>
+#include <dirent.h>
+#include <unistd.h>
+
+namespace {
+
+const std::atomic<bool> never = false;
+
+platform::TreeFolder named(const QByteArrayList &names, const QString &project)
+{
+    platform::TreeFolder folder;
+    for (const QByteArray &name : names)
+        folder.add(name.constData(), DT_REG);
+    nameItems(folder, project);
+    return folder;
+}
+
+/// Each with its remark's number, where there is one.
+QStringList newNames(const platform::TreeFolder &folder)
+{
+    QStringList names;
+    for (const platform::TreeItem &item : folder.items)
+        names << folder.newNameOf(item) + (item.remark ? QStringLiteral(" (%1)").arg(item.remark) : QString());
+    return names;
+}
+
+} // namespace
 
 class TestCreationPlan : public QObject
 {
@@ -22,50 +48,40 @@ private Q_SLOTS:
 
     void followsRenamedFolders()
     {
-        const TreeListing tree{{{"", "Template", FileKind::Folder},
-                                {"Template", "Sub template", FileKind::Folder},
-                                {"Template/Sub template", "template.txt", FileKind::File},
-                                {"", "x.txt", FileKind::File}},
-                               {}};
-        const CreationPlan plan = planCreation(tree, {"Acme", "Promo"});
-        const auto paths = [&](const auto &path) {
-            QStringList found;
-            for (const PlanItem &item : plan.items)
-                found << path(item);
-            return found;
-        };
-        QCOMPARE(paths([](const PlanItem &item) { return item.folder + '|' + item.newName; }),
-                 QStringList({"|Promo", "Promo|Sub Promo", "Promo/Sub Promo|Promo.txt", "|x.txt"}));
-        QCOMPARE(plan.renamed(), 3);
+        const TemporaryHome home;
+        writeFile(home.file("tree/Template/Sub template/template.txt"));
+        writeFile(home.file("tree/x.txt"));
+        QCOMPARE(symlink("Template", (home.path() + "/tree/link").toUtf8().constData()), 0);
+        const CreationPlan plan = planCreation(home.file("tree"), {"Acme", "Promo"}, never);
+        QStringList items;
+        plan.forEachItem([&](const PlanItem &item) { items << item.folder + '|' + item.newName; });
+        QCOMPARE(items, QStringList({"|link", "|Promo", "Promo|Sub Promo", "Promo/Sub Promo|Promo.txt", "|x.txt"}));
+        QVERIFY(plan.renamed() == 3 && plan.folders() == 2 && plan.files() == 3 && plan.unreadable.isEmpty());
+        const auto missing = planCreation(home.path() + "/none", {"Promo"}, never).unreadable;
+        QVERIFY(missing.size() == 1 && missing[0].is(platform::Cause::Missing));
     }
 
     void marksCollisionsInListingOrder()
     {
-        const TreeListing tree{{{"", "Promo.txt", FileKind::File},
-                                {"", "TEMPLATE.txt", FileKind::File},
-                                {"", "A Template", FileKind::File},
-                                {"", "a template", FileKind::File},
-                                {"", "A template", FileKind::File}},
-                               {}};
-        const CreationPlan plan = planCreation(tree, {"Promo"});
-        QCOMPARE(plan.items[1].remark, PlanItem::Remark::NameTaken);
-        QCOMPARE(plan.items[1].newName, QString("TEMPLATE.txt"));
-        QCOMPARE(plan.items[2].newName, QString("A Promo"));
-        QCOMPARE(plan.items[3].newName, QString("a Promo"));
-        QCOMPARE(plan.items[4].remark, PlanItem::Remark::NameTaken);
+        const platform::TreeFolder folder =
+            named({"Promo.txt", "TEMPLATE.txt", "A Template", "a template", "A template"}, "Promo");
+        QCOMPARE(newNames(folder),
+                 QStringList({"Promo.txt", "TEMPLATE.txt (1)", "A Promo", "a Promo", "A template (1)"}));
+        // A name that is given up is free for the next.
+        QCOMPARE(newNames(named({"template", "template2"}, "template2")), QStringList({"template (1)", "template22"}));
+        QCOMPARE(newNames(named({"template2", "template"}, "template2")), QStringList({"template22", "template2"}));
     }
 
     void marksNamesThatAreTooLong()
     {
+        const TemporaryHome home;
         const QString longName(128, QChar(u'ä')); // 256 bytes in 128 characters
-        const TreeListing tree{{{"", "Template", FileKind::File}, {"", "Template.a", FileKind::File}}, {}};
-        const CreationPlan fits = planCreation(tree, {QString(255, 'x')});
-        QCOMPARE(fits.items[0].remark, PlanItem::Remark::None);
-        QCOMPARE(fits.items[1].remark, PlanItem::Remark::NameTooLong);
-        QVERIFY(fits.tooLongLevels.isEmpty());
-        QCOMPARE(planCreation(tree, {longName}).tooLongLevels, QStringList{longName});
+        QCOMPARE(newNames(named({"Template", "Template.a"}, QString(255, 'x'))),
+                 QStringList({QString(255, 'x'), "Template.a (2)"}));
+        QCOMPARE(planCreation(home.path(), {longName}, never).tooLongLevels, QStringList{longName});
+        QVERIFY(planCreation(home.path(), {QString(255, 'x')}, never).tooLongLevels.isEmpty());
     }
 };
 
-QTEST_GUILESS_MAIN(TestCreationPlan)
+TESSARO_TEST_MAIN(QCoreApplication, TestCreationPlan)
 #include "test_creation_plan.moc"

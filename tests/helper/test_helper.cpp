@@ -7,11 +7,15 @@
 #include "platform/files/FileSystem.h"
 
 #include <QCoreApplication>
+#include <QDeadlineTimer>
 #include <QProcess>
 #include <QTest>
+#include <QTextStream>
 #include <cerrno>
+#include <fcntl.h>
 #include <random>
 #include <sys/stat.h>
+#include <thread>
 #include <unistd.h>
 
 using namespace helper;
@@ -119,6 +123,11 @@ private Q_SLOTS:
         row("onto a link", "/bin/mv", {"-f", "%/Documents/x", "%/link"}, EPERM);
         row("onto a link to a file", "/bin/cp", {"-f", "-p", "-R", "%/Documents/x", "%/crontab"}, ELOOP);
         row("dating a link", "/usr/bin/touch", {"-c", "%/crontab"}, ELOOP);
+        row("a file of the system", "/bin/cp", {"-f", "-p", "-R", "%/Documents/x", "/etc/ld.so.preload"}, EPERM);
+        row("deep in its folders", "/bin/cp", {"-f", "-p", "-R", "%/Documents/x", "/etc/profile.d/x.sh"}, EPERM);
+        row("root's home", "/bin/mkdir", {"-p", "/root/x"}, EPERM);
+        row("what runs as root", "/bin/mv", {"-f", "%/Documents/x", "/var/spool/cron/x"}, EPERM);
+        row("a folder of the home in its language", "/bin/rm", {"-Rdf", "%/Dokumente"}, EPERM);
         row("into what is missing", "/bin/cp", {"-f", "-p", "-R", "%/Documents/x", "%/no/such/x"}, ENOENT);
         row("dots after what is missing", "/bin/mkdir", {"-p", "%/missing/../x"}, EINVAL);
     }
@@ -139,25 +148,105 @@ private Q_SLOTS:
         Plan plan;
         const QString path = m_home->path() + "/deep//./down/../down/x";
         QCOMPARE(prepare("/bin/mv", words({"-f", path, m_home->path() + "/b"}), m_home->path().toStdString(), plan), 0);
-        QCOMPARE(plan.arguments, words({"-T", "-f", "/proc/self/fd/10/x", "/proc/self/fd/11/b"}));
         // Exchanged for a link after the check: the folder that was checked is the one that is used.
         QVERIFY(rename(m_home->file("deep/down").toUtf8(), m_home->file("aside").toUtf8()) == 0);
         QVERIFY(symlink("/etc", m_home->file("deep/down").toUtf8()) == 0);
-        struct stat info;
-        QCOMPARE(fstatat(plan.folders[0].get(), "x", &info, 0), 0);
-        // A folder that stands there is held itself, so that no link can take its place.
+        platform::CopyMonitor monitor;
+        TreeWork work(getuid(), monitor);
+        QCOMPARE(work.move(plan.items[0], plan.items[1]), 0);
+        QCOMPARE(readFile(m_home->file("b")), "x");
+        // A folder that stands there is held itself, and gets the item under its own name.
         QVERIFY(platform::makeFolders(m_home->file("there")).ok());
-        QCOMPARE(prepare("/bin/mv", words({"-f", m_home->path() + "/aside/x", m_home->path() + "/there"}),
+        QCOMPARE(prepare("/bin/mv", words({"-f", m_home->path() + "/b", m_home->path() + "/there"}),
                          m_home->path().toStdString(), plan),
                  0);
-        QCOMPARE(plan.arguments, words({"-f", "/proc/self/fd/10/x", "/proc/self/fd/11/."}));
+        QCOMPARE(work.move(plan.items[0], plan.items[1]), 0);
+        QCOMPARE(readFile(m_home->file("there/b")), "x");
         QCOMPARE(prepare("/bin/mkdir", words({"-p", m_home->path() + "/new/a/b"}), m_home->path().toStdString(), plan),
                  0);
-        QCOMPARE(plan.arguments, words({"-p", "/proc/self/fd/10/b"}));
+        QCOMPARE(work.makeFolders(plan.items[0]), 0);
+        QVERIFY(platform::leadsToFolder(m_home->file("new/a/b")));
         // Reading a standard folder harms nobody.
         QCOMPARE(prepare("/bin/cp", words({"-f", "-p", "-R", m_home->path() + "/Documents", m_home->path() + "/x"}),
                          m_home->path().toStdString(), plan),
                  0);
+    }
+
+    Item item(const QString &folder, const QByteArray &name)
+    {
+        return {platform::UniqueDescriptor(open(m_home->file(folder + "/x").chopped(2).toUtf8().constData(),
+                                                O_PATH | O_DIRECTORY | O_CLOEXEC)),
+                name.toStdString(), m_home->file(folder).toStdString()};
+    }
+
+    void copiesWholeOrNotAtAll()
+    {
+        writeFile(m_home->file("from/tree/deep/a"), "a");
+        writeFile(m_home->file("from/tree/b"), "b");
+        QCOMPARE(symlink("/etc/passwd", m_home->file("from/tree/link").toUtf8()), 0);
+        QCOMPARE(chmod(m_home->file("from/tree/b").toUtf8(), 04755), 0);
+        writeFile(m_home->file("to/file"), "old");
+        writeFile(m_home->file("to/tree/theirs"), "theirs");
+        platform::CopyMonitor monitor;
+        TreeWork work(getuid(), monitor);
+        QCOMPARE(work.copy(item("from", "tree"), item("to", "copy")), 0);
+        QCOMPARE(readFile(m_home->file("to/copy/deep/a")), "a");
+        QCOMPARE(platform::linkTarget(m_home->file("to/copy/link")), "/etc/passwd");
+        struct stat info;
+        QCOMPARE(stat(m_home->file("to/copy/b").toUtf8(), &info), 0);
+        QCOMPARE(info.st_mode & 07777, 0755u); // what is another's from now on has none of its old rights
+        QCOMPARE(work.copy(item("from/tree", "b"), item("to", "file")), 0);
+        QCOMPARE(readFile(m_home->file("to/file")), "b");
+        QCOMPARE(work.copy(item("from", "tree"), item("to", "tree")), EEXIST);
+        QCOMPARE(readFile(m_home->file("to/tree/theirs")), "theirs");
+        QCOMPARE(work.copy(item("from", "none"), item("to", "none")), ENOENT);
+        monitor.cancelled = true;
+        QCOMPARE(work.copy(item("from", "tree"), item("to", "stopped")), ECANCELED);
+        monitor.cancelled = false;
+        QCOMPARE(platform::listFolder(m_home->file("to"))->size(), 3); // nothing of what failed, visible or hidden
+        QCOMPARE(work.remove(item("to", "copy")), 0);
+        QCOMPARE(work.remove(item("to", "copy")), 0);
+        QCOMPARE(platform::listFolder(m_home->file("to"))->size(), 2);
+    }
+
+    /// Somebody exchanges whatever appears for a link to a folder of the system, as fast as he can: nothing ever
+    /// arrives there. TESSARO_RACE_SECONDS says for how long it is tried.
+    void linksThatAreSwappedInAreNotFollowed()
+    {
+        for (int i = 0; i < 30; ++i)
+            writeFile(m_home->file(QStringLiteral("from/tree/%1/evil").arg(i)), "evil");
+        writeFile(m_home->file("victim/theirs"), "theirs");
+        const QString to = m_home->file("to/x").chopped(2);
+        std::atomic<bool> over = false;
+        std::atomic<int> swapped = 0;
+        std::thread attacker([&] {
+            const QByteArray victim = m_home->file("victim").toUtf8();
+            const QByteArray aside = m_home->file("aside/x").chopped(1).toUtf8();
+            for (int i = 0; !over; ++i) {
+                for (const auto &entry : platform::listFolder(to).valueOr({})) {
+                    const QByteArray path = (to + '/' + entry.name).toUtf8();
+                    if (rename(path, aside + QByteArray::number(i)) == 0 && symlink(victim, path) == 0)
+                        ++swapped;
+                }
+            }
+        });
+        const int seconds = qEnvironmentVariableIntValue("TESSARO_RACE_SECONDS");
+        const QDeadlineTimer end(std::chrono::seconds(seconds > 0 ? seconds : 1));
+        platform::CopyMonitor monitor;
+        int done = 0;
+        for (int i = 0; !end.hasExpired(); ++i) {
+            TreeWork work(getuid(), monitor);
+            done += work.copy(item("from", "tree"), item("to", QByteArray::number(i))) == 0;
+            static_cast<void>(work.touch(item("to", QByteArray::number(i))));
+            static_cast<void>(work.remove(item("to", QByteArray::number(i))));
+        }
+        over = true;
+        attacker.join();
+        QVERIFY2(swapped > 0, "Nothing was swapped");
+        QCOMPARE(platform::listFolder(m_home->file("victim"))->size(), 1);
+        QCOMPARE(readFile(m_home->file("victim/theirs")), "theirs");
+        if (seconds > 0)
+            QTextStream(stdout) << swapped << " swapped, " << done << " copies made\n";
     }
 
     void startsOnlyAsItShould()
@@ -172,6 +261,8 @@ private Q_SLOTS:
 private:
     void makeHome()
     {
+        writeFile(m_home->file(".config/user-dirs.dirs"), "# a comment\nXDG_DOCUMENTS_DIR=\"$HOME/Dokumente\"\n");
+        static_cast<void>(m_home->file("Dokumente/x"));
         for (const char *folder : {"Documents/x", "Library/Preferences/x"})
             static_cast<void>(m_home->file(folder)); // makes the folders above it
         static_cast<void>(symlink("/usr", m_home->file("link").toUtf8()));

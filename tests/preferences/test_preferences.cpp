@@ -137,6 +137,13 @@ private Q_SLOTS:
         toggle("prefsAdminPassEditing");
         QTRY_VERIFY(part<QCheckBox>("prefsAdminPassEditing")->isChecked());
         QVERIFY(settings::standard().equalsOne(settings::requireAdminPasswordForEditing));
+        // The one that would keep the program from ever starting again is not switched on where that could not be met.
+        SheetAnswerer answers({"OK"});
+        toggle("prefsAdminPass");
+        QTRY_VERIFY(answers.buttons.isEmpty());
+        QVERIFY(answers.seen[0].startsWith("The switch was left off|Administrator rights could not be had"));
+        QVERIFY(!part<QCheckBox>("prefsAdminPass")->isChecked() && !settings::requireAdminPassword.isOn());
+        QVERIFY(part<QLabel>("hintAdmin")->text().contains("for you alone"));
     }
 
     void theLibraryMoves()

@@ -201,17 +201,23 @@ private Q_SLOTS:
         QVERIFY(!Manager::copyContentsOfDirectory(file("source"), file("missing/target"), 0s));
     }
 
-    /// The copy is whole, the source could not be removed: what is left of it must not go into the copy.
-    void leavesAHalfMovedFolderWhereItIs()
+    /// To another drive, and something of the source can never be removed: nothing is moved.
+    void movesAllOrNothing()
     {
         if (!platform::isSuperUser())
-            QSKIP("Only the super-user has the tool run again with rights.");
+            QSKIP("Only the super-user can protect a file from removal.");
         QTemporaryDir elsewhere("/dev/shm/move-XXXXXX");
-        writeFile(file("source/locked"), "x");
+        for (const char *name : {"source/a", "source/locked/b", "source/locked/c"})
+            writeFile(file(name), "x");
         platform::setImmutable(file("source/locked"), true);
-        static_cast<void>(Manager::moveFile(file("source"), elsewhere.filePath("moved")));
+        QVERIFY(!Manager::moveFile(file("source"), elsewhere.filePath("moved")));
         platform::setImmutable(file("source/locked"), false);
-        QCOMPARE(namesIn(elsewhere.filePath("moved")), QStringList{"locked"});
+        QCOMPARE(namesIn(file("source")), QStringList({"a", "locked"}));
+        QCOMPARE(namesIn(file("source/locked")), QStringList({"b", "c"}));
+        QCOMPARE(namesIn(elsewhere.path()), QStringList());
+        QVERIFY(Manager::moveFile(file("source"), elsewhere.filePath("moved")));
+        QCOMPARE(namesIn(elsewhere.filePath("moved")), QStringList({"a", "locked"}));
+        QCOMPARE(namesIn(top()), QStringList());
     }
 
     void namesWhatIsTakenInTheTrash()

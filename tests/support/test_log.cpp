@@ -170,6 +170,40 @@ private Q_SLOTS:
         QVERIFY(platform::targetExists(generation(3)));
     }
 
+    /// Eight programs at once, among them some that only ask something, while one runs on: every line is there, whole.
+    void severalProgramsShareIt()
+    {
+        if (platform::isSuperUser())
+            QSKIP("The super-user keeps no older generation.");
+        constexpr int lines = 1300;
+        VTLog::createNewLog();
+        VTLog::appendLog("from the one that runs on");
+        std::vector<std::unique_ptr<QProcess>> programs;
+        for (int i = 0; i < 8; ++i) {
+            programs.push_back(std::make_unique<QProcess>());
+            programs.back()->start(QCoreApplication::applicationFilePath(),
+                                   {"log-many-lines", QString::number(i), QString::number(lines)});
+        }
+        for (const auto &program : programs)
+            QVERIFY(program->waitForFinished() && program->exitCode() == 0);
+        VTLog::appendLog("and on");
+        QStringList all;
+        for (int n = 5; n >= 1; --n) {
+            if (platform::targetExists(generation(n)))
+                all += messagesOf(generation(n));
+        }
+        QVERIFY(all.contains("from the one that runs on"));
+        QVERIFY(all.contains("and on"));
+        std::array<int, 8> next{};
+        for (const QString &message : all.filter(QRegularExpression("^P\\d:"))) {
+            const size_t program = message.section(':', 0, 0).mid(1).toUInt();
+            QCOMPARE(message, QStringLiteral("P%1:%2:").arg(program).arg(next.at(program)++) + QString(60, u'x'));
+        }
+        for (const int count : next)
+            QCOMPARE(count, lines);
+        QVERIFY(platform::targetExists(generation(2))); // the limit was met while all wrote
+    }
+
     void canBeSwitchedOff()
     {
         for (const auto &[value, isLogged] : {std::pair{QVariant("1"), false},
@@ -196,6 +230,14 @@ public:
         const QString line = QString::fromUtf8(readFile(current()).mid(before)).section(" - ", 1).trimmed();
         return platform::writeToStandardOutput(line).ok() ? 0 : 1;
     }
+    static int logManyLines(int program, int lines)
+    {
+        VTLog::createNewLog(QStringLiteral("First"));
+        for (int line = 0; line < lines; ++line)
+            VTLog::appendLog("P%d:%d:%@", program, line, QString(60, u'x'));
+        VTLog::finishWriting();
+        return 0;
+    }
 };
 
 int main(int argc, char **argv)
@@ -203,6 +245,8 @@ int main(int argc, char **argv)
     platform::prepareLocale();
     if (argc == 2 && qstrcmp(argv[1], "log-one-line") == 0)
         return TestLog::logOneLine();
+    if (argc == 4 && qstrcmp(argv[1], "log-many-lines") == 0)
+        return TestLog::logManyLines(atoi(argv[2]), atoi(argv[3]));
     const TemporaryHome home;
     TestLog::originalHome = qgetenv("HOME");
     const QCoreApplication application(argc, argv);

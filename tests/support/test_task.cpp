@@ -1,5 +1,6 @@
 // Tools: what they print and how they end, time-outs, asynchronous runs; none hangs, none leaves anything behind.
 #include "harness/TemporaryHome.h"
+#include "platform/base/MainThread.h"
 #include "platform/desktop/Desktop.h"
 #include "platform/files/FileSystem.h"
 #include "support/VTLog.h"
@@ -85,6 +86,30 @@ class TestTask : public QObject
 
 private Q_SLOTS:
     void initTestCase() { VTLog::createNewLog(); }
+
+    /// Stopped before it runs, let go of while its delegate waits for the window, and its end thrown away by others.
+    void endsWhateverHappens()
+    {
+        QElapsedTimer timer;
+        timer.start();
+        for (int i = 0; i < 20; ++i) {
+            VTTask task;
+            task.asyncDataFromTask("/bin/sleep", {"30"}, {});
+            task.terminateAsyncTask();
+        }
+        {
+            VTTask task;
+            task.asyncDataFromTask("/bin/sh", {"-c", "echo x"}, [](const QByteArray &, VTTask &, const QVariant &) {
+                platform::MainThread::perform([] {}, platform::Waiting::Yes);
+            });
+            QTest::qSleep(100);
+        }
+        QVERIFY(timer.elapsed() < 20'000);
+        std::signal(SIGCHLD, SIG_IGN);
+        const int status = VTTask::terminationCodeFromTask("/bin/false", {});
+        std::signal(SIGCHLD, SIG_DFL);
+        QVERIFY(status != 0);
+    }
 
     void tellsWhatATool_data()
     {

@@ -11,7 +11,6 @@
 #include "support/VTAlert.h"
 #include "support/VTLocalPaths.h"
 #include "templates/TemplateChoice.h"
-#include "templates/TreeListing.h"
 #include "templates/VTDataController.h"
 
 #include <QTest>
@@ -143,22 +142,6 @@ private Q_SLOTS:
         QFETCH(QString, last);
         QTEST(chosenTemplate({"A", "B", "C"}, marked, last), "expected");
         QVERIFY(chosenTemplate({}, marked, last).isNull());
-    }
-
-    void readsATreeWithoutEnteringLinks()
-    {
-        const QString root = m_work->filePath("Tree");
-        writeFile(root + "/b/c/file");
-        writeFile(root + "/A");
-        QCOMPARE(symlink("..", (root + "/b/up").toUtf8().constData()), 0);
-        const TreeListing tree = listTree(root);
-        QStringList found;
-        for (const ListedItem &item : tree.items)
-            found << platform::joined(item.folder, item.name);
-        QCOMPARE(found, QStringList({"/A", "/b", "b/c", "b/c/file", "b/up"}));
-        QVERIFY(tree.unreadable.isEmpty());
-        const auto missing = listTree(m_work->filePath("none")).unreadable;
-        QVERIFY(missing.size() == 1 && missing[0].is(platform::Cause::Missing));
     }
 };
 

@@ -1,25 +1,22 @@
 #include "platform/archive/ZipArchive.h"
 
-#include "platform/base/NativePath.h"
-#include "platform/files/ApplicationBundle.h"
-
-#include <QLibrary>
+#include "platform/files/Module.h"
 
 namespace platform {
 namespace {
 
 /// Calls one of the module's two doors; its report, or why the module cannot be had.
-template <typename Report> Report callModule(const char *door, const QString &first, const QString &second)
+template <typename Report, typename... More>
+Report callModule(const char *door, const QString &first, const QString &second, More... more)
 {
-    using Function = void (*)(const QString &, const QString &, Report &);
-    static auto *module = new QLibrary(
-        joined(ApplicationBundle::main().path(), QStringLiteral("Contents/PlugIns/libtessaro_archive.so")));
-    const auto function = reinterpret_cast<Function>(module->resolve(door));
+    using Function = void (*)(const QString &, const QString &, More..., Report &);
+    static Module module("archive");
+    const auto function = reinterpret_cast<Function>(module.door(door));
     Report report;
     if (function)
-        function(first, second, report);
+        function(first, second, more..., report);
     else
-        report.outcome = Outcome::failure(Cause::Missing, module->fileName(), module->errorString());
+        report.outcome = Outcome::failure(Cause::Missing, module.path(), module.whyNot());
     return report;
 }
 
@@ -30,9 +27,9 @@ ExtractReport extractZip(const QString &archivePath, const QString &destination)
     return callModule<ExtractReport>("tessaro_extract_zip", archivePath, destination);
 }
 
-CompressReport compressZip(const QString &path, const QString &archivePath)
+CompressReport compressZip(const QString &path, const QString &archivePath, CopyMonitor *monitor)
 {
-    return callModule<CompressReport>("tessaro_compress_zip", path, archivePath);
+    return callModule<CompressReport>("tessaro_compress_zip", path, archivePath, monitor);
 }
 
 } // namespace platform

@@ -11,6 +11,8 @@
  */
 namespace platform {
 
+class CopyMonitor;
+
 struct ExtractReport
 {
     Outcome outcome;     ///< why nothing was unpacked; good when the archive was read to its end
@@ -41,6 +43,7 @@ struct CompressReport
  * folders, and the labels as the reference desktop's archiver writes them. Of any size. Items that cannot be read are a
  * problem.
  */
-[[nodiscard]] CompressReport compressZip(const QString &path, const QString &archivePath);
+[[nodiscard]] CompressReport compressZip(const QString &path, const QString &archivePath,
+                                         CopyMonitor *monitor = nullptr);
 
 } // namespace platform

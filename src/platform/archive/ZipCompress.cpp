@@ -3,8 +3,9 @@
 #include "platform/archive/AppleDouble.h"
 #include "platform/base/NativePath.h"
 #include "platform/files/FinderInfo.h"
-#include "platform/files/FolderReader.h"
 #include "platform/files/PathAt.h"
+#include "platform/plain/CopyMonitor.h"
+#include "platform/plain/FolderReader.h"
 
 #include <algorithm>
 #include <archive.h>
@@ -86,10 +87,12 @@ struct EntryCloser
 class Compression
 {
 public:
-    Compression(const QString &path, const QString &archivePath)
+    Compression(const QString &path, const QString &archivePath, CopyMonitor *monitor)
         : m_above(parentPath(path))
         , m_writer(archivePath)
+        , m_monitor(monitor)
     {
+        m_writer.setMonitor(monitor);
         raiseDescriptorLimit();
         struct stat info;
         const PathAt archiveAt(archivePath);
@@ -114,6 +117,8 @@ private:
     {
         if (!m_report.outcome.ok())
             return;
+        if (m_monitor)
+            ++m_monitor->items;
         const QByteArray name = above.isEmpty() ? entry : above + '/' + entry;
         struct stat info;
         if (fstatat(folder, entry.constData(), &info, AT_SYMLINK_NOFOLLOW) != 0)
@@ -130,8 +135,8 @@ private:
             target.truncate(qMax<qsizetype>(
                 0, readlinkat(folder, entry.constData(), target.data(), static_cast<std::size_t>(target.size()))));
         else
-            opened =
-                S_ISDIR(info.st_mode) ? openFolder(folder, entry.constData()) : openFile(folder, entry.constData());
+            opened = S_ISDIR(info.st_mode) ? openFolder(folder, entry.constData())
+                                           : openFile(folder, entry.constData(), info);
         if (!S_ISLNK(info.st_mode) && !opened.isOpen())
             return fail(name);
         if (!entry.isValidUtf8())
@@ -149,6 +154,8 @@ private:
         std::vector<RawEntry> entries;
         if (!readFolder(folder, entries))
             return fail(name);
+        if (m_monitor)
+            m_monitor->enter(name.mid(name.lastIndexOf('/') + 1).toStdString());
         std::sort(entries.begin(), entries.end(), [](const RawEntry &a, const RawEntry &b) { return a.name < b.name; });
         for (const RawEntry &entry : entries)
             take(folder, QByteArray::fromStdString(entry.name), name);
@@ -156,6 +163,7 @@ private:
 
     QString m_above;
     ZipWriter m_writer;
+    CopyMonitor *m_monitor;
     struct stat m_archive
     {
     };
@@ -164,9 +172,9 @@ private:
 
 } // namespace
 
-CompressReport compressZipDirectly(const QString &path, const QString &archivePath)
+CompressReport compressZipDirectly(const QString &path, const QString &archivePath, CopyMonitor *monitor)
 {
-    return Compression(path, archivePath).run();
+    return Compression(path, archivePath, monitor).run();
 }
 
 void ZipWriter::Closer::operator()(archive *handle) const
@@ -217,6 +225,8 @@ void ZipWriter::addContents(const QByteArray &name, const struct stat &info, con
 
 void ZipWriter::addItem(const QByteArray &name, const struct stat &info, const QByteArray &linkTarget, int file)
 {
+    if (m_monitor && m_monitor->cancelled && m_outcome.ok())
+        m_outcome = Outcome::fromNumber(ECANCELED, fromNative(name));
     const std::unique_ptr<archive_entry, EntryCloser> entry(archive_entry_new());
     if (!linkTarget.isEmpty())
         archive_entry_copy_symlink(entry.get(), linkTarget.constData());
@@ -243,6 +253,10 @@ void ZipWriter::pumpFile(int file, const QByteArray &name, qint64 size)
         const auto wanted = static_cast<std::size_t>(qMin<qint64>(got, size));
         check(archive_write_data(m_archive.get(), m_piece.constData(), wanted) == static_cast<la_ssize_t>(wanted));
         size -= static_cast<qint64>(wanted);
+        if (m_monitor)
+            m_monitor->bytes += wanted;
+        if (m_monitor && m_monitor->cancelled && m_outcome.ok())
+            m_outcome = Outcome::fromNumber(ECANCELED, fromNative(name));
     }
 }
 

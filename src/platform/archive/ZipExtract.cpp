@@ -2,12 +2,12 @@
 
 #include "platform/archive/AppleDouble.h"
 #include "platform/base/NativePath.h"
-#include "platform/base/WholeWrite.h"
 #include "platform/files/FileSystem.h"
 #include "platform/files/FileTree.h"
 #include "platform/files/FinderInfo.h"
-#include "platform/files/FolderReader.h"
 #include "platform/files/PathAt.h"
+#include "platform/plain/FolderReader.h"
+#include "platform/plain/WholeWrite.h"
 
 #include <QSet>
 #include <QUuid>
@@ -35,6 +35,9 @@ struct ReadCloser
 {
     void operator()(archive *handle) const { archive_read_free(handle); }
 };
+
+/// Each step is remembered with the whole name before it: a name of 32,000 would take a gigabyte.
+constexpr qsizetype mostSteps = 1500;
 
 bool staysInside(const QByteArray &name)
 {
@@ -173,6 +176,8 @@ private:
         const char *link = archive_entry_symlink_utf8(entry);
         const QByteArray target = link ? link : archive_entry_symlink(entry);
         const QByteArray written = name;
+        if (name.count('/') > mostSteps)
+            return refuse(written);
         name = normalised(name);
         if (name.isEmpty() && staysInside(written))
             return; // the destination itself

@@ -14,7 +14,8 @@ namespace platform {
 
 /** What extractZip() and compressZip() do. */
 [[nodiscard]] ExtractReport extractZipDirectly(const QString &archivePath, const QString &destination);
-[[nodiscard]] CompressReport compressZipDirectly(const QString &path, const QString &archivePath);
+[[nodiscard]] CompressReport compressZipDirectly(const QString &path, const QString &archivePath,
+                                                 CopyMonitor *monitor = nullptr);
 
 /** Writes a zip archive, entry by entry. finish() says whether every byte got there; without it the file is no archive.
  */
@@ -32,6 +33,8 @@ public:
     /** What lies on disk: a folder alone, a link with its target, a file with the contents of the open descriptor. */
     void addItem(const QByteArray &name, const struct stat &info, const QByteArray &linkTarget, int file);
     void addFlags(const QByteArray &name, quint16 flagsWord);
+    /** Is told of each piece, and ends the writing when it is cancelled. */
+    void setMonitor(CopyMonitor *monitor) { m_monitor = monitor; }
 
     /** Good while all is well. */
     [[nodiscard]] const Outcome &outcome() const { return m_outcome; }
@@ -49,6 +52,7 @@ private:
 
     std::unique_ptr<archive, Closer> m_archive;
     QByteArray m_piece;
+    CopyMonitor *m_monitor = nullptr;
     Outcome m_outcome;
 };
 

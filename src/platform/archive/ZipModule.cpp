@@ -8,7 +8,7 @@ extern "C" Q_DECL_EXPORT void tessaro_extract_zip(const QString &archivePath, co
 }
 
 extern "C" Q_DECL_EXPORT void tessaro_compress_zip(const QString &path, const QString &archivePath,
-                                                   platform::CompressReport &report)
+                                                   platform::CopyMonitor *monitor, platform::CompressReport &report)
 {
-    report = platform::compressZipDirectly(path, archivePath);
+    report = platform::compressZipDirectly(path, archivePath, monitor);
 }

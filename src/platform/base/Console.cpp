@@ -3,8 +3,9 @@
 #include "platform/base/LocalTime.h"
 #include "platform/base/NativePath.h"
 #include "platform/base/System.h"
-#include "platform/base/WholeWrite.h"
+#include "platform/plain/WholeWrite.h"
 
+#include <sys/ioctl.h>
 #include <unistd.h>
 
 namespace platform {
@@ -36,6 +37,13 @@ Outcome writeToStandardOutput(const QString &text)
 void writeToStandardError(const QString &text)
 {
     static_cast<void>(writeTo(STDERR_FILENO, forDisplay(text).toUtf8(), "stderr"));
+}
+
+int columnsOfStandardError()
+{
+    winsize size{};
+    const bool isTerminal = isatty(STDERR_FILENO) != 0 && ioctl(STDERR_FILENO, TIOCGWINSZ, &size) == 0;
+    return !isTerminal ? 0 : size.ws_col > 0 ? size.ws_col : 80;
 }
 
 } // namespace platform

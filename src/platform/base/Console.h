@@ -13,5 +13,7 @@ void printToConsole(const QString &text);
     redirection) is a failure of the command. */
 Outcome writeToStandardOutput(const QString &text);
 void writeToStandardError(const QString &text);
+/** Columns of the terminal that standard error is; 0 when it is none. */
+[[nodiscard]] int columnsOfStandardError();
 
 } // namespace platform

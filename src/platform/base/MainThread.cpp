@@ -1,5 +1,7 @@
 #include "platform/base/MainThread.h"
 
+#include "platform/plain/StartedThread.h"
+
 #include <QCoreApplication>
 #include <QEvent>
 #include <QEventLoop>
@@ -78,12 +80,13 @@ public:
 
     int closed = 0;
     int allowed = 0;
+    InputClosed::Exception exception;
 
 private:
     using QObject::QObject;
-    bool eventFilter(QObject *, QEvent *event) override
+    bool eventFilter(QObject *receiver, QEvent *event) override
     {
-        if (closed == 0 || allowed > 0 || !isInput(event->type()))
+        if (closed == 0 || allowed > 0 || !isInput(event->type()) || (exception && exception(receiver, event)))
             return false;
         event->ignore();
         return true;
@@ -134,18 +137,23 @@ void performInBackground(const std::function<void()> &work)
     const InputClosed closed;
     QEventLoop loop;
     std::atomic<bool> finished = false;
-    auto *worker = QThread::create([&] {
+    std::thread worker = startedThread([&] {
         work();
         finished = true; // before the loop is told to quit: who wakes up must find it so
         QMetaObject::invokeMethod(&loop, &QEventLoop::quit, Qt::QueuedConnection);
     });
-    const std::unique_ptr<QThread> owner(worker);
-    worker->start();
+    if (!worker.joinable()) // none is to be had: the window stands still rather than the work
+        return work();
     loop.exec();
     // The loop ends early when the application was told to quit: the work is finished all the same, never abandoned.
     while (!finished)
         MainThread::turnLoop(std::chrono::milliseconds(10));
-    worker->wait();
+    worker.join();
+}
+
+void InputClosed::setException(Exception exception)
+{
+    InputFilter::instance().exception = std::move(exception);
 }
 
 InputClosed::InputClosed()

@@ -5,6 +5,9 @@
 
 /** The main thread, from anywhere. Before the application object exists, every thread's calls run where they are made.
  */
+class QEvent;
+class QObject;
+
 namespace platform {
 
 enum class Waiting { No, Yes };
@@ -42,6 +45,11 @@ template <typename Work> [[nodiscard]] auto resultInBackground(Work work)
 class InputClosed
 {
 public:
+    /** Says of an input event, and of the object that it is sent to, whether it comes through all the same: the way out
+        of work that takes long. One for the program; null for none. */
+    using Exception = std::function<bool(QObject *receiver, QEvent *event)>;
+    static void setException(Exception exception);
+
     InputClosed();
     ~InputClosed();
     InputClosed(const InputClosed &) = delete;

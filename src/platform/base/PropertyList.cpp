@@ -2,9 +2,10 @@
 
 #include <QDateTime>
 #include <QTimeZone>
-#include <QtEndian>
+#include <algorithm>
 #include <memory>
 #include <plist/plist.h>
+#include <vector>
 
 namespace platform {
 namespace {
@@ -29,28 +30,140 @@ qsizetype containersInXml(const QByteArray &bytes)
     return bytes.count("<dict") + bytes.count("<array");
 }
 
-/// Counts the objects of the binary form whose marker says list, set or dictionary. Any depth of nesting needs as many.
-qsizetype containersInBinary(const QByteArray &bytes)
+/// The binary form as far as the library must not see it unchecked: it follows every reference, so that a few lists
+/// that each name the next one twice grow without bound, and it ends the program over keys that are no plain text.
+class BinaryForm
 {
-    constexpr qsizetype trailerSize = 32;
-    if (bytes.size() < 8 + trailerSize)
-        return maximumContainers + 1;
-    const char *trailer = bytes.constData() + bytes.size() - trailerSize;
-    const auto offsetSize = static_cast<quint64>(static_cast<uchar>(trailer[6]));
-    const auto objects = qFromBigEndian<quint64>(trailer + 8);
-    const auto table = qFromBigEndian<quint64>(trailer + 24);
-    const auto size = static_cast<quint64>(bytes.size());
-    if (offsetSize < 1 || offsetSize > 8 || objects > size || table > size || objects * offsetSize > size - table)
-        return maximumContainers + 1;
-    qsizetype containers = 0;
-    for (quint64 i = 0; i < objects; ++i) {
-        quint64 offset = 0;
-        for (quint64 byte = 0; byte < offsetSize; ++byte)
-            offset = offset << 8 | static_cast<uchar>(bytes[static_cast<qsizetype>(table + i * offsetSize + byte)]);
-        if (offset < size && static_cast<uchar>(bytes[static_cast<qsizetype>(offset)]) >> 4 >= 0xA)
-            ++containers;
+public:
+    explicit BinaryForm(const QByteArray &bytes)
+        : m_bytes(bytes)
+        , m_size(static_cast<quint64>(bytes.size()))
+    {
     }
-    return containers;
+    [[nodiscard]] bool isSafe()
+    {
+        if (m_size < 8 + trailerSize)
+            return false;
+        const quint64 trailer = m_size - trailerSize;
+        m_offsetSize = byteAt(trailer + 6);
+        m_referenceSize = byteAt(trailer + 7);
+        m_objects = number(trailer + 8, 8);
+        m_table = number(trailer + 24, 8);
+        const bool isSound = m_offsetSize >= 1 && m_offsetSize <= 8 && m_referenceSize >= 1 && m_referenceSize <= 8 &&
+                             m_objects <= m_size && m_table <= m_size && m_objects * m_offsetSize <= m_size - m_table;
+        return isSound && follow(number(trailer + 16, 8));
+    }
+
+private:
+    static constexpr quint64 trailerSize = 32;
+    /// All that the references come to, each counted as often as it is named.
+    static constexpr quint64 maximumNodes = 1'000'000;
+
+    [[nodiscard]] quint64 byteAt(quint64 at) const
+    {
+        return at < m_size ? static_cast<uchar>(m_bytes[static_cast<qsizetype>(at)]) : 0;
+    }
+    [[nodiscard]] quint64 number(quint64 at, quint64 count) const
+    {
+        quint64 value = 0;
+        for (quint64 i = 0; i < count; ++i)
+            value = value << 8 | byteAt(at + i);
+        return value;
+    }
+    struct Object
+    {
+        quint64 kind = 0;   ///< the marker's upper half
+        quint64 length = 0; ///< of a string or a container: what it counts
+        quint64 body = 0;
+    };
+    /// Nothing for a reference, or a length, that leads out of the file.
+    [[nodiscard]] std::optional<Object> object(quint64 reference) const
+    {
+        if (reference >= m_objects)
+            return std::nullopt;
+        const quint64 at = number(m_table + reference * m_offsetSize, m_offsetSize);
+        const quint64 marker = byteAt(at);
+        Object found{marker >> 4, marker & 0xF, at + 1};
+        if (found.kind >= 4 && found.length == 0xF) { // a whole number of its own follows
+            const quint64 bytes = quint64{1} << (byteAt(at + 1) & 0xF);
+            found.length = bytes <= 8 ? number(at + 2, bytes) : m_size;
+            found.body = at + 2 + bytes;
+        }
+        return at < m_table && found.length < m_size ? std::optional(found) : std::nullopt;
+    }
+    [[nodiscard]] bool isPlainKey(quint64 reference) const
+    {
+        const auto key = object(reference);
+        if (!key || (key->kind != asciiText && key->kind != wideText))
+            return false;
+        const quint64 unit = key->kind == wideText ? 2 : 1;
+        for (quint64 i = 0; i < key->length; ++i) {
+            if (number(key->body + i * unit, unit) == 0)
+                return false;
+        }
+        return true;
+    }
+    [[nodiscard]] bool follow(quint64 top)
+    {
+        qsizetype containers = 0;
+        quint64 nodes = 0;
+        std::vector<quint64> waiting{top};
+        while (!waiting.empty()) {
+            const auto found = object(waiting.back());
+            waiting.pop_back();
+            if (!found || ++nodes > maximumNodes)
+                return false;
+            if (found->kind < list)
+                continue;
+            const quint64 count = found->kind == dictionary ? found->length * 2 : found->length;
+            if (++containers > maximumContainers || nodes + waiting.size() + count > maximumNodes)
+                return false;
+            for (quint64 i = 0; i < count; ++i) {
+                const quint64 reference = number(found->body + i * m_referenceSize, m_referenceSize);
+                if (found->kind == dictionary && i < found->length && !isPlainKey(reference))
+                    return false;
+                waiting.push_back(reference);
+            }
+        }
+        return true;
+    }
+
+    static constexpr quint64 asciiText = 5;
+    static constexpr quint64 wideText = 6;
+    static constexpr quint64 list = 0xA; ///< and above: sets and dictionaries
+    static constexpr quint64 dictionary = 0xD;
+
+    const QByteArray &m_bytes;
+    const quint64 m_size;
+    quint64 m_offsetSize = 0;
+    quint64 m_referenceSize = 0;
+    quint64 m_objects = 0;
+    quint64 m_table = 0;
+};
+
+/// The library hands dates out as 32 bits; as text it has all of them.
+QDateTime dateOf(plist_t node)
+{
+    const PlistPtr copy(plist_copy(node));
+    char *xml = nullptr;
+    uint32_t length = 0;
+    plist_to_xml(copy.get(), &xml, &length);
+    const QByteArray text(xml, static_cast<qsizetype>(length));
+    free(xml);
+    const qsizetype start = text.indexOf("<date>") + 6;
+    return QDateTime::fromString(QString::fromLatin1(text.mid(start, text.indexOf("</date>") - start)), Qt::ISODate);
+}
+
+plist_t dateNode(const QDateTime &date)
+{
+    const qint64 seconds = epoch().secsTo(date);
+    if (static_cast<int32_t>(seconds) == seconds)
+        return plist_new_date(static_cast<int32_t>(seconds), 0);
+    const QByteArray xml =
+        "<plist version=\"1.0\"><date>" + date.toUTC().toString(Qt::ISODate).toLatin1() + "</date></plist>";
+    plist_t node = nullptr;
+    plist_from_xml(xml.constData(), static_cast<uint32_t>(xml.size()), &node);
+    return node;
 }
 
 QVariant fromNode(plist_t node);
@@ -115,11 +228,19 @@ QVariant fromNode(plist_t node)
         return listOf(node);
     case PLIST_DICT:
         return mapOf(node);
+    case PLIST_UID: { // as XML writes it
+        uint64_t value = 0;
+        plist_get_uid_val(node, &value);
+        return QVariantMap{{QStringLiteral("CF$UID"), static_cast<qlonglong>(value)}};
+    }
     case PLIST_DATE: {
         int32_t seconds = 0;
         int32_t microseconds = 0;
         plist_get_date_val(node, &seconds, &microseconds);
-        return epoch().addSecs(seconds).addMSecs(microseconds / 1000);
+        const QDateTime date = dateOf(node);
+        return date.isValid() && epoch().secsTo(date) != seconds
+                   ? date
+                   : epoch().addSecs(seconds).addMSecs(microseconds / 1000);
     }
     case PLIST_DATA: {
         char *data = nullptr;
@@ -134,17 +255,33 @@ QVariant fromNode(plist_t node)
     }
 }
 
+bool fitsXml(QChar character)
+{
+    const char16_t unit = character.unicode();
+    return (unit >= 0x20 && unit != 0xFFFE && unit != 0xFFFF) || unit == u'\t' || unit == u'\n' || unit == u'\r';
+}
+
+bool fitsXml(const QVariant &value)
+{
+    const auto textFits = [](const QString &text) {
+        return std::all_of(text.begin(), text.end(), [](QChar character) { return fitsXml(character); });
+    };
+    if (value.typeId() == QMetaType::QVariantMap) {
+        const QVariantMap map = value.toMap();
+        return std::all_of(map.keyBegin(), map.keyEnd(), textFits) &&
+               std::all_of(map.begin(), map.end(), [](const QVariant &item) { return fitsXml(item); });
+    }
+    if (value.typeId() == QMetaType::QVariantList || value.typeId() == QMetaType::QStringList) {
+        const QVariantList list = value.toList();
+        return std::all_of(list.begin(), list.end(), [](const QVariant &item) { return fitsXml(item); });
+    }
+    return value.typeId() != QMetaType::QString || textFits(value.toString());
+}
+
+/// Texts end at U+0000 for the library.
 QByteArray writableText(const QString &text)
 {
-    QString clean;
-    clean.reserve(text.size());
-    for (const QChar character : text) {
-        const char16_t unit = character.unicode();
-        const bool allowed = unit >= 0x20 || unit == u'\t' || unit == u'\n' || unit == u'\r';
-        if (allowed && unit != 0xFFFE && unit != 0xFFFF)
-            clean.append(character);
-    }
-    return clean.toUtf8();
+    return QString(text).remove(QChar(u'\0')).toUtf8();
 }
 
 plist_t toNode(const QVariant &value)
@@ -164,7 +301,7 @@ plist_t toNode(const QVariant &value)
         return plist_new_data(bytes.constData(), static_cast<uint64_t>(bytes.size()));
     }
     case QMetaType::QDateTime:
-        return plist_new_date(static_cast<int32_t>(epoch().secsTo(value.toDateTime())), 0);
+        return dateNode(value.toDateTime());
     case QMetaType::QVariantMap: {
         const plist_t node = plist_new_dict();
         const QVariantMap map = value.toMap();
@@ -190,7 +327,7 @@ std::optional<QVariant> readPropertyList(const QByteArray &bytes)
 {
     const bool binary = bytes.startsWith("bplist");
     if (bytes.isEmpty() || bytes.size() > maximumSize ||
-        (binary ? containersInBinary(bytes) : containersInXml(bytes)) > maximumContainers)
+        (binary ? !BinaryForm(bytes).isSafe() : containersInXml(bytes) > maximumContainers))
         return std::nullopt;
     plist_t node = nullptr;
     const auto size = static_cast<uint32_t>(bytes.size());
@@ -205,12 +342,19 @@ std::optional<QVariant> readPropertyList(const QByteArray &bytes)
 QByteArray writePropertyList(const QVariant &value)
 {
     const PlistPtr node(toNode(value));
-    char *xml = nullptr;
+    const bool asXml = fitsXml(value);
+    char *written = nullptr;
     uint32_t length = 0;
-    plist_to_xml(node.get(), &xml, &length);
-    const QByteArray bytes(xml, static_cast<qsizetype>(length));
-    free(xml);
-    return bytes;
+    if (asXml)
+        plist_to_xml(node.get(), &written, &length);
+    else
+        plist_to_bin(node.get(), &written, &length);
+    const QByteArray bytes(written, static_cast<qsizetype>(length));
+    free(written);
+    // What could not be read again is not written.
+    const bool isReadable = bytes.size() <= maximumSize &&
+                            (asXml ? containersInXml(bytes) <= maximumContainers : BinaryForm(bytes).isSafe());
+    return isReadable ? bytes : QByteArray();
 }
 
 } // namespace platform

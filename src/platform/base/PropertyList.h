@@ -10,11 +10,13 @@
  */
 namespace platform {
 
-/** XML or binary. Nothing when it does not parse, or holds more than 5,000 containers or 16 MiB (libplist's parser
-    recurses, and 100,000 nested lists overflow its stack). */
+/** XML or binary. Nothing when it does not parse, or holds more than 5,000 containers, a million values or 16 MiB, each
+    counted as often as it is named (libplist's parser recurses, and 100,000 nested lists overflow its stack), or a key
+    with U+0000 (over which it ends the program). */
 [[nodiscard]] std::optional<QVariant> readPropertyList(const QByteArray &bytes);
 
-/** As XML. Characters that XML 1.0 cannot hold are left out of strings. Empty when the value cannot be written. */
+/** As XML; with characters that XML 1.0 cannot hold, in the binary form. U+0000 is left out. Empty for what
+    readPropertyList() would refuse. */
 [[nodiscard]] QByteArray writePropertyList(const QVariant &value);
 
 } // namespace platform

@@ -1,5 +1,7 @@
 #include "platform/base/SerialQueue.h"
 
+#include "platform/plain/StartedThread.h"
+
 namespace platform {
 
 SerialQueue::~SerialQueue()
@@ -16,12 +18,17 @@ SerialQueue::~SerialQueue()
 
 void SerialQueue::add(Operation operation)
 {
-    const std::scoped_lock lock(m_mutex);
-    m_operations.push_back(std::move(operation));
-    ++m_added;
-    if (!m_worker.joinable())
-        m_worker = std::thread([this] { work(); });
-    m_changed.notify_all();
+    {
+        const std::scoped_lock lock(m_mutex);
+        m_operations.push_back(std::move(operation));
+        ++m_added;
+        if (!m_worker.joinable())
+            m_worker = startedThread([this] { work(); });
+        m_changed.notify_all();
+        if (m_worker.joinable())
+            return;
+    }
+    drain(); // no thread is to be had
 }
 
 void SerialQueue::addAndDrain(Operation operation)

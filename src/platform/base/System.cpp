@@ -5,8 +5,10 @@
 #include <QSysInfo>
 #include <climits>
 #include <clocale>
+#include <csignal>
 #include <cstring>
 #include <langinfo.h>
+#include <sys/prctl.h>
 #include <unistd.h>
 
 namespace platform {
@@ -19,6 +21,12 @@ QString executablePath()
         return length < 0 ? QString() : fromNative(QByteArrayView(target, length));
     }();
     return path;
+}
+
+Outcome becomeProgram(const QString &path, char **words)
+{
+    execv(toNative(path).constData(), words);
+    return Outcome::fromErrno(path);
 }
 
 QString operatingSystemName()
@@ -35,6 +43,18 @@ double memoryInGibibytes()
 {
     return static_cast<double>(sysconf(_SC_PHYS_PAGES)) * static_cast<double>(sysconf(_SC_PAGESIZE)) / 1024 / 1024 /
            1024;
+}
+
+void closeToOtherProcesses()
+{
+#ifndef __SANITIZE_ADDRESS__
+    prctl(PR_SET_DUMPABLE, 0);
+#endif
+}
+
+void heedChildren()
+{
+    std::signal(SIGCHLD, SIG_DFL);
 }
 
 void prepareLocale()

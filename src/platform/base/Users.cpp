@@ -40,7 +40,7 @@ bool isSuperUser()
 
 QString loginName()
 {
-    const auto account = accountOf(getuid());
+    static const auto account = accountOf(getuid()); // looked up once: every path of the user's asks for it
     return account ? account->name : QString::number(getuid());
 }
 

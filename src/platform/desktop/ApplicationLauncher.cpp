@@ -1,7 +1,7 @@
 #include "platform/desktop/ApplicationLauncher.h"
 
 #include "platform/base/NativePath.h"
-#include "platform/desktop/Desktop.h"
+#include "platform/desktop/FileAddress.h"
 #include "platform/files/ApplicationBundle.h"
 #include "platform/files/FileSystem.h"
 #include "platform/files/WholeFile.h"

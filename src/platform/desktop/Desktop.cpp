@@ -2,8 +2,9 @@
 
 #include "platform/base/MainThread.h"
 #include "platform/base/NativePath.h"
-#include "platform/base/UniqueDescriptor.h"
+#include "platform/desktop/FileAddress.h"
 #include "platform/files/FileSystem.h"
+#include "platform/plain/UniqueDescriptor.h"
 
 #include <QDBusConnection>
 #include <QDBusMessage>
@@ -68,11 +69,6 @@ bool xServerAnswers()
 }
 
 } // namespace
-
-QString fileAddress(const QString &path)
-{
-    return QStringLiteral("file://") + QString::fromLatin1(toNative(path).toPercentEncoding("/"));
-}
 
 void revealInFileBrowser(const QString &path)
 {

@@ -12,9 +12,6 @@ void revealInFileBrowser(const QString &path);
 bool openWithDefaultApplication(const QString &path);
 bool openAddress(const QUrl &address);
 
-/** A file: address with every byte of the name, valid UTF-8 or not. Pure. */
-[[nodiscard]] QString fileAddress(const QString &path);
-
 /** Whether a window can be shown: a display that answers, or a platform plug-in chosen by QT_QPA_PLATFORM. Any thread.
  */
 [[nodiscard]] bool displayIsAvailable();

@@ -1,7 +1,7 @@
 #include "platform/desktop/SingleInstance.h"
 
 #include "platform/base/NativePath.h"
-#include "platform/desktop/Desktop.h"
+#include "platform/desktop/FileAddress.h"
 
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>

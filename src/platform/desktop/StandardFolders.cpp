@@ -2,9 +2,13 @@
 
 #include "platform/base/NativePath.h"
 #include "platform/base/Users.h"
+#include "platform/files/FileSystem.h"
 #include "platform/files/WholeFile.h"
 
 #include <QUuid>
+#include <cstdlib>
+#include <mutex>
+#include <unistd.h>
 
 namespace platform {
 namespace {
@@ -59,6 +63,23 @@ QString chosenFolder(const QByteArray &name, const QString &otherwise)
     return userHome() + otherwise;
 }
 
+/// The user's own, so that nobody else can plant anything in it or be in the way.
+QString makeTemporaryFolder()
+{
+    const QString runtime = fromNative(qgetenv("XDG_RUNTIME_DIR"));
+    const QString lasting = joined(runtime, QStringLiteral("tessaro"));
+    if (runtime.startsWith(u'/') && makeOwnFolder(lasting).ok())
+        return lasting;
+    const QString chosen = fromNative(qgetenv("TMPDIR"));
+    const QString shared = chosen.startsWith(u'/') ? chosen : QStringLiteral("/tmp");
+    static QByteArray made;
+    made = toNative(joined(shared, QStringLiteral("tessaro-XXXXXX")));
+    if (!mkdtemp(made.data()))
+        return shared;                            // full or closed: what is to lie in it fails, and says so
+    std::atexit([] { rmdir(made.constData()); }); // unless something is still in it, such as an updater that runs
+    return fromNative(made);
+}
+
 } // namespace
 
 QString superUserHome()
@@ -81,8 +102,12 @@ QString standardFolder(FolderKind kind, FolderDomain domain)
 
 QString temporaryFolder()
 {
-    const QString chosen = fromNative(qgetenv("TMPDIR"));
-    return chosen.startsWith(u'/') ? chosen : QStringLiteral("/tmp");
+    static std::mutex mutex;
+    static QString folder;
+    const std::scoped_lock lock(mutex);
+    if (folder.isNull() || !leadsToFolder(folder)) // the system takes away what lies there unused for some days
+        folder = makeTemporaryFolder();
+    return folder;
 }
 
 QString uniqueString()

@@ -11,6 +11,8 @@ const ApplicationBundle &ApplicationBundle::main()
 {
     static const ApplicationBundle bundle = [] {
         const QString folder = parentPath(executablePath());
+        if (folder.endsWith(QLatin1String("/Contents/MacOS")))
+            return ApplicationBundle(parentPath(parentPath(folder)));
         const QString beside = joined(folder, QStringLiteral("Tessaro.app"));
         const QString installed = joined(parentPath(folder), QStringLiteral("share/tessaro/Tessaro.app"));
         return ApplicationBundle(leadsToFolder(beside) ? beside : installed);

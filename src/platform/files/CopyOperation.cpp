@@ -4,6 +4,7 @@
 #include "platform/files/FileSystem.h"
 #include "platform/files/FileTree.h"
 #include "platform/files/TreeCopy.h"
+#include "platform/plain/StartedThread.h"
 
 #include <QCoreApplication>
 #include <chrono>
@@ -60,7 +61,7 @@ class Ticker
 {
 public:
     explicit Ticker(std::function<void()> tick)
-        : m_thread([this, tick = std::move(tick)] { work(tick); })
+        : m_thread(startedThread([this, tick = std::move(tick)] { work(tick); }))
     {
     }
     ~Ticker()
@@ -70,7 +71,8 @@ public:
             m_over = true;
         }
         m_changed.notify_all();
-        m_thread.join();
+        if (m_thread.joinable())
+            m_thread.join();
     }
     Ticker(const Ticker &) = delete;
     Ticker &operator=(const Ticker &) = delete;
@@ -95,11 +97,11 @@ CopyOperation::Ref CopyOperation::start(const QString &source, const QString &de
 {
     const Ref operation(new CopyOperation);
     Running::all().enter(operation.get());
-    std::thread([operation, source, destination, reports = std::move(reports)] {
+    const auto copy = [operation, source, destination, reports = std::move(reports)] {
         const auto begin = std::chrono::steady_clock::now();
         const TreeSize total = measureTree(source, operation->m_monitor.cancelled);
         Outcome outcome;
-        QString attributesLost;
+        Losses losses;
         {
             const Ticker ticker([&] {
                 const CopyMonitor &monitor = operation->m_monitor;
@@ -108,11 +110,15 @@ CopyOperation::Ref CopyOperation::start(const QString &source, const QString &de
                                         static_cast<double>(monitor.bytes) / elapsed.count()};
                 MainThread::perform([=] { reports.running(operation, progress); }, Waiting::No);
             });
-            outcome = copyItem(source, destination, &attributesLost, &operation->m_monitor);
+            outcome = copyItem(source, destination, &losses, &operation->m_monitor);
         }
-        MainThread::perform([=] { reports.ended(operation, outcome, attributesLost); }, Waiting::No);
+        MainThread::perform([=] { reports.ended(operation, outcome, losses); }, Waiting::No);
         Running::all().leave(operation.get());
-    }).detach();
+    };
+    if (std::thread thread = startedThread(copy); thread.joinable())
+        thread.detach();
+    else
+        copy();
     return operation;
 }
 

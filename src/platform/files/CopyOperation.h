@@ -1,7 +1,8 @@
 #pragma once
 
 #include "platform/base/Outcome.h"
-#include "platform/files/FileCopy.h"
+#include "platform/files/TreeCopy.h"
+#include "platform/plain/CopyMonitor.h"
 
 #include <QMetaType>
 #include <functional>
@@ -31,7 +32,7 @@ public:
         std::function<void(const Ref &, const Progress &)> running; ///< at most once a second
         /// Exactly once; Cause::Cancelled when it was cancelled. The text names the first item whose labels the
         /// destination could not take; null if none.
-        std::function<void(const Ref &, const Outcome &, const QString &attributesLost)> ended;
+        std::function<void(const Ref &, const Outcome &, const Losses &)> ended;
     };
 
     /** Copies the item to exactly the destination path; nothing of it is left there unless it succeeds. */

@@ -1,8 +1,9 @@
 #include "platform/files/FileSystem.h"
 
 #include "platform/base/NativePath.h"
-#include "platform/files/FolderReader.h"
+#include "platform/files/ListingOrder.h"
 #include "platform/files/PathAt.h"
+#include "platform/plain/FolderReader.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -32,30 +33,25 @@ bool statItem(const QString &path, struct stat &info, int flags)
     return fstatat(at.folder(), at.name(), &info, flags) == 0;
 }
 
-bool isAscii(const std::string &name)
-{
-    return std::all_of(name.begin(), name.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
-}
-
-char foldedAscii(char c)
-{
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
-
-/// inListingOrder() for names of ASCII characters only; not strcasecmp(), which asks the locale.
-bool precedesInAscii(const RawEntry &a, const RawEntry &b)
-{
-    const auto [inA, inB] = std::mismatch(a.name.begin(), a.name.end(), b.name.begin(), b.name.end(),
-                                          [](char x, char y) { return foldedAscii(x) == foldedAscii(y); });
-    if (inA == a.name.end() || inB == b.name.end())
-        return a.name.size() != b.name.size() ? a.name.size() < b.name.size() : a.name < b.name;
-    return foldedAscii(*inA) < foldedAscii(*inB);
-}
-
 bool mayAccess(const QString &path, int mode)
 {
     const PathAt at(path);
     return faccessat(at.folder(), at.name(), mode, AT_EACCESS) == 0;
+}
+
+/// Only what is certain to be what has just been made, an empty folder of root's: in the user's folder the user may
+/// have put another in its place.
+void giveToOwnerAbove(const QString &path)
+{
+    const PathAt at(path);
+    const UniqueDescriptor folder(openat(at.folder(), at.name(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+    struct stat made;
+    struct stat above;
+    std::vector<RawEntry> entries;
+    if (!folder.isOpen() || fstat(folder.get(), &made) != 0 || made.st_uid != 0 || !readFolder(folder.get(), entries) ||
+        !entries.empty() || fstatat(folder.get(), "..", &above, 0) != 0 || above.st_uid == 0)
+        return;
+    static_cast<void>(fchown(folder.get(), above.st_uid, above.st_gid) == 0); // root can write in it all the same
 }
 
 } // namespace
@@ -66,10 +62,23 @@ FileKind kindOf(const QString &path)
     return statItem(path, info, AT_SYMLINK_NOFOLLOW) ? kindOfMode(info.st_mode) : FileKind::Missing;
 }
 
+bool isMissing(const QString &path)
+{
+    struct stat info;
+    return !statItem(path, info, AT_SYMLINK_NOFOLLOW) && (errno == ENOENT || errno == ENOTDIR);
+}
+
 bool targetExists(const QString &path)
 {
     struct stat info;
     return statItem(path, info, 0);
+}
+
+Result<bool> isThereForCertain(const QString &path)
+{
+    if (targetExists(path))
+        return true;
+    return errno == ENOENT || errno == ENOTDIR ? Result<bool>(false) : Result<bool>(Outcome::fromErrno(path));
 }
 
 bool leadsToFolder(const QString &path)
@@ -174,10 +183,10 @@ Result<QList<FolderEntry>> listFolder(const QString &path)
     std::vector<RawEntry> raw;
     if (!folder.isOpen() || !readFolder(folder.get(), raw))
         return Outcome::fromErrno(path);
-    // Nearly all folders hold plain ASCII names, whose order needs no Unicode: half the time for a large one.
+    // Nearly all folders hold plain ASCII names.
     const bool plain = std::all_of(raw.begin(), raw.end(), [](const RawEntry &entry) { return isAscii(entry.name); });
     if (plain)
-        std::sort(raw.begin(), raw.end(), precedesInAscii);
+        std::sort(raw.begin(), raw.end(), [](const auto &a, const auto &b) { return precedesInAscii(a.name, b.name); });
     QList<FolderEntry> entries;
     entries.reserve(static_cast<qsizetype>(raw.size()));
     for (const RawEntry &entry : raw)
@@ -188,7 +197,24 @@ Result<QList<FolderEntry>> listFolder(const QString &path)
 Outcome makeNewFolder(const QString &path)
 {
     const PathAt at(path);
-    return mkdirat(at.folder(), at.name(), 0777) == 0 ? Outcome() : Outcome::fromErrno(path);
+    if (mkdirat(at.folder(), at.name(), 0777) != 0)
+        return Outcome::fromErrno(path);
+    if (geteuid() == 0)
+        giveToOwnerAbove(path);
+    return {};
+}
+
+Outcome makeOwnFolder(const QString &path)
+{
+    const PathAt at(path);
+    if (mkdirat(at.folder(), at.name(), 0700) != 0 && errno != EEXIST)
+        return Outcome::fromErrno(path);
+    struct stat info;
+    if (fstatat(at.folder(), at.name(), &info, AT_SYMLINK_NOFOLLOW) != 0)
+        return Outcome::fromErrno(path);
+    if (!S_ISDIR(info.st_mode))
+        return Outcome::fromNumber(ENOTDIR, path);
+    return info.st_uid == geteuid() ? Outcome() : Outcome::fromNumber(EACCES, path);
 }
 
 Outcome makeFolders(const QString &path)

@@ -30,8 +30,13 @@ struct FileIdentity
 
 /** What stands at the path itself; Missing also when it cannot be reached. Never opens anything. */
 [[nodiscard]] FileKind kindOf(const QString &path);
+/** Nothing stands at the path itself. Unlike with kindOf(), what cannot be looked at is not missing. */
+[[nodiscard]] bool isMissing(const QString &path);
 /** Follows links: a link whose target is missing does not exist. */
 [[nodiscard]] bool targetExists(const QString &path);
+/** The same where "no" must be certain: a place that cannot be looked at, as on a server that does not answer, is a
+    failure. */
+[[nodiscard]] Result<bool> isThereForCertain(const QString &path);
 /** Follows links. */
 [[nodiscard]] bool leadsToFolder(const QString &path);
 /** Nothing when nothing stands there. A link is not followed. */
@@ -58,8 +63,12 @@ struct FileIdentity
 [[nodiscard]] Result<QList<FolderEntry>> listFolder(const QString &path);
 [[nodiscard]] QList<FolderEntry> inListingOrder(QList<FolderEntry> entries);
 
-/** With all missing parents. A folder that exists is success. */
+/** With all missing parents. A folder that exists is success. What the super-user makes in a user's folder is the
+    user's. */
 Outcome makeFolders(const QString &path);
+/** The user's own folder of mode 0700, made where it is missing; NeedsRights for one of somebody else's, NotAFolder for
+    one behind a link. */
+Outcome makeOwnFolder(const QString &path);
 /** The one folder, whose parent exists; fails with EEXIST when anything stands there. One atomic step. */
 Outcome makeNewFolder(const QString &path);
 /** The dates of the item itself become now; a link's own, never its target's. */

@@ -2,9 +2,11 @@
 
 #include "platform/base/NativePath.h"
 #include "platform/files/FileSystem.h"
-#include "platform/files/FolderReader.h"
+#include "platform/files/MoveAcross.h"
 #include "platform/files/PathAt.h"
-#include "platform/files/TreeCopy.h"
+#include "platform/plain/CopyMonitor.h"
+#include "platform/plain/FolderReader.h"
+#include "platform/plain/StartedThread.h"
 
 #include <algorithm>
 #include <atomic>
@@ -38,15 +40,19 @@ class TreeRemover
     }
 
 public:
-    explicit TreeRemover(Closed closed)
+    TreeRemover(Closed closed, CopyMonitor *monitor)
         : m_closed(closed)
+        , m_monitor(monitor)
     {
     }
 
     /// The path, below which failures are named, is built only for them.
     Outcome run(int parent, const char *name, bool folder, const QString &path)
     {
-        removeEntry(parent, name, folder, {});
+        if (folder)
+            emptyInStages(parent, name);
+        if (m_error == 0)
+            removeEntry(parent, name, folder, {}, 0);
         return m_error == 0 ? Outcome() : Outcome::fromNumber(m_error, joined(path, fromNative(m_failed)));
     }
 
@@ -64,8 +70,38 @@ private:
         return false;
     }
 
-    bool removeEntry(int parent, const char *name, bool folder, const std::string &below)
+    /// Deeper than this a folder comes up to the top first: each level holds a descriptor and a piece of the stack.
+    static constexpr int deepest = 500;
+
+    /// All below the top but what is still deep by then, until nothing is.
+    void emptyInStages(int parent, const char *name)
     {
+        m_top = openFolder(parent, name);
+        if (!m_top.isOpen()) // it is opened another way, or fails, in its turn
+            return;
+        std::string below;
+        removeBelow(m_top.get(), below, 0);
+        while (!m_broughtUp.empty() && m_error == 0) {
+            const std::string deep = std::move(m_broughtUp.back());
+            m_broughtUp.pop_back();
+            removeEntry(m_top.get(), deep.c_str(), true, deep, 1);
+        }
+    }
+
+    bool bringUp(int parent, const char *name)
+    {
+        const std::scoped_lock lock(m_mutex);
+        const std::string up = ".tessaro-deep-" + std::to_string(++m_numberUp);
+        if (renameat2(parent, name, m_top.get(), up.c_str(), RENAME_NOREPLACE) != 0)
+            return false;
+        m_broughtUp.push_back(up);
+        return true;
+    }
+
+    bool removeEntry(int parent, const char *name, bool folder, const std::string &below, int depth)
+    {
+        if (folder && depth > deepest && m_top.isOpen() && bringUp(parent, name))
+            return true;
         if (folder) {
             UniqueDescriptor opened = openFolder(parent, name);
             if (!opened.isOpen() && errno == EACCES && m_closed == Closed::IsOpened)
@@ -74,14 +110,19 @@ private:
                 fchmod(opened.get(), 0700); // one that can be read may still refuse to let go of what is in it
             if (!opened.isOpen() && errno != ENOENT)
                 return fail(errno, below);
-            if (opened.isOpen() && !removeBelow(opened.get(), below))
+            if (opened.isOpen() && !removeBelow(opened.get(), below, depth))
                 return false;
+        }
+        if (m_monitor) {
+            ++m_monitor->items;
+            if (m_monitor->cancelled)
+                return fail(ECANCELED, below);
         }
         const bool gone = unlinkat(parent, name, folder ? AT_REMOVEDIR : 0) == 0 || errno == ENOENT;
         return gone || fail(errno, below);
     }
 
-    bool removeBelow(int folder, const std::string &below)
+    bool removeBelow(int folder, const std::string &below, int depth)
     {
         std::vector<RawEntry> entries;
         if (!readFolder(folder, entries))
@@ -96,13 +137,13 @@ private:
                 if (!below.empty())
                     path += '/';
                 path += name;
-                removeEntry(folder, name.c_str(), entries[i].type == DT_DIR, path);
+                removeEntry(folder, name.c_str(), entries[i].type == DT_DIR, path, depth + 1);
             }
         };
         const auto shareable = static_cast<std::size_t>(entries.end() - folders);
         std::thread second;
         if (shareable >= worthSharing && !m_isShared.exchange(true))
-            second = std::thread(work);
+            second = startedThread(work);
         work();
         if (second.joinable()) {
             second.join();
@@ -112,19 +153,26 @@ private:
     }
 
     Closed m_closed;
+    CopyMonitor *m_monitor;
     std::atomic<bool> m_isShared = false;
-    std::mutex m_mutex;
+    UniqueDescriptor m_top;
+    std::mutex m_mutex; ///< for what follows
+    std::vector<std::string> m_broughtUp;
+    int m_numberUp = 0;
     std::atomic<int> m_error = 0;
     std::string m_failed;
 };
 
-Outcome removeItem(const QString &path, Closed closed)
+Outcome removeItem(const QString &path, Closed closed, CopyMonitor *monitor)
 {
     raiseDescriptorLimit();
+    if (isMissing(path))
+        return {};
     const FileKind kind = kindOf(path);
+    if (kind == FileKind::Missing)
+        return Outcome::fromErrno(path);
     const PathAt at(path);
-    return kind == FileKind::Missing ? Outcome()
-                                     : TreeRemover(closed).run(at.folder(), at.name(), kind == FileKind::Folder, path);
+    return TreeRemover(closed, monitor).run(at.folder(), at.name(), kind == FileKind::Folder, path);
 }
 
 /// The rename itself, refusing to overwrite. File systems without that flag get a look first.
@@ -192,17 +240,17 @@ struct Toucher
 
 } // namespace
 
-Outcome removeTree(const QString &path)
+Outcome removeTree(const QString &path, CopyMonitor *monitor)
 {
-    return removeItem(path, Closed::Fails);
+    return removeItem(path, Closed::Fails, monitor);
 }
 
 Outcome removeOwnTree(const QString &path)
 {
-    return removeItem(path, Closed::IsOpened);
+    return removeItem(path, Closed::IsOpened, nullptr);
 }
 
-Outcome moveItem(const QString &source, const QString &destination)
+Outcome moveItem(const QString &source, const QString &destination, CopyMonitor *monitor, Losses *losses)
 {
     const PathAt from(source);
     const PathAt to(destination);
@@ -212,8 +260,7 @@ Outcome moveItem(const QString &source, const QString &destination)
         return Outcome::failure(Cause::IntoItself, source);
     if (errno != EXDEV)
         return Outcome::fromErrno(errno == EEXIST || errno == ENAMETOOLONG ? destination : source);
-    const Outcome copied = copyItem(source, destination);
-    return copied.ok() ? removeTree(source) : copied;
+    return moveAcross(source, destination, monitor, losses);
 }
 
 Outcome replaceEmptyFolder(const QString &folder, const QString &empty)

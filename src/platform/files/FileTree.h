@@ -13,8 +13,16 @@
  */
 namespace platform {
 
-/** Never overwrites: fails with EEXIST when anything stands at the destination. Across file systems copies, removes. */
-Outcome moveItem(const QString &source, const QString &destination);
+class CopyMonitor;
+struct Losses;
+
+/**
+ * Never overwrites: fails with EEXIST when anything stands at the destination. Across file systems the item is copied,
+ * and the original is removed when the copy is whole and on disk; until then a failure leaves the original as it is.
+ * What the other drive could not take is noted.
+ */
+Outcome moveItem(const QString &source, const QString &destination, CopyMonitor *monitor = nullptr,
+                 Losses *losses = nullptr);
 /**
  * The folder takes the place of an empty one of the same file system, in one step: nobody sees anything between the
  * two. Cause::Exists when that one is not empty any more; both stay then, as after any failure.
@@ -22,8 +30,9 @@ Outcome moveItem(const QString &source, const QString &destination);
 Outcome replaceEmptyFolder(const QString &folder, const QString &empty);
 /** Cause::Exists when something is in it. */
 Outcome removeEmptyFolder(const QString &folder);
-/** The item, with everything below it. Links are removed, never followed. What is missing is success. */
-Outcome removeTree(const QString &path);
+/** The item, with everything below it. Links are removed, never followed. What is missing is success.
+    Cancelled, what is left stays. */
+Outcome removeTree(const QString &path, CopyMonitor *monitor = nullptr);
 /** The same for what this process has just made: folders that it has closed to itself again are opened first. */
 Outcome removeOwnTree(const QString &path);
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/base/UniqueDescriptor.h"
+#include "platform/plain/UniqueDescriptor.h"
 
 #include <QByteArray>
 #include <QString>

@@ -2,17 +2,19 @@
 
 #include "platform/base/LocalTime.h"
 #include "platform/base/NativePath.h"
-#include "platform/base/UniqueDescriptor.h"
 #include "platform/base/Users.h"
-#include "platform/base/WholeWrite.h"
 #include "platform/files/FileSystem.h"
+#include "platform/files/FileTree.h"
 #include "platform/files/PathAt.h"
+#include "platform/plain/UniqueDescriptor.h"
+#include "platform/plain/WholeWrite.h"
 
 #include <QUuid>
 #include <cerrno>
 #include <cstdio>
 #include <ctime>
 #include <fcntl.h>
+#include <functional>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -45,11 +47,14 @@ std::optional<Place> placeOf(const QString &path)
 }
 
 /// The highest folder above the item that a rename still reaches.
-QString topOf(const QString &folder, const Place &place)
+Result<QString> topOf(const QString &folder, const Place &place)
 {
     QString top = folder;
     for (QString above = parentPath(top); !above.isEmpty() && above != top; above = parentPath(top)) {
-        if (placeOf(above) != place)
+        const std::optional<Place> other = placeOf(above);
+        if (!other) // else there would be a Trash in the middle of the user's folders
+            return Outcome::fromErrno(above);
+        if (other != place)
             break;
         top = above;
     }
@@ -62,20 +67,6 @@ struct Trash
     QString folder;
     QString pathsBelow; ///< null: notes hold absolute paths
 };
-
-/// The user's own folder of mode 0700, made where it is missing; never one behind a link or of somebody else.
-Outcome makeOwnFolder(const QString &path)
-{
-    const PathAt at(path);
-    if (mkdirat(at.folder(), at.name(), 0700) != 0 && errno != EEXIST)
-        return Outcome::fromErrno(path);
-    struct stat info;
-    if (fstatat(at.folder(), at.name(), &info, AT_SYMLINK_NOFOLLOW) != 0)
-        return Outcome::fromErrno(path);
-    if (!S_ISDIR(info.st_mode))
-        return Outcome::fromNumber(ENOTDIR, path);
-    return info.st_uid == geteuid() ? Outcome() : Outcome::fromNumber(EACCES, path);
-}
 
 QString homeTrash()
 {
@@ -117,8 +108,14 @@ Result<Trash> trashFor(const QString &path)
     if (!place)
         return Outcome::fromErrno(folder);
     Result<Trash> home = homeTrashMade();
-    const bool isAtHome = home && placeOf(home->folder) == place;
-    Result<Trash> trash = isAtHome ? home : driveTrashMade(topOf(folder, *place));
+    const std::optional<Place> homePlace = home ? placeOf(home->folder) : std::nullopt;
+    if (home && !homePlace)
+        return Outcome::fromErrno(home->folder);
+    const bool isAtHome = homePlace == place;
+    const Result<QString> top = isAtHome ? Result<QString>(QString()) : topOf(folder, *place);
+    if (!top)
+        return top.outcome();
+    Result<Trash> trash = isAtHome ? home : driveTrashMade(*top);
     if (!trash)
         return trash;
     for (const char *part : {"files", "info"}) {
@@ -171,27 +168,53 @@ Outcome writeNote(const QString &path, const QByteArray &note)
     return failure;
 }
 
-Outcome moveUnder(const QByteArray &name, const QString &path, const Trash &trash)
+QString noteOf(const QString &inTrash)
 {
-    const QString note =
-        joined(joined(trash.folder, QStringLiteral("info")), fromNative(name + noteEnding.toByteArray()));
-    if (const Outcome written = writeNote(note, noteFor(path, trash.pathsBelow)); !written.ok())
-        return written;
+    return joined(joined(parentPath(parentPath(inTrash)), QStringLiteral("info")),
+                  lastComponent(inTrash) + QLatin1String(noteEnding.data(), noteEnding.size()));
+}
+
+/// Refuses to replace. File systems without that flag: the note's name, which was free, has claimed the item's as well.
+Outcome rename(const QString &path, const QString &inTrash)
+{
     const PathAt from(path);
-    const PathAt to(joined(joined(trash.folder, QStringLiteral("files")), fromNative(name)));
+    const PathAt to(inTrash);
     if (renameat2(from.folder(), from.name(), to.folder(), to.name(), RENAME_NOREPLACE) == 0)
         return {};
-    Outcome failure = Outcome::fromErrno(path);
-    // File systems without that flag: the note's name, which was free, has claimed the item's as well.
-    if (failure.is(Cause::NotSupported) &&
-        kindOf(joined(joined(trash.folder, QStringLiteral("files")), fromNative(name))) == FileKind::Missing) {
-        if (renameat(from.folder(), from.name(), to.folder(), to.name()) == 0)
-            return {};
-        failure = Outcome::fromErrno(path);
+    const Outcome failure = Outcome::fromErrno(path);
+    if (!failure.is(Cause::NotSupported) || kindOf(inTrash) != FileKind::Missing)
+        return failure;
+    return renameat(from.folder(), from.name(), to.folder(), to.name()) == 0 ? Outcome() : Outcome::fromErrno(path);
+}
+
+/// Finds the place and its note by trying; the step that takes the place may find it taken all the same.
+Result<QString> takePlace(const QString &path, const QString &knownAs,
+                          const std::function<Outcome(const QString &inTrash)> &take)
+{
+    const QString folder = realPath(parentPath(path)); // a link on the way may lead to another drive
+    const QString item = joined(folder, lastComponent(path));
+    const Result<Trash> trash = trashFor(item);
+    if (!trash)
+        return trash.outcome();
+    if (isInside(item, trash->folder) || item == trash->folder || isInside(trash->folder, item))
+        return Outcome::failure(Cause::NotSupported, path); // what lies in the Trash, or holds it, cannot go there
+    const QString known = knownAs.isNull() ? item : joined(realPath(parentPath(knownAs)), lastComponent(knownAs));
+    const QByteArray name = toNative(lastComponent(known));
+    Outcome taken;
+    for (int attempt = 1; attempt <= numberedNames; ++attempt) {
+        const QString inTrash =
+            joined(joined(trash->folder, QStringLiteral("files")), fromNative(nameInTrash(name, attempt)));
+        taken = writeNote(noteOf(inTrash), noteFor(known, trash->pathsBelow));
+        if (taken.ok()) {
+            taken = take(inTrash);
+            if (taken.ok())
+                return inTrash;
+            giveUpPlaceInTrash(inTrash);
+        }
+        if (!taken.is(Cause::Exists))
+            break;
     }
-    const PathAt noteAt(note);
-    unlinkat(noteAt.folder(), noteAt.name(), 0);
-    return failure;
+    return taken;
 }
 
 } // namespace
@@ -201,32 +224,33 @@ QString homeTrashFiles()
     return homeTrash() + QStringLiteral("/files");
 }
 
-Outcome moveToTrash(const QString &path)
+Outcome moveToTrash(const QString &path, QString *inTrash, const QString &knownAs)
 {
     if (kindOf(path) == FileKind::Missing)
         return Outcome::fromNumber(ENOENT, path);
-    const Result<Trash> trash = trashFor(path);
-    if (!trash)
-        return trash.outcome();
-    if (isInside(path, trash->folder) || path == trash->folder || isInside(trash->folder, path))
-        return Outcome::failure(Cause::NotSupported, path); // what lies in the Trash, or holds it, cannot go there
-    const QByteArray name = toNative(lastComponent(path));
-    Outcome moved;
-    for (int attempt = 1; attempt <= numberedNames; ++attempt) {
-        moved = moveUnder(nameInTrash(name, attempt), path, *trash);
-        if (!moved.is(Cause::Exists))
-            break;
-    }
-    return moved;
+    const Result<QString> place = takePlace(path, knownAs, [&](const QString &target) { return rename(path, target); });
+    if (place && inTrash)
+        *inTrash = *place;
+    return place.outcome();
 }
 
-Outcome noteInTrash(const QString &target, const QString &originalPath)
+Outcome putBackFromTrash(const QString &inTrash, const QString &path)
 {
-    const QString info = parentPath(parentPath(target)) + QStringLiteral("/info");
-    if (const Outcome made = makeFolders(info); !made.ok())
-        return made;
-    const QString note = joined(info, lastComponent(target) + QLatin1String(noteEnding.data(), noteEnding.size()));
-    return writeNote(note, noteFor(originalPath, {}));
+    const Outcome moved = moveItem(inTrash, path);
+    return moved.ok() ? removeTree(noteOf(inTrash)) : moved;
+}
+
+Result<QString> reserveInTrash(const QString &path, const QString &knownAs)
+{
+    return takePlace(path, knownAs, [](const QString &target) {
+        return kindOf(target) == FileKind::Missing ? Outcome() : Outcome::fromNumber(EEXIST, target);
+    });
+}
+
+void giveUpPlaceInTrash(const QString &inTrash)
+{
+    const PathAt note(noteOf(inTrash));
+    unlinkat(note.folder(), note.name(), 0);
 }
 
 } // namespace platform

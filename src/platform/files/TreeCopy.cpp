@@ -1,29 +1,28 @@
 #include "platform/files/TreeCopy.h"
 
 #include "platform/base/NativePath.h"
-#include "platform/files/FileCopy.h"
 #include "platform/files/FileSystem.h"
 #include "platform/files/FileTree.h"
-#include "platform/files/FolderReader.h"
+#include "platform/files/JobStack.h"
 #include "platform/files/PathAt.h"
+#include "platform/plain/FileCopy.h"
+#include "platform/plain/FolderReader.h"
 
 #include <algorithm>
-#include <atomic>
 #include <cerrno>
-#include <condition_variable>
 #include <dirent.h>
 #include <fcntl.h>
 #include <memory>
-#include <mutex>
 #include <sys/stat.h>
-#include <thread>
 #include <unistd.h>
 
 namespace platform {
 namespace {
 
 /// Files that one worker takes at a time, so that one large flat folder keeps both busy.
-constexpr std::size_t filesPerJob = 32;
+constexpr std::uint32_t filesPerJob = 32;
+/// So many items that failed, and there is no hope for the others.
+constexpr std::size_t mostFailures = 1000;
 
 /// A folder on its way: open on both sides for as long as a job below it still needs it.
 struct OpenFolder
@@ -33,144 +32,157 @@ struct OpenFolder
     struct stat info
     {
     };
-    std::string path; ///< below the source folder given by the caller; for messages
+    std::string path;            ///< below the source folder given by the caller; for messages
+    TreeFolder *contents = &own; ///< what is copied of it
+    TreeFolder own;              ///< where no tree was given, and it is read when its turn comes
+    std::uint32_t number = 0;    ///< in the tree given
+    std::size_t entry = 0;       ///< which of the caller's entries it belongs to
     std::atomic<int> unfinished{1};
-    bool keepMetadata = true; ///< false for the caller's own destination folder
 };
 using FolderPtr = std::shared_ptr<OpenFolder>;
 
-struct Entry
-{
-    std::string from;
-    std::string to;
-    unsigned char type;
-    std::size_t item; ///< index of the caller's entry that this one belongs to
-};
-
+/// Items of one folder from the first to before the last: exactly one folder, or files with folders between them that
+/// have jobs of their own.
 struct Job
 {
     FolderPtr folder;
-    std::vector<Entry> entries; ///< no folders, or exactly one folder
+    std::uint32_t first;
+    std::uint32_t last;
 };
 
 class TreeCopier
 {
 public:
-    TreeCopier(QString sourceFolder, QString destinationFolder, const std::vector<NamePair> &names,
-               CopyMonitor *monitor)
+    TreeCopier(QString sourceFolder, QString destinationFolder, CopyMonitor *monitor)
         : m_sourceFolder(std::move(sourceFolder))
         , m_destinationFolder(std::move(destinationFolder))
-        , m_names(names)
         , m_monitor(monitor)
-        , m_made(names.size())
-        , m_firstFailed(names.size())
     {
     }
 
-    CopyReport run();
+    CopyReport run(const std::vector<NamePair> &names);
+    TreeCopyReport run(Tree &tree);
 
 private:
-    [[nodiscard]] Outcome openRoot(const FolderPtr &root);
-    [[nodiscard]] std::vector<Entry> rootEntries(const FolderPtr &root);
-    [[nodiscard]] bool wouldCopyIntoItself(const FolderPtr &root, const Entry &entry) const;
-    void work();
-    void perform(Job job);
-    void copyFiles(const FolderPtr &folder, const std::vector<Entry> &entries);
-    void descend(const FolderPtr &parent, const Entry &entry);
-    void distribute(const FolderPtr &folder, std::vector<Entry> entries);
-    void finish(const FolderPtr &folder, std::size_t item);
-    void push(Job job);
-    void fail(std::size_t item, const Outcome &outcome);
-    [[nodiscard]] Outcome failureAt(int error, const std::string &path) const;
-    [[nodiscard]] bool isPointless(std::size_t item) const { return item >= m_firstFailed.load(); }
-    void note(const EntryResult &result, const OpenFolder &folder, const Entry &entry);
+    [[nodiscard]] Outcome openRoot();
+    void takeEntries(const std::vector<NamePair> &names);
+    void workOff();
+    [[nodiscard]] bool wouldCopyIntoItself(const char *entry) const;
+    void perform(const Job &job);
+    void copyFiles(const OpenFolder &folder, std::uint32_t first, std::uint32_t last);
+    void descend(const FolderPtr &parent, std::uint32_t item);
+    void distribute(const FolderPtr &folder);
+    [[nodiscard]] bool makeFolder(const OpenFolder &parent, std::uint32_t item);
+    void finish(const FolderPtr &folder);
+    void fail(const OpenFolder &folder, std::uint32_t item, int error);
+    void fail(std::size_t entry, const Outcome &outcome);
+    void failInTree(std::uint32_t folder, std::uint32_t item, const Outcome &outcome);
+    [[nodiscard]] bool isPointless(const OpenFolder &folder, std::uint32_t item) const;
+    [[nodiscard]] std::size_t entryOf(const OpenFolder &folder, std::uint32_t item) const;
+    [[nodiscard]] QString pathOf(const OpenFolder &folder, std::uint32_t item) const;
+    void note(const EntryResult &result, const OpenFolder &folder, std::uint32_t item);
+    void noteLosses(unsigned lost, const QString &path);
     void removeWhatFailed();
 
     const QString m_sourceFolder;
     const QString m_destinationFolder;
-    const std::vector<NamePair> &m_names;
-    CopyMonitor *const m_monitor;          ///< null when nobody watches
-    std::vector<std::atomic<char>> m_made; ///< per caller's entry: this call made something under its name
-    std::atomic<std::size_t> m_firstFailed;
+    CopyMonitor *const m_monitor; ///< null when nobody watches
+    Tree *m_tree = nullptr;       ///< null: the entries, each read when its turn comes
+    Manner m_manner = Manner::Exact;
+    PlaceRights m_rights;
+    FolderPtr m_root = std::make_shared<OpenFolder>();
+    JobStack<Job> m_jobs;
 
-    std::mutex m_mutex;
-    std::condition_variable m_changed;
-    std::vector<Job> m_jobs; ///< a stack: depth first, which bounds the open folders
-    int m_busy = 0;
-    CopyReport m_report;
+    std::vector<std::atomic<char>> m_made;      ///< per caller's entry: this call made something under its name
+    std::atomic<std::size_t> m_firstFailed = 0; ///< of the caller's entries
+    std::atomic<bool> m_isOver = false;         ///< of a tree
+    std::mutex m_mutex;                         ///< for what follows
+    Outcome m_outcome;
+    Losses m_losses;
+    std::vector<TreeFailure> m_failures;
 };
 
-std::string below(const std::string &path, const std::string &name)
+std::string below(const std::string &path, const char *name)
 {
-    return path.empty() ? name : path + '/' + name;
+    return path.empty() ? std::string(name) : path + '/' + name;
 }
 
-CopyReport TreeCopier::run()
+CopyReport TreeCopier::run(const std::vector<NamePair> &names)
+{
+    m_made = std::vector<std::atomic<char>>(names.size());
+    m_firstFailed = names.size();
+    m_outcome = openRoot();
+    if (!m_outcome.ok())
+        return {0, m_outcome, {}};
+    takeEntries(names);
+    workOff();
+    removeWhatFailed();
+    return {m_firstFailed, m_outcome, m_losses};
+}
+
+TreeCopyReport TreeCopier::run(Tree &tree)
+{
+    m_tree = &tree;
+    m_manner = Manner::Fresh;
+    m_root->contents = &tree.folders.front();
+    m_outcome = openRoot();
+    if (!m_outcome.ok())
+        return {{}, m_outcome, {}};
+    m_rights = placeRightsOf(openFolder(m_root->destination.get(), ".").get());
+    workOff();
+    return {std::move(m_failures), m_outcome, m_losses};
+}
+
+void TreeCopier::workOff()
 {
     raiseDescriptorLimit();
-    const auto root = std::make_shared<OpenFolder>();
-    m_report.outcome = openRoot(root);
-    if (!m_report.outcome.ok())
-        return m_report;
-    root->keepMetadata = false;
-    distribute(root, rootEntries(root));
-    finish(root, 0);
-    {
-        // A copy of one small file is over sooner than a thread is started.
-        const bool worthASecond = m_jobs.size() > 1 || (m_jobs.size() == 1 && m_jobs[0].entries[0].type == DT_DIR);
-        std::thread second;
-        if (worthASecond)
-            second = std::thread([this] { work(); });
-        work();
-        if (second.joinable())
-            second.join();
-    }
-    m_report.copied = m_firstFailed;
-    removeWhatFailed();
-    return m_report;
+    distribute(m_root);
+    // A copy of one small file is over sooner than a thread is started.
+    const std::vector<Job> &jobs = m_jobs.waiting();
+    const bool worthASecond =
+        jobs.size() > 1 || (jobs.size() == 1 && m_root->contents->items[jobs[0].first].type == DT_DIR);
+    m_jobs.workOff([this](const Job &job) { perform(job); }, worthASecond ? Workers::Two : Workers::One);
 }
 
-Outcome TreeCopier::openRoot(const FolderPtr &root)
+Outcome TreeCopier::openRoot()
 {
     // The caller's two folders may themselves be reached through links; only what lies below is never followed.
     const PathAt from(m_sourceFolder);
-    root->source.reset(openat(from.folder(), from.name(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    if (!root->source.isOpen()) // a folder that may be entered but not listed still gives its named entries
-        root->source.reset(openat(from.folder(), from.name(), O_PATH | O_DIRECTORY | O_CLOEXEC));
-    if (!root->source.isOpen())
+    m_root->source.reset(openat(from.folder(), from.name(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (!m_root->source.isOpen()) // a folder that may be entered but not listed still gives its named entries
+        m_root->source.reset(openat(from.folder(), from.name(), O_PATH | O_DIRECTORY | O_CLOEXEC));
+    if (!m_root->source.isOpen())
         return Outcome::fromErrno(m_sourceFolder);
     const PathAt to(m_destinationFolder);
-    root->destination.reset(openat(to.folder(), to.name(), O_PATH | O_DIRECTORY | O_CLOEXEC));
-    return root->destination.isOpen() ? Outcome() : Outcome::fromErrno(m_destinationFolder);
+    m_root->destination.reset(openat(to.folder(), to.name(), O_PATH | O_DIRECTORY | O_CLOEXEC));
+    return m_root->destination.isOpen() ? Outcome() : Outcome::fromErrno(m_destinationFolder);
 }
 
-std::vector<Entry> TreeCopier::rootEntries(const FolderPtr &root)
+void TreeCopier::takeEntries(const std::vector<NamePair> &names)
 {
-    std::vector<Entry> entries;
-    entries.reserve(m_names.size());
-    for (std::size_t i = 0; i < m_names.size(); ++i) {
+    TreeFolder &root = m_root->own;
+    for (const NamePair &name : names) {
         struct stat info;
-        Entry entry{m_names[i].from.toStdString(), m_names[i].to.toStdString(), DT_UNKNOWN, i};
-        if (fstatat(root->source.get(), entry.from.c_str(), &info, AT_SYMLINK_NOFOLLOW) != 0) {
-            fail(i, failureAt(errno, entry.from));
-            break;
-        }
-        entry.type = static_cast<unsigned char>(IFTODT(info.st_mode));
-        if (entry.type == DT_DIR && wouldCopyIntoItself(root, entry)) {
-            fail(i, Outcome::failure(Cause::IntoItself, joined(m_sourceFolder, fromNative(entry.from))));
-            break;
-        }
-        entries.push_back(std::move(entry));
+        const bool isThere = fstatat(m_root->source.get(), name.from.constData(), &info, AT_SYMLINK_NOFOLLOW) == 0;
+        const int error = isThere ? 0 : errno;
+        root.add(name.from.constData(),
+                 static_cast<unsigned char>(isThere ? IFTODT(info.st_mode) : mode_t{DT_UNKNOWN}));
+        const auto item = static_cast<std::uint32_t>(root.items.size() - 1);
+        if (name.to != name.from)
+            root.rename(root.items[item], {name.to.constData(), static_cast<std::size_t>(name.to.size())});
+        if (!isThere)
+            return fail(*m_root, item, error);
+        if (root.items[item].type == DT_DIR && wouldCopyIntoItself(name.from.constData()))
+            return fail(item, Outcome::failure(Cause::IntoItself, pathOf(*m_root, item)));
     }
-    return entries;
 }
 
-bool TreeCopier::wouldCopyIntoItself(const FolderPtr &root, const Entry &entry) const
+bool TreeCopier::wouldCopyIntoItself(const char *entry) const
 {
     struct stat source;
-    if (fstatat(root->source.get(), entry.from.c_str(), &source, AT_SYMLINK_NOFOLLOW) != 0)
+    if (fstatat(m_root->source.get(), entry, &source, AT_SYMLINK_NOFOLLOW) != 0)
         return false;
-    UniqueDescriptor ancestor(openat(root->destination.get(), ".", O_PATH | O_DIRECTORY | O_CLOEXEC));
+    UniqueDescriptor ancestor(openat(m_root->destination.get(), ".", O_PATH | O_DIRECTORY | O_CLOEXEC));
     struct stat previous
     {
     };
@@ -184,148 +196,207 @@ bool TreeCopier::wouldCopyIntoItself(const FolderPtr &root, const Entry &entry) 
     return false;
 }
 
-void TreeCopier::push(Job job)
+void TreeCopier::perform(const Job &job)
 {
-    const std::scoped_lock lock(m_mutex);
-    m_jobs.push_back(std::move(job));
-    m_changed.notify_one();
+    const bool isFolder = job.last == job.first + 1 && job.folder->contents->items[job.first].type == DT_DIR;
+    if (!isFolder)
+        copyFiles(*job.folder, job.first, job.last);
+    else if (!isPointless(*job.folder, job.first))
+        descend(job.folder, job.first);
+    finish(job.folder);
 }
 
-void TreeCopier::work()
+void TreeCopier::copyFiles(const OpenFolder &folder, std::uint32_t first, std::uint32_t last)
 {
-    std::unique_lock lock(m_mutex);
-    for (;;) {
-        m_changed.wait(lock, [this] { return !m_jobs.empty() || m_busy == 0; });
-        if (m_jobs.empty())
+    const TreeFolder &contents = *folder.contents;
+    for (std::uint32_t i = first; i < last; ++i) {
+        const TreeItem &item = contents.items[i];
+        if (item.type == DT_DIR)
+            continue;
+        if (isPointless(folder, i))
             return;
-        Job job = std::move(m_jobs.back());
-        m_jobs.pop_back();
-        ++m_busy;
-        lock.unlock();
-        perform(std::move(job));
-        lock.lock();
-        if (--m_busy == 0)
-            m_changed.notify_all();
+        note(copyEntry({folder.source.get(), contents.nameOf(item), folder.destination.get(), contents.newNameOf(item),
+                        item.type, m_manner, m_monitor}),
+             folder, i);
     }
 }
 
-void TreeCopier::perform(Job job)
-{
-    if (job.entries[0].type == DT_DIR) {
-        if (!isPointless(job.entries[0].item))
-            descend(job.folder, job.entries[0]);
-        return;
-    }
-    copyFiles(job.folder, job.entries);
-    finish(job.folder, job.entries[0].item);
-}
-
-void TreeCopier::copyFiles(const FolderPtr &folder, const std::vector<Entry> &entries)
-{
-    for (const Entry &entry : entries) {
-        if (isPointless(entry.item))
-            return;
-        note(copyEntry(folder->source.get(), entry.from.c_str(), folder->destination.get(), entry.to.c_str(),
-                       entry.type, m_monitor),
-             *folder, entry);
-    }
-}
-
-/// Makes the folders among the entries, then hands out one job for each of them and one for each batch of files. The
+/// Makes the folders among the items, then hands out one job for each of them and one for each batch of files. The
 /// folders are all made before the jobs run, so that nothing changes the parent's own dates after finish().
-void TreeCopier::distribute(const FolderPtr &folder, std::vector<Entry> entries)
+void TreeCopier::distribute(const FolderPtr &folder)
 {
+    TreeFolder &contents = *folder->contents;
+    if (m_tree)
+        contents.made.resize(contents.items.size());
+    const auto count = static_cast<std::uint32_t>(contents.items.size());
     std::vector<Job> jobs;
-    std::vector<Entry> batch;
-    const auto handOutBatch = [&] {
-        if (batch.empty())
-            return;
-        ++folder->unfinished;
-        jobs.push_back({folder, std::exchange(batch, {})});
+    std::uint32_t first = 0;
+    std::uint32_t files = 0;
+    const auto handOutBatch = [&](std::uint32_t last) {
+        if (files > 0)
+            jobs.push_back({folder, first, last});
+        first = last;
+        files = 0;
     };
-    for (Entry &entry : entries) {
-        if (isPointless(entry.item))
+    for (std::uint32_t i = 0; i < count; ++i) {
+        if (isPointless(*folder, i)) {
+            handOutBatch(i);
             break;
-        if (entry.type != DT_DIR) {
-            batch.push_back(std::move(entry));
-            if (batch.size() == filesPerJob)
-                handOutBatch();
-        } else {
-            const bool made = mkdirat(folder->destination.get(), entry.to.c_str(), 0700) == 0;
-            note({made ? 0 : errno, made, false}, *folder, entry);
-            if (made)
-                jobs.push_back({folder, {std::move(entry)}});
+        }
+        if (contents.items[i].type == DT_DIR) {
+            if (makeFolder(*folder, i))
+                jobs.push_back({folder, i, i + 1});
+        } else if (++files == filesPerJob) {
+            handOutBatch(i + 1);
         }
     }
-    handOutBatch();
+    handOutBatch(count);
+    folder->unfinished += static_cast<int>(jobs.size());
     // Last in, first out: handed over backwards, the jobs are begun in the order of the entries.
-    std::for_each(jobs.rbegin(), jobs.rend(), [this](Job &job) { push(std::move(job)); });
+    std::for_each(jobs.rbegin(), jobs.rend(), [this](Job &job) { m_jobs.push(std::move(job)); });
+    finish(folder);
 }
 
-void TreeCopier::descend(const FolderPtr &parent, const Entry &entry)
+/// False where it could not be made, or is not to be: a folder that was not to be read is not made as an empty one.
+bool TreeCopier::makeFolder(const OpenFolder &parent, std::uint32_t item)
+{
+    const TreeItem &made = parent.contents->items[item];
+    if (m_tree && m_tree->folders[made.folder].error != 0)
+        return false;
+    const bool isMade = mkdirat(parent.destination.get(), parent.contents->newNameOf(made), 0700) == 0;
+    note({isMade ? 0 : errno, isMade}, parent, item);
+    return isMade;
+}
+
+void TreeCopier::descend(const FolderPtr &parent, std::uint32_t item)
 {
     const auto folder = std::make_shared<OpenFolder>();
-    folder->path = below(parent->path, entry.from);
-    folder->source = openFolder(parent->source.get(), entry.from.c_str());
-    if (!folder->source.isOpen() || fstat(folder->source.get(), &folder->info) != 0)
-        return fail(entry.item, failureAt(errno, folder->path));
-    folder->destination = openFolder(parent->destination.get(), entry.to.c_str());
-    std::vector<RawEntry> raw;
-    if (!folder->destination.isOpen() || !readFolder(folder->source.get(), raw))
-        return fail(entry.item, failureAt(errno, folder->path));
-    std::vector<Entry> entries;
-    entries.reserve(raw.size());
-    for (RawEntry &found : raw)
-        entries.push_back({found.name, std::move(found.name), found.type, entry.item});
-    distribute(folder, std::move(entries));
-    finish(folder, entry.item);
+    const TreeFolder &above = *parent->contents;
+    const char *name = above.nameOf(above.items[item]);
+    const char *newName = above.newNameOf(above.items[item]);
+    folder->path = below(parent->path, name);
+    folder->entry = entryOf(*parent, item);
+    folder->number = above.items[item].folder;
+    if (m_tree)
+        folder->contents = &m_tree->folders[folder->number];
+    folder->source = openFolder(parent->source.get(), name);
+    if (folder->source.isOpen() && fstat(folder->source.get(), &folder->info) == 0)
+        folder->destination = openFolder(parent->destination.get(), newName);
+    const bool isRead = folder->destination.isOpen() &&
+                        (m_tree || readFolder(folder->source.get(), [&](const char *found, unsigned char type) {
+                             folder->own.add(found, type);
+                         }));
+    if (!isRead) {
+        const int error = errno;
+        if (m_tree) // it is as empty as it was made
+            unlinkat(parent->destination.get(), newName, AT_REMOVEDIR);
+        return fail(*parent, item, error);
+    }
+    if (m_monitor)
+        m_monitor->enter(name);
+    distribute(folder);
 }
 
-void TreeCopier::finish(const FolderPtr &folder, std::size_t item)
+/// One of the folder's jobs is done. With the last of them it gets its mode and its dates: all in it is made by then,
+/// and the folders in it are open.
+void TreeCopier::finish(const FolderPtr &folder)
 {
-    if (--folder->unfinished > 0 || !folder->keepMetadata || isPointless(item))
+    if (--folder->unfinished > 0 || folder == m_root || isPointless(*folder, 0))
         return;
-    const EntryResult result = copyMetadata(folder->source.get(), folder->destination.get(), folder->info, false);
-    note(result, *folder, {"", "", DT_DIR, item});
+    const EntryResult result =
+        finishFolder(folder->source.get(), folder->destination.get(), folder->info, m_manner, m_rights);
+    const QString path =
+        result.error != 0 || result.lost != LostNothing ? joined(m_sourceFolder, fromNative(folder->path)) : QString();
+    noteLosses(result.lost, path);
+    const Outcome failure = Outcome::fromNumber(result.error, path);
+    if (m_tree)
+        m_tree->folders[folder->contents->parent].made[folder->contents->itemInOwn] = result.made;
+    if (!failure.ok())
+        m_tree ? failInTree(folder->contents->parent, folder->contents->itemInOwn, failure)
+               : fail(folder->entry, failure);
 }
 
-void TreeCopier::note(const EntryResult &result, const OpenFolder &folder, const Entry &entry)
+std::size_t TreeCopier::entryOf(const OpenFolder &folder, std::uint32_t item) const
 {
-    if (result.made)
-        m_made[entry.item] = 1;
+    return &folder == m_root.get() ? item : folder.entry;
+}
+
+bool TreeCopier::isPointless(const OpenFolder &folder, std::uint32_t item) const
+{
+    return m_tree ? m_isOver.load() : entryOf(folder, item) >= m_firstFailed;
+}
+
+QString TreeCopier::pathOf(const OpenFolder &folder, std::uint32_t item) const
+{
+    const TreeFolder &contents = *folder.contents;
+    return joined(m_sourceFolder, fromNative(below(folder.path, contents.nameOf(contents.items[item]))));
+}
+
+void TreeCopier::note(const EntryResult &result, const OpenFolder &folder, std::uint32_t item)
+{
+    if (result.isMade && !m_tree)
+        m_made[entryOf(folder, item)] = 1;
+    if (m_tree)
+        folder.contents->made[item] = result.made;
+    if (result.error != 0 && result.isMade && m_tree)
+        unlinkat(folder.destination.get(), folder.contents->newNameOf(folder.contents->items[item]), 0);
     if (m_monitor && m_monitor->cancelled && result.error == 0)
-        return fail(entry.item, failureAt(ECANCELED, below(folder.path, entry.from)));
-    if (m_monitor && !entry.from.empty()) // with no name it is a folder's metadata, and the folder has been counted
+        return fail(folder, item, ECANCELED);
+    if (m_monitor)
         ++m_monitor->items;
-    const std::string path =
-        result.error != 0 || result.attributesLost ? below(folder.path, entry.from) : std::string();
     if (result.error != 0)
-        return fail(entry.item, failureAt(result.error, path));
-    const std::scoped_lock lock(m_mutex);
-    if (result.attributesLost && m_report.attributesLost.isNull())
-        m_report.attributesLost = joined(m_sourceFolder, fromNative(path));
+        return fail(folder, item, result.error);
+    noteLosses(result.lost, result.lost ? pathOf(folder, item) : QString());
 }
 
-Outcome TreeCopier::failureAt(int error, const std::string &path) const
+void TreeCopier::noteLosses(unsigned lost, const QString &path)
 {
-    return Outcome::fromNumber(error, joined(m_sourceFolder, fromNative(path)));
-}
-
-void TreeCopier::fail(std::size_t item, const Outcome &outcome)
-{
-    const std::scoped_lock lock(m_mutex);
-    if (item > m_firstFailed || (item == m_firstFailed && !m_report.outcome.ok()))
+    if (lost == LostNothing)
         return;
-    m_firstFailed = item;
-    m_report.outcome = outcome;
+    const std::scoped_lock lock(m_mutex);
+    for (const auto &[loss, first] : {std::pair(LostLabels, &m_losses.labels),
+                                      {LostMode, &m_losses.modes},
+                                      {LostOwner, &m_losses.owners},
+                                      {LostDates, &m_losses.dates}}) {
+        if ((lost & loss) != 0 && first->isNull())
+            *first = path;
+    }
+}
+
+void TreeCopier::fail(const OpenFolder &folder, std::uint32_t item, int error)
+{
+    const Outcome outcome = Outcome::fromNumber(error, pathOf(folder, item));
+    m_tree ? failInTree(folder.number, item, outcome) : fail(entryOf(folder, item), outcome);
+}
+
+void TreeCopier::fail(std::size_t entry, const Outcome &outcome)
+{
+    const std::scoped_lock lock(m_mutex);
+    if (entry > m_firstFailed || (entry == m_firstFailed && !m_outcome.ok()))
+        return;
+    m_firstFailed = entry;
+    m_outcome = outcome;
+}
+
+void TreeCopier::failInTree(std::uint32_t folder, std::uint32_t item, const Outcome &outcome)
+{
+    const bool concernsAll = outcome.is(Cause::Cancelled) || outcome.is(Cause::NoSpace) || outcome.is(Cause::ReadOnly);
+    m_tree->folders[folder].made[item] = {};
+    const std::scoped_lock lock(m_mutex);
+    if (!concernsAll)
+        m_failures.push_back({folder, item, outcome});
+    if (m_outcome.ok() && (concernsAll || m_failures.size() >= mostFailures))
+        m_outcome = outcome;
+    m_isOver = m_isOver || !m_outcome.ok();
 }
 
 void TreeCopier::removeWhatFailed()
 {
-    for (std::size_t i = m_firstFailed; i < m_names.size(); ++i) {
+    for (std::size_t i = m_firstFailed; i < m_made.size(); ++i) {
         if (m_made[i] == 0)
             continue;
-        const Outcome removed = removeOwnTree(joined(m_destinationFolder, fromNative(m_names[i].to)));
+        const TreeFolder &root = m_root->own;
+        const Outcome removed = removeOwnTree(joined(m_destinationFolder, fromNative(root.newNameOf(root.items[i]))));
         static_cast<void>(removed); // on a drive that has vanished there is nothing left to remove; the failure is told
     }
 }
@@ -335,17 +406,22 @@ void TreeCopier::removeWhatFailed()
 CopyReport copyEntries(const QString &sourceFolder, const QString &destinationFolder,
                        const std::vector<NamePair> &entries, CopyMonitor *monitor)
 {
-    return TreeCopier(sourceFolder, destinationFolder, entries, monitor).run();
+    return TreeCopier(sourceFolder, destinationFolder, monitor).run(entries);
 }
 
-Outcome copyItem(const QString &source, const QString &destination, QString *attributesLost, CopyMonitor *monitor)
+Outcome copyItem(const QString &source, const QString &destination, Losses *losses, CopyMonitor *monitor)
 {
     const std::vector<NamePair> one{{toNative(lastComponent(source)), toNative(lastComponent(destination))}};
     const CopyReport report = copyEntries(parentPath(source), parentPath(destination), one, monitor);
-    if (attributesLost)
-        *attributesLost = report.attributesLost;
+    if (losses)
+        *losses = report.losses;
     const bool isTaken = report.outcome.is(Cause::Exists) && report.outcome.item() == source;
     return isTaken ? Outcome::fromNumber(EEXIST, destination) : report.outcome;
+}
+
+TreeCopyReport copyTree(const QString &sourceFolder, const QString &destinationFolder, Tree &tree, CopyMonitor *monitor)
+{
+    return TreeCopier(sourceFolder, destinationFolder, monitor).run(tree);
 }
 
 } // namespace platform

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/base/Outcome.h"
+#include "platform/files/Tree.h"
 
 #include <QString>
 #include <cstddef>
@@ -18,7 +19,16 @@
  */
 namespace platform {
 
-struct CopyMonitor;
+class CopyMonitor;
+
+/** What a drive could not take, each named by the first item that lost it; null where nothing was lost. */
+struct Losses
+{
+    QString labels; ///< extended attributes, label colours among them
+    QString modes;
+    QString owners;
+    QString dates;
+};
 
 struct NamePair
 {
@@ -31,9 +41,7 @@ struct CopyReport
     /// How many entries, from the first on, are complete at the destination. All of them when the outcome is good.
     std::size_t copied = 0;
     Outcome outcome;
-    /// The first item whose extended attributes (label colours among them) the destination could not take; null if
-    /// none.
-    QString attributesLost;
+    Losses losses;
 };
 
 /**
@@ -45,7 +53,31 @@ struct CopyReport
                                      const std::vector<NamePair> &entries, CopyMonitor *monitor = nullptr);
 
 /** One item, to exactly the destination path. On failure nothing is left there that this call has made. */
-Outcome copyItem(const QString &source, const QString &destination, QString *attributesLost = nullptr,
+Outcome copyItem(const QString &source, const QString &destination, Losses *losses = nullptr,
                  CopyMonitor *monitor = nullptr);
+
+/** An item of a tree that was not copied, with all below it. */
+struct TreeFailure
+{
+    std::uint32_t folder = 0; ///< its folder's number
+    std::uint32_t item = 0;
+    Outcome outcome; ///< the item is the one in the source
+};
+
+struct TreeCopyReport
+{
+    std::vector<TreeFailure> failures; ///< in no order; nothing of these items is left at the destination
+    Outcome ended;                     ///< what made going on pointless: it was cancelled, or the disk is full
+    Losses losses;
+};
+
+/**
+ * Copies a tree that was read from the folder into an existing one, each item at once under its new name, with the
+ * present as its date and with what the place hands on to new folders. What fails is noted, and the rest goes on;
+ * folders that could not be read are left out, and are no failures here. What was made is noted in the tree. The tree
+ * is this call's own until it returns.
+ */
+[[nodiscard]] TreeCopyReport copyTree(const QString &sourceFolder, const QString &destinationFolder, Tree &tree,
+                                      CopyMonitor *monitor);
 
 } // namespace platform

@@ -1,11 +1,13 @@
 #include "platform/files/UserDefaults.h"
 
 #include "platform/base/NativePath.h"
+#include "platform/base/PropertyList.h"
 #include "platform/files/FileLock.h"
 #include "platform/files/FileSystem.h"
 #include "platform/files/FileTree.h"
 #include "platform/files/WholeFile.h"
 
+#include <QCoreApplication>
 #include <cerrno>
 #include <chrono>
 #include <optional>
@@ -13,6 +15,11 @@
 
 namespace platform {
 namespace {
+
+struct Text
+{
+    Q_DECLARE_TR_FUNCTIONS(UserDefaults)
+};
 
 constexpr std::chrono::seconds lockPatience{10};
 
@@ -86,9 +93,23 @@ void UserDefaults::refresh(Domain &domain) const
     }
 }
 
+void UserDefaults::letMachineDecide(const QStringList &keys)
+{
+    const std::scoped_lock lock(m_mutex);
+    m_machineDecides = keys;
+}
+
+bool UserDefaults::isSetForMachine(const QString &key) const
+{
+    const std::scoped_lock lock(m_mutex);
+    refresh(m_machine);
+    return m_machine.values.contains(key);
+}
+
 QVariant UserDefaults::lookUp(const QString &key) const
 {
-    for (Domain *domain : {&m_user, &m_machine}) {
+    const bool machineFirst = m_machineDecides.contains(key);
+    for (Domain *domain : {machineFirst ? &m_machine : &m_user, machineFirst ? &m_user : &m_machine}) {
         refresh(*domain);
         if (const auto found = domain->values.constFind(key); found != domain->values.cend())
             return *found;
@@ -168,10 +189,14 @@ Outcome UserDefaults::store(Domain &domain, const QString &key, const Change &ch
         return value.outcome();
     if (holds(domain, key, *value))
         return {};
+    const QByteArray before = writePropertyList(domain.values);
     if (value->isValid())
         domain.values.insert(key, *value);
     else
         domain.values.remove(key);
+    // Numbers of another type are the same in the file; writing costs some milliseconds until the disk has it.
+    if (domain.problem.ok() && !before.isEmpty() && writePropertyList(domain.values) == before)
+        return {};
     const Outcome written = !folderMade.ok()       ? folderMade
                             : !domain.problem.ok() ? domain.problem
                                                    : writePropertyListFile(domain.file, domain.values);
@@ -206,9 +231,15 @@ Outcome UserDefaults::setMachineWideValue(const QString &key, const QVariant &va
     const std::scoped_lock lock(m_mutex);
     refresh(m_machine);
     const QVariantMap before = m_machine.values;
-    if (holds(m_machine, key, value) || store(m_machine, key, [&](const QVariant &) { return value; }).ok())
-        return {};
+    const Outcome stored =
+        holds(m_machine, key, value) ? Outcome() : store(m_machine, key, [&](const QVariant &) { return value; });
+    if (stored.ok()) // a value of the user's own would come back with the machine's gone
+        return m_machineDecides.contains(key) ? removeValue(key) : stored;
     m_machine.values = before;
+    if (before.contains(key))
+        return Outcome::failure(stored.cause(), stored.item(),
+                                Text::tr("It is set for every user of this computer, and only an administrator can "
+                                         "change it, with sudo Tessaro settings."));
     m_onProblem(QStringLiteral("Unable to write machine-wide settings; keeping %1 for this user").arg(key));
     return setValue(key, value);
 }

@@ -9,7 +9,8 @@
 namespace platform {
 
 /**
- * The settings: looked up in the user's domain, then the machine-wide domain, then the registered defaults.
+ * The settings: looked up in the user's domain, then the machine-wide domain, then the registered defaults. Keys that
+ * hold for every user of the machine are looked up in the machine-wide domain first.
  *
  * The two domains are property-list files. A reading sees what another running program has written since. A writing
  * re-reads the file under a lock, changes the one key and replaces the file in one step, so that two programs lose
@@ -28,6 +29,10 @@ public:
     UserDefaults &operator=(const UserDefaults &) = delete;
 
     void registerDefaults(const QVariantMap &defaults);
+    /** Keys whose machine-wide value, where there is one, counts for everybody. */
+    void letMachineDecide(const QStringList &keys);
+    /** Whether the machine-wide domain holds the key. */
+    [[nodiscard]] bool isSetForMachine(const QString &key) const;
 
     /** An invalid variant when the key is in no domain. */
     [[nodiscard]] QVariant value(const QString &key) const;
@@ -50,7 +55,9 @@ public:
     Outcome changeValue(const QString &key, const Change &change);
     /** What the machine-wide domain or the registered defaults hold shows again. */
     Outcome removeValue(const QString &key);
-    /** Into the machine-wide domain; into the user's when this process may not write that one. */
+    /** Into the machine-wide domain, and away from the user's; into the user's when this process may not write that
+       one, unless a value stands there, which would count all the same: its failure then. An invalid value removes it.
+     */
     Outcome setMachineWideValue(const QString &key, const QVariant &value);
 
 private:
@@ -70,6 +77,7 @@ private:
     mutable Domain m_user;
     mutable Domain m_machine;
     QVariantMap m_registered;
+    QStringList m_machineDecides;
     ProblemHandler m_onProblem;
 };
 

@@ -2,10 +2,10 @@
 
 #include "platform/base/NativePath.h"
 #include "platform/base/PropertyList.h"
-#include "platform/base/UniqueDescriptor.h"
-#include "platform/base/WholeWrite.h"
 #include "platform/files/FileSystem.h"
 #include "platform/files/PathAt.h"
+#include "platform/plain/UniqueDescriptor.h"
+#include "platform/plain/WholeWrite.h"
 
 #include <QCoreApplication>
 #include <QUuid>
@@ -41,9 +41,9 @@ QString behindLink(const QString &path)
     return realPath(path);
 }
 
-/// The bytes under a name of their own, on disk for good, with the mode of the old file or, without one, that of a new
+/// The bytes under a name of their own, with the mode of the old file or, without one, that of a new
 /// one. Nothing is left of them on failure, which leaves errno.
-bool writeBeside(int folder, const QByteArray &name, const struct stat *old, const QByteArray &bytes)
+bool writeBeside(int folder, const QByteArray &name, const struct stat *old, const QByteArray &bytes, Waits waits)
 {
     UniqueDescriptor file(openat(folder, name.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, old ? 0600 : 0666));
     if (!file.isOpen())
@@ -54,7 +54,8 @@ bool writeBeside(int folder, const QByteArray &name, const struct stat *old, con
     // Drives that know no modes refuse to set one; the file can be used all the same.
     const bool hasMode = !old || fchmod(file.get(), old->st_mode & 07777U) == 0 || errno == EPERM || errno == ENOTSUP;
     const bool written = hasMode && writeWhole(file.get(), bytes.constData(), static_cast<std::size_t>(bytes.size())) &&
-                         (fsync(file.get()) == 0 || errno == EINVAL) && file.closeChecked() == 0;
+                         (waits == Waits::ForTheSystem || fsync(file.get()) == 0 || errno == EINVAL) &&
+                         file.closeChecked() == 0;
     if (written)
         return true;
     const int error = errno;
@@ -87,7 +88,7 @@ Result<QByteArray> readFile(const QString &path, qint64 atMost)
     }
 }
 
-Outcome replaceFile(const QString &given, const QByteArray &bytes)
+Outcome replaceFile(const QString &given, const QByteArray &bytes, Waits waits)
 {
     const QString path = behindLink(given);
     const QString parent = parentPath(path);
@@ -99,7 +100,7 @@ Outcome replaceFile(const QString &given, const QByteArray &bytes)
     struct stat before;
     const bool exists = fstatat(folder.get(), name.constData(), &before, 0) == 0;
     const QByteArray growing = ".tessaro-" + QUuid::createUuid().toByteArray(QUuid::Id128);
-    if (!writeBeside(folder.get(), growing, exists ? &before : nullptr, bytes))
+    if (!writeBeside(folder.get(), growing, exists ? &before : nullptr, bytes, waits))
         return Outcome::fromErrno(path);
     if (renameat(folder.get(), growing.constData(), folder.get(), name.constData()) != 0) {
         const Outcome failure = Outcome::fromErrno(path);
@@ -108,7 +109,8 @@ Outcome replaceFile(const QString &given, const QByteArray &bytes)
     }
     // The new name lasts only when the folder is on disk, too; where folders cannot be synced there is nothing to wait
     // for.
-    static_cast<void>(fsync(folder.get()));
+    if (waits == Waits::ForTheDisk)
+        static_cast<void>(fsync(folder.get()));
     return {};
 }
 

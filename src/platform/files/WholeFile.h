@@ -18,12 +18,16 @@ inline constexpr qint64 largestWholeFile = qint64{64} * 1024 * 1024;
 /** Every byte, or a failure: half a file is never returned. Cause::Missing only when nothing stands there. */
 [[nodiscard]] Result<QByteArray> readFile(const QString &path, qint64 atMost = largestWholeFile);
 
+/** Whether a write returns when the disk has it, or when the system has it: some milliseconds sooner, and enough for
+    what nobody misses after a power cut. */
+enum class Waits { ForTheDisk, ForTheSystem };
+
 /**
  * Puts the bytes in place of the file in one step: who reads it meanwhile, or after a power cut, finds the old or the
  * new file, whole. On failure the old file is untouched. The mode of the file that was there stays; as super-user the
  * new one belongs to the owner of its folder, who could never change it otherwise.
  */
-Outcome replaceFile(const QString &path, const QByteArray &bytes);
+Outcome replaceFile(const QString &path, const QByteArray &bytes, Waits waits = Waits::ForTheDisk);
 
 /** A property list. Cause::Damaged when the file was read whole and is none. */
 [[nodiscard]] Result<QVariant> readPropertyListFile(const QString &path);

@@ -26,9 +26,16 @@ public:
      */
     [[nodiscard]] int error() const;
 
+    /** The part that speaks to polkit: in the module "bus". Registered for as long as it lives. */
+    class Work
+    {
+    public:
+        virtual ~Work() = default;
+        [[nodiscard]] virtual int error() const = 0;
+    };
+
 private:
-    struct Private;
-    std::unique_ptr<Private> d;
+    std::unique_ptr<Work> m_work;
 };
 
 } // namespace platform

@@ -1,6 +1,7 @@
 #include "platform/process/ChildProcess.h"
 
 #include "platform/base/NativePath.h"
+#include "platform/plain/StartedThread.h"
 #include "platform/process/SpawnSettings.h"
 
 #include <array>
@@ -18,6 +19,8 @@ extern char **environ;
 
 namespace platform {
 namespace {
+
+constexpr int unknownStatus = 255;
 
 /// How long an ended child's pipe may stay silent before what a grandchild might still write is no longer waited for.
 constexpr int silenceAfterExit = 50; // milliseconds
@@ -53,11 +56,13 @@ ChildProcess::~ChildProcess()
     if (!isRunning())
         return;
     const pid_t pid = m_pid;
-    std::thread([pid] {
+    std::thread thread = startedThread([pid] {
         int status = 0;
         while (waitpid(pid, &status, 0) < 0 && errno == EINTR) {
         }
-    }).detach();
+    });
+    if (thread.joinable()) // else it is collected when this program ends
+        thread.detach();
 }
 
 Outcome ChildProcess::start(Output output, ErrorOutput errorOutput)
@@ -83,6 +88,8 @@ Outcome ChildProcess::start(Output output, ErrorOutput errorOutput)
         return Outcome::fromNumber(failure, m_tool);
     const std::scoped_lock lock(m_mutex);
     m_pid = pid;
+    if (m_isToEnd) // told so before it was there
+        kill(pid, SIGTERM);
     m_output = std::move(out.reading);
     m_errorOutput = std::move(error.reading);
     return {};
@@ -126,6 +133,10 @@ bool ChildProcess::collect(int waitFlags) const
     if (collected == 0 || (collected < 0 && errno == EINTR))
         return false;
     m_pid = -1;
+    if (collected < 0) { // its status was thrown away: whoever started this program has it ignore its children
+        m_status = unknownStatus;
+        return true;
+    }
     m_status = WIFSIGNALED(status) ? WTERMSIG(status) : WEXITSTATUS(status);
     return true;
 }
@@ -155,6 +166,7 @@ bool ChildProcess::isRunning() const
 void ChildProcess::terminate()
 {
     const std::scoped_lock lock(m_mutex);
+    m_isToEnd = true;
     if (m_pid >= 0)
         kill(m_pid, SIGTERM);
 }

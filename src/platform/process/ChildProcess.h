@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/base/Outcome.h"
-#include "platform/base/UniqueDescriptor.h"
+#include "platform/plain/UniqueDescriptor.h"
 
 #include <QByteArray>
 #include <QStringList>
@@ -62,6 +62,7 @@ private:
     mutable std::mutex m_mutex;
     mutable pid_t m_pid = -1; ///< -1 before the start and after the child was collected
     mutable int m_status = 0;
+    bool m_isToEnd = false; ///< terminate() may come before the start is through
 };
 
 } // namespace platform

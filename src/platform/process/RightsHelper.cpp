@@ -4,6 +4,7 @@
 #include "platform/base/NativePath.h"
 #include "platform/files/ApplicationBundle.h"
 #include "platform/files/FileSystem.h"
+#include "platform/plain/StartedThread.h"
 #include "platform/process/SocketProcess.h"
 
 #include <cerrno>
@@ -186,13 +187,15 @@ RightsHelper::RightsHelper(std::unique_ptr<Private> parts)
     : d(std::move(parts))
 {
     d->alive = true;
-    d->reader = std::thread([this] { d->readAnswers(); });
+    d->reader = startedThread([this] { d->readAnswers(); });
+    d->alive = d->reader.joinable(); // without somebody who reads the answers there are no rights
 }
 
 RightsHelper::~RightsHelper()
 {
     d->helperProcess.hangUp();
-    d->reader.join();
+    if (d->reader.joinable())
+        d->reader.join();
     d->helperProcess.hangUpAndWait();
 }
 

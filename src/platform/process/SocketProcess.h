@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/base/Outcome.h"
-#include "platform/base/UniqueDescriptor.h"
+#include "platform/plain/UniqueDescriptor.h"
 
 #include <QByteArray>
 #include <QByteArrayList>

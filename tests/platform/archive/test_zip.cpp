@@ -124,6 +124,8 @@ private Q_SLOTS:
         QTest::newRow("the destination itself") << QList<Item>{{"./", ""}} << "";
         QTest::newRow("the same twice") << QList<Item>{{"a", ""}, {"a", ""}} << "a";
         QTest::newRow("what stands there") << QList<Item>{{"there", ""}} << "there";
+        const QString deep = QString("a/").repeated(32'000) + 'x';
+        QTest::newRow("deeper than anything") << QList<Item>{{deep.toUtf8(), ""}} << deep;
         QTest::newRow("label up") << QList<Item>{{"__MACOSX/../._outside", ""}} << "";
         QTest::newRow("label beside a link that was there") << QList<Item>{{"__MACOSX/there/._x", ""}} << "";
     }

@@ -5,8 +5,10 @@
 #include "platform/files/FileSystem.h"
 #include "platform/files/FileTree.h"
 #include "platform/files/FinderInfo.h"
+#include "platform/plain/UniqueDescriptor.h"
 
 #include <QCoreApplication>
+#include <QTemporaryDir>
 #include <QTest>
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -77,6 +79,24 @@ private Q_SLOTS:
             QVERIFY2(before == identityOf(destination), name);
         }
         QCOMPARE(readFile(m_home->file("folder/x")) + readFile(m_home->file("file")), "theirstheirs");
+    }
+
+    /// Deeper than descriptors and the stack reach.
+    void removesThirtyThousandLevels()
+    {
+        const QTemporaryDir memory("/dev/shm/deep-XXXXXX"); // a disk would be busy with it for a minute
+        const QString top = memory.filePath("deep");
+        QVERIFY(makeFolders(top).ok());
+        platform::UniqueDescriptor at(open(top.toUtf8().constData(), O_PATH | O_DIRECTORY | O_CLOEXEC));
+        for (int i = 0; i < 30'000; ++i) {
+            QCOMPARE(mkdirat(at.get(), "a", 0777), 0);
+            at.reset(openat(at.get(), "a", O_PATH | O_DIRECTORY | O_CLOEXEC));
+            if (i % 1000 == 0)
+                close(openat(at.get(), "file", O_WRONLY | O_CREAT | O_CLOEXEC, 0666));
+        }
+        at.reset();
+        QVERIFY(removeTree(top).ok());
+        QCOMPARE(kindOf(top), FileKind::Missing);
     }
 
     void removesNothingBehindALink()

@@ -171,8 +171,8 @@ private Q_SLOTS:
         for (const char *folder : {"/tmp", "/dev/shm"}) {
             QTemporaryDir destination(folder + QStringLiteral("/copy-XXXXXX"));
             const QString copy = destination.filePath("copy");
-            QString attributesLost;
-            const Outcome copied = copyItem(m_home->file("source"), copy, &attributesLost);
+            Losses losses;
+            const Outcome copied = copyItem(m_home->file("source"), copy, &losses);
             const auto after = snapshot(copy);
             struct stat sparse
             {
@@ -181,7 +181,7 @@ private Q_SLOTS:
             setMode(copy + "/readonly", 0755);
             QVERIFY(removeTree(copy).ok());
             QVERIFY2(copied.ok(), qPrintable(copied.description()));
-            QVERIFY(attributesLost.isNull());
+            QVERIFY(losses.labels.isNull() && losses.modes.isNull() && losses.owners.isNull() && losses.dates.isNull());
             QCOMPARE(after, before);
             QCOMPARE(snapshot(m_home->file("source")), before);
             QVERIFY2(sparse.st_size == 16 << 20 && sparse.st_blocks * 512 < 1 << 20, "The holes were filled");
@@ -296,8 +296,10 @@ private Q_SLOTS:
         const auto free = freeBytesAt(full);
         umount2(native(full).constData(), MNT_DETACH);
         QCOMPARE(report.outcome.cause(), Cause::NoSpace);
-        QVERIFY2(report.outcome.item().startsWith(m_home->file("source/B/")), qPrintable(report.outcome.description()));
-        QCOMPARE(left, QByteArrayList{"A"});
+        // Two work on it: the disk may be full before the second has written its one byte.
+        QVERIFY2(report.outcome.item().startsWith(m_home->file("source/")), qPrintable(report.outcome.description()));
+        QVERIFY2(report.copied < 2, qPrintable(report.outcome.description()));
+        QCOMPARE(left, report.copied == 1 ? QByteArrayList{"A"} : QByteArrayList());
         QVERIFY(free > 1'000'000u);
     }
 

@@ -78,6 +78,32 @@ private Q_SLOTS:
         QCOMPARE(settings.string("key"), "machine");
     }
 
+    /// What protects something for every user is not masked by a user's own value, and no change of it is a silent one.
+    void letsTheMachineDecide()
+    {
+        const auto opened = [&] {
+            auto settings = std::make_unique<UserDefaults>(m_home->file("user/p.plist"),
+                                                           m_home->file("machine/p.plist"), [](const QString &) {});
+            settings->letMachineDecide({"lock"});
+            return settings;
+        };
+        QVERIFY(opened()->setValue("lock", 0LL).ok());
+        QVERIFY(opened()->setMachineWideValue("lock", 1LL).ok());
+        QCOMPARE(opened()->integer("lock"), 1);
+        QVERIFY(opened()->setValue("lock", 0LL).ok());
+        QCOMPARE(opened()->integer("lock"), 1);
+        QVERIFY(opened()->isSetForMachine("lock") && !opened()->isSetForMachine("other"));
+        if (geteuid() != 0) {
+            QCOMPARE(chmod(m_home->file("machine").toUtf8(), 0555), 0);
+            const platform::Outcome refused = opened()->setMachineWideValue("lock", 0LL);
+            QCOMPARE(chmod(m_home->file("machine").toUtf8(), 0755), 0);
+            QVERIFY(refused.needsRights() && refused.sentence().contains("every user"));
+            QCOMPARE(opened()->integer("lock"), 1);
+        }
+        QVERIFY(opened()->setMachineWideValue("lock", {}).ok()); // away with both
+        QVERIFY(!opened()->value("lock").isValid());
+    }
+
     void keepsForTheUserWhatTheMachineRefuses()
     {
         writeFile(m_home->file("machine")); // a file where the folder should be: nobody can write there

@@ -1,4 +1,4 @@
-#include "platform/base/WholeWrite.h"
+#include "platform/plain/WholeWrite.h"
 
 #include <cerrno>
 #include <unistd.h>

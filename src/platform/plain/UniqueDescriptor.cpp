@@ -1,4 +1,4 @@
-#include "platform/base/UniqueDescriptor.h"
+#include "platform/plain/UniqueDescriptor.h"
 
 #include <mutex>
 #include <sys/resource.h>

@@ -1,4 +1,4 @@
-#include "platform/files/FolderReader.h"
+#include "platform/plain/FolderReader.h"
 
 #include <cerrno>
 #include <cstring>
@@ -26,9 +26,8 @@ UniqueDescriptor openFolder(int parent, const char *name)
     return UniqueDescriptor(openat(parent, name, O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
 }
 
-UniqueDescriptor openFile(int parent, const char *name)
+UniqueDescriptor openFile(int parent, const char *name, struct stat &info)
 {
-    struct stat info;
     UniqueDescriptor file(openat(parent, name, O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
     if (!file.isOpen() && errno == EWOULDBLOCK) {
         // Held first without opening it, so that it is still the plain file that was looked at when the open may wait.
@@ -45,7 +44,7 @@ UniqueDescriptor openFile(int parent, const char *name)
     return {};
 }
 
-bool readFolder(int folder, std::vector<RawEntry> &entries)
+bool readFolder(int folder, const std::function<void(const char *, unsigned char)> &entry)
 {
     // A descriptor of its own: closedir() closes what it was given, and the caller goes on to use the folder.
     const int reading = openat(folder, ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC);
@@ -60,15 +59,20 @@ bool readFolder(int folder, std::vector<RawEntry> &entries)
     }
     for (;;) {
         errno = 0;
-        const dirent *entry = readdir(stream.get());
-        if (!entry)
+        const dirent *found = readdir(stream.get());
+        if (!found)
             return errno == 0;
-        if (std::strcmp(entry->d_name, ".") == 0 || std::strcmp(entry->d_name, "..") == 0)
+        if (std::strcmp(found->d_name, ".") == 0 || std::strcmp(found->d_name, "..") == 0)
             continue;
-        const unsigned char type = entry->d_type != DT_UNKNOWN ? entry->d_type : typeByStat(folder, entry->d_name);
+        const unsigned char type = found->d_type != DT_UNKNOWN ? found->d_type : typeByStat(folder, found->d_name);
         if (type != DT_UNKNOWN) // it vanished between the two looks
-            entries.push_back({entry->d_name, type});
+            entry(found->d_name, type);
     }
+}
+
+bool readFolder(int folder, std::vector<RawEntry> &entries)
+{
+    return readFolder(folder, [&](const char *name, unsigned char type) { entries.push_back({name, type}); });
 }
 
 } // namespace platform

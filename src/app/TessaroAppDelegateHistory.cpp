@@ -1,0 +1,106 @@
+// The projects that were made: opened, shown, undone.
+#include "app/TessaroAppDelegate.h"
+
+#include "app/MainWindow.h"
+#include "parameters/table/VTProjectTableController.h"
+#include "platform/base/MainThread.h"
+#include "platform/base/NativePath.h"
+#include "platform/desktop/Desktop.h"
+#include "support/LongWork.h"
+#include "support/VTAlert.h"
+
+#include <QMenu>
+
+namespace {
+
+/// A longer menu is no help; the command line lists them all.
+constexpr qsizetype mostShown = 20;
+constexpr qsizetype mostNamed = 8;
+constexpr int widestName = 360; // pixels
+
+QString shownName(const Manifest &manifest)
+{
+    return platform::forOneLine(manifest.name());
+}
+
+/// Many projects have the same name, in folders of their own: the folder comes along.
+QString forMenu(const Manifest &manifest, const QFontMetrics &letters)
+{
+    const QString folder = platform::forOneLine(platform::lastComponent(platform::parentPath(manifest.project)));
+    const QString whole = folder + QStringLiteral(" ▸ ") + shownName(manifest);
+    // In a menu an ampersand would mark a letter.
+    return letters.elidedText(whole, Qt::ElideMiddle, widestName).replace(u'&', QStringLiteral("&&"));
+}
+
+} // namespace
+
+void TessaroAppDelegate::undoCreation()
+{
+    if (m_undoable && !m_creating)
+        undoProject(*m_undoable);
+}
+
+void TessaroAppDelegate::undoProject(const Manifest &given)
+{
+    const Manifest manifest = given; // it may be the one that is forgotten below
+    m_creating = true;
+    startProcessing();
+    platform::CopyMonitor monitor;
+    UndoResult result;
+    {
+        const LongWork work(tr("Undoing %1").arg(shownName(manifest)), monitor);
+        result = platform::resultInBackground([&] { return ::undoCreation(manifest, monitor); });
+    }
+    finishProcessing();
+    m_creating = false;
+    m_tableController->follow();
+    const bool isOver = result.outcome.ok() || result.outcome.is(platform::Cause::Missing);
+    if (isOver && m_undoable && m_undoable->file == manifest.file) {
+        m_undoable.reset();
+        m_window->setUndoable({});
+    }
+    if (result.outcome.is(platform::Cause::Cancelled))
+        return;
+    if (!result.outcome.ok()) {
+        VTAlert::show({tr("‘%1’ cannot be undone").arg(shownName(manifest)),
+                       result.outcome.is(platform::Cause::Missing) ? tr("It is not at its place any more.")
+                                                                   : result.outcome.description()});
+        return;
+    }
+    m_window->showMessage(tr("‘%1’ is in the Trash.").arg(shownName(manifest)));
+    if (!result.kept.isEmpty())
+        tellWhatStays(manifest, result.kept);
+    if (result.hadOldProject && !result.oldProject.ok())
+        VTAlert::show({tr("The old project is still in the Trash"), result.oldProject.description()});
+}
+
+void TessaroAppDelegate::tellWhatStays(const Manifest &manifest, const QList<KeptItem> &kept) const
+{
+    m_window->showMessage(tr("What was untouched is in the Trash."));
+    QStringList lines;
+    for (const KeptItem &item : kept.mid(0, mostNamed))
+        lines.append(QStringLiteral("• ") + sentenceOf(item, manifest.project));
+    if (kept.size() > mostNamed)
+        lines.append(tr("and %n more; the log names each", nullptr, static_cast<int>(kept.size() - mostNamed)));
+    VTAlert::show({tr("Part of ‘%1’ stays").arg(shownName(manifest)), lines.join(u'\n')});
+}
+
+void TessaroAppDelegate::fillRecentProjects(QMenu *menu)
+{
+    menu->clear();
+    const QList<Manifest> projects = recentProjects().mid(0, mostShown);
+    if (projects.isEmpty())
+        menu->addAction(tr("None Yet"))->setEnabled(false);
+    for (const Manifest &manifest : projects) {
+        QMenu *project = menu->addMenu(forMenu(manifest, menu->fontMetrics()));
+        project->setToolTip(platform::forDisplay(manifest.project));
+        if (platform::identityOf(manifest.project) != manifest.identity) {
+            project->addAction(tr("Not There Any More"))->setEnabled(false);
+            continue;
+        }
+        project->addAction(tr("&Open"), this,
+                           [path = manifest.project] { platform::openWithDefaultApplication(path); });
+        project->addAction(tr("&Show in Its Folder"), this, [this, path = manifest.project] { showProject(path); });
+        project->addAction(tr("&Undo"), this, [this, manifest] { undoProject(manifest); })->setEnabled(!m_creating);
+    }
+}

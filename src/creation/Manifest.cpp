@@ -1,0 +1,196 @@
+#include "creation/Manifest.h"
+
+#include "platform/base/NativePath.h"
+#include "platform/files/FileTree.h"
+#include "platform/files/WholeFile.h"
+#include "support/VTLocalPaths.h"
+
+#include <QDataStream>
+#include <QIODevice>
+#include <QRandomGenerator>
+
+#include <chrono>
+
+using platform::Cause;
+using platform::Outcome;
+using platform::Result;
+
+namespace {
+
+/// "TsrH" and the format's number. What begins otherwise was written by another version, and is left alone.
+constexpr quint32 mark = 0x54737248;
+constexpr quint32 format = 1;
+constexpr const char *headerEnding = ".project";
+constexpr auto streamVersion = QDataStream::Qt_6_0;
+/// Names and numbers shrink to a third with the least effort, and in a few milliseconds.
+constexpr int leastEffort = 1;
+
+QString historyFolder()
+{
+    return VTLocalPaths::appSupportDirectory(VTLocalPaths::Domain::User) + QStringLiteral("/Vantrel/Tessaro/History");
+}
+
+/// In the order of time, by name: to the nanosecond, for a batch makes several projects within a millisecond.
+QString newFile()
+{
+    using namespace std::chrono;
+    const auto now = system_clock::now().time_since_epoch();
+    const auto passed = duration_cast<milliseconds>(now);
+    const QString time =
+        QDateTime::fromMSecsSinceEpoch(passed.count(), Qt::UTC).toString(QStringLiteral("yyyyMMdd-HHmmss-zzz"));
+    const qint64 nanoseconds = duration_cast<std::chrono::nanoseconds>(now - passed).count();
+    return platform::joined(historyFolder(), QStringLiteral("%1-%2-%3%4")
+                                                 .arg(time)
+                                                 .arg(nanoseconds, 6, 10, QLatin1Char('0'))
+                                                 .arg(QRandomGenerator::global()->generate(), 0, 36)
+                                                 .arg(QLatin1String(headerEnding)));
+}
+
+QVariantMap headerOf(const Manifest &manifest)
+{
+    return {{"project", manifest.project},
+            {"template", manifest.templateName},
+            {"made", manifest.made},
+            {"device", manifest.identity.device},
+            {"inode", manifest.identity.inode},
+            {"parameters", variantFromParameters(manifest.parameters)},
+            {"levelsMade", manifest.levelsMade},
+            {"oldInTrash", manifest.oldInTrash}};
+}
+
+Manifest fromHeader(const QString &file, const QVariantMap &header)
+{
+    return {file,
+            header["project"].toString(),
+            header["template"].toString(),
+            header["made"].toDateTime(),
+            {header["device"].toULongLong(), header["inode"].toULongLong()},
+            parametersFromVariant(header["parameters"]),
+            header["levelsMade"].toStringList(),
+            header["oldInTrash"].toString()};
+}
+
+void writeFolder(QDataStream &stream, const platform::Tree &tree, std::uint32_t number, quint32 depth)
+{
+    const platform::TreeFolder &folder = tree.folders[number];
+    for (std::size_t i = 0; i < folder.made.size(); ++i) {
+        const platform::TreeItem &item = folder.items[i];
+        const platform::MadeItem &made = folder.made[i];
+        if (made.inode == 0)
+            continue;
+        stream << depth << QByteArray(folder.newNameOf(item)) << item.type << made.inode << made.modified << made.size;
+        if (item.folder != 0)
+            writeFolder(stream, tree, item.folder, depth + 1);
+    }
+}
+
+template <typename Value> Outcome write(const QString &file, const Value &value)
+{
+    QByteArray bytes;
+    QDataStream stream(&bytes, QIODevice::WriteOnly);
+    stream.setVersion(streamVersion);
+    stream << mark << format << value;
+    return platform::replaceFile(file, bytes, platform::Waits::ForTheSystem);
+}
+
+template <typename Value> Result<Value> read(const QString &file)
+{
+    const Result<QByteArray> bytes = platform::readFile(file);
+    if (!bytes)
+        return bytes.outcome();
+    QDataStream stream(*bytes);
+    stream.setVersion(streamVersion);
+    quint32 foundMark = 0;
+    quint32 foundFormat = 0;
+    Value value;
+    stream >> foundMark >> foundFormat >> value;
+    const bool isWhole = stream.status() == QDataStream::Ok && foundMark == mark && foundFormat == format;
+    return isWhole ? Result<Value>(value) : Outcome::failure(Cause::Damaged, file);
+}
+
+/// The latest first.
+QStringList headers()
+{
+    QStringList files;
+    for (const platform::FolderEntry &entry : platform::listFolder(historyFolder()).valueOr({})) {
+        if (entry.kind == platform::FileKind::File && entry.name.endsWith(QLatin1String(headerEnding)))
+            files.prepend(platform::joined(historyFolder(), entry.name));
+    }
+    return files;
+}
+
+/// Beside the header, so that a list of projects reads no items.
+QString itemsFile(const QString &header)
+{
+    return platform::withoutExtension(header) + QStringLiteral(".items");
+}
+
+Outcome forget(const QString &header)
+{
+    const Outcome gone = platform::removeTree(header);
+    return gone.ok() ? platform::removeTree(itemsFile(header)) : gone;
+}
+
+} // namespace
+
+QString Manifest::name() const
+{
+    return platform::lastComponent(project);
+}
+
+Outcome remember(Manifest &manifest, const platform::Tree &tree)
+{
+    manifest.file = newFile();
+    QByteArray items;
+    QDataStream stream(&items, QIODevice::WriteOnly);
+    stream.setVersion(streamVersion);
+    writeFolder(stream, tree, 0, 0);
+    Outcome kept = platform::makeFolders(historyFolder());
+    if (kept.ok()) // first, so that a header is never without its items
+        kept = write(itemsFile(manifest.file), qCompress(items, leastEffort));
+    if (kept.ok())
+        kept = write(manifest.file, headerOf(manifest));
+    const QStringList files = headers();
+    for (const QString &file : files.mid(rememberedProjects))
+        static_cast<void>(forget(file)); // one that stays is one more that can be undone
+    return kept;
+}
+
+QList<Manifest> recentProjects()
+{
+    QList<Manifest> manifests;
+    for (const QString &file : headers()) {
+        if (const auto header = read<QVariantMap>(file))
+            manifests.append(fromHeader(file, *header));
+    }
+    return manifests;
+}
+
+Result<std::vector<ManifestItem>> itemsOf(const Manifest &manifest)
+{
+    const QString file = itemsFile(manifest.file);
+    const auto packed = read<QByteArray>(file);
+    if (!packed)
+        return packed.outcome();
+    const QByteArray items = qUncompress(*packed);
+    if (items.isEmpty() && *packed != qCompress(QByteArray(), leastEffort))
+        return Outcome::failure(Cause::Damaged, file);
+    QDataStream itemStream(items);
+    itemStream.setVersion(streamVersion);
+    std::vector<ManifestItem> found;
+    while (!itemStream.atEnd()) {
+        ManifestItem item;
+        itemStream >> item.depth >> item.name >> item.type >> item.made.inode >> item.made.modified >> item.made.size;
+        const quint32 deepest = found.empty() ? 0 : found.back().depth + 1;
+        const bool isName = !item.name.isEmpty() && !item.name.contains('/') && item.name != "." && item.name != "..";
+        if (itemStream.status() != QDataStream::Ok || item.depth > deepest || !isName)
+            return Outcome::failure(Cause::Damaged, file);
+        found.push_back(std::move(item));
+    }
+    return found;
+}
+
+Outcome forget(const Manifest &manifest)
+{
+    return forget(manifest.file);
+}

@@ -1,0 +1,292 @@
+// Commands to which the file system says no, once, at any of their calls, or that are killed at any moment: each ends
+// with the old state, with the new one, or with a word about what is missing; never with half of something and 0.
+//
+// TESSARO_EVERY_FAULT=1 tries every call with every error, and says what came of it; otherwise one in a few.
+#include "harness/TemporaryHome.h"
+#include "platform/base/NativePath.h"
+#include "platform/files/FileSystem.h"
+#include "platform/files/FileTree.h"
+#include "platform/files/TreeCopy.h"
+#include "platform/files/WholeFile.h"
+
+#include <QElapsedTimer>
+#include <QProcess>
+#include <QRandomGenerator>
+#include <QRegularExpression>
+#include <QTest>
+#include <QTextStream>
+#include <cerrno>
+#include <csignal>
+#include <sys/stat.h>
+#include <thread>
+
+using platform::joined;
+
+namespace {
+
+/// What counts of a home: by path, what stands there.
+struct State
+{
+    QMap<QString, QByteArray> library;
+    QMap<QString, QByteArray> projects;
+    QVariant settings;
+    bool operator==(const State &) const = default;
+};
+
+struct Ended
+{
+    bool inTime = false;
+    bool crashed = false;
+    int status = -1;
+    QByteArray errors;
+    QByteArray report; ///< "CALLS CALL PATH"
+};
+
+QMap<QString, QByteArray> treeOf(const QString &folder)
+{
+    QMap<QString, QByteArray> tree;
+    for (const auto &entry : platform::listFolder(folder).valueOr({})) {
+        if (entry.name.startsWith(u".tessaro-") || entry.name.contains(u".tessaro-"))
+            continue;
+        const QString path = joined(folder, entry.name);
+        const bool isFolder = entry.kind == platform::FileKind::Folder;
+        tree[entry.name] = isFolder ? "folder" : readFile(path);
+        const auto below = isFolder ? treeOf(path) : QMap<QString, QByteArray>();
+        for (auto item = below.begin(); item != below.end(); ++item)
+            tree[entry.name + u'/' + item.key()] = item.value();
+    }
+    return tree;
+}
+
+QMap<QString, QByteArray> onlyOf(const QMap<QString, QByteArray> &tree, const QString &bundle)
+{
+    QMap<QString, QByteArray> part;
+    for (auto item = tree.begin(); item != tree.end(); ++item) {
+        if (item.key() == bundle || item.key().startsWith(bundle + u'/'))
+            part[item.key()] = item.value();
+    }
+    return part;
+}
+
+/// Each template is the old one or the new one; a command that changes several may have come to some of them.
+bool isOldOrNew(const State &found, const State &before, const State &after)
+{
+    QSet<QString> bundles;
+    for (const auto &library : {found.library, before.library, after.library}) {
+        for (const QString &path : library.keys())
+            bundles.insert(path.section(u'/', 0, 0));
+    }
+    return std::all_of(bundles.begin(), bundles.end(), [&](const QString &bundle) {
+        const auto part = onlyOf(found.library, bundle);
+        return part == onlyOf(before.library, bundle) || part == onlyOf(after.library, bundle);
+    });
+}
+
+QStringList leftBehind(const QString &folder)
+{
+    QStringList found;
+    for (const auto &entry : platform::listFolder(folder).valueOr({})) {
+        if (entry.name.contains(u".tessaro-"))
+            found << joined(folder, entry.name);
+        else if (entry.kind == platform::FileKind::Folder)
+            found << leftBehind(joined(folder, entry.name));
+    }
+    return found;
+}
+
+} // namespace
+
+class TestFaults : public QObject
+{
+    Q_OBJECT
+
+    QTemporaryDir m_folder;
+    QString m_prepared = m_folder.filePath("prepared");
+    QString m_home = m_folder.filePath("home"); ///< a copy of the prepared one for each run, always at the same path
+    QString m_report = m_folder.filePath("report");
+
+    QString inLibrary(const QString &home, const QString &path) const
+    {
+        return home + "/Library/Application Support/Vantrel/Tessaro/Templates/" + path;
+    }
+
+    std::unique_ptr<QProcess> start(const QStringList &words, int at = 0, int error = 0) const
+    {
+        auto process = std::make_unique<QProcess>();
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert("HOME", m_home);
+        for (const char *variable : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM", "XDG_DATA_HOME"})
+            environment.remove(variable);
+        environment.insert("LD_PRELOAD", QCoreApplication::applicationDirPath() + "/libtessaro_faults.so");
+        environment.insert("ASAN_OPTIONS", "verify_asan_link_order=0:detect_leaks=0");
+        environment.insert("FAULT_BELOW", m_home);
+        environment.insert("FAULT_AT", QString::number(at));
+        environment.insert("FAULT_ERRNO", QString::number(error));
+        environment.insert("FAULT_REPORT", m_report);
+        process->setProcessEnvironment(environment);
+        process->setWorkingDirectory("/");
+        process->start(QCoreApplication::applicationDirPath() + "/Tessaro", words);
+        return process;
+    }
+    Ended run(const QStringList &words, int at = 0, int error = 0) const
+    {
+        const auto process = start(words, at, error);
+        Ended ended;
+        ended.inTime = process->waitForFinished(60000);
+        ended.crashed = process->exitStatus() == QProcess::CrashExit;
+        ended.status = process->exitCode();
+        ended.errors = process->readAllStandardError();
+        ended.report = readFile(m_report);
+        return ended;
+    }
+    void renew() const
+    {
+        QVERIFY(platform::removeOwnTree(m_home).ok());
+        QVERIFY(platform::copyItem(m_prepared, m_home).ok());
+    }
+    State state() const
+    {
+        const auto settings = platform::readPropertyListFile(m_home + "/Library/Preferences/com.vantrel.Tessaro.plist");
+        return {treeOf(inLibrary(m_home, {})), treeOf(m_home + "/Projects"), settings.valueOr(QVariant())};
+    }
+
+    /// Of the verbs, what they may change; null words end the list.
+    void rows()
+    {
+        QTest::addColumn<QStringList>("words");
+        const QString in = m_home + "/In/";
+        QTest::newRow("create") << QStringList{"create", "--in",  m_home + "/Projects", "--template",
+                                               "Film",   "--set", "Client=Acme"};
+        QTest::newRow("import") << QStringList{"template", "import", in + "New.tzt"};
+        QTest::newRow("import over an old one") << QStringList{"template", "import", in + "Film.tzt"};
+        QTest::newRow("new") << QStringList{"template", "new", "Empty"};
+        QTest::newRow("duplicate") << QStringList{"template", "duplicate", "Film"};
+        QTest::newRow("rename") << QStringList{"template", "rename", "Film", "Feature"};
+        QTest::newRow("structure") << QStringList{"template", "structure", "Film", "--from", in + "Shots"};
+        QTest::newRow("remove") << QStringList{"template", "remove", "Film", "--yes"};
+        QTest::newRow("restore") << QStringList{"template", "restore", "--yes"};
+        QTest::newRow("set") << QStringList{"settings", "set", "separatorChar", "-"};
+        QTest::newRow("parameter") << QStringList{"parameters", "add", "Reel", "text", "x"};
+    }
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        QVERIFY(platform::makeFolders(m_home).ok());
+        QCOMPARE(run({"template", "restore", "--yes"}).status, 0);
+        for (const auto &entry : *platform::listFolder(inLibrary(m_home, {}))) {
+            if (entry.name != u"Photography.tzt")
+                QVERIFY(platform::removeTree(inLibrary(m_home, entry.name)).ok());
+        }
+        QVERIFY(platform::removeTree(platform::joined(m_home, ".local")).ok());
+        QCOMPARE(run({"settings", "set", "autoOpenFolder", "0"}).status, 0);
+        for (int i = 0; i < 6; ++i) {
+            const QString file = QStringLiteral("/Files/%1/template %2").arg(i / 3).arg(i);
+            writeFile(inLibrary(m_home, "Film.tzt") + file, "film");
+            writeFile(m_home + "/In/Film.tzt" + file + " new", "newer");
+            writeFile(m_home + "/In/New.tzt" + file, "new");
+            writeFile(m_home + QStringLiteral("/In/Shots/%1/A/B %2/x").arg(i / 3).arg(i));
+        }
+        QVERIFY(platform::makeFolders(m_home + "/Projects").ok());
+        QVERIFY(platform::copyItem(m_home, m_prepared).ok());
+    }
+
+    void oneCallFails_data() { rows(); }
+    void oneCallFails()
+    {
+        QFETCH(QStringList, words);
+        const bool all = qEnvironmentVariableIsSet("TESSARO_EVERY_FAULT");
+        renew();
+        const State before = state();
+        const Ended undisturbed = run(words);
+        QVERIFY2(undisturbed.status == 0, undisturbed.errors.constData());
+        const State after = state();
+        const int calls = undisturbed.report.left(undisturbed.report.indexOf(' ')).toInt();
+        QVERIFY2(calls > 10, undisturbed.report.constData());
+        int good = 0, told = 0;
+        QStringList wrong;
+        const QList<int> errors{EIO, EACCES, ENOSPC, ESTALE};
+        const int step = all ? 1 : 1 + calls / 10;
+        for (int at = all ? 1 : 1 + static_cast<int>(QRandomGenerator::global()->bounded(step)); at <= calls;
+             at += step) {
+            for (const int error : all ? errors : QList<int>{errors[at % 4]}) {
+                renew();
+                const Ended ended = run(words, at, error);
+                const State found = state();
+                QString problem;
+                if (!ended.inTime)
+                    problem = "hangs";
+                else if (ended.crashed)
+                    problem = "crashes";
+                else if (ended.errors.contains("was put beside")) // said, and nothing lost
+                    problem = {};
+                else if (ended.status == 0 && found != after)
+                    problem = "0, and not done";
+                else if (ended.status != 0 && ended.errors.trimmed().isEmpty())
+                    problem = "not a word";
+                else if (!isOldOrNew(found, before, after) && (ended.status == 0 || words[1] != "structure"))
+                    problem = "half a library";
+                else if (found.settings != before.settings && found.settings != after.settings)
+                    problem = "other settings";
+                else if (ended.status == 0 && !leftBehind(m_home).isEmpty() &&
+                         !QList<QByteArray>{"unlinkat", "open", "readdir", "fstat", "fstatat"}.contains(
+                             ended.report.split(' ').value(1)))
+                    problem = "left behind: " + leftBehind(m_home).join(' ');
+                if (!problem.isEmpty())
+                    wrong << QStringLiteral("%1: error %2 at %3").arg(problem).arg(error).arg(QString(ended.report)) +
+                                 ended.errors;
+                else
+                    ++(ended.status == 0 ? good : told);
+            }
+        }
+        if (all)
+            QTextStream(stdout) << QTest::currentDataTag() << ": " << calls << " calls, " << good
+                                << " done all the same, " << told << " told, " << wrong.size() << " wrong\n";
+        QVERIFY2(wrong.isEmpty(), qPrintable('\n' + wrong.join('\n')));
+    }
+
+    void killed_data() { rows(); }
+    void killed()
+    {
+        QFETCH(QStringList, words);
+        const int rounds = qEnvironmentVariableIsSet("TESSARO_EVERY_FAULT") ? 100 : 4;
+        renew();
+        const State before = state();
+        QElapsedTimer timer;
+        timer.start();
+        QCOMPARE(run(words).status, 0);
+        const qint64 needed = timer.nsecsElapsed() / 1000;
+        const State after = state();
+        int old = 0, done = 0;
+        QStringList wrong;
+        for (int i = 0; i < rounds; ++i) {
+            renew();
+            const auto process = start(words);
+            process->waitForStarted();
+            std::this_thread::sleep_for(std::chrono::microseconds(QRandomGenerator::global()->bounded(needed)));
+            process->kill();
+            process->waitForFinished();
+            const State found = state();
+            old += found.library == before.library;
+            done += found.library == after.library;
+            if (!isOldOrNew(found, before, after))
+                wrong << "library: " + QStringList(found.library.keys()).join(' ');
+            if (found.settings != before.settings && found.settings != after.settings)
+                wrong << "settings";
+            // The place of a project is claimed by an empty folder.
+            if (found.projects != after.projects && !found.projects.keys().filter(QRegularExpression("/.*/")).isEmpty())
+                wrong << "project: " + QStringList(found.projects.keys()).join(' ');
+            QCOMPARE(
+                run(words.first() == "create" ? QStringList{"clean-up", "--yes"} : QStringList{"templates"}).status, 0);
+            if (!leftBehind(m_home).filter("/Projects").isEmpty() ||
+                !leftBehind(inLibrary(m_home, {})).filter(QRegularExpression("Templates/\\.")).isEmpty())
+                wrong << "left: " + leftBehind(m_home).join(' ');
+        }
+        if (rounds > 4)
+            QTextStream(stdout) << QTest::currentDataTag() << ": " << old << " old, " << done << " new\n";
+        QVERIFY2(wrong.isEmpty(), qPrintable('\n' + wrong.join('\n')));
+    }
+};
+
+TESSARO_TEST_MAIN(QCoreApplication, TestFaults)
+#include "test_faults.moc"
