@@ -48,7 +48,7 @@ bool hasBothPaths(const QString &source, const QString &toPath, const char *oper
 /// What this thread started last through the helper.
 struct StartedTool
 {
-    std::weak_ptr<platform::RightsHelper> rights;
+    VTAuthorization::Rights rights;
     platform::RightsHelper::Ticket ticket;
 };
 thread_local std::optional<StartedTool> lastTool;
@@ -146,20 +146,35 @@ bool VTAuthorization::obtainWith(const QString &user, const platform::Secret &pa
 
 bool VTAuthorization::authAfresh()
 {
-    authEnd();
+    {
+        const std::scoped_lock lock(m_mutex);
+        if (m_authRef)
+            m_authRef->retire();
+        std::erase_if(m_retired, [](const Rights &rights) { return rights->hasEnded(); });
+        if (m_authRef)
+            m_retired.push_back(std::move(m_authRef));
+        m_authRef = nullptr;
+    }
     return authStart();
 }
 
 void VTAuthorization::authEnd()
 {
     lastTool.reset();
-    Rights rights = authRef();
-    setAuthRef(nullptr);
-    if (!rights)
+    std::vector<Rights> all;
+    {
+        const std::scoped_lock lock(m_mutex);
+        all.swap(m_retired);
+        if (m_authRef)
+            all.push_back(std::move(m_authRef));
+        m_authRef = nullptr;
+    }
+    if (all.empty())
         return;
     platform::performInBackground([&] {
-        rights->end(); // others may still hold it, waiting for their tools
-        rights.reset();
+        for (const Rights &rights : all)
+            rights->end(); // others may still hold it, waiting for their tools
+        all.clear();
     });
 }
 
@@ -200,8 +215,7 @@ bool VTAuthorization::lastToolSucceeded()
     const std::optional<StartedTool> tool = std::exchange(lastTool, std::nullopt);
     if (!tool)
         return true;
-    const Rights rights = tool->rights.lock();
-    return rights && platform::resultInBackground([&] { return rights->waitFor(tool->ticket).ok(); });
+    return platform::resultInBackground([&] { return tool->rights->waitFor(tool->ticket).ok(); });
 }
 
 bool VTAuthorization::run(const Command &command)

@@ -4,6 +4,7 @@
 #include <QStringList>
 #include <memory>
 #include <mutex>
+#include <vector>
 
 namespace platform {
 class RightsHelper;
@@ -42,7 +43,8 @@ public:
     [[nodiscard]] bool authStart();
     /** The same with the given administrator's name and password and without asking. Blocks for a few seconds. */
     [[nodiscard]] bool authStartWithUser(const QString &user, const QString &password);
-    /** Asks again, also when the rights are held: for what must be agreed to each time. */
+    /** Asks again, also when the rights are held: for what must be agreed to each time. What runs with the rights that were
+        held runs to its end; refused, there are none afterwards. */
     [[nodiscard]] bool authAfresh();
     /** Gives the rights back. Tools that still run are ended, and the log says which. */
     void authEnd();
@@ -98,4 +100,5 @@ private:
     std::mutex m_asking;        ///< held while the rights are asked for, so that two threads ask once
     mutable std::mutex m_mutex; ///< guards m_authRef
     Rights m_authRef;
+    std::vector<Rights> m_retired; ///< tools of theirs may still run
 };

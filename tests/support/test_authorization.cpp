@@ -353,6 +353,26 @@ private Q_SLOTS:
         QVERIFY(log().contains("Administrator tool /bin/cp failed"));
     }
 
+    /// A guarded edit while an import copies with the rights that it was given.
+    void askingAfreshEndsNoTool()
+    {
+        QVERIFY(m_dialog.open(true));
+        for (const bool isRefused : {false, true}) {
+            const HeldFile held(m_home.file("held"));
+            const QString copy = library + (isRefused ? "/whole, refused" : "/whole");
+            QVERIFY(rights().authCopyFile(m_home.file("held"), copy));
+            QTRY_COMPARE(processesNamed("tessaro-cp"), 1);
+            m_dialog.isDismissed = isRefused;
+            QCOMPARE(rights().authAfresh(), !isRefused);
+            QCOMPARE(rights().isAuthorized(), !isRefused);
+            QCOMPARE(processesNamed("tessaro-cp"), 1);
+            held.letGo();
+            QVERIFY(rights().lastToolSucceeded());
+            QCOMPARE(readFile(copy), readFile(m_home.file("held")));
+            QTRY_COMPARE(processesNamed("tessaro-helper"), isRefused ? 0 : 1);
+        }
+    }
+
     void aHelperThatIsKilledIsNoticed()
     {
         QVERIFY(m_dialog.open(true));

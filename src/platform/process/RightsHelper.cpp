@@ -7,6 +7,7 @@
 #include "platform/plain/StartedThread.h"
 #include "platform/process/SocketProcess.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <condition_variable>
 #include <map>
@@ -102,6 +103,7 @@ struct RightsHelper::Private
     std::mutex writing; ///< held while one message goes out, so that two do not mix
     std::condition_variable changed;
     bool alive = false;
+    bool isRetired = false;
     quint32 lastNumber = 0;
     std::map<quint32, Tool> tools;
 
@@ -135,6 +137,7 @@ struct RightsHelper::Private
             decoder.add(bytes.constData(), static_cast<std::size_t>(bytes.size()));
         }
         endAll();
+        static_cast<void>(helperProcess.hangUpAndWait()); // whoever retired it does not wait for it
     }
 
     void take(const Message &message)
@@ -158,6 +161,16 @@ struct RightsHelper::Private
         changed.notify_all();
         if (!failed.ok() && complaint)
             complaint(failed);
+        const std::scoped_lock lock(mutex);
+        hangUpWhenRetired();
+    }
+
+    /// With the lock held.
+    void hangUpWhenRetired()
+    {
+        const auto runs = [](const auto &numbered) { return !numbered.second.ended; };
+        if (isRetired && std::none_of(tools.begin(), tools.end(), runs))
+            helperProcess.hangUp();
     }
 
     void endAll()
@@ -226,10 +239,23 @@ void RightsHelper::end()
     d->changed.wait(lock, [&] { return !d->alive; });
 }
 
+void RightsHelper::retire()
+{
+    const std::scoped_lock lock(d->mutex);
+    d->isRetired = true;
+    d->hangUpWhenRetired();
+}
+
 bool RightsHelper::isAlive() const
 {
     const std::scoped_lock lock(d->mutex);
-    return d->alive;
+    return d->alive && !d->isRetired;
+}
+
+bool RightsHelper::hasEnded() const
+{
+    const std::scoped_lock lock(d->mutex);
+    return !d->alive;
 }
 
 QStringList RightsHelper::withoutLinks(const QStringList &arguments)
@@ -248,7 +274,7 @@ RightsHelper::Ticket RightsHelper::run(const QString &tool, const QStringList &a
     Ticket ticket;
     {
         const std::scoped_lock lock(d->mutex);
-        if (!d->alive)
+        if (!d->alive || d->isRetired)
             return {EPIPE, 0};
         request.id = ticket.number = ++d->lastNumber;
         d->tools[ticket.number].path = tool;

@@ -45,9 +45,14 @@ public:
     RightsHelper(const RightsHelper &) = delete;
     RightsHelper &operator=(const RightsHelper &) = delete;
 
+    /** Whether another tool can be started. */
     [[nodiscard]] bool isAlive() const;
+    /** Whether the helper is gone, and with it all its tools. */
+    [[nodiscard]] bool hasEnded() const;
     /** Gives the rights back now, whoever still holds this object. Blocks until the helper has let go. */
     void end();
+    /** Gives the rights back as soon as the tools that run have ended; no other is started. Does not block. */
+    void retire();
     /** The arguments with the links on the way to their last components resolved. To be done before anybody is asked:
        the helper goes through no link, so that what is exchanged for one later is refused. */
     [[nodiscard]] static QStringList withoutLinks(const QStringList &arguments);
