@@ -4,8 +4,8 @@
 #include "app/MainWindow.h"
 #include "parameters/table/VTProjectTableController.h"
 #include "preferences/VTPreferenceController.h"
+#include "support/AdministratorQuestion.h"
 #include "support/Settings.h"
-#include "support/VTAuthorization.h"
 #include "support/VTLog.h"
 #include "templates/editor/TemplatePane.h"
 
@@ -18,7 +18,7 @@ void TessaroAppDelegate::showPreferences()
         m_preferences->activateWindow();
         return;
     }
-    if (settings::requireAdminPasswordForPrefs.isOn() && !VTAuthorization::sharedController().authAfresh())
+    if (settings::requireAdminPasswordForPrefs.isOn() && !administratorAgrees())
         return;
     m_tableController->finishEditing();
     VTLog::appendLog("Showing preferences");

@@ -4,6 +4,7 @@
 #include "commands/TerminalPresenter.h"
 #include "commands/TerminalProgress.h"
 #include "platform/base/NativePath.h"
+#include "support/AdministratorQuestion.h"
 #include "support/Settings.h"
 #include "support/VTAlert.h"
 #include "support/VTAuthorization.h"
@@ -162,7 +163,7 @@ bool isAllowed(Guard guard)
     case Guard::Editing:
         return editingIsAllowed();
     case Guard::Preferences:
-        return !settings::requireAdminPasswordForPrefs.isOn() || VTAuthorization::sharedController().authAfresh();
+        return !settings::requireAdminPasswordForPrefs.isOn() || administratorAgrees();
     }
     return false;
 }

@@ -2,8 +2,8 @@
 #include "commands/CommandLine.h"
 #include "commands/Commands.h"
 #include "commands/TerminalOutput.h"
+#include "support/AdministratorQuestion.h"
 #include "support/Settings.h"
-#include "support/VTAuthorization.h"
 #include "templates/VTDataController.h"
 
 #include <QCoreApplication>
@@ -31,9 +31,9 @@ int complainAboutKey(const QString &key)
 bool mayChange(const settings::Setting &setting, bool isOffAfterwards)
 {
     if (&setting == &settings::requireAdminPassword && !isOffAfterwards)
-        return VTAuthorization::sharedController().authAfresh();
+        return administratorAgrees();
     const bool isProtectedNow = setting.scope == settings::Scope::Machine && settings::standard().equalsOne(setting);
-    return !isProtectedNow || !isOffAfterwards || VTAuthorization::sharedController().authAfresh();
+    return !isProtectedNow || !isOffAfterwards || administratorAgrees();
 }
 
 int refuseRights()

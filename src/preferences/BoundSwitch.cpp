@@ -1,5 +1,6 @@
 #include "preferences/BoundSwitch.h"
 
+#include "support/AdministratorQuestion.h"
 #include "support/VTAlert.h"
 #include "support/VTAuthorization.h"
 
@@ -28,7 +29,9 @@ void bindProtection(QCheckBox &box, const settings::SwitchSetting &setting)
     QObject::connect(&box, &QCheckBox::clicked, &box, [&box, &setting](bool isOn) {
         // Switched on where no rights can be had, it would close the door for good: asked beforehand.
         const bool locksOut = isOn && &setting == &settings::requireAdminPassword;
-        const bool mayTurn = (isOn && !locksOut) || VTAuthorization::sharedController().authAfresh();
+        bool mayTurn = isOn && !locksOut;
+        if (!mayTurn) // of the switch that would lock out more is to be said than that there are no rights
+            mayTurn = locksOut ? VTAuthorization::sharedController().authAfresh() : administratorAgrees();
         const platform::Outcome turned = mayTurn ? setting.turn(isOn) : platform::Outcome();
         if (mayTurn && turned.ok())
             return;

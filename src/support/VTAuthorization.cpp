@@ -114,7 +114,9 @@ bool VTAuthorization::obtain()
     const std::scoped_lock asking(m_asking);
     if (isAuthorized())
         return true; // another thread has asked meanwhile
-    setAuthRef(platform::RightsHelper::start(logFailedTool));
+    bool wasDismissed = false;
+    setAuthRef(platform::RightsHelper::start(logFailedTool, &wasDismissed));
+    m_wasDismissed = wasDismissed;
     return isAuthorized();
 }
 

@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <QStringList>
+#include <atomic>
 #include <memory>
 #include <mutex>
 #include <vector>
@@ -43,13 +44,15 @@ public:
     [[nodiscard]] bool authStart();
     /** The same with the given administrator's name and password and without asking. Blocks for a few seconds. */
     [[nodiscard]] bool authStartWithUser(const QString &user, const QString &password);
-    /** Asks again, also when the rights are held: for what must be agreed to each time. What runs with the rights that were
-        held runs to its end; refused, there are none afterwards. */
+    /** Asks again, also when the rights are held: for what must be agreed to each time. What runs with the rights that
+       were held runs to its end; refused, there are none afterwards. */
     [[nodiscard]] bool authAfresh();
     /** Gives the rights back. Tools that still run are ended, and the log says which. */
     void authEnd();
     [[nodiscard]] bool isAuthorized() const;
     [[nodiscard]] bool canAuthorize() const;
+    /** Whether the question was dismissed when the rights were last asked for and not had. */
+    [[nodiscard]] bool wasDismissed() const { return m_wasDismissed; }
 
     // Each returns as soon as its tool has been started: true says no more than that. lastToolSucceeded() says the
     // rest.
@@ -96,7 +99,8 @@ private:
     [[nodiscard]] bool obtainWith(const QString &user, const platform::Secret &password);
 
     UserInterface m_hasGUI;
-    QString m_userDirectory;    ///< recorded for ordinary users only
+    QString m_userDirectory; ///< recorded for ordinary users only
+    std::atomic<bool> m_wasDismissed = false;
     std::mutex m_asking;        ///< held while the rights are asked for, so that two threads ask once
     mutable std::mutex m_mutex; ///< guards m_authRef
     Rights m_authRef;

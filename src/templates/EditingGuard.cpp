@@ -1,9 +1,9 @@
 #include "templates/EditingGuard.h"
 
+#include "support/AdministratorQuestion.h"
 #include "support/Settings.h"
-#include "support/VTAuthorization.h"
 
 bool editingIsAllowed()
 {
-    return !settings::requireAdminPasswordForEditing.isOn() || VTAuthorization::sharedController().authAfresh();
+    return !settings::requireAdminPasswordForEditing.isOn() || administratorAgrees();
 }

@@ -203,9 +203,11 @@ private Q_SLOTS:
         QVERIFY(m_dialog.open(true));
         m_dialog.isDismissed = true;
         QVERIFY(!rights().authCreateDir(library + "/dismissed"));
+        QVERIFY(rights().wasDismissed());
         m_dialog.isDismissed = false;
         m_dialog.password = "wrong one";
         QVERIFY(!rights().authCreateDir(library + "/wrong"));
+        QVERIFY(!rights().wasDismissed());
         QCOMPARE(QDir(library).entryList({"dismissed", "wrong"}), QStringList());
         m_dialog.password = "right one";
         QVERIFY(rights().authCreateDir(library + "/made"));

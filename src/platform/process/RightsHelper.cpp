@@ -23,6 +23,9 @@ namespace {
 
 const QString pkexec = QStringLiteral("/usr/bin/pkexec");
 
+/// pkexec's status for a question that was dismissed (pkexec(1)); 127 is every other refusal.
+constexpr int dismissed = 126;
+
 /// pkexec refuses odd values; everything else is cleared by it anyway.
 QByteArrayList plainEnvironment()
 {
@@ -168,7 +171,9 @@ struct RightsHelper::Private
     /// With the lock held.
     void hangUpWhenRetired()
     {
-        const auto runs = [](const auto &numbered) { return !numbered.second.ended; };
+        const auto runs = [](const auto &numbered) {
+            return !numbered.second.ended;
+        };
         if (isRetired && std::none_of(tools.begin(), tools.end(), runs))
             helperProcess.hangUp();
     }
@@ -217,8 +222,10 @@ QString RightsHelper::path()
     return joined(ApplicationBundle::main().path(), QStringLiteral("Contents/Helpers/tessaro-helper"));
 }
 
-std::shared_ptr<RightsHelper> RightsHelper::start(Complaint complaint)
+std::shared_ptr<RightsHelper> RightsHelper::start(Complaint complaint, bool *wasDismissed)
 {
+    if (wasDismissed)
+        *wasDismissed = false;
     if (!isExecutableFile(pkexec) || !isExecutableFile(path()))
         return nullptr;
     auto parts = std::make_unique<Private>();
@@ -226,9 +233,14 @@ std::shared_ptr<RightsHelper> RightsHelper::start(Complaint complaint)
     // Without its text agent: a question in a terminal that nobody looks at would wait for ever.
     if (!parts->helperProcess
              .start({toNative(pkexec), "--disable-internal-agent", toNative(path())}, plainEnvironment())
-             .ok() ||
-        !parts->awaitReady())
+             .ok())
         return nullptr;
+    if (!parts->awaitReady()) {
+        const int status = parts->helperProcess.hangUpAndWait();
+        if (wasDismissed)
+            *wasDismissed = status == dismissed;
+        return nullptr;
+    }
     return std::shared_ptr<RightsHelper>(new RightsHelper(std::move(parts)));
 }
 

@@ -38,9 +38,10 @@ public:
 
     /**
      * Asks for the rights through pkexec and blocks while the user is asked, as long as that takes. Nothing when they
-     * were refused or dismissed, when there is nobody to ask, or no polkit on this machine.
+     * were refused or dismissed, when there is nobody to ask, or no polkit on this machine. Whoever dismisses the
+     * question knows why there are no rights; in the other cases somebody must say so.
      */
-    [[nodiscard]] static std::shared_ptr<RightsHelper> start(Complaint complaint);
+    [[nodiscard]] static std::shared_ptr<RightsHelper> start(Complaint complaint, bool *wasDismissed = nullptr);
     ~RightsHelper();
     RightsHelper(const RightsHelper &) = delete;
     RightsHelper &operator=(const RightsHelper &) = delete;
