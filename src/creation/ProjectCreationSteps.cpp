@@ -27,11 +27,11 @@ struct Text
 QString notKept(const platform::Losses &losses)
 {
     QStringList kinds;
-    for (const auto &[first, name] : {std::pair(&losses.labels, Text::tr("labels")),
-                                      {&losses.modes, Text::tr("permissions")},
-                                      {&losses.owners, Text::tr("owners")},
-                                      {&losses.dates, Text::tr("dates")}}) {
-        if (!first->isNull())
+    for (const auto &[loss, name] : {std::pair(&losses.labels, Text::tr("labels")),
+                                     {&losses.modes, Text::tr("permissions")},
+                                     {&losses.owners, Text::tr("owners")},
+                                     {&losses.dates, Text::tr("dates")}}) {
+        if (loss->count > 0)
             kinds.append(name);
     }
     return kinds.join(QStringLiteral(", "));

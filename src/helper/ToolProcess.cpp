@@ -55,6 +55,9 @@ int carryOut(const Plan &plan, TreeWork &work)
     const int error = carryOut(plan, treeWork);
     if (error != 0)
         dprintf(errorOutput, "%s: %s: %s", plan.tool.c_str(), treeWork.where().c_str(), strerror(error));
+    else if (treeWork.losses() > 0)
+        dprintf(errorOutput, "labels, dates or mode not kept of %s, of %zu items in all", treeWork.firstLoss().c_str(),
+                treeWork.losses());
     _exit(error == 0 ? 0 : monitor.cancelled ? 128 + SIGTERM : 1);
 }
 

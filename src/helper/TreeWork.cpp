@@ -66,6 +66,13 @@ int TreeWork::fail(int error, const std::string &shown)
     return error;
 }
 
+int TreeWork::noted(const platform::EntryResult &result, const std::string &shown)
+{
+    if (result.error == 0 && result.lost != platform::LostNothing && m_losses++ == 0)
+        m_firstLoss = shown;
+    return result.error;
+}
+
 int TreeWork::giveToPlace(int folder, const std::string &name, const struct stat &original) const
 {
     if (m_owners == Owners::Kept || original.st_uid != m_caller)
@@ -104,7 +111,7 @@ int TreeWork::copyFolder(int fromFolder, const std::string &from, int toFolder, 
     }
     const auto finished =
         platform::finishFolder(source.get(), made.get(), info, platform::Manner::Exact, platform::PlaceRights());
-    return fail(finished.error, shown);
+    return fail(noted(finished, shown), shown);
 }
 
 int TreeWork::copyItem(int fromFolder, const std::string &from, int toFolder, const std::string &to,
@@ -121,10 +128,10 @@ int TreeWork::copyItem(int fromFolder, const std::string &from, int toFolder, co
     if (S_ISDIR(info.st_mode))
         error = copyFolder(fromFolder, from, toFolder, to, shown);
     else
-        error =
-            platform::copyEntry({fromFolder, from.c_str(), toFolder, to.c_str(),
-                                 static_cast<unsigned char>(IFTODT(info.st_mode)), platform::Manner::Exact, &m_monitor})
-                .error;
+        error = noted(platform::copyEntry({fromFolder, from.c_str(), toFolder, to.c_str(),
+                                           static_cast<unsigned char>(IFTODT(info.st_mode)), platform::Manner::Exact,
+                                           &m_monitor}),
+                      shown);
     return fail(error != 0 ? error : giveToPlace(toFolder, to, info), shown);
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/plain/CopyMonitor.h"
+#include "platform/plain/FileCopy.h"
 #include "platform/plain/UniqueDescriptor.h"
 
 #include <string>
@@ -53,6 +54,9 @@ public:
 
     /** The item that the last failure is about. */
     [[nodiscard]] const std::string &where() const { return m_where; }
+    /** The first item whose labels, dates or mode the destination could not take, and how many there are. */
+    [[nodiscard]] const std::string &firstLoss() const { return m_firstLoss; }
+    [[nodiscard]] std::size_t losses() const { return m_losses; }
 
 private:
     enum class Owners { OfThePlace, Kept };
@@ -66,10 +70,13 @@ private:
     [[nodiscard]] static int makeOne(int folder, const std::string &name, platform::UniqueDescriptor &made);
     [[nodiscard]] int removeItem(int folder, const std::string &name, dev_t device, const std::string &shown);
     int fail(int error, const std::string &shown);
+    [[nodiscard]] int noted(const platform::EntryResult &result, const std::string &shown);
 
     uid_t m_caller;
     platform::CopyMonitor &m_monitor;
     std::string m_where;
+    std::string m_firstLoss;
+    std::size_t m_losses = 0;
     Owners m_owners = Owners::OfThePlace;
     uid_t m_placeUser = 0;
     gid_t m_placeGroup = 0;

@@ -115,9 +115,11 @@ Outcome copyFile(const QString &source, const QString &toPath, ShouldAuth should
     const Outcome byTool = fallBackToTool(
         shouldAuth, copied, VTAuthorization::copyCommand(source, toPath),
         [&] { return VTAuthorization::sharedController().authCopyFile(source, toPath); }, work.monitor());
+    const bool wasOwnTool = platform::isSuperUser() || !copied.needsRights();
+    if (byTool.ok() && wasOwnTool) // the helper says itself what it could not keep
+        VTLog::appendLog("%@ was copied by %@, which keeps no labels", source, QStringLiteral("/bin/cp"));
     if (byTool.ok())
         return {};
-    const bool wasOwnTool = platform::isSuperUser() || !copied.needsRights();
     if (isNew && wasOwnTool) // on a full disk the tool leaves what it got to
         static_cast<void>(platform::resultInBackground([&] { return platform::removeOwnTree(toPath); }));
     return byTool.is(Cause::Cancelled) ? byTool : copied;
@@ -202,11 +204,16 @@ Outcome removeFile(const QString &path, seconds timeout)
 
 void logLosses(const platform::Losses &losses)
 {
-    const std::pair<const char *, QString> kinds[] = {
-        {"labels", losses.labels}, {"mode", losses.modes}, {"owner", losses.owners}, {"dates", losses.dates}};
-    for (const auto &[kind, item] : kinds) {
-        if (!item.isNull())
-            VTLog::appendLog("Unable to keep the %@ of %@ at the destination", QString::fromLatin1(kind), item);
+    const std::pair<const char *, const platform::Loss *> kinds[] = {
+        {"labels", &losses.labels}, {"mode", &losses.modes}, {"owner", &losses.owners}, {"dates", &losses.dates}};
+    for (const auto &[kind, loss] : kinds) {
+        const QString what = QString::fromLatin1(kind);
+        for (const QString &item : loss->items)
+            VTLog::appendLog("Unable to keep the %@ of %@ at the destination", what, item);
+        const auto others = static_cast<qlonglong>(loss->count) - loss->items.size();
+        if (others > 0)
+            VTLog::appendLog("Unable to keep the %@ of %@ more items at the destination", what,
+                             QString::number(others));
     }
 }
 

@@ -50,7 +50,7 @@ Outcome copyContentsOfDirectory(const QString &source, const QString &toPath, se
 /** What the given operations go through: to them a folder that cannot be read is an empty one. The log says so. */
 [[nodiscard]] QList<platform::FolderEntry> entriesOf(const QString &folder);
 
-/** One line for each kind of loss. */
+/** One line for each item and what it lost. */
 void logLosses(const platform::Losses &losses);
 
 } // namespace fileoperations

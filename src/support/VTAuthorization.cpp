@@ -53,9 +53,12 @@ struct StartedTool
 };
 thread_local std::optional<StartedTool> lastTool;
 
-void logFailedTool(const platform::RightsHelper::ToolEnd &end)
+void logTool(const platform::RightsHelper::ToolEnd &end)
 {
-    VTLog::appendLog("Administrator tool %@ failed (%d): %@", end.tool, end.status, end.errorText);
+    if (end.ok())
+        VTLog::appendLog("Administrator tool %@: %@", end.tool, end.errorText);
+    else
+        VTLog::appendLog("Administrator tool %@ failed (%d): %@", end.tool, end.status, end.errorText);
 }
 
 } // namespace
@@ -115,7 +118,7 @@ bool VTAuthorization::obtain()
     if (isAuthorized())
         return true; // another thread has asked meanwhile
     bool wasDismissed = false;
-    setAuthRef(platform::RightsHelper::start(logFailedTool, &wasDismissed));
+    setAuthRef(platform::RightsHelper::start(logTool, &wasDismissed));
     m_wasDismissed = wasDismissed;
     return isAuthorized();
 }
@@ -139,7 +142,7 @@ bool VTAuthorization::obtainWith(const QString &user, const platform::Secret &pa
         printToConsole(formatString("Unable to create authRef - error %d", agent.error()));
         return false;
     }
-    setAuthRef(platform::RightsHelper::start(logFailedTool));
+    setAuthRef(platform::RightsHelper::start(logTool));
     if (isAuthorized())
         return true;
     VTLog::appendLogAndPrint("Authorization failed. Invalid username or password");

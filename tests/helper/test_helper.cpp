@@ -1,5 +1,6 @@
 // The privileged helper, as far as that can be seen without rights: what it takes for a message, what it takes for a
 // request, and what it needs to start at all.
+#include "harness/RefusedCalls.h"
 #include "harness/TemporaryHome.h"
 #include "helper/Plan.h"
 #include "helper/Protocol.h"
@@ -15,6 +16,7 @@
 #include <fcntl.h>
 #include <random>
 #include <sys/stat.h>
+#include <sys/xattr.h>
 #include <thread>
 #include <unistd.h>
 
@@ -207,6 +209,31 @@ private Q_SLOTS:
         QCOMPARE(work.remove(item("to", "copy")), 0);
         QCOMPARE(work.remove(item("to", "copy")), 0);
         QCOMPARE(platform::listFolder(m_home->file("to"))->size(), 2);
+    }
+
+    void countsWhatADriveDoesNotKeep()
+    {
+        writeFile(m_home->file("from/tree/deep/labelled"), "a");
+        writeFile(m_home->file("from/tree/plain"), "b");
+        writeFile(m_home->file("to/x"), "");
+        if (setxattr(m_home->file("from/tree/deep/labelled").toUtf8(), "user.label", "6", 1, 0) != 0)
+            QSKIP("No labels on this drive");
+        platform::CopyMonitor monitor;
+        TreeWork whole(getuid(), monitor);
+        QCOMPARE(whole.copy(item("from", "tree"), item("to", "kept")), 0);
+        QCOMPARE(whole.losses(), 0u);
+        TreeWork work(getuid(), monitor);
+        int error = -1;
+        bool refuses = false;
+        std::thread([&] {
+            refuses = refuseCalls({SYS_fsetxattr});
+            error = work.copy(item("from", "tree"), item("to", "copy"));
+        }).join();
+        QVERIFY(refuses);
+        QCOMPARE(error, 0);
+        QCOMPARE(work.losses(), 1u);
+        QCOMPARE(QString::fromStdString(work.firstLoss()), m_home->file("from/tree/deep/labelled"));
+        QCOMPARE(readFile(m_home->file("to/copy/deep/labelled")), "a");
     }
 
     /// Somebody exchanges whatever appears for a link to a folder of the system, as fast as he can: nothing ever

@@ -354,12 +354,12 @@ void TreeCopier::noteLosses(unsigned lost, const QString &path)
     if (lost == LostNothing)
         return;
     const std::scoped_lock lock(m_mutex);
-    for (const auto &[loss, first] : {std::pair(LostLabels, &m_losses.labels),
-                                      {LostMode, &m_losses.modes},
-                                      {LostOwner, &m_losses.owners},
-                                      {LostDates, &m_losses.dates}}) {
-        if ((lost & loss) != 0 && first->isNull())
-            *first = path;
+    for (const auto &[loss, lostBy] : {std::pair(LostLabels, &m_losses.labels),
+                                       {LostMode, &m_losses.modes},
+                                       {LostOwner, &m_losses.owners},
+                                       {LostDates, &m_losses.dates}}) {
+        if ((lost & loss) != 0)
+            lostBy->add(path);
     }
 }
 
@@ -407,6 +407,12 @@ CopyReport copyEntries(const QString &sourceFolder, const QString &destinationFo
                        const std::vector<NamePair> &entries, CopyMonitor *monitor)
 {
     return TreeCopier(sourceFolder, destinationFolder, monitor).run(entries);
+}
+
+void Loss::add(const QString &item)
+{
+    if (++count <= named)
+        items.append(item);
 }
 
 Outcome copyItem(const QString &source, const QString &destination, Losses *losses, CopyMonitor *monitor)

@@ -3,7 +3,7 @@
 #include "platform/base/Outcome.h"
 #include "platform/files/Tree.h"
 
-#include <QString>
+#include <QStringList>
 #include <cstddef>
 #include <vector>
 
@@ -21,13 +21,21 @@ namespace platform {
 
 class CopyMonitor;
 
-/** What a drive could not take, each named by the first item that lost it; null where nothing was lost. */
+/** The items that lost something on a drive that could not take it. */
+struct Loss
+{
+    static constexpr std::size_t named = 1000; ///< on a drive that knows no labels it may be every one of a million
+    QStringList items;                         ///< the first of them
+    std::size_t count = 0;
+    void add(const QString &item);
+};
+
 struct Losses
 {
-    QString labels; ///< extended attributes, label colours among them
-    QString modes;
-    QString owners;
-    QString dates;
+    Loss labels; ///< extended attributes, label colours among them
+    Loss modes;
+    Loss owners;
+    Loss dates;
 };
 
 struct NamePair

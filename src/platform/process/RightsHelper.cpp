@@ -145,7 +145,7 @@ struct RightsHelper::Private
 
     void take(const Message &message)
     {
-        ToolEnd failed;
+        ToolEnd said;
         {
             const std::scoped_lock lock(mutex);
             const auto found = tools.find(message.id);
@@ -158,12 +158,12 @@ struct RightsHelper::Private
                 tool.error = message.status;
             if (message.type == MessageType::Ended && !message.texts.empty())
                 tool.end = {tool.path, message.status, fromNative(message.texts[0].c_str()).trimmed()};
-            if (message.type == MessageType::Ended && !tool.end.ok())
-                failed = tool.end;
+            if (message.type == MessageType::Ended)
+                said = tool.end;
         }
         changed.notify_all();
-        if (!failed.ok() && complaint)
-            complaint(failed);
+        if (complaint && (!said.ok() || !said.errorText.isEmpty()))
+            complaint(said);
         const std::scoped_lock lock(mutex);
         hangUpWhenRetired();
     }

@@ -18,7 +18,8 @@ namespace platform {
 class RightsHelper
 {
 public:
-    /** How a tool ended: what it was, its status (0 is success, 128 and more a signal) and what it said about it. */
+    /** How a tool ended: what it was, its status (0 is success, 128 and more a signal) and what it said about it: why
+       it failed, or what it could not keep. */
     struct ToolEnd
     {
         QString tool;
@@ -26,7 +27,8 @@ public:
         QString errorText;
         [[nodiscard]] bool ok() const { return status == 0; }
     };
-    /** Called on a thread of the helper's own, once for every tool that did not end well, also by the helper's end. */
+    /** Called on a thread of the helper's own, once for every tool that had something to say, also by the helper's end.
+     */
     using Complaint = std::function<void(const ToolEnd &)>;
 
     /** A tool on its way, for waitFor(). */
