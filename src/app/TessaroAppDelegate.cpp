@@ -14,6 +14,7 @@
 #include "platform/files/ApplicationBundle.h"
 #include "platform/files/FileWatch.h"
 #include "preferences/VTPreferenceController.h"
+#include "support/FileOperations.h"
 #include "support/Notifications.h"
 #include "support/Settings.h"
 #include "support/VTAlert.h"
@@ -58,6 +59,11 @@ bool TessaroAppDelegate::awakeFromNib()
                           "off with: sudo Tessaro settings unset requireAdminPassword")});
         return false;
     }
+    if (const platform::Outcome problem = settings::standard().problem(); !problem.ok())
+        VTAlert::show({tr("Your settings cannot be read"),
+                       withCause(tr("Tessaro shows its defaults instead. What you change and the numbers that projects "
+                                    "take are not kept until the file can be read again."),
+                                 problem)});
     VTSoftwareUpdate().startup();
     m_tableController = std::make_unique<VTProjectTableController>();
     m_window = std::make_unique<MainWindow>(*this);

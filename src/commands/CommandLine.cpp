@@ -231,6 +231,12 @@ int runCommand(const Invocation &invocation)
     if (invocation.verb->guard == Guard::None)
         return finished(invocation.verb->run(invocation));
     settings::registerDefaults();
+    if (const platform::Outcome problem = settings::standard().problem();
+        !problem.ok() && !invocation.verb->worksWithoutSettings)
+        return finished(complain(
+            problem,
+            Text::tr("The settings cannot be read, and nothing is done without them: neither the parameters nor the "
+                     "numbers that are taken are known.")));
     TerminalPresenter presenter(invocation.has("--overwrite") || invocation.has("--yes"));
     VTAlert::setPresenter(&presenter);
     const TerminalProgress progress;

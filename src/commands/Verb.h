@@ -49,6 +49,7 @@ struct Verb
     Logged logged = Logged::Yes;
     Completes completes = Completes::Nothing; ///< what its arguments are
     int valueAt = -1;                         ///< the argument that may begin with a dash; -1: none
+    bool worksWithoutSettings = false;        ///< helps to find out what is wrong with them
 
     [[nodiscard]] QString name() const { return QLatin1String(words); }
     /** "Tessaro template rename OLD NEW [--yes]". */

@@ -497,6 +497,26 @@ private Q_SLOTS:
         QVERIFY(platform::leadsToFolder(library + "/Photography.tzt/Files"));
     }
 
+    /// Neither made nor listed as if the defaults were the user's own.
+    void settingsThatCannotBeRead()
+    {
+        if (geteuid() == 0)
+            QSKIP("Nothing is closed to the super-user");
+        QCOMPARE(run({"parameters", "add", "Reel"}).status, 0);
+        QCOMPARE(chmod(settingsFile().toUtf8().constData(), 0), 0);
+        const QStringList before = everythingIn(target());
+        for (const QStringList &words :
+             {QStringList{"create", "--in", target()}, {"parameters"}, {"settings"}, {"templates"}, {"undo"}}) {
+            const Outcome refused = run(words);
+            QVERIFY2(refused.status == 1 && refused.output.isEmpty(), qPrintable(words.first()));
+            QVERIFY(refused.errors.contains("com.vantrel.Tessaro.plist: Permission denied"));
+        }
+        QCOMPARE(everythingIn(target()), before);
+        QCOMPARE(run({"logs", "--task"}).status, 0);
+        QCOMPARE(chmod(settingsFile().toUtf8().constData(), 0600), 0);
+        QVERIFY(run({"parameters"}).output.contains("Reel"));
+    }
+
     /// Everything about the verbs comes from one table: each explains itself, and the shells take what they are given.
     void verbsExplainThemselves()
     {

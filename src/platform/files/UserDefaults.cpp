@@ -106,6 +106,14 @@ bool UserDefaults::isSetForMachine(const QString &key) const
     return m_machine.values.contains(key);
 }
 
+Outcome UserDefaults::problem() const
+{
+    const std::scoped_lock lock(m_mutex);
+    refresh(m_user);
+    refresh(m_machine);
+    return m_user.problem.ok() ? m_machine.problem : m_user.problem;
+}
+
 QVariant UserDefaults::lookUp(const QString &key) const
 {
     const bool machineFirst = m_machineDecides.contains(key);

@@ -34,6 +34,9 @@ public:
     /** Whether the machine-wide domain holds the key. */
     [[nodiscard]] bool isSetForMachine(const QString &key) const;
 
+    /** Why the domains cannot be read just now; what they held when they last could is what their values are. */
+    [[nodiscard]] Outcome problem() const;
+
     /** An invalid variant when the key is in no domain. */
     [[nodiscard]] QVariant value(const QString &key) const;
     /** Strings as they are, numbers as decimal text; null for anything else. */
