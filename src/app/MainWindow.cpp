@@ -10,6 +10,7 @@
 #include "ui/ValueCellDelegate.h"
 #include "ui_MainWindow.h"
 
+#include <QCloseEvent>
 #include <QKeyEvent>
 #include <QTimer>
 
@@ -201,17 +202,6 @@ void MainWindow::setParametersEmpty(bool empty)
     m_ui->parameterStack->setCurrentWidget(empty ? static_cast<QWidget *>(m_ui->emptyParameters) : m_ui->tableView);
 }
 
-QWidget *MainWindow::makeBrowseAccessory(const QString &relativePath)
-{
-    auto *label =
-        new QLabel(tr("The project is made in the folder shown above, as “%1”. The name typed here plays no part; "
-                      "it is composed from the parameters.")
-                       .arg(platform::forDisplay(relativePath)));
-    label->setWordWrap(true);
-    label->setTextFormat(Qt::PlainText);
-    return label;
-}
-
 void MainWindow::keyPressEvent(QKeyEvent *event)
 {
     const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
@@ -227,6 +217,14 @@ bool MainWindow::event(QEvent *event)
     if (event->type() == QEvent::Paint && !std::exchange(m_painted, true))
         QTimer::singleShot(0, this, &MainWindow::firstPainted);
     return handled;
+}
+
+void MainWindow::closeEvent(QCloseEvent *event)
+{
+    if (m_delegate.mayClose())
+        QMainWindow::closeEvent(event);
+    else
+        event->ignore();
 }
 
 void MainWindow::changeEvent(QEvent *event)

@@ -51,7 +51,6 @@ public:
     /** Their menu item is disabled while they are. */
     void setPreferencesOpen(bool open);
     /** Explains the save panel. */
-    [[nodiscard]] QWidget *makeBrowseAccessory(const QString &relativePath);
 
 Q_SIGNALS:
     void firstPainted();
@@ -59,6 +58,7 @@ Q_SIGNALS:
 protected:
     void keyPressEvent(QKeyEvent *event) override;
     bool event(QEvent *event) override;
+    void closeEvent(QCloseEvent *event) override;
     void changeEvent(QEvent *event) override;
 
 private:

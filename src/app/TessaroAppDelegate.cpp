@@ -43,7 +43,7 @@ TessaroAppDelegate::TessaroAppDelegate()
 TessaroAppDelegate::~TessaroAppDelegate()
 {
     delete m_preferences; // it speaks to the window when it goes
-    while (m_imports > 0) // a template that is half in the library would look like a whole one
+    while (isImporting()) // while the window is whole: what waits here shows its progress and its questions in it
         platform::MainThread::turnLoop(std::chrono::milliseconds(50));
     if (m_tableController) // a value that is being typed when the window closes counts, too
         m_tableController->finishEditing();
@@ -168,6 +168,8 @@ void TessaroAppDelegate::toolbarTemplateAction()
         return pane.tableController().switchedToView();
     connect(&pane.tableController(), &VTTemplateTableController::populateTemplatePopUp, this,
             &TessaroAppDelegate::populateTemplatePopUp);
+    connect(&pane.outlineController(), &VTTemplateOutlineController::importsEnded, this,
+            &TessaroAppDelegate::closeIfWanted);
     pane.awakeFromNib();
 }
 

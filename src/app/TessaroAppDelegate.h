@@ -55,6 +55,8 @@ public:
     /** The same for several; what is no template is said. */
     void openFiles(const QStringList &paths);
     void bringToFront();
+    /** False, and the window closes by itself later, while something is being taken in. */
+    [[nodiscard]] bool mayClose();
 
     /** Creates the project, whatever is shown by then. */
     void createTemplate(const ProjectRequest &request);
@@ -116,6 +118,8 @@ private:
     void importOldTessaroTemplate();
     void restoreShippedTemplates();
     void offerToPutAwayLeftovers();
+    [[nodiscard]] bool isImporting() const;
+    void closeIfWanted();
     void watchSettings();
     void followSettings();
     void followTemplate(const QString &name, QString &seen);
@@ -128,8 +132,9 @@ private:
     int m_awakeCount = 0;
     bool m_creating = false;
     bool m_templatesShown = false; ///< the pane is filled when it is first shown: that would only slow the start
-    int m_imports = 0;             ///< bundles that are being taken in
-    QString m_seenTemplate;        ///< "selectedProjectTemplate" and "defaultTemplate" when they were last looked at
+    bool m_closesLater = false;
+    int m_imports = 0;      ///< bundles that are being taken in
+    QString m_seenTemplate; ///< "selectedProjectTemplate" and "defaultTemplate" when they were last looked at
     QString m_seenDefault;
     std::unique_ptr<platform::FileWatch> m_settingsWatch;
     std::unique_ptr<MainWindow> m_window;

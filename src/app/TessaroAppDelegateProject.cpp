@@ -1,7 +1,9 @@
 // The create action: from the filled-in table to a finished project.
 #include "app/TessaroAppDelegate.h"
 
+#include "app/BrowseAccessory.h"
 #include "app/MainWindow.h"
+#include "creation/RecentPlaces.h"
 #include "parameters/ProjectNaming.h"
 #include "parameters/table/VTProjectTableController.h"
 #include "platform/base/MainThread.h"
@@ -13,6 +15,7 @@
 #include "support/VTLocalPaths.h"
 #include "support/VTLog.h"
 #include "templates/VTDataController.h"
+#include "ui/PanelEnd.h"
 #include "ui/VTSavePanel.h"
 
 #include <QApplication>
@@ -95,13 +98,18 @@ void TessaroAppDelegate::askForDestination()
 {
     VTLog::appendLog("Prompting for destination");
     m_savePanel = new VTSavePanel(m_window.get());
-    m_savePanel->setAttribute(Qt::WA_DeleteOnClose);
     m_savePanel->setWindowTitle(tr("Choose a destination"));
-    m_savePanel->setAccessoryView(m_window->makeBrowseAccessory(m_request.relativePath()));
-    const QString start = settings::fixedProjectLocationPath.text();
-    m_savePanel->setDirectory(VTFileManager::isDirectoryAtPath(start) ? start : VTLocalPaths::userDirectory());
-    m_savePanel->setSuggestedName(m_request.levels().constFirst());
-    connect(m_savePanel, &VTSavePanel::finished, this, &TessaroAppDelegate::destinationBrowseDidEnd);
+    auto *accessory = new BrowseAccessory(m_request.relativePath());
+    m_savePanel->setAccessoryView(accessory);
+    connect(m_savePanel, &VTSavePanel::folderChanged, accessory, &BrowseAccessory::setFolder);
+    const QStringList places = recentPlaces() + QStringList{settings::fixedProjectLocationPath.text()};
+    m_savePanel->setRecentFolders(places);
+    const auto start = std::find_if(places.begin(), places.end(), VTFileManager::isDirectoryAtPath);
+    m_savePanel->setDirectory(start != places.end() ? *start : VTLocalPaths::userDirectory());
+    accessory->setFolder(m_savePanel->chosenFolder());
+    whenLeft<VTSavePanel>(*m_savePanel, *this, [this](VTSavePanel &, bool accepted) {
+        destinationBrowseDidEnd(accepted ? QDialog::Accepted : QDialog::Rejected);
+    });
     m_savePanel->open();
 }
 
@@ -111,9 +119,7 @@ void TessaroAppDelegate::destinationBrowseDidEnd(int returnCode)
     m_savePanel = nullptr;
     if (returnCode != QDialog::Accepted)
         return;
-    panel->hide();
-    // Only the folder counts: the name typed in the panel is not the project's.
-    m_request.location = platform::parentPath(panel->chosenPath());
+    m_request.location = panel->chosenFolder();
     if (settings::useFixedProjectLocation.isOn())
         static_cast<void>(settings::fixedProjectLocationPath.store(
             m_request.location)); // logged; this project goes there all the same
@@ -129,6 +135,8 @@ void TessaroAppDelegate::createTemplate(const ProjectRequest &request)
     m_tableController->follow(); // what came during the creation
     for (const QString &note : result.notes)
         VTAlert::show({note, {}});
+    if (result.ok())
+        rememberPlace(result.request.location);
     if (!result.manifest.file.isEmpty())
         m_undoable = result.manifest;
     m_window->setUndoable(m_undoable ? platform::forOneLine(m_undoable->name()) : QString());

@@ -3,6 +3,7 @@
 
 #include "app/MainWindow.h"
 #include "parameters/table/VTProjectTableController.h"
+#include "platform/base/MainThread.h"
 #include "platform/base/NativePath.h"
 #include "support/FileOperations.h"
 #include "support/Notifications.h"
@@ -12,14 +13,13 @@
 #include "templates/VTDataController.h"
 #include "templates/editor/TemplatePane.h"
 #include "ui/ImportPanel.h"
-
-#include <QThread>
+#include "ui/PanelEnd.h"
 
 void TessaroAppDelegate::importTemplate()
 {
     auto *panel = new ImportPanel(m_window.get(), ImportPanel::Takes::Bundles, QStringLiteral("tzt"));
     panel->setWindowTitle(tr("Import Template"));
-    connect(panel, &QDialog::accepted, this, [this, panel] { openFile(panel->chosen().constFirst()); });
+    whenLeft<ImportPanel>(*panel, *this, [this](ImportPanel &left, bool) { openFiles(left.chosen()); });
     panel->open();
 }
 
@@ -31,15 +31,35 @@ bool TessaroAppDelegate::openFile(const QString &path)
         return false;
     bringToFront();
     toolbarTemplateAction();
-    auto *thread =
-        QThread::create([this, plain] { m_window->templatePane().tableController().addTemplateFromFile(plain); });
     ++m_imports;
-    connect(thread, &QThread::finished, this, [this, thread] {
-        thread->deleteLater();
-        --m_imports;
-    });
-    thread->start();
+    auto &list = m_window->templatePane().tableController();
+    platform::performBeside([&list, plain] { list.addTemplateFromFile(plain); },
+                            [this] {
+                                --m_imports;
+                                closeIfWanted();
+                            });
     return true;
+}
+
+bool TessaroAppDelegate::isImporting() const
+{
+    return m_imports > 0 || (m_templatesShown && m_window->templatePane().outlineController().isImporting());
+}
+
+/// The window stays while something is taken in: what is half in the library or a template would look like a whole one,
+/// and whoever imports wants to hear how it ends.
+bool TessaroAppDelegate::mayClose()
+{
+    m_closesLater = isImporting();
+    if (m_closesLater)
+        m_window->showMessage(tr("The window closes when everything has been taken in."));
+    return !m_closesLater;
+}
+
+void TessaroAppDelegate::closeIfWanted()
+{
+    if (std::exchange(m_closesLater, false))
+        m_window->close();
 }
 
 void TessaroAppDelegate::openFiles(const QStringList &paths)
@@ -53,6 +73,8 @@ void TessaroAppDelegate::openFiles(const QStringList &paths)
 
 void TessaroAppDelegate::bringToFront()
 {
+    if (std::exchange(m_closesLater, false)) // somebody wants to see it after all
+        m_window->showMessage({});
     if (m_window->isMinimized())
         m_window->showNormal();
     m_window->raise();

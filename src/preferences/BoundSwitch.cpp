@@ -31,7 +31,7 @@ void bindProtection(QCheckBox &box, const settings::SwitchSetting &setting)
         const bool locksOut = isOn && &setting == &settings::requireAdminPassword;
         bool mayTurn = isOn && !locksOut;
         if (!mayTurn) // of the switch that would lock out more is to be said than that there are no rights
-            mayTurn = locksOut ? VTAuthorization::sharedController().authAfresh() : administratorAgrees();
+            mayTurn = locksOut ? VTAuthorization::sharedController().authAfresh() : administratorAgrees(box.window());
         const platform::Outcome turned = mayTurn ? setting.turn(isOn) : platform::Outcome();
         if (mayTurn && turned.ok())
             return;

@@ -3,6 +3,7 @@
 #include "platform/base/FormatString.h"
 #include "support/FileOperations.h"
 #include "support/VTAlert.h"
+#include "ui/PanelEnd.h"
 
 #include <QCoreApplication>
 #include <QFileDialog>
@@ -21,12 +22,12 @@ struct Text
 void folderchoice::browse(QWidget &window, const QString &title, std::function<void(const QString &)> chosen)
 {
     auto *panel = new QFileDialog(&window, title);
-    panel->setAttribute(Qt::WA_DeleteOnClose);
+    panel->setWindowModality(Qt::WindowModal);
     panel->setFileMode(QFileDialog::Directory);
     panel->setOption(QFileDialog::ShowDirsOnly);
-    QObject::connect(panel, &QDialog::accepted, &window, [panel, chosen = std::move(chosen)] {
-        panel->hide();
-        chosen(panel->selectedFiles().value(0));
+    whenLeft<QFileDialog>(*panel, window, [chosen = std::move(chosen)](QFileDialog &left, bool accepted) {
+        if (accepted)
+            chosen(left.selectedFiles().value(0));
     });
     panel->open();
 }

@@ -14,13 +14,14 @@ struct Text
 
 } // namespace
 
-bool administratorAgrees()
+bool administratorAgrees(QWidget *window)
 {
     auto &authorization = VTAuthorization::sharedController();
     if (authorization.authAfresh())
         return true;
     if (!authorization.wasDismissed())
         VTAlert::show({Text::tr("This needs an administrator’s password"),
-                       Text::tr("None was accepted, or this desktop has no service running that asks for one.")});
+                       Text::tr("None was accepted, or this desktop has no service running that asks for one.")},
+                      window);
     return false;
 }

@@ -167,6 +167,7 @@ const SwitchSetting requireAdminPasswordForPrefs{{"requireAdminPasswordForPrefs"
 const Setting filenameTemplate{"filenameTemplate", Type::Value, nullptr, shippedParameters};
 const TextSetting selectedProjectTemplate{{"selectedProjectTemplate", Type::Text, nullptr, editingTemplate}};
 const SwitchSetting firstRun{{"firstRun", Type::Boolean, nullptr, yes}};
+const Setting recentLocations{"recentLocations", Type::Value};
 const NumberSetting templateListWidth{{"templateListWidth", Type::Number}};
 const Setting webAddresses{"webAddresses", Type::Value};
 const Setting launch{"launch", Type::Value};
@@ -190,6 +191,7 @@ const QList<const Setting *> &all()
                                              &filenameTemplate,
                                              &selectedProjectTemplate,
                                              &firstRun,
+                                             &recentLocations,
                                              &templateListWidth,
                                              &webAddresses,
                                              &launch,

@@ -83,6 +83,7 @@ extern const SwitchSetting firstRun;
 extern const SwitchSetting requireAdminPassword;
 extern const SwitchSetting requireAdminPasswordForEditing;
 extern const SwitchSetting requireAdminPasswordForPrefs;
+extern const Setting recentLocations;         ///< where projects were created: a list of folders, the latest first
 extern const NumberSetting templateListWidth; ///< pixels: the list beside the tree
 extern const Setting webAddresses;            ///< dictionary: page name to address, see HelpPages
 extern const Setting launch;                  ///< date of the last launch

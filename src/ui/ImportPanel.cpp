@@ -4,23 +4,58 @@
 #include "platform/files/FileSystem.h"
 
 #include <QAbstractItemView>
+#include <QKeyEvent>
+#include <QLineEdit>
 
 ImportPanel::ImportPanel(QWidget *parent, Takes takes, QString extension)
     : QFileDialog(parent)
     , m_takes(takes)
     , m_extension(std::move(extension))
 {
-    setAttribute(Qt::WA_DeleteOnClose);
     setWindowModality(Qt::WindowModal);
     setOption(DontUseNativeDialog); // the desktops' own panels take either files or one folder
     setFileMode(takes == Takes::FilesAndFolders ? ExistingFiles : Directory);
-    setOption(ShowDirsOnly, takes == Takes::Folders);
-    const auto mode =
-        takes == Takes::Bundles ? QAbstractItemView::SingleSelection : QAbstractItemView::ExtendedSelection;
+    setOption(ShowDirsOnly, takes != Takes::FilesAndFolders);
+    setOption(ReadOnly); // here nothing is made, renamed or removed
+    setLabelText(Accept, tr("Import"));
     for (const char *name : {"listView", "treeView"}) {
-        if (auto *view = findChild<QAbstractItemView *>(QLatin1String(name)))
-            view->setSelectionMode(mode);
+        auto *view = findChild<QAbstractItemView *>(QLatin1String(name));
+        if (!view)
+            continue;
+        view->setSelectionMode(QAbstractItemView::ExtendedSelection);
+        view->installEventFilter(this); // before the panel's own, which would enter a bundle as a folder
+        view->viewport()->installEventFilter(this);
     }
+    if (auto *newFolder = findChild<QWidget *>(QStringLiteral("newFolderButton")))
+        newFolder->hide();
+}
+
+bool ImportPanel::isBundle(const QString &path) const
+{
+    return m_takes == Takes::Bundles && platform::extensionOf(path).compare(m_extension, Qt::CaseInsensitive) == 0;
+}
+
+/// A double click, or Return, on a bundle chooses what is selected: to the user it is one item.
+bool ImportPanel::eventFilter(QObject *watched, QEvent *event)
+{
+    auto *view = qobject_cast<QAbstractItemView *>(watched);
+    QModelIndex index;
+    if (event->type() == QEvent::MouseButtonDblClick) {
+        view = qobject_cast<QAbstractItemView *>(watched->parent());
+        index = view ? view->indexAt(static_cast<QMouseEvent *>(event)->pos()) : QModelIndex();
+    } else if (view && event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent *>(event)->key();
+        index = key == Qt::Key_Return || key == Qt::Key_Enter ? view->currentIndex() : QModelIndex();
+    }
+    if (!index.isValid() || !isBundle(pathOf(index)))
+        return QFileDialog::eventFilter(watched, event);
+    accept();
+    return true;
+}
+
+QString ImportPanel::pathOf(const QModelIndex &index) const
+{
+    return platform::joined(directory().absolutePath(), index.siblingAtColumn(0).data(Qt::EditRole).toString());
 }
 
 QStringList ImportPanel::selectedItems() const
@@ -28,22 +63,27 @@ QStringList ImportPanel::selectedItems() const
     QStringList items;
     if (const auto *view = findChild<QAbstractItemView *>(QStringLiteral("listView"))) {
         for (const QModelIndex &row : view->selectionModel()->selectedRows())
-            items.append(directory().absoluteFilePath(row.data().toString()));
+            items.append(pathOf(row));
     }
-    return items.isEmpty() ? selectedFiles() : items;
+    const auto *edit = findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
+    const bool isTyped = edit && edit->hasFocus();
+    return items.isEmpty() || isTyped ? selectedFiles() : items;
 }
 
 void ImportPanel::accept()
 {
     QStringList items = selectedItems();
-    if (m_takes == Takes::Bundles) {
-        items.removeIf([this](const QString &path) {
-            return platform::extensionOf(path).compare(m_extension, Qt::CaseInsensitive) != 0;
-        });
-    }
     items.removeIf([](const QString &path) { return !platform::targetExists(path); });
-    if (items.isEmpty())
-        return QFileDialog::accept(); // a folder that was typed or is no bundle: goes there
-    m_chosen = items;
-    QDialog::accept();
+    const QString folder = items.value(0);
+    if (m_takes == Takes::Bundles)
+        items.removeIf([this](const QString &path) { return !isBundle(path); });
+    if (!items.isEmpty()) {
+        m_chosen = items;
+        return QDialog::accept();
+    }
+    if (!platform::leadsToFolder(folder) || folder == directory().absolutePath())
+        return; // nothing that could be taken: the panel stays
+    setDirectory(folder);
+    if (auto *edit = findChild<QLineEdit *>(QStringLiteral("fileNameEdit")))
+        edit->clear();
 }

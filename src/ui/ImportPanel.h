@@ -2,7 +2,10 @@
 
 #include <QFileDialog>
 
-/** An open panel that takes several items at once, folders as well as files, as they are selected; as a sheet. */
+/**
+ * An open panel that takes several items at once, folders as well as files, as they are selected; as a sheet. It ends
+ * with something chosen or not at all. The caller takes it over.
+ */
 class ImportPanel : public QFileDialog
 {
     Q_OBJECT
@@ -10,7 +13,7 @@ class ImportPanel : public QFileDialog
 public:
     enum class Takes { FilesAndFolders, Folders, Bundles };
 
-    /** For bundles: one folder whose name ends in the extension, chosen as one item. */
+    /** For bundles: folders whose names end in the extension, each chosen as one item; others are entered. */
     ImportPanel(QWidget *parent, Takes takes, QString extension = {});
     /** Absolute paths, in the panel's order. */
     [[nodiscard]] const QStringList &chosen() const { return m_chosen; }
@@ -18,7 +21,12 @@ public:
 public Q_SLOTS:
     void accept() override;
 
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
+    [[nodiscard]] bool isBundle(const QString &path) const;
+    [[nodiscard]] QString pathOf(const QModelIndex &index) const;
     [[nodiscard]] QStringList selectedItems() const;
 
     Takes m_takes;

@@ -1,17 +1,29 @@
 #include "ui/VTSavePanel.h"
 
-#include "platform/base/NativePath.h"
+#include "platform/files/FileSystem.h"
 
+#include <QDir>
+#include <QFileSystemModel>
 #include <QGridLayout>
 #include <QLineEdit>
+#include <QUrl>
 
 VTSavePanel::VTSavePanel(QWidget *parent)
     : QFileDialog(parent)
 {
-    setAcceptMode(AcceptSave);
-    setFileMode(AnyFile);
-    setOptions(DontUseNativeDialog | DontConfirmOverwrite | ShowDirsOnly);
+    setFileMode(Directory);
+    setOptions(DontUseNativeDialog | ShowDirsOnly);
     setWindowModality(Qt::WindowModal);
+    setLabelText(Accept, tr("Create Here"));
+    setLabelText(FileName, tr("Folder:"));
+    const auto tell = [this] {
+        Q_EMIT folderChanged(chosenFolder());
+    };
+    connect(this, &QFileDialog::currentChanged, this, tell);
+    if (const auto *files = findChild<QFileSystemModel *>()) // directoryEntered() knows only some ways to get there
+        connect(files, &QFileSystemModel::rootPathChanged, this, tell, Qt::QueuedConnection);
+    if (auto *edit = findChild<QLineEdit *>(QStringLiteral("fileNameEdit")))
+        connect(edit, &QLineEdit::textChanged, this, tell);
 }
 
 void VTSavePanel::setAccessoryView(QWidget *view)
@@ -20,20 +32,19 @@ void VTSavePanel::setAccessoryView(QWidget *view)
         grid->addWidget(view, grid->rowCount(), 0, 1, grid->columnCount());
 }
 
-void VTSavePanel::done(int result)
+void VTSavePanel::setRecentFolders(const QStringList &folders)
 {
-    if (result == Accepted && m_chosenPath.isNull())
-        m_chosenPath = selectedFiles().value(0);
-    QFileDialog::done(result);
+    QList<QUrl> places{QUrl::fromLocalFile(QDir::homePath())};
+    for (const QString &folder : folders) {
+        const QUrl place = QUrl::fromLocalFile(folder);
+        if (!places.contains(place) && platform::leadsToFolder(folder))
+            places.append(place);
+    }
+    setSidebarUrls(places);
 }
 
-void VTSavePanel::accept()
+QString VTSavePanel::chosenFolder() const
 {
-    const auto *edit = findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
-    const QString typed = edit ? edit->text() : QString();
-    const bool leadsSomewhere = typed.contains(u'/') || typed == u"." || typed == u"..";
-    if (typed.isEmpty() || leadsSomewhere) // a path typed to get somewhere: the panel goes there
-        return QFileDialog::accept();
-    m_chosenPath = platform::joined(directory().absolutePath(), typed);
-    done(Accepted);
+    const QString chosen = selectedFiles().value(0);
+    return platform::leadsToFolder(chosen) ? chosen : directory().absolutePath();
 }

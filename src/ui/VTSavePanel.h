@@ -3,8 +3,9 @@
 #include <QFileDialog>
 
 /**
- * A save panel that never asks whether to replace an existing item, because its caller asks a question of its own
- * afterwards, and never walks into a folder of the suggested name instead of ending.
+ * Asks where something new is to be made: it chooses a folder, and the name is its caller's. Nothing is asked about
+ * what stands there already, because the caller asks a question of its own afterwards. As a sheet; the caller takes it
+ * over.
  */
 class VTSavePanel : public QFileDialog
 {
@@ -13,16 +14,13 @@ class VTSavePanel : public QFileDialog
 public:
     explicit VTSavePanel(QWidget *parent);
 
-    void setSuggestedName(const QString &name) { selectFile(name); }
     /** Shown below the panel's own controls; the panel takes it over. */
     void setAccessoryView(QWidget *view);
-    /** The folder and name that were chosen; valid once the panel was accepted. */
-    [[nodiscard]] QString chosenPath() const { return m_chosenPath; }
+    /** In the side bar, below home; those that are not there are left out. */
+    void setRecentFolders(const QStringList &folders);
+    /** The folder that would be chosen now: the selected one, else the one that is shown. */
+    [[nodiscard]] QString chosenFolder() const;
 
-protected:
-    void accept() override;
-    void done(int result) override;
-
-private:
-    QString m_chosenPath;
+Q_SIGNALS:
+    void folderChanged(const QString &folder);
 };

@@ -23,6 +23,7 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QDialogButtonBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -256,14 +257,14 @@ private Q_SLOTS:
         }
     }
 
-    void theSavePanelGivesTheFolderOnly_data()
+    void theDestinationPanel_data()
     {
         QTest::addColumn<qlonglong>("isFixed");
         QTest::addColumn<QString>("before");
         QTest::newRow("which is kept where projects go to one place") << 1LL << "";
         QTest::newRow("for this once where they do not") << 0LL << "/somewhere else";
     }
-    void theSavePanelGivesTheFolderOnly()
+    void theDestinationPanel()
     {
         QFETCH(qlonglong, isFixed);
         QFETCH(QString, before);
@@ -279,11 +280,54 @@ private Q_SLOTS:
         m_delegate->createNewProject(); // a second press while the panel is up opens no second one
         QCOMPARE(window().findChildren<VTSavePanel *>().size(), 1);
         panel->setDirectory(folder);
-        auto *name = panel->findChild<QLineEdit *>("fileNameEdit");
-        QCOMPARE(name->text(), QString("007"));
-        QTest::keyClick(name, Qt::Key_Return);
+        QTRY_COMPARE(panel->findChild<QLabel *>("wholePath")->text(), "Makes: " + folder + "/007/P");
+        QTest::keyClick(panel->findChild<QLineEdit *>("fileNameEdit"), Qt::Key_Return);
         QTRY_VERIFY(platform::targetExists(folder + "/007/P/P.txt"));
         QCOMPARE(settings::standard().string(settings::fixedProjectLocationPath), isFixed == 1 ? folder : before);
+        QTRY_VERIFY(!window().findChild<VTSavePanel *>());
+        if (isFixed == 1)
+            return;
+        m_delegate->tableController().setData(m_delegate->tableController().index(2, 1), "Next", Qt::EditRole);
+        m_delegate->createNewProject(); // begins where the last one went
+        QVERIFY(QTest::qWaitFor([&] { return window().findChild<VTSavePanel *>() != nullptr; }));
+        QCOMPARE(window().findChild<VTSavePanel *>()->directory().absolutePath(), folder);
+        window().findChild<VTSavePanel *>()->reject();
+        QTRY_VERIFY(!window().findChild<VTSavePanel *>());
+    }
+
+    /// Sheets come up while the panel ends: the question about the project that is there, and a failure.
+    void sheetsAfterTheDestinationPanel_data()
+    {
+        QTest::addColumn<QString>("title");
+        QTest::addColumn<QString>("button");
+        QTest::addColumn<bool>("isMade");
+        QTest::newRow("overwrite") << "P"
+                                   << "Overwrite" << true;
+        QTest::newRow("cancel") << "P"
+                                << "Cancel" << false;
+        QTest::newRow("a name that is too long") << QString(300, 'n') << "OK" << false;
+    }
+    void sheetsAfterTheDestinationPanel()
+    {
+        QFETCH(QString, title);
+        QFETCH(QString, button);
+        storeSetting(settings::useFixedProjectLocation, 0LL);
+        open();
+        m_delegate->tableController().setData(m_delegate->tableController().index(2, 1), title, Qt::EditRole);
+        const QString folder = m_work->filePath("Chosen");
+        writeFile(folder + "/007/P/mine", "work");
+        m_delegate->createNewProject();
+        auto *panel = window().findChild<VTSavePanel *>();
+        panel->setDirectory(folder);
+        if (title == "P")
+            QTRY_VERIFY(panel->findChild<QLabel *>("existsWarning")->isVisible());
+        SheetAnswerer answers({button, "OK", "OK"});
+        QSignalSpy gone(panel, &QObject::destroyed);
+        panel->findChild<QDialogButtonBox *>("buttonBox")->button(QDialogButtonBox::Open)->click();
+        QTRY_COMPARE(gone.size(), 1);
+        QVERIFY(!answers.seen.isEmpty());
+        QTEST(platform::targetExists(folder + "/007/P/P.txt"), "isMade");
+        QCOMPARE(platform::targetExists(folder + "/007/P/mine"), button != "Overwrite");
     }
 
     void thePopUp()

@@ -134,7 +134,10 @@ private Q_SLOTS:
         preferences()->toolbarGeneral();
         toggle("prefsAdminPassEditing");
         QVERIFY(settings::standard().equalsOne(settings::requireAdminPasswordForEditing));
+        SheetAnswerer refused({"OK"});
         toggle("prefsAdminPassEditing");
+        QTRY_COMPARE(refused.seen.size(), 1);
+        QVERIFY(refused.seen[0].startsWith("This needs an administrator’s password|"));
         QTRY_VERIFY(part<QCheckBox>("prefsAdminPassEditing")->isChecked());
         QVERIFY(settings::standard().equalsOne(settings::requireAdminPasswordForEditing));
         // The one that would keep the program from ever starting again is not switched on where that could not be met.

@@ -3,6 +3,7 @@
 #include "harness/TemporaryHome.h"
 #include "platform/desktop/Desktop.h"
 #include "ui/Icons.h"
+#include "ui/ImportPanel.h"
 #include "ui/PathControl.h"
 #include "ui/VTSavePanel.h"
 #include "ui/VTTableView.h"
@@ -10,7 +11,11 @@
 #include <QApplication>
 #include <QBitmap>
 #include <QContextMenuEvent>
+#include <QDialogButtonBox>
+#include <QDir>
 #include <QLineEdit>
+#include <QListView>
+#include <QPushButton>
 #include <QStandardItemModel>
 #include <QTest>
 
@@ -61,35 +66,95 @@ private Q_SLOTS:
         QCOMPARE(drawnBy(control).boundingRect().height(), before.boundingRect().height());
     }
 
-    void panelEndsAtOnce_data()
+    /// What the destination panel gives is a folder: the one that is selected, or typed, or looked at.
+    void panelGivesAFolder_data()
     {
         QTest::addColumn<QString>("typed");
-        QTest::addColumn<bool>("ends");
-        QTest::newRow("a name") << "New ~ 100% 🎬" << true;
-        QTest::newRow("a folder's") << "Folder" << true;
-        QTest::newRow("a file's") << "File.txt" << true;
-        QTest::newRow("a way in") << "Folder/" << false; // no name
-        QTest::newRow("a way out") << ".." << false;
+        QTest::addColumn<QString>("chosen");
+        QTest::newRow("looked at") << ""
+                                   << "Here";
+        QTest::newRow("typed") << "Folder"
+                               << "Here/Folder";
+        QTest::newRow("with a slash") << "Folder/"
+                                      << "Here/Folder";
+        QTest::newRow("above") << ".."
+                               << "";
     }
-    void panelEndsAtOnce()
+    void panelGivesAFolder()
     {
         QFETCH(QString, typed);
-        QFETCH(bool, ends);
+        QFETCH(QString, chosen);
         const TemporaryHome home;
         writeFile(home.file("Here/Folder/Inside/x"));
         writeFile(home.file("Here/File.txt"));
         VTSavePanel panel(nullptr);
         panel.setDirectory(home.path() + "/Here");
-        panel.setSuggestedName("Suggested");
         panel.open();
         auto *edit = panel.findChild<QLineEdit *>("fileNameEdit");
-        QCOMPARE(edit->text(), "Suggested");
         edit->setText(typed);
+        const auto *button = panel.findChild<QDialogButtonBox *>("buttonBox")->button(QDialogButtonBox::Open);
+        QVERIFY(button && button->text().remove('&') == "Create Here");
         QTest::keyClick(edit, Qt::Key_Return);
-        QCOMPARE(panel.result() == QDialog::Accepted, ends);
-        QCOMPARE(panel.isVisible(), !ends);
-        if (ends)
-            QCOMPARE(panel.chosenPath(), home.path() + "/Here/" + typed);
+        QCOMPARE(panel.result(), int(QDialog::Accepted));
+        QCOMPARE(QDir::cleanPath(panel.chosenFolder()), QDir::cleanPath(home.path() + '/' + chosen));
+    }
+
+    /// A bundle is one item, also for a double click; a plain folder is gone into; without anything to take it stays.
+    void bundlesAreChosen_data()
+    {
+        QTest::addColumn<QStringList>("selected");
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<bool>("doubleClicked");
+        QTest::addColumn<QStringList>("chosen");
+        QTest::addColumn<QString>("shown");
+        const QStringList none;
+        QTest::newRow("nothing") << none << "" << false << none << "Here";
+        QTest::newRow("a plain folder") << QStringList{"Folder"} << "" << false << none << "Here/Folder";
+        QTest::newRow("a typed folder") << none << "Folder" << false << none << "Here/Folder";
+        QTest::newRow("what is not there") << none << "Nowhere" << false << none << "Here";
+        QTest::newRow("a typed bundle") << none << "B.TZT" << false << QStringList{"B.TZT"} << "Here";
+        QTest::newRow("several, and a folder")
+            << QStringList{"A.tzt", "B.TZT", "Folder"} << "" << false << QStringList{"A.tzt", "B.TZT"} << "Here";
+        QTest::newRow("a double click") << QStringList{"A.tzt"} << "" << true << QStringList{"A.tzt"} << "Here";
+    }
+    void bundlesAreChosen()
+    {
+        QFETCH(QStringList, selected);
+        QFETCH(QString, typed);
+        QFETCH(bool, doubleClicked);
+        QFETCH(QStringList, chosen);
+        QFETCH(QString, shown);
+        const TemporaryHome home;
+        for (const char *file : {"Here/A.tzt/Files/x", "Here/B.TZT/Files/x", "Here/Folder/x", "Here/file.txt"})
+            writeFile(home.file(file));
+        ImportPanel panel(nullptr, ImportPanel::Takes::Bundles, "tzt");
+        panel.setDirectory(home.path() + "/Here");
+        panel.open();
+        auto *view = panel.findChild<QListView *>("listView");
+        QTRY_COMPARE(view->model()->rowCount(view->rootIndex()), 3); // no files
+        for (int row = 0; row < 3; ++row) {
+            const QModelIndex index = view->model()->index(row, 0, view->rootIndex());
+            if (!selected.contains(index.data().toString()))
+                continue;
+            view->selectionModel()->select(index, QItemSelectionModel::Select | QItemSelectionModel::Rows);
+            if (doubleClicked)
+                QTest::mouseDClick(view->viewport(), Qt::LeftButton, {}, view->visualRect(index).center());
+        }
+        auto *edit = panel.findChild<QLineEdit *>("fileNameEdit");
+        if (!typed.isEmpty()) {
+            edit->setFocus();
+            edit->setText(typed);
+        }
+        QVERIFY(!panel.findChild<QWidget *>("newFolderButton")->isVisible());
+        if (panel.isVisible())
+            panel.findChild<QDialogButtonBox *>("buttonBox")->button(QDialogButtonBox::Open)->click();
+        QStringList names;
+        for (const QString &path : panel.chosen())
+            names.append(path.mid((home.path() + "/Here/").size()));
+        names.sort();
+        QCOMPARE(names, chosen);
+        QCOMPARE(panel.isVisible(), chosen.isEmpty());
+        QCOMPARE(panel.directory().absolutePath(), home.path() + '/' + shown);
     }
 
     void contextMenuSelects()

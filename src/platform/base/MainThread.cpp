@@ -151,6 +151,19 @@ void performInBackground(const std::function<void()> &work)
     worker.join();
 }
 
+void performBeside(std::function<void()> work, std::function<void()> done)
+{
+    const auto both = [work = std::move(work), done = std::move(done)] {
+        work();
+        QMetaObject::invokeMethod(QCoreApplication::instance(), done, Qt::QueuedConnection);
+    };
+    std::thread worker = startedThread(both);
+    if (worker.joinable())
+        worker.detach();
+    else
+        QMetaObject::invokeMethod(QCoreApplication::instance(), both, Qt::QueuedConnection);
+}
+
 void InputClosed::setException(Exception exception)
 {
     InputFilter::instance().exception = std::move(exception);

@@ -39,6 +39,12 @@ template <typename Work> [[nodiscard]] auto resultInBackground(Work work)
 }
 
 /**
+ * Main thread only. Begins work on a thread of its own and returns; afterwards `done` comes on the main thread, never
+ * before this has returned. Where no thread is to be had, the work is done by the event loop.
+ */
+void performBeside(std::function<void()> work, std::function<void()> done);
+
+/**
  * While one exists and no InputAllowed does, the application's windows take no key, click, drop or close; they can be
  * moved and they repaint. Main thread only; nests.
  */

@@ -5,10 +5,12 @@
 
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
+#include <QDBusError>
 #include <QDBusMessage>
 #include <QDBusVariant>
 #include <QUrl>
 #include <QVariantMap>
+#include <functional>
 
 namespace platform {
 namespace {
@@ -39,7 +41,10 @@ public:
     }
 
 public Q_SLOTS:
-    void Activate(const QVariantMap &) { Q_EMIT m_instance.activated(); }
+    void Activate(const QVariantMap &)
+    {
+        later([this] { Q_EMIT m_instance.activated(); });
+    }
     void Open(const QStringList &addresses, const QVariantMap &)
     {
         QStringList paths;
@@ -47,14 +52,17 @@ public Q_SLOTS:
             if (const QString path = pathOf(address); !path.isEmpty())
                 paths.append(path);
         }
-        Q_EMIT m_instance.filesOpened(paths);
+        later([this, paths] { Q_EMIT m_instance.filesOpened(paths); });
     }
     void ActivateAction(const QString &identifier, const QVariantList &, const QVariantMap &)
     {
-        Q_EMIT m_instance.actionRequested(identifier);
+        later([this, identifier] { Q_EMIT m_instance.actionRequested(identifier); });
     }
 
 private:
+    /// The caller is answered at once: what it asks for may show a sheet that stays for hours.
+    void later(const std::function<void()> &what) { QMetaObject::invokeMethod(this, what, Qt::QueuedConnection); }
+
     SingleInstance &m_instance;
 };
 
@@ -74,7 +82,11 @@ bool SingleInstance::handOver(const QStringList &files)
         call << addresses;
     }
     call << QVariantMap();
-    return bus.call(call, QDBus::Block, patience).type() == QDBusMessage::ReplyMessage;
+    const QDBusMessage reply = bus.call(call, QDBus::Block, patience);
+    // One that is too busy to answer carries the call out when it gets to it: a second window would do all of it twice.
+    const QDBusError::ErrorType error = QDBusError(reply).type();
+    return reply.type() == QDBusMessage::ReplyMessage || error == QDBusError::NoReply || error == QDBusError::Timeout ||
+           error == QDBusError::TimedOut;
 }
 
 SingleInstance::SingleInstance(QObject *parent)

@@ -16,7 +16,6 @@
 
 #include <QMenu>
 #include <QScrollBar>
-#include <QThread>
 #include <QToolButton>
 
 using platform::joined;
@@ -330,13 +329,11 @@ void VTTemplateOutlineController::startJob(const ImportJob &job,
             waiting);
     };
     ++m_jobs;
-    auto *thread =
-        QThread::create([job, host, work] { static_cast<void>(work(job, host)); }); // it has said what failed
-    connect(thread, &QThread::finished, this, [this, thread] {
-        thread->deleteLater();
-        --m_jobs;
-    });
-    thread->start();
+    platform::performBeside([job, host, work] { static_cast<void>(work(job, host)); }, // it has said what failed
+                            [this] {
+                                if (--m_jobs == 0)
+                                    Q_EMIT importsEnded();
+                            });
 }
 
 void VTTemplateOutlineController::copyFilesOnThread(const ImportJob &job)

@@ -5,7 +5,6 @@
 
 #include <QPointer>
 #include <QSet>
-#include <atomic>
 
 class ImportPanel;
 class QMenu;
@@ -58,6 +57,7 @@ public:
     void createFolderStructureOnThread(const ImportJob &job);
     /** Blocks until no import runs any more, turning the event loop. */
     void waitForImports();
+    [[nodiscard]] bool isImporting() const { return m_jobs > 0; }
 
 public Q_SLOTS:
     void showAddPopUp();
@@ -76,6 +76,8 @@ public Q_SLOTS:
 Q_SIGNALS:
     /** How many items are selected; whether a template is loaded at all. */
     void selectionChanged(qsizetype count, bool isLoaded);
+    /** None runs any more. */
+    void importsEnded();
 
 private:
     struct ViewState;
@@ -112,5 +114,5 @@ private:
     TemplateTreeModel m_model;
     quint64 m_generation = 0; ///< counts loads: one that was overtaken while it read is thrown away
     int m_spinning = 0;
-    std::atomic<int> m_jobs = 0;
+    int m_jobs = 0;
 };

@@ -10,6 +10,7 @@
 #include "support/VTLog.h"
 #include "templates/EditingGuard.h"
 #include "ui/ImportPanel.h"
+#include "ui/PanelEnd.h"
 #include "ui/VTOutlineView.h"
 
 #include <QMenu>
@@ -133,9 +134,10 @@ void VTTemplateOutlineController::showImportPanel(bool foldersOnly)
     auto *panel = new ImportPanel(m_views.outlineView->window(),
                                   foldersOnly ? ImportPanel::Takes::Folders : ImportPanel::Takes::FilesAndFolders);
     panel->setWindowTitle(foldersOnly ? tr("Import Folder Structure") : tr("Import Files and Folders"));
-    connect(panel, &QDialog::accepted, this, [this, panel, foldersOnly] {
-        const ImportJob job{panel->chosen(), importDestination()};
-        foldersOnly ? createFolderStructureOnThread(job) : copyFilesOnThread(job);
+    whenLeft<ImportPanel>(*panel, *this, [this, foldersOnly](ImportPanel &left, bool accepted) {
+        const ImportJob job{left.chosen(), importDestination()};
+        if (accepted && !m_baseFilename.isNull())
+            foldersOnly ? createFolderStructureOnThread(job) : copyFilesOnThread(job);
     });
     panel->open();
 }

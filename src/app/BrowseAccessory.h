@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QWidget>
+
+class QLabel;
+
+/**
+ * The line in the destination panel: the whole path of what will be made, and a warning where it exists already.
+ * Whether it does is asked on a worker, for a share may take its time. Main thread.
+ */
+class BrowseAccessory : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /** What will be made, below the folder that is chosen: "Acme/041_Promo". */
+    explicit BrowseAccessory(QString relativePath, QWidget *parent = nullptr);
+    void setFolder(const QString &folder);
+
+private:
+    QString m_relativePath;
+    QLabel *m_path;
+    QLabel *m_warning;
+    QWidget *m_sign;
+    quint64 m_number = 0; ///< of the last question: an answer that comes late is another's
+};

@@ -1,0 +1,19 @@
+#include "creation/RecentPlaces.h"
+
+#include "support/Settings.h"
+
+QStringList recentPlaces()
+{
+    return settings::recentLocations.value().toStringList();
+}
+
+void rememberPlace(const QString &folder)
+{
+    static_cast<void>(settings::recentLocations.change([&](const QVariant &stored) {
+        QStringList places = stored.toStringList();
+        places.removeAll(folder);
+        places.prepend(folder);
+        return platform::Result<QVariant>(
+            QVariant(QVariantList(places.cbegin(), places.cbegin() + qMin(places.size(), rememberedPlaces))));
+    }));
+}
