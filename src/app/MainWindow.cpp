@@ -67,7 +67,8 @@ void MainWindow::buildMenus()
     m_busyActions = ::buildMenus(*menuBar(), m_delegate);
     m_busyActions += {m_newProjectItem, m_templatesItem};
     m_undoAction = menuBar()->findChild<QAction *>(QStringLiteral("Undo"));
-    setUndoable({});
+    m_redoAction = menuBar()->findChild<QAction *>(QStringLiteral("Redo"));
+    setUndoable({}, {});
 }
 
 void MainWindow::connectPanes()
@@ -156,13 +157,18 @@ void MainWindow::showCreated(const QString &project)
     m_ui->undoButton->setVisible(!project.isNull());
 }
 
-void MainWindow::setUndoable(const QString &name)
+void MainWindow::setUndoable(const QString &undoName, const QString &redoName)
 {
-    m_isUndoable = !name.isNull();
-    const QString shown = fontMetrics().elidedText(name, Qt::ElideMiddle, longestCreatedName);
-    const QString forMenu = QString(shown).replace(u'&', QLatin1String("&&"));
-    m_undoAction->setText(m_isUndoable ? tr("&Undo the Creation of ‘%1’").arg(forMenu) : tr("&Undo"));
+    const auto forMenu = [this](const QString &name) {
+        QString shown = fontMetrics().elidedText(name, Qt::ElideMiddle, longestCreatedName);
+        return shown.replace(u'&', QLatin1String("&&"));
+    };
+    m_isUndoable = !undoName.isNull();
+    m_isRedoable = !redoName.isNull();
+    m_undoAction->setText(m_isUndoable ? tr("&Undo %1", "what is undone").arg(forMenu(undoName)) : tr("&Undo"));
+    m_redoAction->setText(m_isRedoable ? tr("&Redo %1", "what is done again").arg(forMenu(redoName)) : tr("&Redo"));
     m_undoAction->setEnabled(m_isUndoable);
+    m_redoAction->setEnabled(m_isRedoable);
 }
 
 void MainWindow::showMessage(const QString &text)
@@ -181,6 +187,7 @@ void MainWindow::setProcessing(bool processing)
     for (QAction *action : std::as_const(m_busyActions))
         action->setEnabled(!processing);
     m_undoAction->setEnabled(!processing && m_isUndoable);
+    m_redoAction->setEnabled(!processing && m_isRedoable);
     if (!processing && m_preferencesOpen)
         setPreferencesOpen(true);
     m_ui->createButton->setEnabled(!processing && m_ui->projectTemplatePopUp->count() > 0);

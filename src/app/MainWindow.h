@@ -43,14 +43,13 @@ public:
 
     /** A line at the bottom that says what was created, with a button that shows it; a null path clears it. */
     void showCreated(const QString &project);
-    /** What the menu's Undo takes back; a null name: nothing. */
-    void setUndoable(const QString &name);
+    /** What the menu's Undo takes back, and its Redo does again; a null name: nothing. */
+    void setUndoable(const QString &undoName, const QString &redoName);
     /** A line in its place that says something else; until the next project. */
     void showMessage(const QString &text);
     void setProcessing(bool processing);
     /** Their menu item is disabled while they are. */
     void setPreferencesOpen(bool open);
-    /** Explains the save panel. */
 
 Q_SIGNALS:
     void firstPainted();
@@ -77,7 +76,9 @@ private:
     QPointer<QWidget> m_focusBefore; ///< what had the focus when the controls were dimmed
     QString m_created;
     QAction *m_undoAction = nullptr;
+    QAction *m_redoAction = nullptr;
     bool m_isUndoable = false;
+    bool m_isRedoable = false;
     bool m_painted = false;
     bool m_preferencesOpen = false;
 };

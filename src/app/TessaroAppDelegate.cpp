@@ -156,16 +156,20 @@ void TessaroAppDelegate::toolbarNewProjectAction()
     if (m_templatesShown)
         m_window->templatePane().finishEditing();
     m_window->showPane(MainWindow::Pane::Project);
+    showUndo();
 }
 
 void TessaroAppDelegate::toolbarTemplateAction()
 {
     VTLog::appendLog("Showing template pane");
     m_tableController->finishEditing();
+    const bool isShown = m_window->shownPane() == MainWindow::Pane::Templates;
     m_window->showPane(MainWindow::Pane::Templates);
     auto &pane = m_window->templatePane();
+    showUndo();
     if (std::exchange(m_templatesShown, true))
-        return pane.tableController().switchedToView();
+        return isShown ? pane.tableController().readAnew() : pane.tableController().switchedToView();
+    connect(&pane.history(), &ChangeHistory::changed, this, &TessaroAppDelegate::showUndo);
     connect(&pane.tableController(), &VTTemplateTableController::populateTemplatePopUp, this,
             &TessaroAppDelegate::populateTemplatePopUp);
     connect(&pane.outlineController(), &VTTemplateOutlineController::importsEnded, this,

@@ -72,6 +72,9 @@ public Q_SLOTS:
     void createNewProject();
     /** Takes the last creation of this window back. */
     void undoCreation();
+    /** Of the pane that is shown: the last creation, or the last change to the templates. */
+    void undo();
+    void redo();
     void destinationBrowseDidEnd(int returnCode);
 
     void importTemplate();
@@ -119,6 +122,7 @@ private:
     void restoreShippedTemplates();
     void offerToPutAwayLeftovers();
     [[nodiscard]] bool isImporting() const;
+    void showUndo();
     void closeIfWanted();
     void watchSettings();
     void followSettings();

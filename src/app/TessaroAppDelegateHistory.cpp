@@ -8,6 +8,7 @@
 #include "platform/desktop/Desktop.h"
 #include "support/LongWork.h"
 #include "support/VTAlert.h"
+#include "templates/editor/TemplatePane.h"
 
 #include <QMenu>
 
@@ -40,6 +41,33 @@ void TessaroAppDelegate::undoCreation()
         undoProject(*m_undoable);
 }
 
+void TessaroAppDelegate::undo()
+{
+    if (m_window->shownPane() == MainWindow::Pane::Templates)
+        m_window->templatePane().undo();
+    else
+        undoCreation();
+}
+
+void TessaroAppDelegate::redo()
+{
+    if (m_window->shownPane() == MainWindow::Pane::Templates)
+        m_window->templatePane().redo();
+}
+
+/// The menu says what Undo and Redo would do in the pane that is shown.
+void TessaroAppDelegate::showUndo()
+{
+    const bool inTemplates = m_window->shownPane() == MainWindow::Pane::Templates;
+    QString undone = !inTemplates && m_undoable ? tr("Creation of ‘%1’").arg(shownName(*m_undoable)) : QString();
+    QString redone;
+    if (inTemplates) {
+        undone = m_window->templatePane().history().undoName();
+        redone = m_window->templatePane().history().redoName();
+    }
+    m_window->setUndoable(undone, redone);
+}
+
 void TessaroAppDelegate::undoProject(const Manifest &given)
 {
     const Manifest manifest = given; // it may be the one that is forgotten below
@@ -57,7 +85,7 @@ void TessaroAppDelegate::undoProject(const Manifest &given)
     const bool isOver = result.outcome.ok() || result.outcome.is(platform::Cause::Missing);
     if (isOver && m_undoable && m_undoable->file == manifest.file) {
         m_undoable.reset();
-        m_window->setUndoable({});
+        showUndo();
     }
     if (result.outcome.is(platform::Cause::Cancelled))
         return;

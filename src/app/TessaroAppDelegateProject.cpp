@@ -139,7 +139,7 @@ void TessaroAppDelegate::createTemplate(const ProjectRequest &request)
         rememberPlace(result.request.location);
     if (!result.manifest.file.isEmpty())
         m_undoable = result.manifest;
-    m_window->setUndoable(m_undoable ? platform::forOneLine(m_undoable->name()) : QString());
+    showUndo();
     if (result.stopped)
         m_window->showMessage(tr("Stopped; nothing of the project was kept."));
     else if (result.ok() && !settings::autoOpenFolder.isOn())

@@ -30,7 +30,8 @@ bool TessaroAppDelegate::openFile(const QString &path)
     if (platform::extensionOf(plain).toLower() != u"tzt")
         return false;
     bringToFront();
-    toolbarTemplateAction();
+    if (m_window->shownPane() != MainWindow::Pane::Templates) // where a name may be being typed
+        toolbarTemplateAction();
     ++m_imports;
     auto &list = m_window->templatePane().tableController();
     platform::performBeside([&list, plain] { list.addTemplateFromFile(plain); },
@@ -89,7 +90,10 @@ void TessaroAppDelegate::importOldTessaroTemplate()
 void TessaroAppDelegate::restoreShippedTemplates()
 {
     using Force = VTDataController::Force;
-    const platform::Outcome restored = VTDataController::sharedController().populateDefaultTemplates(Force::Yes);
+    DiskSteps steps;
+    const platform::Outcome restored =
+        VTDataController::sharedController().populateDefaultTemplates(Force::Yes, &steps);
+    m_window->templatePane().history().add({tr("Restore of the Default Templates"), steps});
     if (!restored.ok())
         VTAlert::show({tr("Not all templates could be restored"),
                        withCause(tr("Those that could not be replaced were left as they are."), restored)});

@@ -60,16 +60,8 @@ int askToOverwrite(const QString &name)
 {
     return VTAlert::show(
         {formatString(Text::tr("%@ already exists in this location. Are you sure you wish to overwrite it?"), name),
-         Text::tr("This cannot be undone."), Text::tr("Overwrite"), Text::tr("Overwrite All"), Text::tr("Ignore"),
-         VTAlert::otherReturn});
-}
-
-/// In the Trash; where there is none, removed as was asked for.
-Outcome putAside(const QString &path, const QString &knownAs)
-{
-    const Outcome trashed =
-        fileoperations::trashFile(path, ShouldAuth::No, nullptr, path == knownAs ? QString() : knownAs);
-    return trashed.ok() ? trashed : fileoperations::removeFile(path, patience);
+         Text::tr("What is there goes to the Trash."), Text::tr("Overwrite"), Text::tr("Overwrite All"),
+         Text::tr("Ignore"), VTAlert::otherReturn});
 }
 
 /// What is half copied when the program is killed must not be a part of the template: it lies in the bundle, beside the
@@ -89,14 +81,18 @@ void clearBundle(const QString &destination)
         fileoperations::putAbandonedInTrash(bundle);
 }
 
-Outcome copyInPlace(const QString &source, const QString &destination, fileoperations::Replaces replaces)
+Outcome copyInPlace(const QString &source, const QString &destination, fileoperations::Replaces replaces,
+                    DiskSteps &steps)
 {
-    return fileoperations::makeInPlace(
-        {destination, bundleAround(destination), replaces, putAside},
+    const Outcome copied = fileoperations::makeInPlace(
+        {destination, bundleAround(destination), replaces, changes::puttingInTrash(steps)},
         [&](const QString &path) { return fileoperations::copyFile(source, path, patience); });
+    if (copied.ok())
+        steps.append({DiskStep::Kind::Made, destination});
+    return copied;
 }
 
-Outcome copyOne(const QString &source, const QString &destination, bool &overwriteAll)
+Outcome copyOne(const QString &source, const QString &destination, bool &overwriteAll, DiskSteps &steps)
 {
     const Relation relation = relationOf(source, destination);
     if (relation == Relation::Same) {
@@ -116,7 +112,7 @@ Outcome copyOne(const QString &source, const QString &destination, bool &overwri
     VTLog::appendLog("Copying file %@ to %@", source, destination);
     const Outcome copied = !sourceIsThere ? Outcome::failure(Cause::Missing, source)
                            : !mayReplace  ? Outcome::failure(Cause::IntoItself, source)
-                                          : copyInPlace(source, destination, replaces);
+                                          : copyInPlace(source, destination, replaces, steps);
     if (!copied.ok() && !copied.is(Cause::Cancelled))
         VTAlert::show(
             {formatString(Text::tr("Unable to copy file %@ to %@"), source, destination), checkDestination(copied)});
@@ -204,6 +200,24 @@ void moveWhatIsNew(const QString &from, const QString &to)
     }
 }
 
+/// The topmost folders that are not there yet: what they are made of goes and comes with them.
+QStringList missingTops(const QString &destFolder, const QStringList &folders)
+{
+    QStringList tops;
+    for (const QString &relative : folders) {
+        QString path = destFolder;
+        for (const QString &step : relative.split(u'/', Qt::SkipEmptyParts)) {
+            path = joined(path, step);
+            if (!platform::isMissing(path))
+                continue;
+            if (!tops.contains(path))
+                tops.append(path);
+            break;
+        }
+    }
+    return tops;
+}
+
 /// The whole structure is made beside the tree first, so that a kill leaves no half of it in there.
 void makeStaged(const ImportJob &job, const QStringList &folders)
 {
@@ -230,11 +244,14 @@ Outcome importjobs::copyFiles(const ImportJob &job, const ImportHost &host)
                         measureOf(job.sourceFiles, monitor));
     bool overwriteAll = false;
     Outcome first;
+    DiskSteps steps;
     for (const QString &source : job.sourceFiles) {
         if (monitor.cancelled)
             break; // what has been copied stays, whole
-        keepFirst(first, copyOne(source, joined(job.destFolder, lastComponent(source)), overwriteAll));
+        keepFirst(first, copyOne(source, joined(job.destFolder, lastComponent(source)), overwriteAll, steps));
     }
+    if (host.changed)
+        host.changed(steps);
     host.showFolder(job.sourceFiles.isEmpty() ? QString() : job.destFolder);
     host.end();
     return first;
@@ -269,6 +286,7 @@ Outcome importjobs::createFolderStructure(const ImportJob &job, const ImportHost
     Outcome first = paths.unreadable;
     if (!first.ok())
         VTLog::appendLog("Unable to read folder: %@", first.description());
+    const QStringList tops = missingTops(job.destFolder, paths.folders);
     makeStaged(job, paths.folders);
     // What stands already costs nothing here; what could not be staged is made, with rights where they are needed.
     for (const QString &relative : paths.folders) {
@@ -276,6 +294,13 @@ Outcome importjobs::createFolderStructure(const ImportJob &job, const ImportHost
         keepFirst(first, fileoperations::createDirectory(job.destFolder + below, patience));
         copyLabels(job.sourceFiles, relative, job.destFolder);
     }
+    DiskSteps steps;
+    for (const QString &top : tops) {
+        if (!platform::isMissing(top))
+            steps.append({DiskStep::Kind::Made, top});
+    }
+    if (host.changed)
+        host.changed(steps);
     host.showFolder(QString());
     host.end();
     return first;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/base/Outcome.h"
+#include "templates/TemplateChanges.h"
 
 #include <QStringList>
 #include <functional>
@@ -18,6 +18,7 @@ struct ImportHost
     std::function<void()> begin;                               ///< turn the spinner
     std::function<void(const QString &destFolder)> showFolder; ///< read the folder anew; null: the whole tree
     std::function<void()> end;
+    std::function<void(const DiskSteps &steps)> changed = {}; ///< what was done, at the end; may be empty
 };
 
 /**

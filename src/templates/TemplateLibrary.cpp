@@ -59,7 +59,7 @@ Change createTemplate(const QString &wantedName)
     if (!made.ok())
         return failed(made, nameOf(bundle), formatString(Text::tr("Unable to create directory %@"), files),
                       checkDestination(made));
-    return {{}, nameOf(bundle), true};
+    return {{}, nameOf(bundle), true, {{DiskStep::Kind::Made, bundle}}};
 }
 
 Change duplicateTemplate(const QString &name)
@@ -74,7 +74,7 @@ Change duplicateTemplate(const QString &name)
         return failed(copied, nameOf(destination),
                       formatString(Text::tr("Unable to copy file %@ to %@"), source, destination),
                       checkDestination(copied));
-    return {{}, nameOf(destination), true};
+    return {{}, nameOf(destination), true, {{DiskStep::Kind::Made, destination}}};
 }
 
 Change removeTemplate(const QString &name)
@@ -89,13 +89,14 @@ Change removeTemplate(const QString &name)
     if (answer != VTAlert::defaultReturn)
         return {Outcome::failure(Cause::Declined, name), name};
     VTLog::appendLog("Removing template %@", name);
-    const Outcome trashed = fileoperations::trashFile(VTDataController::bundlePath(name), patience);
+    DiskSteps steps;
+    const Outcome trashed = changes::putInTrash(VTDataController::bundlePath(name), steps);
     if (trashed.is(Cause::Declined)) // there is no Trash for it, and it was to be kept then
         return {trashed, name};
     if (!trashed.ok())
         return failed(trashed, name, formatString(Text::tr("Unable to remove template %@"), name),
                       withCause(Text::tr("Please check that you have write permissions for this file."), trashed));
-    return {{}, name, true};
+    return {{}, name, true, steps};
 }
 
 Change renameTemplate(const QString &name, const QString &typed)
@@ -118,9 +119,12 @@ Change renameTemplate(const QString &name, const QString &typed)
     if (!moved.ok())
         return failed(moved, name, formatString(Text::tr("Unable to move file %@ to %@"), source, destination),
                       checkDestination(moved));
-    if (isDefaultTemplate(name))
+    DiskSteps steps{{DiskStep::Kind::Moved, source, destination}};
+    if (isDefaultTemplate(name)) {
         static_cast<void>(settings::defaultTemplate.store(cleaned)); // the log says what the settings could not take
-    return {{}, cleaned, true};
+        steps.append({DiskStep::Kind::Defaulted, name, cleaned});
+    }
+    return {{}, cleaned, true, steps};
 }
 
 Change addTemplate(const QString &given)
@@ -128,9 +132,10 @@ Change addTemplate(const QString &given)
     const QString bundle = given.size() > 1 && given.endsWith(u'/') ? given.chopped(1) : given;
     VTLog::appendLog("Adding template file %@", bundle);
     const QString location = VTDataController::templateLocation();
-    if (bundle.startsWith(location))
+    if (platform::isInside(bundle, location))
         return {{}, nameOf(bundle)};
-    const QString destination = joined(location, lastComponent(bundle));
+    // The extension as the library writes it: by any other the template could be listed, but not used.
+    const QString destination = VTDataController::bundlePath(nameOf(bundle));
     if (!VTFileManager::isDirectoryAtPath(bundle) ||
         !VTFileManager::isDirectoryAtPath(
             joined(bundle, QStringLiteral("Files")))) // before anything is moved aside for it
@@ -142,14 +147,16 @@ Change addTemplate(const QString &given)
     const auto identity = platform::identityOf(bundle);
     if (identity && identity == platform::identityOf(destination)) // the library by another name
         return {{}, nameOf(bundle)};
+    DiskSteps steps;
     const Outcome copied = fileoperations::makeInPlace(
-        {destination, {}, fileoperations::Replaces::WhatStandsThere},
+        {destination, {}, fileoperations::Replaces::WhatStandsThere, changes::puttingInTrash(steps)},
         [&](const QString &path) { return fileoperations::copyFile(bundle, path, importPatience); });
     if (!copied.ok())
         return failed(copied, nameOf(destination),
                       formatString(Text::tr("Unable to copy file %@ to %@"), bundle, destination),
                       checkDestination(copied));
-    return {{}, nameOf(destination), true};
+    steps.append({DiskStep::Kind::Made, destination});
+    return {{}, nameOf(destination), true, steps};
 }
 
 bool isDefaultTemplate(const QString &name)

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/base/Outcome.h"
+#include "templates/TemplateChanges.h"
 
 #include <QString>
 
@@ -18,6 +18,7 @@ struct Change
     platform::Outcome outcome;
     QString name;           ///< of the template it is about
     bool isChanged = false; ///< false also when there was nothing to do
+    DiskSteps steps = {};   ///< what was done, for ChangeHistory
 };
 
 /** An empty template, under the next free name. */

@@ -99,11 +99,13 @@ public:
             if (leadsToFolder && !platform::isPackage(path)) {
                 const bool isEntered = !isLink || !leadsBack(path);
                 auto node = std::make_unique<VTFolderItem>(entry.name, std::move(path));
+                node->setLink(isLink);
                 if (isEntered)
                     folders.push_back(node.get());
                 nodes.push_back(std::move(node));
             } else if (!entry.name.startsWith(u'.')) {
                 nodes.push_back(std::make_unique<VTFileItem>(entry.name, std::move(path)));
+                nodes.back()->setLink(isLink);
             }
         }
         readAll(folders);
@@ -151,6 +153,14 @@ void TemplateNode::rename(const QString &newPath)
 {
     m_filename = newPath;
     m_name = platform::lastComponent(newPath);
+}
+
+bool TemplateNode::isBehindLink() const
+{
+    const TemplateNode *above = m_parent;
+    while (above && !above->isLink())
+        above = above->parent();
+    return above;
 }
 
 int TemplateNode::colorIndex() const

@@ -37,6 +37,12 @@ public:
     void setName(const QString &name) { m_name = name; }
     void setFilename(const QString &filename) { m_filename = filename; }
 
+    /** The item itself is a link; for a folder item, one that leads to a folder. */
+    [[nodiscard]] bool isLink() const { return m_isLink; }
+    void setLink(bool isLink) { m_isLink = isLink; }
+    /** It lies in a folder that a link leads to, outside of the template: it is shown, and not changed from here. */
+    [[nodiscard]] bool isBehindLink() const;
+
     /** In memory only: the node, and all below it, follows to the new path. */
     virtual void rename(const QString &newPath);
     /** The item's flags word, whose bits 1 to 3 are the label; read from the disk at each call. */
@@ -54,6 +60,7 @@ private:
     friend void adopt(TemplateNodes &nodes, VTFolderItem *parent);
     VTFolderItem *m_parent = nullptr;
     int m_row = 0;
+    bool m_isLink = false;
     QString m_name;
     QString m_filename;
 };

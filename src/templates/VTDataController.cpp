@@ -42,18 +42,21 @@ Outcome unpack(const QString &archive, const QString &location)
 }
 
 /// One shipped template; what stands there under its name goes to the Trash when the new one is whole.
-Outcome install(const QString &archive, const QString &location)
+Outcome install(const QString &archive, const QString &location, DiskSteps &steps)
 {
     const QString name = platform::withoutExtension(platform::lastComponent(archive));
     const QString target = joined(location, name + QStringLiteral(".tzt"));
-    const Outcome installed =
-        fileoperations::makeInPlace({target, {}, fileoperations::Replaces::WhatStandsThere}, [&](const QString &path) {
+    const Outcome installed = fileoperations::makeInPlace(
+        {target, {}, fileoperations::Replaces::WhatStandsThere, changes::puttingInTrash(steps)},
+        [&](const QString &path) {
             const Outcome unpacked = unpack(archive, platform::parentPath(path));
             return unpacked.ok() && !platform::leadsToFolder(path) ? Outcome::failure(Cause::Damaged, archive)
                                                                    : unpacked;
         });
     if (!installed.ok())
         VTLog::appendLog("Unable to install %@: %@", target, installed.description());
+    else
+        steps.append({DiskStep::Kind::Made, target});
     return installed;
 }
 
@@ -104,7 +107,7 @@ QStringList VTDataController::templates() const
     return m_templates;
 }
 
-Outcome VTDataController::populateDefaultTemplates(Force force)
+Outcome VTDataController::populateDefaultTemplates(Force force, DiskSteps *steps)
 {
     const QString location = templateLocation();
     const platform::Result<bool> stands = platform::isThereForCertain(location);
@@ -113,7 +116,7 @@ Outcome VTDataController::populateDefaultTemplates(Force force)
         return stands.outcome();
     }
     if (*stands)
-        return force == Force::No ? Outcome() : installShippedTemplates(location);
+        return force == Force::No ? Outcome() : installShippedTemplates(location, steps);
     Outcome installed;
     const Outcome made = makeLibrary(location, installed);
     if (!made.ok())
@@ -122,7 +125,7 @@ Outcome VTDataController::populateDefaultTemplates(Force force)
     return made.ok() ? installed : made;
 }
 
-Outcome VTDataController::installShippedTemplates(const QString &location)
+Outcome VTDataController::installShippedTemplates(const QString &location, DiskSteps *steps)
 {
     VTLog::appendLog("Populating default templates");
     const QString shipped = platform::ApplicationBundle::main().resource(QStringLiteral("Templates"));
@@ -132,12 +135,16 @@ Outcome VTDataController::installShippedTemplates(const QString &location)
         return entries.outcome();
     }
     Outcome first;
+    DiskSteps done;
     for (const FolderEntry &entry : *entries) {
-        const Outcome installed =
-            entry.name.endsWith(QLatin1String(".zip")) ? install(joined(shipped, entry.name), location) : Outcome();
+        const Outcome installed = entry.name.endsWith(QLatin1String(".zip"))
+                                      ? install(joined(shipped, entry.name), location, done)
+                                      : Outcome();
         if (first.ok())
             first = installed;
     }
+    if (steps)
+        *steps = done;
     return first;
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/base/Outcome.h"
+#include "templates/TemplateChanges.h"
 
 #include <QMutex>
 #include <QStringList>
@@ -30,15 +30,15 @@ public:
     [[nodiscard]] QStringList templates() const;
 
     /** Installs the shipped templates: into a library that is new, or replacing their namesakes when forced. A folder
-       that cannot be made has been said; the rest of a failure is for the caller. */
-    platform::Outcome populateDefaultTemplates(Force force = Force::No);
+       that cannot be made has been said; the rest of a failure is for the caller. What was replaced is noted. */
+    platform::Outcome populateDefaultTemplates(Force force = Force::No, DiskSteps *steps = nullptr);
     /** Makes sure that the library exists and builds the list. A library that cannot be read gives an empty list and
      * why. */
     platform::Outcome populateTemplates();
 
     /** Unpacks every shipped template into an existing folder; what stands there under the name goes to the Trash. Goes
        on after a failure and returns the first; the log names each. */
-    static platform::Outcome installShippedTemplates(const QString &location);
+    static platform::Outcome installShippedTemplates(const QString &location, DiskSteps *steps = nullptr);
     /** The names of the templates in a library's folder, in listing order. */
     [[nodiscard]] static platform::Result<QStringList> templateNames(const QString &location);
 

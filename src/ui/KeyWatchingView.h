@@ -30,6 +30,9 @@ public:
     /** Shown on a right click; not owned. */
     void setContextMenu(QMenu *menu) { m_menu = menu; }
 
+    /** Whether an editor is open: its model must not be reset then. */
+    [[nodiscard]] bool isEditing() const { return Base::indexWidget(Base::currentIndex()) != nullptr; }
+
     /** Commits the value being typed, if any, and ends the edit. */
     void finishEditing()
     {

@@ -1,5 +1,6 @@
 #include "ui/VTImageTextCell.h"
 
+#include "ui/Icons.h"
 #include "ui/ValueCellDelegate.h"
 
 #include <QApplication>
@@ -15,6 +16,7 @@ constexpr int gap = 3;
 constexpr int strip = 7; ///< beside the icon's width, what is cut off for it
 constexpr int subtitleReserve = 50;
 constexpr int rowPadding = 8;
+constexpr int badgeSide = 11;
 /// On every label, in every palette: at least 9 to 1.
 const QColor textOnLabel(0x1a, 0x1a, 0x1a);
 
@@ -52,6 +54,20 @@ void drawIcon(QPainter &painter, const QRect &place, const QStyleOptionViewItem 
     tinting.fillRect(QRect(QPoint(), place.size()), textColor(option, index));
     tinting.end();
     painter.drawPixmap(place, pixmap);
+}
+
+/// In the corner of the icon, on a spot of its own, so that it can be told on every icon.
+void drawLinkBadge(QPainter &painter, const QRect &place, const QStyleOptionViewItem &option)
+{
+    QRect corner(QPoint(), QSize(badgeSide, badgeSide));
+    corner.moveBottomLeft(place.bottomLeft() + QPoint(-2, 2));
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(option.palette.base());
+    painter.drawRoundedRect(corner, 2, 2);
+    painter.restore();
+    icons::named("link").paint(&painter, corner.adjusted(1, 1, -1, -1));
 }
 
 void drawSubtitle(QPainter &painter, const QRect &frame, const QStyleOptionViewItem &option, const QModelIndex &index)
@@ -121,7 +137,10 @@ void VTImageTextCell::paint(QPainter *painter, const QStyleOptionViewItem &optio
     painter->save();
     if (!image.isEmpty()) {
         const int y = frame.y() + static_cast<int>(std::ceil((frame.height() - image.height()) * 0.5));
-        drawIcon(*painter, {QPoint(frame.x() + gap, y), image}, option, index);
+        const QRect place(QPoint(frame.x() + gap, y), image);
+        drawIcon(*painter, place, option, index);
+        if (index.data(CellRole::IsLink).toBool())
+            drawLinkBadge(*painter, place, option);
     }
     frame = textFrame(frame, image);
     painter->setFont(row.font);
@@ -151,9 +170,11 @@ QWidget *VTImageTextCell::createEditor(QWidget *parent, const QStyleOptionViewIt
 
 void VTImageTextCell::setEditorData(QWidget *editor, const QModelIndex &index) const
 {
+    auto *line = qobject_cast<QLineEdit *>(editor);
+    if (line && line->isModified()) // the row has changed somehow; what is being typed stays
+        return;
     QStyledItemDelegate::setEditorData(editor, index);
     const QVariant stem = index.data(CellRole::StemLength);
-    auto *line = qobject_cast<QLineEdit *>(editor);
     // The view selects everything right after this.
     if (line && stem.isValid())
         QTimer::singleShot(0, line, [line, stem] { line->setSelection(0, stem.toInt()); });

@@ -1,8 +1,8 @@
 #include "ui/VTSavePanel.h"
 
+#include "platform/base/Users.h"
 #include "platform/files/FileSystem.h"
 
-#include <QDir>
 #include <QFileSystemModel>
 #include <QGridLayout>
 #include <QLineEdit>
@@ -34,7 +34,7 @@ void VTSavePanel::setAccessoryView(QWidget *view)
 
 void VTSavePanel::setRecentFolders(const QStringList &folders)
 {
-    QList<QUrl> places{QUrl::fromLocalFile(QDir::homePath())};
+    QList<QUrl> places{QUrl::fromLocalFile(platform::homeFolder())};
     for (const QString &folder : folders) {
         const QUrl place = QUrl::fromLocalFile(folder);
         if (!places.contains(place) && platform::leadsToFolder(folder))

@@ -17,6 +17,7 @@ enum : int {
     StemLength,                ///< int: how much of a name is selected when it is edited; invalid for all
     Subtitle,                  ///< QString: a second, smaller line
     SubtitleColor,             ///< QColor of that line
+    IsLink,                    ///< bool: the icon gets a badge
 };
 }
 

@@ -25,6 +25,7 @@
 #include "ui/Spinner.h"
 #include "ui/VTOutlineView.h"
 #include "ui/VTTableView.h"
+#include "ui/ValueCellDelegate.h"
 
 #include <QDBusConnection>
 #include <QDBusMessage>
@@ -32,8 +33,11 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QPointer>
 #include <QProcess>
+#include <QSignalSpy>
 #include <QTest>
+#include <QToolButton>
 #include <QUrl>
 #include <unistd.h>
 
@@ -188,7 +192,10 @@ private Q_SLOTS:
         select({"Footage/Template Duplicate.txt"});
         key(outline(), Qt::Key_Delete);
         QTRY_VERIFY(!row("Footage/Template Duplicate.txt").isValid());
-        QCOMPARE(answers.seen, QStringList("Are you sure you wish to remove this item?|This cannot be undone."));
+        QCOMPARE(
+            answers.seen,
+            QStringList(
+                "Are you sure you wish to remove this item?|What is removed goes to the Trash. Undo brings it back."));
 
         list().toggleDefault();
         QCOMPARE(window().selectedTemplate(), QString("Feature"));
@@ -250,12 +257,232 @@ private Q_SLOTS:
         // A namesake is asked about: with no, both stay; with yes, the one there goes.
         QVERIFY(drop(dragged({"B"}), "A"));
         QTRY_COMPARE(answers.seen.size(), 2);
-        QCOMPARE(answers.seen[1], QString("B already exists. Overwrite?|This cannot be undone."));
+        QCOMPARE(answers.seen[1], QString("B already exists. Overwrite?|What is there goes to the Trash."));
         QTRY_VERIFY(row("B/y.txt").isValid() && row("A/B/A/kept").isValid());
         QVERIFY(drop(dragged({"B"}), "A"));
         QTRY_VERIFY(row("A/B/y.txt").isValid());
         QVERIFY(!targetExists(files("B")) && !targetExists(files("A/B/A")));
         QVERIFY(answers.buttons.isEmpty());
+    }
+
+    /// Each change, taken back and done again, as the disk has it.
+    void everyChangeIsUndone_data()
+    {
+        QTest::addColumn<std::function<void()>>("change");
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QStringList>("buttons");
+        const auto row = [](const char *what, const char *name, std::function<void()> change,
+                            const QStringList &buttons = {}) {
+            QTest::newRow(what) << std::move(change) << name << buttons;
+        };
+        row("new folder", "New Folder", [this] { editor().addFolder(); });
+        row("new item", "New Item", [this] { editor().addProject(m_work->filePath("in/x.txt")); });
+        row("duplicate", "Duplicate", [this] { editor().duplicateFiles(); });
+        row("rename", "Rename", [this] { outline()->model()->setData(this->row("A"), "C", Qt::EditRole); });
+        row("rename, letter case", "Rename",
+            [this] { outline()->model()->setData(this->row("A"), "a", Qt::EditRole); });
+        row("label", "Label", [this] { editor().colorCodeFiles(3); });
+        row("remove", "Remove", [this] { editor().removeFiles(); }, {"Remove"});
+        row("remove several", "Remove",
+            [this] {
+                select({"A", "A/x.txt", "B/y.txt"});
+                editor().removeFiles();
+            },
+            {"Remove"});
+        row("move", "Move", [this] { drop(dragged({"B", "top.txt"}), "A"); });
+        row("move over another", "Move", [this] { drop(dragged({"over/x.txt"}), "A"); }, {"Overwrite"});
+        row("move a package", "Move", [this] { drop(dragged({"over/Song.logicx"}), "A"); }, {"Overwrite"});
+        row("import", "Import", [this] { drop(fromOutside({m_work->filePath("in/x.txt")}), "B"); });
+        row("import over another", "Import", [this] { drop(fromOutside({m_work->filePath("in/x.txt")}), "A"); },
+            {"Overwrite"});
+        row("structure", "Import of Folders", [this] {
+            editor().createFolderStructureOnThread({{m_work->filePath("in/tree")}, files()});
+        });
+        row("new template", "New Template", [this] { list().createNewTemplate(); });
+        row("duplicate template", "Duplicate", [this] { list().duplicateTemplate(); });
+        row("remove template", "Remove", [this] { list().removeTemplate(); }, {"Remove"});
+        row("rename template", "Rename", [this] {
+            list().setDefaultTemplate("Film");
+            list().setData(list().index(0), "Movie", Qt::EditRole);
+        });
+        row("import template", "Import of ‘Film’", [this] { m_delegate->openFile(m_work->filePath("in/Film.tzt")); });
+        row("restore", "Restore of the Default Templates", [this] { m_delegate->restoreDefaultTemplates(); },
+            {"Restore"});
+    }
+    QStringList contentsOfTheLibrary() const
+    {
+        QStringList items;
+        for (const QString &path : everythingInTheLibrary()) {
+            const QByteArray contents = QFileInfo(path).isFile() ? readFile(path) : QByteArray();
+            items.append(path + ": " + QString::fromUtf8(contents.left(100)) +
+                         QString::number(VTFileManager::finderColorIndexForPath(path)));
+        }
+        return items + QStringList{settings::defaultTemplate.text()};
+    }
+    void everyChangeIsUndone()
+    {
+        QFETCH(std::function<void()>, change);
+        QFETCH(QStringList, buttons);
+        writeFile(m_work->filePath("in/x.txt"), "new");
+        writeFile(m_work->filePath("in/tree/a/b/x.txt"), "not copied");
+        writeFile(m_work->filePath("in/Film.tzt/Files/z"), "z");
+        writeFile(files("over/x.txt"), "over");
+        writeFile(files("over/Song.logicx/data"), "song");
+        writeFile(files("A/Song.logicx/data"), "older song");
+        editor().populateTemplateStructure();
+        select({"A/x.txt"});
+        SheetAnswerer answers(buttons);
+        auto &history = window().templatePane().history();
+        QSignalSpy added(&history, &ChangeHistory::changed);
+        QStringList before = contentsOfTheLibrary();
+        change();
+        QTRY_VERIFY(!added.isEmpty());
+        QTest::qWait(0);
+        editor().waitForImports();
+        window().templatePane().finishEditing();
+        QTEST(history.undoName(), "name");
+        const QStringList after = contentsOfTheLibrary();
+        QVERIFY(after != before || !settings::defaultTemplate.text().isEmpty());
+        if (!settings::defaultTemplate.text().isEmpty())
+            before.last() = "Film";
+        for (int round = 0; round < 2; ++round) {
+            key(&window(), Qt::Key_Z, Qt::ControlModifier);
+            QTRY_COMPARE(contentsOfTheLibrary(), before);
+            key(&window(), Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+            QTRY_COMPARE(contentsOfTheLibrary(), after);
+        }
+        QVERIFY(answers.buttons.isEmpty());
+        QVERIFY(!history.canRedo());
+    }
+
+    /// What another program did meanwhile is not written over, and what cannot be taken back does not stand in the way.
+    void undoMeetsAnotherProgram()
+    {
+        outline()->model()->setData(row("A"), "C", Qt::EditRole);
+        outline()->model()->setData(row("B"), "D", Qt::EditRole);
+        QTRY_VERIFY(targetExists(files("D/y.txt")));
+        writeFile(files("B/theirs"), "theirs");
+        SheetAnswerer answers({"OK"});
+        window().templatePane().undo();
+        QCOMPARE(answers.seen.size(), 1);
+        QVERIFY(answers.seen[0].startsWith("“Rename” cannot be undone|"));
+        QVERIFY(targetExists(files("D/y.txt")) && targetExists(files("B/theirs")));
+        window().templatePane().undo();
+        QVERIFY(targetExists(files("A/x.txt")));
+    }
+
+    /// What lies behind a link is another folder's: it is shown, and nothing here changes it.
+    void linksAreNoDoors()
+    {
+        writeFile(m_work->filePath("outside/deep/x.txt"), "outside");
+        QCOMPARE(symlink(m_work->filePath("outside").toUtf8(), files("Link").toUtf8()), 0);
+        editor().populateTemplateStructure();
+        QCOMPARE(row("Link").data(Qt::ToolTipRole).toString(), "Link to " + m_work->filePath("outside"));
+        QVERIFY(row("Link").data(CellRole::IsLink).toBool());
+        QVERIFY(row("Link/deep/x.txt").isValid() && row("Link/deep/x.txt").flags() == Qt::NoItemFlags);
+        QVERIFY(!drop(dragged({"A/x.txt"}), "Link") && !drop(dragged({"A/x.txt"}), "Link/deep"));
+        QVERIFY(!drop(fromOutside({files("top.txt")}), "Link"));
+        select({"Link"});
+        editor().colorCodeFiles(2);
+        QCOMPARE(VTFileManager::finderColorIndexForPath(m_work->filePath("outside")), 0);
+        select({"Link"});
+        editor().addFolder(); // beside it, not in it
+        window().templatePane().finishEditing();
+        QVERIFY(targetExists(files("New Folder")));
+        QVERIFY(drop(dragged({"Link"}), "B"));
+        QTRY_VERIFY(row("B/Link").isValid());
+        SheetAnswerer answers({"Remove"});
+        select({"B/Link"});
+        editor().removeFiles();
+        QVERIFY(platform::isMissing(files("B/Link")));
+        window().templatePane().undo();
+        QCOMPARE(platform::linkTarget(files("B/Link")), m_work->filePath("outside"));
+        QCOMPARE(readFile(m_work->filePath("outside/deep/x.txt")), "outside");
+        QCOMPARE(QDir(m_work->filePath("outside")).entryList(QDir::AllEntries | QDir::NoDotAndDotDot).size(), 1);
+    }
+
+    /// A name that is being typed is taken in, whatever comes in between.
+    void whatIsTypedIsTakenIn_data()
+    {
+        QTest::addColumn<bool>("inTree");
+        QTest::addColumn<std::function<void()>>("interruption");
+        for (const bool inTree : {true, false}) {
+            const auto row = [inTree](const char *name, std::function<void()> interruption) {
+                QTest::addRow("%s, %s", inTree ? "tree" : "list", name) << inTree << std::move(interruption);
+            };
+            row("another template", [this] {
+                auto *table = part<VTTableView>("templateTable");
+                QTest::mouseClick(table->viewport(), Qt::LeftButton, {},
+                                  table->visualRect(table->model()->index(list().rowCount() - 1, 0)).center());
+            });
+            row("Ctrl+1", [this] { key(&window(), Qt::Key_1, Qt::ControlModifier); });
+            row("Ctrl+2", [this] { key(&window(), Qt::Key_2, Qt::ControlModifier); });
+            row("Ctrl+N", [this] { key(&window(), Qt::Key_N, Qt::ControlModifier); });
+            row("Undo", [this] { window().templatePane().undo(); });
+            row("the add menu", [this] {
+                part<QToolButton>("addButton")->click();
+                QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
+            });
+            row("quitting", [this] { m_delegate->quit(); });
+        }
+    }
+    void whatIsTypedIsTakenIn()
+    {
+        QFETCH(bool, inTree);
+        QFETCH(std::function<void()>, interruption);
+        writeFile(m_work->filePath("Library/Other.tzt/Files/x"), "x");
+        list().readAnew();
+        if (inTree) {
+            select({"A"});
+            editor().editSelectedName();
+        } else {
+            list().editSelectedName();
+        }
+        QTRY_VERIFY(qobject_cast<QLineEdit *>(QApplication::focusWidget()));
+        QTest::keyClicks(QApplication::focusWidget(), "Typed");
+        const bool isUndone = QByteArray(QTest::currentDataTag()).endsWith("Undo");
+        interruption();
+        const QString renamed = m_work->filePath(inTree ? "Library/Film.tzt/Files/Typed" : "Library/Typed.tzt");
+        if (isUndone)
+            QVERIFY(!targetExists(renamed) && window().templatePane().history().redoName() == "Rename");
+        else
+            QTRY_VERIFY(targetExists(renamed));
+    }
+
+    /// An import ends while a name is typed: the editor stays, and the tree follows afterwards.
+    void anImportEndsWhileOneTypes_data()
+    {
+        QTest::addColumn<bool>("inTree");
+        QTest::newRow("a name in the tree") << true;
+        QTest::newRow("a name in the list") << false;
+    }
+    void anImportEndsWhileOneTypes()
+    {
+        QFETCH(bool, inTree);
+        writeFile(m_work->filePath("in/new.txt"), "new");
+        writeFile(m_work->filePath("in/Early.tzt/Files/x"), "x");
+        if (inTree) {
+            select({"B"});
+            editor().editSelectedName();
+        } else {
+            list().editSelectedName();
+        }
+        QTRY_VERIFY(qobject_cast<QLineEdit *>(QApplication::focusWidget()));
+        QCoreApplication::processEvents(); // the stem gets selected
+        const QPointer<QWidget> field = QApplication::focusWidget();
+        QTest::keyClicks(field, "Ty");
+        editor().copyFilesOnThread({{m_work->filePath("in/new.txt")}, files()});
+        QVERIFY(m_delegate->openFile(m_work->filePath("in/Early.tzt")));
+        QTRY_VERIFY(targetExists(m_work->filePath("Library/Early.tzt")) && targetExists(files("new.txt")));
+        editor().waitForImports();
+        QTest::qWait(50);
+        QVERIFY(field && QApplication::focusWidget() == field);
+        QTest::keyClicks(field, "ped");
+        QTest::keyClick(field, Qt::Key_Return);
+        const QString renamed = m_work->filePath(inTree ? "Library/Film.tzt/Files/Typed" : "Library/Typed.tzt");
+        QTRY_VERIFY(targetExists(renamed));
+        QTRY_VERIFY(row("new.txt").isValid());
+        QTRY_COMPARE(list().rowCount(), 2);
     }
 
     void severalAtOnce()

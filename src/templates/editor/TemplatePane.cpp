@@ -1,6 +1,7 @@
 #include "templates/editor/TemplatePane.h"
 
 #include "support/Settings.h"
+#include "support/VTAlert.h"
 #include "support/VTFileManager.h"
 #include "templates/VTDataController.h"
 #include "ui/Icons.h"
@@ -61,7 +62,8 @@ QAction *addTo(QWidget &widget, const QString &text, const QList<QKeySequence> &
 TemplatePane::TemplatePane(QWidget *parent)
     : QWidget(parent)
     , m_ui(std::make_unique<Ui::TemplatePane>())
-    , m_table(m_outline)
+    , m_outline(m_history)
+    , m_table(m_outline, m_history)
     , m_toggleDefault(new QAction(this))
     , m_addMenu(new QMenu(this))
 {
@@ -165,7 +167,10 @@ void TemplatePane::buildOutline()
     m_forItems += item(tr("&Show in File Manager"), {Qt::CTRL | Qt::Key_R}, &Outline::revealFilesInFinder);
     outline->setContextMenu(menu);
 
-    connect(m_ui->addButton, &QToolButton::clicked, &m_outline, &Outline::showAddPopUp);
+    connect(m_ui->addButton, &QToolButton::clicked, this, [this] {
+        m_table.finishEditing();
+        m_outline.showAddPopUp();
+    });
     connect(m_ui->removeButton, &QToolButton::clicked, &m_outline, &Outline::removeFiles);
     connect(&m_outline, &Outline::selectionChanged, this, [this, newFolder](qsizetype count, bool isLoaded) {
         newFolder->setEnabled(isLoaded);
@@ -223,8 +228,30 @@ QMenu *TemplatePane::labelMenu()
 
 void TemplatePane::finishEditing()
 {
-    m_ui->templateTable->finishEditing();
-    m_ui->outlineView->finishEditing();
+    m_table.finishEditing();
+    m_outline.finishEditing();
+}
+
+void TemplatePane::undo()
+{
+    finishEditing();
+    const QString name = m_history.undoName();
+    showAfter(m_history.undo(), tr("“%1” cannot be undone").arg(name));
+}
+
+void TemplatePane::redo()
+{
+    finishEditing();
+    const QString name = m_history.redoName();
+    showAfter(m_history.redo(), tr("“%1” cannot be done again").arg(name));
+}
+
+void TemplatePane::showAfter(const platform::Outcome &outcome, const QString &sentence)
+{
+    m_table.readAnew();
+    Q_EMIT m_table.populateTemplatePopUp();
+    if (!outcome.ok() && !outcome.is(platform::Cause::Declined))
+        VTAlert::show({sentence, outcome.description()});
 }
 
 void TemplatePane::changeEvent(QEvent *event)

@@ -27,8 +27,13 @@ public:
     void awakeFromNib();
     [[nodiscard]] VTTemplateTableController &tableController() { return m_table; }
     [[nodiscard]] VTTemplateOutlineController &outlineController() { return m_outline; }
-    /** Commits a name that is being typed. */
+    /** What was done to the library and its templates in this window. */
+    [[nodiscard]] ChangeHistory &history() { return m_history; }
+    /** Takes in a name that is being typed, before this returns. */
     void finishEditing();
+    /** Take back the last change, and do it again; what cannot be done is said. */
+    void undo();
+    void redo();
 
 protected:
     void changeEvent(QEvent *event) override;
@@ -39,9 +44,11 @@ private:
     void buildLabels();
     void drawLabels();
     [[nodiscard]] QMenu *labelMenu();
+    void showAfter(const platform::Outcome &outcome, const QString &sentence);
     void setTreeSelection(qsizetype count, bool isLoaded);
 
     std::unique_ptr<Ui::TemplatePane> m_ui;
+    ChangeHistory m_history;
     VTTemplateOutlineController m_outline;
     VTTemplateTableController m_table;
     QAction *m_toggleDefault;

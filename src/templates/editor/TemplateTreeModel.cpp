@@ -1,6 +1,7 @@
 #include "templates/editor/TemplateTreeModel.h"
 
 #include "platform/base/NativePath.h"
+#include "platform/files/FileSystem.h"
 #include "platform/files/Packages.h"
 #include "support/VTFileManager.h"
 #include "ui/FileIcons.h"
@@ -21,6 +22,15 @@ QVariant iconOf(const TemplateNode &node)
     return fileicons::forName(node.name(), kind);
 }
 
+QVariant toolTipOf(const TemplateNode &node)
+{
+    if (node.isLink())
+        return TemplateTreeModel::tr("Link to %1").arg(platform::forDisplay(platform::linkTarget(node.filename())));
+    if (node.isBehindLink())
+        return TemplateTreeModel::tr("This lies behind a link, outside of the template. It is not changed from here.");
+    return {};
+}
+
 QVariant colorOf(const TemplateNode &node)
 {
     const auto color = VTFileManager::finderColorForPath(node.filename());
@@ -34,7 +44,9 @@ QString spokenName(const TemplateNode &node)
 {
     const QString name = platform::forDisplay(node.name());
     const QString label = VTFileManager::labelName(node.colorIndex());
-    const QString kind = node.isFolderItem() ? TemplateTreeModel::tr("folder") : TemplateTreeModel::tr("file");
+    const QString kind = node.isLink()         ? TemplateTreeModel::tr("link")
+                         : node.isFolderItem() ? TemplateTreeModel::tr("folder")
+                                               : TemplateTreeModel::tr("file");
     return label.isNull() ? TemplateTreeModel::tr("%1, %2").arg(name, kind)
                           : TemplateTreeModel::tr("%1, %2, label %3").arg(name, kind, label);
 }
@@ -154,10 +166,14 @@ QVariant TemplateTreeModel::data(const QModelIndex &index, int role) const
         return iconOf(node);
     case Qt::AccessibleTextRole:
         return spokenName(node);
+    case Qt::ToolTipRole:
+        return toolTipOf(node);
     case CellRole::LabelColor:
-        return colorOf(node);
+        return node.isLink() ? QVariant() : colorOf(node); // the colour would be the target's
     case CellRole::StemLength:
         return stemLength(node);
+    case CellRole::IsLink:
+        return node.isLink();
     default:
         return {};
     }
@@ -171,16 +187,28 @@ bool TemplateTreeModel::setData(const QModelIndex &index, const QVariant &value,
     if (value.toString() == platform::forDisplay(node.name())) // bytes that cannot be shown stay as they are
         return false;
     // Questions and moves turn the event loop, which an open editor does not survive.
-    QMetaObject::invokeMethod(
-        this, [this, path = node.filename(), typed = value.toString()] { m_handlers.rename(path, typed); },
-        Qt::QueuedConnection);
+    m_typed.append({node.filename(), value.toString()});
+    QMetaObject::invokeMethod(this, &TemplateTreeModel::takeTypedNames, Qt::QueuedConnection);
     return true;
+}
+
+void TemplateTreeModel::takeTypedNames()
+{
+    if (std::exchange(m_isTakingNames, true)) // a question, or a slow disk, has turned the event loop: one after the other
+        return;
+    while (!m_typed.isEmpty()) {
+        const auto [path, typed] = m_typed.takeFirst();
+        m_handlers.rename(path, typed);
+    }
+    m_isTakingNames = false;
 }
 
 Qt::ItemFlags TemplateTreeModel::flags(const QModelIndex &index) const
 {
     if (!index.isValid())
         return Qt::ItemIsDropEnabled;
+    if (nodeAt(index)->isBehindLink())
+        return Qt::NoItemFlags;
     return Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsEditable | Qt::ItemIsDragEnabled |
            Qt::ItemIsDropEnabled;
 }

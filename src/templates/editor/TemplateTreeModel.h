@@ -48,6 +48,9 @@ public:
     /** Its row, and the names below it, have changed. */
     void itemChanged(const TemplateNode &node);
 
+    /** What was typed and waits for its editor to be gone, at once; to be called when no editor is open. */
+    void takeTypedNames();
+
     /** Null for the root. */
     [[nodiscard]] static TemplateNode *nodeAt(const QModelIndex &index);
     [[nodiscard]] QModelIndex indexOf(const TemplateNode *node) const;
@@ -76,4 +79,6 @@ private:
 
     Handlers m_handlers;
     TemplateNodes m_nodes;
+    QList<std::pair<QString, QString>> m_typed; ///< path and name
+    bool m_isTakingNames = false;
 };

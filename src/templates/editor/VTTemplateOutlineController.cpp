@@ -54,8 +54,9 @@ bool expandsAll()
 
 } // namespace
 
-VTTemplateOutlineController::VTTemplateOutlineController(QObject *parent)
+VTTemplateOutlineController::VTTemplateOutlineController(ChangeHistory &history, QObject *parent)
     : QObject(parent)
+    , m_history(history)
     , m_model({[this](const QString &path, const QString &typed) { rename(path, typed); },
                [this](const TemplateDrop &drop, const TemplateNode *target) { return validateDrop(drop, target); },
                [this](const TemplateDrop &drop, const QString &target) {
@@ -85,6 +86,9 @@ void VTTemplateOutlineController::setViews(const Views &views)
 void VTTemplateOutlineController::awakeFromNib()
 {
     m_views.outlineView->setWatchDelegate(this);
+    // After the name that was typed there has been taken in.
+    connect(m_views.outlineView->itemDelegate(), &QAbstractItemDelegate::closeEditor, this,
+            &VTTemplateOutlineController::catchUp, Qt::QueuedConnection);
     m_views.outlineView->addWatchKeys(WatchKeys::deleteKeys(), "removeFiles");
     fillAddMenu();
     announceSelection();
@@ -116,8 +120,33 @@ QString VTTemplateOutlineController::filesFolder() const
     return joined(m_baseFilename, QStringLiteral("Files"));
 }
 
+void VTTemplateOutlineController::finishEditing()
+{
+    m_views.outlineView->finishEditing();
+    m_model.takeTypedNames();
+}
+
+bool VTTemplateOutlineController::isEditing() const
+{
+    return m_views.outlineView->isEditing();
+}
+
+/// Reading would take the editor away from under the one who types, and the letters that follow would be commands.
+bool VTTemplateOutlineController::putsOffReading()
+{
+    m_isBehind = m_isBehind || isEditing();
+    return isEditing();
+}
+
+void VTTemplateOutlineController::catchUp()
+{
+    if (m_isBehind && !isEditing())
+        populateTemplateStructure();
+}
+
 void VTTemplateOutlineController::loadDataFromFile(const QString &bundle)
 {
+    finishEditing();
     ++m_generation;
     const bool isAnother = bundle != m_baseFilename;
     m_baseFilename = bundle;
@@ -135,8 +164,9 @@ void VTTemplateOutlineController::populateTemplateStructure()
     const quint64 generation = ++m_generation;
     TemplateNodes nodes =
         platform::resultInBackground([folder = filesFolder()] { return nodesInFolder(folder, nullptr); });
-    if (generation != m_generation) // another template was chosen, or a later reading is on its way
+    if (generation != m_generation || putsOffReading()) // another was chosen, or a later reading is on its way
         return;
+    m_isBehind = false;
     const ViewState state = viewState();
     m_model.setNodes(std::move(nodes));
     reloadOutlineView();
@@ -255,7 +285,7 @@ void VTTemplateOutlineController::rereadFolder(const QString &folder)
     const quint64 generation = m_generation;
     TemplateNodes children = platform::resultInBackground([&] { return nodesInFolder(folder, nullptr); });
     TemplateNode *target = nodeAtPath(folder); // the tree may have been read anew meanwhile
-    if (generation != m_generation || !target)
+    if (generation != m_generation || !target || putsOffReading())
         return;
     const ViewState state = viewState();
     m_model.setChildren(static_cast<VTFolderItem &>(*target), std::move(children));
@@ -319,6 +349,10 @@ void VTTemplateOutlineController::startJob(const ImportJob &job,
     host.showFolder = [this, waiting](const QString &folder) {
         MainThread::perform([this, folder] { folder.isNull() ? populateTemplateStructure() : rereadFolder(folder); },
                             waiting);
+    };
+    const QString name = work == importjobs::copyFiles ? tr("Import") : tr("Import of Folders");
+    host.changed = [this, name, waiting](const DiskSteps &steps) {
+        MainThread::perform([&] { m_history.add({name, steps}); }, waiting);
     };
     host.end = [this, waiting] {
         MainThread::perform(

@@ -30,7 +30,7 @@ public:
         Spinner *spinner = nullptr;
     };
 
-    explicit VTTemplateOutlineController(QObject *parent = nullptr);
+    explicit VTTemplateOutlineController(ChangeHistory &history, QObject *parent = nullptr);
     ~VTTemplateOutlineController() override;
 
     /** Not owned. */
@@ -55,6 +55,9 @@ public:
     /** Starts the import on a thread of its own. */
     void copyFilesOnThread(const ImportJob &job);
     void createFolderStructureOnThread(const ImportJob &job);
+    /** Takes in a name that is being typed, before this returns. */
+    void finishEditing();
+    [[nodiscard]] bool isEditing() const;
     /** Blocks until no import runs any more, turning the event loop. */
     void waitForImports();
     [[nodiscard]] bool isImporting() const { return m_jobs > 0; }
@@ -97,7 +100,9 @@ private:
     void restore(const ViewState &state, const QModelIndex &below);
     void rereadFolder(const QString &folder);
     void rereadParentOf(const QString &path);
-    void insertIntoTargets(const std::function<QString(const QString &folder)> &insert);
+    void insertIntoTargets(const QString &name, const std::function<QString(const QString &folder)> &insert);
+    [[nodiscard]] bool putsOffReading();
+    void catchUp();
     void editItem(const QString &path);
     void selectOnly(const QString &path);
     void rename(const QString &path, const QString &typed);
@@ -105,14 +110,16 @@ private:
     void showImportPanel(bool foldersOnly);
     [[nodiscard]] QString importDestination() const;
     [[nodiscard]] QString destinationFolder(const QString &target) const;
-    bool moveInside(const TemplateNode &dragged, const QString &folder, QStringList &moved);
+    bool moveInside(const TemplateNode &dragged, const QString &folder, QStringList &moved, DiskSteps &steps);
     void startJob(const ImportJob &job, platform::Outcome (*work)(const ImportJob &, const ImportHost &));
     void announceSelection();
 
+    ChangeHistory &m_history;
     Views m_views;
     QString m_baseFilename;
     TemplateTreeModel m_model;
     quint64 m_generation = 0; ///< counts loads: one that was overtaken while it read is thrown away
+    bool m_isBehind = false;  ///< the tree is to be read anew when the open editor has been left
     int m_spinning = 0;
     int m_jobs = 0;
 };

@@ -6,6 +6,7 @@
 #include "platform/desktop/Desktop.h"
 #include "platform/files/FileSystem.h"
 #include "support/FileOperations.h"
+#include "support/InPlace.h"
 #include "support/VTAlert.h"
 #include "support/VTLog.h"
 #include "templates/EditingGuard.h"
@@ -33,15 +34,9 @@ QString withExtensionOf(const QString &stem, const QString &path)
 
 void VTTemplateOutlineController::showAddPopUp()
 {
-    m_views.outlineView->finishEditing();
-    // After the name that was being typed has been taken in.
-    QMetaObject::invokeMethod(
-        this,
-        [this] {
-            const QWidget *button = m_views.addPopUp;
-            m_views.addMenu->popup(button->mapToGlobal(QPoint(0, button->height())));
-        },
-        Qt::QueuedConnection);
+    finishEditing(); // a question about the name that was being typed comes first
+    const QWidget *button = m_views.addPopUp;
+    m_views.addMenu->popup(button->mapToGlobal(QPoint(0, button->height())));
 }
 
 QList<VTTemplateOutlineController::Target> VTTemplateOutlineController::targets() const
@@ -49,16 +44,20 @@ QList<VTTemplateOutlineController::Target> VTTemplateOutlineController::targets(
     QList<Target> found;
     for (const QModelIndex &index : selectedIndexes()) {
         const TemplateNode *node = TemplateTreeModel::nodeAt(index);
-        const TemplateNode *folder = node->isFolderItem() ? node : node->parent();
+        const bool takesItems = node->isFolderItem() && !node->isLink(); // where a link leads is not the template
+        const TemplateNode *folder = takesItems ? node : node->parent();
         found.append(folder ? Target{folder->filename(), false} : Target{filesFolder(), true});
     }
     return found;
 }
 
 /// What both kinds of adding have in common: in each target, or at the top, then the first one's name is edited.
-void VTTemplateOutlineController::insertIntoTargets(const std::function<QString(const QString &folder)> &insert)
+void VTTemplateOutlineController::insertIntoTargets(const QString &name,
+                                                    const std::function<QString(const QString &folder)> &insert)
 {
+    finishEditing();
     QString first;
+    DiskChange change{name, {}};
     QList<Target> places = targets();
     if (places.isEmpty())
         places.append({filesFolder(), true});
@@ -66,11 +65,14 @@ void VTTemplateOutlineController::insertIntoTargets(const std::function<QString(
         const QString made = insert(place.path);
         if (first.isNull())
             first = made;
+        if (!made.isNull())
+            change.steps.append({DiskStep::Kind::Made, made});
         if (place.isTop)
             populateTemplateStructure();
         else
             rereadFolder(place.path);
     }
+    m_history.add(change);
     reloadOutlineView();
     if (!first.isNull())
         editItem(first);
@@ -80,7 +82,7 @@ void VTTemplateOutlineController::addFolder()
 {
     if (m_baseFilename.isNull() || !editingIsAllowed())
         return;
-    insertIntoTargets([](const QString &folder) {
+    insertIntoTargets(tr("New Folder"), [](const QString &folder) {
         const QString path = VTFileManager::uniqueFilename(joined(folder, tr("New Folder")));
         VTLog::appendLog("Adding new folder %@", path);
         const platform::Outcome made = fileoperations::createDirectory(path, patience);
@@ -100,7 +102,7 @@ void VTTemplateOutlineController::addProject(const QString &source)
         return;
     }
     VTLog::appendLog("Creating duplicate of project %@...", source);
-    insertIntoTargets([&](const QString &folder) {
+    insertIntoTargets(tr("New Item"), [&](const QString &folder) {
         // Not translated: creating a project replaces the word in the name.
         const QString path =
             VTFileManager::uniqueFilename(joined(folder, withExtensionOf(QStringLiteral("Template"), source)));
@@ -148,28 +150,33 @@ QString VTTemplateOutlineController::importDestination() const
     if (selected.isEmpty())
         return filesFolder();
     const TemplateNode *node = TemplateTreeModel::nodeAt(selected.first());
-    return node->isFolderItem() ? node->filename() : platform::parentPath(node->filename());
+    const bool takesItems = node->isFolderItem() && !node->isLink();
+    return takesItems ? node->filename() : platform::parentPath(node->filename());
 }
 
 void VTTemplateOutlineController::removeFiles()
 {
-    QStringList paths = selectedPaths();
+    finishEditing();
+    const QStringList paths = selectedPaths();
     if (paths.isEmpty() || !editingIsAllowed())
         return;
     const QString what = paths.size() == 1 ? tr("this item") : tr("these items");
     const int answer = VTAlert::show({formatString(tr("Are you sure you wish to remove %@?"), what),
-                                      tr("This cannot be undone."),
+                                      tr("What is removed goes to the Trash. Undo brings it back."),
                                       tr("Remove"),
                                       tr("Cancel"),
                                       {},
                                       VTAlert::alternateReturn});
     if (answer != VTAlert::defaultReturn)
         return;
-    for (const QString &path : std::as_const(paths)) {
+    DiskChange change{tr("Remove"), {}};
+    for (const QString &path : paths) {
         VTLog::appendLog("Removing template file %@", path);
-        if (const platform::Outcome removed = fileoperations::removeFile(path, patience); !removed.ok())
+        const platform::Outcome removed = changes::putInTrash(path, change.steps);
+        if (!removed.ok() && !removed.is(platform::Cause::Declined))
             VTAlert::show({formatString(tr("Unable to remove file %@"), path), checkDestination(removed)});
     }
+    m_history.add(change);
     if (paths.size() == 1)
         rereadParentOf(paths.first());
     else
@@ -178,22 +185,34 @@ void VTTemplateOutlineController::removeFiles()
 
 void VTTemplateOutlineController::duplicateFiles()
 {
+    finishEditing();
     const QStringList paths = selectedPaths();
     if (paths.isEmpty() || !editingIsAllowed())
         return;
+    DiskChange change{tr("Duplicate"), {}};
     for (const QString &path : paths) {
         const QString copy = VTFileManager::uniqueFilename(
             withExtensionOf(platform::withoutExtension(path) + QStringLiteral(" Duplicate"), path));
         VTLog::appendLog("Duplicating template file %@ to %@", path, copy);
-        if (const platform::Outcome copied = fileoperations::copyFile(path, copy, patience); !copied.ok())
+        const platform::Outcome copied =
+            fileoperations::makeInPlace({copy, m_baseFilename}, [&](const QString &staged) {
+                return fileoperations::copyFile(path, staged, patience);
+            });
+        if (copied.ok())
+            change.steps.append({DiskStep::Kind::Made, copy});
+        else
             VTAlert::show({formatString(tr("Unable to copy file %@ to %@"), path, copy), checkDestination(copied)});
-        rereadParentOf(path);
     }
+    m_history.add(change);
+    if (paths.size() == 1) // one reading at the end, however many there are
+        rereadParentOf(paths.first());
+    else
+        populateTemplateStructure();
 }
 
 void VTTemplateOutlineController::rename(const QString &path, const QString &typed)
 {
-    if (typed.isEmpty() || !nodeAtPath(path))
+    if (typed.isEmpty()) // the item may be of a template that is not shown any more, and is renamed all the same
         return;
     const QString cleaned = VTFileManager::validateFilename(typed);
     if (cleaned.isEmpty()) {
@@ -219,7 +238,10 @@ void VTTemplateOutlineController::rename(const QString &path, const QString &typ
         VTAlert::show(
             {tr("Unable to rename item"),
              withCause(tr("Please check your have write permissions for this item and its parent directory."), moved)});
-    } else if (node) {
+        return;
+    }
+    m_history.add({tr("Rename"), {{DiskStep::Kind::Moved, path, renamed}}});
+    if (node) {
         node->rename(renamed);
         reloadOutlineViewItem(node);
     }
@@ -241,10 +263,18 @@ void VTTemplateOutlineController::openSelectedFiles()
 
 void VTTemplateOutlineController::colorCodeFiles(int tag)
 {
+    const int index = tag * 2; // the labels are the even indexes
+    DiskChange change{tr("Label"), {}};
     for (const QString &path : selectedPaths()) {
         VTLog::appendLog("Color coding %@", path);
-        VTFileManager::setFinderColorIndex(tag * 2, path); // the labels are the even indexes
+        if (platform::kindOf(path) == platform::FileKind::Link)
+            continue; // the label would be its target's
+        const int before = VTFileManager::finderColorIndexForPath(path);
+        VTFileManager::setFinderColorIndex(index, path);
+        if (before != index)
+            change.steps.append({DiskStep::Kind::Labelled, path, {}, before, index});
     }
+    m_history.add(change);
     m_views.outlineView->clearSelection();
     m_views.outlineView->viewport()->update();
 }

@@ -4,6 +4,7 @@
 #include "platform/base/FormatString.h"
 #include "platform/base/NativePath.h"
 #include "platform/files/FileSystem.h"
+#include "platform/files/Trash.h"
 #include "support/FileOperations.h"
 #include "support/VTAlert.h"
 #include "support/VTLog.h"
@@ -38,7 +39,7 @@ void tellUnableToMove(const QString &source, const QString &target, const platfo
 bool mayOverwrite(const QString &name)
 {
     return VTAlert::show({formatString(Text::tr("%@ already exists. Overwrite?"), name),
-                          Text::tr("This cannot be undone."),
+                          Text::tr("What is there goes to the Trash."),
                           Text::tr("Overwrite"),
                           Text::tr("Ignore"),
                           {},
@@ -49,7 +50,9 @@ bool mayOverwrite(const QString &name)
 
 DropOperation VTTemplateOutlineController::validateDrop(const TemplateDrop &drop, const TemplateNode *target) const
 {
-    if (m_baseFilename.isNull())
+    const TemplateNode *folder = target && !target->isFolderItem() ? target->parent() : target;
+    const bool isOutside = folder && (folder->isLink() || folder->isBehindLink());
+    if (m_baseFilename.isNull() || isOutside)
         return DropOperation::Refused;
     if (drop.isFromOutside)
         return drop.paths.isEmpty() ? DropOperation::Refused : DropOperation::Copy;
@@ -85,12 +88,14 @@ bool VTTemplateOutlineController::acceptDrop(const TemplateDrop &drop, const QSt
     selectOnly(target);
     QStringList toReread;
     QStringList moved;
+    DiskChange change{tr("Move"), {}};
     for (const auto &node : dragged) {
         const TemplateNode *live = nodeAtPath(node->filename());
         const QString parent = live && live->parent() ? live->parent()->filename() : QString();
-        if (moveInside(*node, folder, moved) && !parent.isNull())
+        if (moveInside(*node, folder, moved, change.steps) && !parent.isNull())
             toReread.append(parent);
     }
+    m_history.add(change);
     const bool knowsAll = static_cast<std::size_t>(toReread.size()) == dragged.size() && !target.isNull();
     if (!knowsAll) {
         populateTemplateStructure();
@@ -103,9 +108,10 @@ bool VTTemplateOutlineController::acceptDrop(const TemplateDrop &drop, const QSt
     return true;
 }
 
-/// Moves one item on disk. False when it was skipped: it is there already, or the user said no. An item is never
-/// deleted to make room for one that cannot be moved.
-bool VTTemplateOutlineController::moveInside(const TemplateNode &dragged, const QString &folder, QStringList &moved)
+/// Moves one item on disk. False when it was skipped: it is there already, or the user said no. What stands in the way
+/// goes to the Trash, and comes back when the item cannot be moved after all.
+bool VTTemplateOutlineController::moveInside(const TemplateNode &dragged, const QString &folder, QStringList &moved,
+                                             DiskSteps &steps)
 {
     const QString source = dragged.filename();
     const QString landing = joined(folder, lastComponent(source));
@@ -120,17 +126,27 @@ bool VTTemplateOutlineController::moveInside(const TemplateNode &dragged, const 
         tellUnableToMove(source, landing, platform::Outcome::failure(cause, source));
         return true;
     }
+    DiskSteps replaced;
     if (isThere(landing)) {
         if (!mayOverwrite(lastComponent(source)))
             return false;
-        static_cast<void>(VTFileManager::removeFile(landing, patience)); // if it stays, the move fails and says so
+        // If it stays, the move fails and says so.
+        static_cast<void>(changes::putInTrash(landing, replaced));
     }
-    // A file is moved onto the folder itself; the fallback of the plain move puts it inside. This must stay.
-    const QString target = dragged.isFolderItem() ? landing : folder;
+    // A file is moved onto the folder itself; the fallback of the plain move puts it inside. This must stay. A package
+    // is a folder on disk, which that fallback would not take.
+    const bool isFolder = dragged.isFolderItem() || platform::leadsToFolder(source);
+    const QString target = isFolder ? landing : folder;
     const platform::Outcome outcome = fileoperations::moveFile(source, target, patience);
-    if (outcome.ok())
+    if (outcome.ok()) {
         moved.append(source);
-    else
-        tellUnableToMove(source, target, outcome);
+        steps += replaced;
+        steps.append({DiskStep::Kind::Moved, source, landing});
+        return true;
+    }
+    for (const DiskStep &step : std::as_const(replaced))
+        static_cast<void>(
+            platform::putBackFromTrash(step.other, step.path)); // else it lies in the Trash, and the log says so
+    tellUnableToMove(source, target, outcome);
     return true;
 }

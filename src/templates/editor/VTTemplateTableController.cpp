@@ -7,6 +7,7 @@
 #include "support/Settings.h"
 #include "support/VTLog.h"
 #include "templates/EditingGuard.h"
+#include "templates/TemplateChanges.h"
 #include "templates/TemplateLibrary.h"
 #include "templates/VTDataController.h"
 #include "templates/editor/VTTemplateOutlineController.h"
@@ -24,9 +25,11 @@ VTDataController &store()
 
 } // namespace
 
-VTTemplateTableController::VTTemplateTableController(VTTemplateOutlineController &outlineController, QObject *parent)
+VTTemplateTableController::VTTemplateTableController(VTTemplateOutlineController &outlineController,
+                                                     ChangeHistory &history, QObject *parent)
     : QAbstractListModel(parent)
     , m_outlineController(outlineController)
+    , m_history(history)
 {
 }
 
@@ -44,15 +47,27 @@ void VTTemplateTableController::awakeFromNib()
     m_tableView->setWatchDelegate(this);
     m_tableView->addWatchKeys(WatchKeys::deleteKeys(), "removeTemplate");
     switchedToView();
-    connect(&Notifications::hub(), &Notifications::VTTessaroRefreshTemplates, this, [this] {
-        reload();
-        m_isStale = true; // what is shown may have been replaced on disk
-        loadDataForCurrentSelection();
-    });
+    connect(&Notifications::hub(), &Notifications::VTTessaroRefreshTemplates, this,
+            &VTTemplateTableController::readAnew);
+}
+
+void VTTemplateTableController::readAnew()
+{
+    finishEditing();
+    rebuild();
+    m_isStale = true; // what is shown may have been replaced on disk
+    loadDataForCurrentSelection();
+}
+
+void VTTemplateTableController::finishEditing()
+{
+    m_tableView->finishEditing();
+    takeTypedName();
 }
 
 void VTTemplateTableController::switchedToView()
 {
+    finishEditing();
     m_isStale = true;
     rebuild();
     const QString last = settings::selectedProjectTemplate.text();
@@ -71,12 +86,34 @@ void VTTemplateTableController::rebuild()
 
 void VTTemplateTableController::reload()
 {
-    const QString selected = selectedTemplate();
-    beginResetModel();
-    m_names = store().templates();
-    endResetModel();
-    if (m_tableView && m_names.contains(selected))
-        selectRow(selected);
+    showNames(store().templates());
+}
+
+/// Rows come and go one by one: what is selected stays so, and an editor stays open.
+void VTTemplateTableController::showNames(const QStringList &names)
+{
+    for (auto row = static_cast<int>(m_names.size()) - 1; row >= 0; --row) {
+        if (names.contains(m_names[row]))
+            continue;
+        beginRemoveRows({}, row, row);
+        m_names.removeAt(row);
+        endRemoveRows();
+    }
+    for (int row = 0; row < names.size(); ++row) {
+        const auto now = static_cast<int>(m_names.indexOf(names[row], row));
+        if (now == row)
+            continue;
+        if (now > row && beginMoveRows({}, now, now, {}, row)) {
+            m_names.move(now, row);
+            endMoveRows();
+            continue;
+        }
+        beginInsertRows({}, row, row);
+        m_names.insert(row, names[row]);
+        endInsertRows();
+    }
+    if (!m_names.isEmpty())
+        Q_EMIT dataChanged(index(0), index(static_cast<int>(m_names.size()) - 1)); // the star may be another's
 }
 
 void VTTemplateTableController::load(const QString &name)
@@ -126,8 +163,15 @@ bool VTTemplateTableController::addTemplateFromFile(const QString &path)
     const auto waiting = platform::Waiting::Yes;
     MainThread::perform([] { static_cast<void>(store().populateTemplates()); }, waiting);
     MainThread::perform([this] { Q_EMIT populateTemplatePopUp(); }, waiting);
-    MainThread::perform([this] { reload(); }, waiting);
-    MainThread::perform([this, &result] { selectTemplateWithName(result.name); }, waiting);
+    MainThread::perform(
+        [&] {
+            m_history.add({tr("Import of ‘%1’").arg(platform::forOneLine(result.name)), result.steps});
+            reload();
+            // Not away from under somebody who types a name.
+            if (!m_tableView->isEditing() && !m_outlineController.isEditing())
+                selectTemplateWithName(result.name);
+        },
+        waiting);
     return true;
 }
 
@@ -150,9 +194,12 @@ void VTTemplateTableController::unsetDefaultTemplate()
 
 void VTTemplateTableController::createNewTemplate()
 {
+    finishEditing();
+    m_outlineController.finishEditing();
     if (!editingIsAllowed())
         return;
     const library::Change made = library::createTemplate(tr("Untitled"));
+    m_history.add({tr("New Template"), made.steps});
     rebuild();
     Q_EMIT populateTemplatePopUp();
     editName(made.name);
@@ -161,20 +208,28 @@ void VTTemplateTableController::createNewTemplate()
 
 void VTTemplateTableController::duplicateTemplate()
 {
+    finishEditing();
     const QString name = selectedTemplate();
     if (name.isNull() || !editingIsAllowed())
         return;
     const library::Change made = library::duplicateTemplate(name);
+    m_history.add({tr("Duplicate"), made.steps});
     rebuild();
+    Q_EMIT populateTemplatePopUp();
     editName(made.name);
     VTLog::appendLog("Template duplication finished");
 }
 
 void VTTemplateTableController::removeTemplate()
 {
+    finishEditing();
     const QString name = selectedTemplate();
-    if (name.isNull() || !editingIsAllowed() || library::removeTemplate(name).outcome.is(platform::Cause::Declined))
+    if (name.isNull() || !editingIsAllowed())
         return;
+    const library::Change removed = library::removeTemplate(name);
+    if (removed.outcome.is(platform::Cause::Declined))
+        return;
+    m_history.add({tr("Remove"), removed.steps});
     const qsizetype row = m_names.indexOf(name);
     rebuild();
     if (selectedTemplate().isNull() && !m_names.isEmpty()) // the neighbour, so that the keyboard stays where it was
@@ -188,6 +243,7 @@ void VTTemplateTableController::rename(const QString &name, const QString &typed
     const library::Change result = library::renameTemplate(name, typed);
     if (!result.isChanged)
         return;
+    m_history.add({tr("Rename"), result.steps});
     if (isDefaultTemplate(result.name))
         Q_EMIT populateTemplatePopUp();
     rebuild();
@@ -260,9 +316,15 @@ bool VTTemplateTableController::setData(const QModelIndex &index, const QVariant
     if (role != Qt::EditRole || name.isNull() || value.toString() == platform::forDisplay(name))
         return false;
     // Questions and moves turn the event loop, which an open editor does not survive.
-    QMetaObject::invokeMethod(
-        this, [this, name, typed = value.toString()] { rename(name, typed); }, Qt::QueuedConnection);
+    m_typed = {name, value.toString()};
+    QMetaObject::invokeMethod(this, &VTTemplateTableController::takeTypedName, Qt::QueuedConnection);
     return true;
+}
+
+void VTTemplateTableController::takeTypedName()
+{
+    if (const auto typed = std::exchange(m_typed, std::nullopt))
+        rename(typed->first, typed->second);
 }
 
 Qt::ItemFlags VTTemplateTableController::flags(const QModelIndex &index) const

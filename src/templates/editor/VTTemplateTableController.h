@@ -2,8 +2,10 @@
 
 #include <QAbstractListModel>
 #include <QPointer>
+#include <optional>
 
 class QAction;
+class ChangeHistory;
 class VTTableView;
 class VTTemplateOutlineController;
 
@@ -17,7 +19,8 @@ class VTTemplateTableController : public QAbstractListModel
     Q_OBJECT
 
 public:
-    explicit VTTemplateTableController(VTTemplateOutlineController &outlineController, QObject *parent = nullptr);
+    VTTemplateTableController(VTTemplateOutlineController &outlineController, ChangeHistory &history,
+                              QObject *parent = nullptr);
 
     /** Not owned. The menu item's title follows the selected template. */
     void setViews(VTTableView *tableView, QAction *menuItemToggleDefault);
@@ -25,6 +28,10 @@ public:
 
     /** Builds the list and shows the template used last, else the first. */
     void switchedToView();
+    /** Builds the list and reads the tree anew; the selection stays. */
+    void readAnew();
+    /** Takes in a name that is being typed, before this returns. */
+    void finishEditing();
     void loadDataForCurrentSelection();
     void selectTemplateWithName(const QString &name);
     /** Brings a bundle into the library and selects it. Any thread; waits for the main one. */
@@ -60,14 +67,18 @@ Q_SIGNALS:
 private:
     void rename(const QString &name, const QString &typed);
     void rebuild();
+    void takeTypedName();
+    void showNames(const QStringList &names);
     void selectRow(const QString &name);
     void editName(const QString &name);
     void load(const QString &name);
 
     VTTemplateOutlineController &m_outlineController;
+    ChangeHistory &m_history;
     QPointer<VTTableView> m_tableView;
     QPointer<QAction> m_menuItemToggleDefault;
-    QStringList m_names;   ///< what the view was last told of the store's list
-    QString m_loaded;      ///< the template that the editor shows
+    QStringList m_names;                                ///< what the view was last told of the store's list
+    QString m_loaded;                                   ///< the template that the editor shows
+    std::optional<std::pair<QString, QString>> m_typed; ///< a template and its new name, until the editor is gone
     bool m_isStale = true; ///< what the editor shows is to be read anew, even if it is the same template
 };

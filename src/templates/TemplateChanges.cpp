@@ -1,0 +1,136 @@
+#include "templates/TemplateChanges.h"
+
+#include "platform/base/MainThread.h"
+#include "platform/files/FileSystem.h"
+#include "platform/files/Trash.h"
+#include "support/FileOperations.h"
+#include "support/Settings.h"
+#include "support/VTLog.h"
+
+using platform::Cause;
+using platform::Outcome;
+
+namespace {
+
+constexpr qsizetype remembered = 100;
+constexpr std::chrono::seconds patience{20};
+
+Outcome move(const QString &from, const QString &to)
+{
+    // A name that differs in its case only may be the same item under another name: the move finds that out.
+    if (!platform::isMissing(to) && from.compare(to, Qt::CaseInsensitive) != 0)
+        return Outcome::failure(Cause::Exists, to);
+    return platform::isMissing(from) ? Outcome::failure(Cause::Missing, from)
+                                     : fileoperations::moveFile(from, to, patience);
+}
+
+Outcome takeAway(DiskStep &step)
+{
+    if (platform::isMissing(step.path))
+        return Outcome::failure(Cause::Missing, step.path);
+    step.other.clear();
+    return fileoperations::trashFile(step.path, ShouldAuth::Yes, &step.other);
+}
+
+Outcome bringBack(const DiskStep &step)
+{
+    return platform::resultInBackground([&] { return platform::putBackFromTrash(step.other, step.path); });
+}
+
+Outcome label(const QString &path, int index)
+{
+    VTFileManager::setFinderColorIndex(index, path);
+    if (platform::isMissing(path))
+        return Outcome::failure(Cause::Missing, path);
+    return VTFileManager::finderColorIndexForPath(path) == index ? Outcome()
+                                                                 : Outcome::failure(Cause::NotSupported, path);
+}
+
+Outcome carryOut(DiskStep &step, bool isUndo)
+{
+    switch (step.kind) {
+    case DiskStep::Kind::Moved:
+        return isUndo ? move(step.other, step.path) : move(step.path, step.other);
+    case DiskStep::Kind::Made:
+        return isUndo ? takeAway(step) : bringBack(step);
+    case DiskStep::Kind::PutAway:
+        return isUndo ? bringBack(step) : takeAway(step);
+    case DiskStep::Kind::Labelled:
+        return label(step.path, isUndo ? step.before : step.after);
+    case DiskStep::Kind::Defaulted:
+        return settings::defaultTemplate.store(isUndo ? step.path : step.other);
+    }
+    return {};
+}
+
+} // namespace
+
+Outcome changes::putInTrash(const QString &path, DiskSteps &steps)
+{
+    return puttingInTrash(steps)(path, path);
+}
+
+fileoperations::PutAway changes::puttingInTrash(DiskSteps &steps)
+{
+    return [&steps](const QString &path, const QString &knownAs) {
+        QString inTrash;
+        const bool wasThere = !platform::isMissing(path);
+        const Outcome trashed =
+            fileoperations::trashFile(path, ShouldAuth::Yes, &inTrash, knownAs == path ? QString() : knownAs);
+        // Where there was no Trash and it was deleted as was wanted, nothing can bring it back.
+        if (trashed.ok() && wasThere && !inTrash.isNull())
+            steps.append({DiskStep::Kind::PutAway, knownAs, inTrash});
+        return trashed;
+    };
+}
+
+void ChangeHistory::add(const DiskChange &change)
+{
+    if (change.steps.isEmpty())
+        return;
+    m_done.append(change);
+    if (m_done.size() > remembered)
+        m_done.removeFirst();
+    m_undone.clear();
+    Q_EMIT changed();
+}
+
+Outcome ChangeHistory::undo()
+{
+    const Outcome undone = carryOut(m_done, m_undone, true);
+    Q_EMIT changed();
+    return undone;
+}
+
+Outcome ChangeHistory::redo()
+{
+    const Outcome redone = carryOut(m_undone, m_done, false);
+    Q_EMIT changed();
+    return redone;
+}
+
+/// What was carried out and what was not are changes of their own from then on: neither is lost.
+Outcome ChangeHistory::carryOut(QList<DiskChange> &from, QList<DiskChange> &to, bool isUndo)
+{
+    if (from.isEmpty())
+        return {};
+    DiskChange change = from.takeLast();
+    VTLog::appendLog(isUndo ? "Undoing %@" : "Doing %@ again", change.name);
+    DiskChange carriedOut{change.name, {}};
+    Outcome outcome;
+    while (!change.steps.isEmpty() && outcome.ok()) {
+        DiskStep step = isUndo ? change.steps.takeLast() : change.steps.takeFirst();
+        outcome = ::carryOut(step, isUndo);
+        DiskSteps &side = outcome.ok() ? carriedOut.steps : change.steps;
+        (outcome.ok() == isUndo) ? side.prepend(step) : side.append(step);
+    }
+    if (!outcome.ok()) {
+        VTLog::appendLog("Unable to go on: %@", outcome.description());
+        // What is gone, or whose place is taken, stays so: the changes before it can still be taken back.
+        if (!outcome.is(Cause::Missing) && !outcome.is(Cause::Exists))
+            from.append(change);
+    }
+    if (!carriedOut.steps.isEmpty())
+        to.append(carriedOut);
+    return outcome;
+}
