@@ -42,10 +42,12 @@ platform::Result<QString> folderchoice::usablePath(QWidget &window, const settin
     return path.outcome();
 }
 
-void folderchoice::makeFolder(QWidget &window, const QString &path)
+bool folderchoice::makeFolder(QWidget &window, const QString &path)
 {
     if (VTFileManager::fileExistsAtPath(path))
-        return;
-    if (const platform::Outcome made = fileoperations::createDirectory(path); !made.ok())
+        return true;
+    const platform::Outcome made = fileoperations::createDirectory(path);
+    if (!made.ok())
         VTAlert::show({formatString(Text::tr("Unable to create folder %@"), path), checkDestination(made)}, &window);
+    return made.ok();
 }

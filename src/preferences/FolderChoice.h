@@ -18,7 +18,7 @@ void browse(QWidget &window, const QString &title, std::function<void(const QStr
 [[nodiscard]] platform::Result<QString> usablePath(QWidget &window, const settings::Setting &setting,
                                                    const QString &typed);
 
-/** Makes the folder where it is missing; says so when it cannot. */
-void makeFolder(QWidget &window, const QString &path);
+/** Makes the folder where it is missing; says so when it cannot, and is false then. */
+[[nodiscard]] bool makeFolder(QWidget &window, const QString &path);
 
 } // namespace folderchoice

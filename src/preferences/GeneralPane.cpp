@@ -2,8 +2,11 @@
 
 #include "platform/base/FormatString.h"
 #include "platform/base/NativePath.h"
+#include "platform/files/FileTree.h"
+#include "platform/plain/CopyMonitor.h"
 #include "preferences/BoundSwitch.h"
 #include "preferences/FolderChoice.h"
+#include "preferences/PathField.h"
 #include "support/FileOperations.h"
 #include "support/VTAlert.h"
 #include "support/VTLog.h"
@@ -16,19 +19,29 @@ using platform::joined;
 namespace {
 
 constexpr std::chrono::seconds movePatience{10};
+constexpr qsizetype mostNamed = 5;
+
+QStringList bundlesIn(const QString &folder)
+{
+    QStringList names;
+    for (const auto &entry : fileoperations::entriesOf(folder)) {
+        if (entry.name.endsWith(QLatin1String(".tzt"), Qt::CaseInsensitive))
+            names.append(entry.name);
+    }
+    return names;
+}
 
 } // namespace
 
 GeneralPane::GeneralPane(Ui::Prefs_Dialog &ui, QWidget &window)
     : QObject(&window)
-    , m_ui(ui)
     , m_window(window)
+    , m_path(new PathField(*ui.prefsTemplatePath, *ui.hintTemplates,
+                           {settings::templateLocation, [] { return VTDataController::templateLocation(); },
+                            [this](const QString &typed) {
+                                modifyTemplatePath(typed);
+                            }}))
 {
-    ui.prefsTemplatePath->setText(platform::forDisplay(VTDataController::templateLocation()));
-    connect(ui.prefsTemplatePath, &QLineEdit::editingFinished, this, [this] {
-        if (m_ui.prefsTemplatePath->text() != platform::forDisplay(VTDataController::templateLocation()))
-            modifyTemplatePath(m_ui.prefsTemplatePath->text());
-    });
     connect(ui.browseTemplates, &QPushButton::clicked, this, [this] {
         folderchoice::browse(m_window, tr("Choose the Template Library"),
                              [this](const QString &path) { modifyTemplatePath(path); });
@@ -49,42 +62,68 @@ void GeneralPane::modifyTemplatePath(const QString &typed)
 {
     const QString old = VTDataController::templateLocation();
     const auto path = folderchoice::usablePath(m_window, settings::templateLocation, typed);
-    if (!path || *path == old) {
-        m_ui.prefsTemplatePath->setText(platform::forDisplay(old));
-        return;
-    }
-    static_cast<void>(settings::templateLocation.store(*path)); // logged; the field shows what is stored
-    folderchoice::makeFolder(m_window, *path);
+    const bool isNew = path && !VTFileManager::fileExistsAtPath(*path);
+    if (!path || *path == old || !folderchoice::makeFolder(m_window, *path))
+        return m_path->refresh();
     VTLog::appendLog("User changed template path from %@ to %@. Asking user to confirm moving over old files.", old,
                      *path);
-    if (!VTFileManager::isFolderEmpty(old))
-        moveTemplates(old, *path);
+    const QStringList names = bundlesIn(old);
+    const Move answer = VTFileManager::isFolderEmpty(old) ? Move::No : askToMove(old, *path, names.size());
+    if (answer == Move::Cancelled) {
+        if (isNew)
+            static_cast<void>(platform::removeEmptyFolder(*path)); // it was made for nothing
+        return m_path->refresh();
+    }
+    static_cast<void>(settings::templateLocation.store(*path)); // logged; the field shows what is stored
+    if (answer == Move::Yes)
+        moveTemplates(old, *path, names);
     static_cast<void>(VTDataController::sharedController().populateTemplates()); // said and logged where it failed
-    m_ui.prefsTemplatePath->setText(platform::forDisplay(VTDataController::templateLocation()));
+    m_path->refresh();
     Q_EMIT templateLocationChanged();
 }
 
-void GeneralPane::moveTemplates(const QString &from, const QString &to)
+GeneralPane::Move GeneralPane::askToMove(const QString &from, const QString &to, qsizetype count)
 {
+    const QString places = tr("%n templates are in %1.", nullptr, static_cast<int>(count)).arg(from) + u'\n' +
+                           tr("The new location is %1.").arg(to);
     const int answer = VTAlert::show(
         {tr("Would you like to move your templates to the new location?"),
-         tr("Any templates outside of the new backup location will not be displayed in the Templates pane."),
-         tr("Move"), tr("Don't Move")},
+         tr("Any templates outside of the new backup location will not be displayed in the Templates pane.") +
+             QStringLiteral("\n\n") + places,
+         tr("Move"), tr("Don't Move"), tr("Cancel")},
         &m_window);
-    if (answer != VTAlert::defaultReturn)
-        return;
+    return answer == VTAlert::defaultReturn     ? Move::Yes
+           : answer == VTAlert::alternateReturn ? Move::No
+                                                : Move::Cancelled;
+}
+
+/// What cannot be moved stays where it is; one message names all of it.
+void GeneralPane::moveTemplates(const QString &from, const QString &to, const QStringList &names)
+{
     VTLog::appendLog("User chose to move files");
-    const auto entries = platform::listFolder(from);
-    if (!entries)
-        VTAlert::show({formatString(tr("Unable to move file %@ to %@"), from, to), checkDestination(entries.outcome())},
-                      &m_window);
-    for (const auto &entry : entries.valueOr({})) {
-        const QString source = joined(from, entry.name);
-        if (!entry.name.endsWith(QLatin1String(".tzt"), Qt::CaseInsensitive))
+    platform::CopyMonitor monitor;
+    const LongWork work(tr("Moving %n templates", nullptr, static_cast<int>(names.size())), monitor);
+    QStringList stayed;
+    platform::Outcome first;
+    for (const QString &name : names) {
+        // What one has met, the others would meet: rights that were refused are not asked for again for each.
+        const bool isHopeless = first.needsRights() || first.is(platform::Cause::NoSpace) ||
+                                first.is(platform::Cause::Unreachable) || monitor.cancelled;
+        const platform::Outcome moved =
+            isHopeless ? first : fileoperations::moveFile(joined(from, name), joined(to, name), movePatience);
+        if (moved.ok() && !isHopeless)
             continue;
-        const platform::Outcome moved = fileoperations::moveFile(source, joined(to, entry.name), movePatience);
-        if (!moved.ok())
-            VTAlert::show({formatString(tr("Unable to move file %@ to %@"), source, to), checkDestination(moved)},
-                          &m_window);
+        stayed.append(platform::forOneLine(name));
+        if (first.ok())
+            first = moved;
     }
+    if (stayed.isEmpty())
+        return;
+    const auto others = static_cast<int>(qMax<qsizetype>(0, stayed.size() - mostNamed));
+    const QString all = stayed.mid(0, mostNamed).join(QStringLiteral(", ")) +
+                        (others > 0 ? tr(" and %n more", nullptr, others) : QString());
+    VTAlert::show(
+        {formatString(tr("Unable to move file %@ to %@"), joined(from, stayed.constFirst()), to),
+         tr("These have stayed where they were: %1.").arg(all) + QStringLiteral("\n\n") + checkDestination(first)},
+        &m_window);
 }

@@ -3,6 +3,7 @@
 #include <QObject>
 
 class QCheckBox;
+class PathField;
 class QWidget;
 
 namespace Ui {
@@ -26,8 +27,10 @@ Q_SIGNALS:
     void templateLocationChanged();
 
 private:
-    void moveTemplates(const QString &from, const QString &to);
+    enum class Move { No, Yes, Cancelled };
+    [[nodiscard]] Move askToMove(const QString &from, const QString &to, qsizetype count);
+    void moveTemplates(const QString &from, const QString &to, const QStringList &names);
 
-    Ui::Prefs_Dialog &m_ui;
     QWidget &m_window;
+    PathField *m_path;
 };

@@ -1,22 +1,21 @@
 #include "preferences/ProjectPane.h"
 
-#include "platform/base/NativePath.h"
 #include "preferences/BoundSwitch.h"
 #include "preferences/FolderChoice.h"
+#include "preferences/PathField.h"
 #include "support/VTLog.h"
 #include "ui_Prefs_Dialog.h"
 
 ProjectPane::ProjectPane(Ui::Prefs_Dialog &ui, QWidget &window)
     : QObject(&window)
-    , m_ui(ui)
     , m_window(window)
+    , m_path(
+          new PathField(*ui.prefsFixedPath, *ui.hintFixed,
+                        {settings::fixedProjectLocationPath, [] { return settings::fixedProjectLocationPath.text(); },
+                         [this](const QString &typed) {
+                             modifyFixedPath(typed);
+                         }}))
 {
-    ui.prefsFixedPath->setText(platform::forDisplay(settings::fixedProjectLocationPath.text()));
-    connect(ui.prefsFixedPath, &QLineEdit::editingFinished, this, [this] {
-        if (m_ui.prefsFixedPath->isModified())
-            modifyFixedPath(m_ui.prefsFixedPath->text());
-        m_ui.prefsFixedPath->setModified(false);
-    });
     connect(ui.browseFixed, &QPushButton::clicked, this, [this] {
         folderchoice::browse(m_window, tr("Choose the Project Location"),
                              [this](const QString &path) { modifyFixedPath(path); });
@@ -27,10 +26,10 @@ ProjectPane::ProjectPane(Ui::Prefs_Dialog &ui, QWidget &window)
 
 void ProjectPane::modifyFixedPath(const QString &typed)
 {
-    if (const auto path = folderchoice::usablePath(m_window, settings::fixedProjectLocationPath, typed)) {
+    const auto path = folderchoice::usablePath(m_window, settings::fixedProjectLocationPath, typed);
+    if (path && folderchoice::makeFolder(m_window, *path)) {
         static_cast<void>(settings::fixedProjectLocationPath.store(*path)); // logged; the field shows what is stored
-        folderchoice::makeFolder(m_window, *path);
         VTLog::appendLog("User changed project location path to %@.", *path);
     }
-    m_ui.prefsFixedPath->setText(platform::forDisplay(settings::fixedProjectLocationPath.text()));
+    m_path->refresh();
 }

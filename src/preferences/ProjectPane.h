@@ -2,6 +2,7 @@
 
 #include <QObject>
 
+class PathField;
 class QWidget;
 
 namespace Ui {
@@ -21,6 +22,6 @@ public:
     void modifyFixedPath(const QString &typed);
 
 private:
-    Ui::Prefs_Dialog &m_ui;
     QWidget &m_window;
+    PathField *m_path;
 };

@@ -137,10 +137,7 @@ void VTPreferenceController::modifyFixedPath(const QString &path)
 
 void VTPreferenceController::closeEvent(QCloseEvent *event)
 {
-    // What is still being typed counts.
-    if (QWidget *typing = focusWidget())
-        typing->clearFocus();
-    m_parameters->finishEditing();
+    m_parameters->finishEditing(); // what is still being typed counts, but for half a path
     QMainWindow::closeEvent(event);
     if (!event->isAccepted() || !std::exchange(m_isOpen, false))
         return;

@@ -525,6 +525,10 @@ private Q_SLOTS:
         row("duplicate template", [this] { list().duplicateTemplate(); });
         row("remove template", [this] { list().removeTemplate(); });
         row("default template", [this] { list().toggleDefault(); });
+        row("undo", [this] {
+            window().templatePane().history().add({"Test", {{DiskStep::Kind::Made, files("top.txt")}}});
+            window().templatePane().undo();
+        });
     }
     void editingIsGuarded()
     {

@@ -22,9 +22,11 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QSignalSpy>
 #include <QStackedWidget>
 #include <QTest>
 #include <QToolButton>
@@ -167,8 +169,9 @@ private Q_SLOTS:
         // Into a folder inside the old one, made for it.
         SheetAnswerer inside({"Move"});
         typePath("prefsTemplatePath", m_work->filePath("New/Deeper/Still"));
+        QTRY_COMPARE(stored(settings::templateLocation), QVariant(m_work->filePath("New/Deeper/Still")));
+        QTRY_VERIFY(targetExists(m_work->filePath("New/Deeper/Still/A.tzt/Files/other")));
         QTRY_COMPARE(m_delegate->mainWindow()->shownTemplates(), QStringList({"A", "b"}));
-        QVERIFY(targetExists(m_work->filePath("New/Deeper/Still/A.tzt/Files/other")));
         QVERIFY(!targetExists(m_work->filePath("New/A.tzt")));
     }
 
@@ -185,20 +188,86 @@ private Q_SLOTS:
         writeFile(m_work->filePath("a file"), "x");
         open();
         for (const char *field : {"prefsTemplatePath", "prefsFixedPath"}) {
-            SheetAnswerer answers({"OK"});
             preferences()->toolbarGeneral();
             if (QLatin1String(field) == "prefsFixedPath")
                 preferences()->toolbarProject();
             const QString before = part<QLineEdit>(field)->text();
+            const auto *hint = part<QLabel>(QLatin1String(field) == "prefsFixedPath" ? "hintFixed" : "hintTemplates");
+            const QString usual = hint->text();
             typePath(field, QString(path).replace('%', m_work->path()));
-            QTRY_COMPARE(answers.seen.size(), 1);
+            QVERIFY(hint->text().startsWith("Please ") || hint->text().startsWith("A file stands there."));
+            // Looking into another program, or at another field with the mouse, applies nothing and asks nothing.
+            part<QLineEdit>(field)->clearFocus();
+            QTest::qWait(20);
+            QVERIFY(!QApplication::activeModalWidget());
+            // Escape gives the old one back; only the next one closes the window.
+            part<QLineEdit>(field)->setFocus();
+            QTest::keyClick(part<QLineEdit>(field), Qt::Key_Escape);
             QCOMPARE(part<QLineEdit>(field)->text(), before);
+            QCOMPARE(hint->text(), usual);
         }
         QCOMPARE(stored(settings::templateLocation), QVariant(library()));
         typePath("prefsFixedPath", "~/Projects here");
         QTRY_COMPARE(stored(settings::fixedProjectLocationPath),
                      QVariant(VTLocalPaths::userDirectory() + "/Projects here"));
         QVERIFY(targetExists(VTLocalPaths::userDirectory() + "/Projects here"));
+    }
+
+    /// Half a path is nobody's: it stays as it was left, and comes into force by Return or Tab alone.
+    void halfAPath()
+    {
+        open();
+        auto *line = part<QLineEdit>("prefsFixedPath");
+        preferences()->toolbarProject();
+        line->setFocus();
+        line->selectAll();
+        QTest::keyClicks(line, m_work->filePath("Proj"));
+        m_delegate->mainWindow()->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_delegate->mainWindow()));
+        QTest::qWait(20);
+        QVERIFY(!targetExists(m_work->filePath("Proj")) && !stored(settings::fixedProjectLocationPath).isValid());
+        preferences()->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(preferences()));
+        QCOMPARE(line->text(), m_work->filePath("Proj"));
+        line->setFocus();
+        line->setCursorPosition(static_cast<int>(line->text().size()));
+        QTest::keyClicks(line, "ects");
+        QTest::keyClick(line, Qt::Key_Tab);
+        QTRY_COMPARE(stored(settings::fixedProjectLocationPath), QVariant(m_work->filePath("Projects")));
+        QVERIFY(targetExists(m_work->filePath("Projects")) && !targetExists(m_work->filePath("Proj")));
+    }
+
+    /// Each end of the panel, with the sheets that follow it.
+    void thePanelAndItsSheets_data()
+    {
+        QTest::addColumn<QString>("button");
+        QTest::addColumn<bool>("isTaken");
+        QTest::addColumn<bool>("isMoved");
+        QTest::newRow("move") << "Move" << true << true;
+        QTest::newRow("leave") << "Don't Move" << true << false;
+        QTest::newRow("cancel") << "Cancel" << false << false;
+    }
+    void thePanelAndItsSheets()
+    {
+        QFETCH(QString, button);
+        QFETCH(bool, isTaken);
+        QFETCH(bool, isMoved);
+        QVERIFY(platform::makeFolders(m_work->filePath("New")).ok());
+        open();
+        part<QPushButton>("browseTemplates")->click();
+        auto *panel = preferences()->findChild<QFileDialog *>();
+        QVERIFY(panel);
+        panel->setDirectory(m_work->filePath("New"));
+        SheetAnswerer answers({button});
+        QSignalSpy gone(panel, &QObject::destroyed);
+        QTest::keyClick(panel->findChild<QLineEdit *>("fileNameEdit"), Qt::Key_Return);
+        QTRY_COMPARE(gone.size(), 1);
+        QCOMPARE(answers.seen.size(), 1);
+        QVERIFY(answers.seen[0].contains("1 templates are in " + library()) &&
+                answers.seen[0].contains(m_work->filePath("New")));
+        QCOMPARE(stored(settings::templateLocation), QVariant(isTaken ? m_work->filePath("New") : library()));
+        QCOMPARE(targetExists(m_work->filePath("New/A.tzt")), isMoved);
+        QCOMPARE(targetExists(library("A.tzt")), !isMoved);
     }
 
     void parametersInForceAtOnce()

@@ -3,6 +3,7 @@
 #include "support/Settings.h"
 #include "support/VTAlert.h"
 #include "support/VTFileManager.h"
+#include "templates/EditingGuard.h"
 #include "templates/VTDataController.h"
 #include "ui/Icons.h"
 #include "ui/VTImageTextCell.h"
@@ -236,6 +237,8 @@ void TemplatePane::undo()
 {
     finishEditing();
     const QString name = m_history.undoName();
+    if (name.isNull() || !editingIsAllowed())
+        return;
     showAfter(m_history.undo(), tr("“%1” cannot be undone").arg(name));
 }
 
@@ -243,6 +246,8 @@ void TemplatePane::redo()
 {
     finishEditing();
     const QString name = m_history.redoName();
+    if (name.isNull() || !editingIsAllowed())
+        return;
     showAfter(m_history.redo(), tr("“%1” cannot be done again").arg(name));
 }
 
