@@ -98,6 +98,7 @@ QList<QAction *> buildMenus(QMenuBar &menuBar, TessaroAppDelegate &delegate)
                                         : recentProjects(*built, Text::tr(item.text), delegate)->menuAction();
             action->setObjectName(QString::fromLatin1(item.text).remove(u'&'));
             action->setShortcut(QKeySequence(QLatin1String(item.shortcut)));
+            action->setAutoRepeat(false); // a key that is held down does its work once
             if (item.slot)
                 QObject::connect(action, &QAction::triggered, &delegate, item.slot);
             if (item.waitsForCreation)

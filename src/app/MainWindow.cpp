@@ -74,6 +74,11 @@ void MainWindow::buildMenus()
 void MainWindow::connectPanes()
 {
     connect(m_ui->createButton, &QPushButton::clicked, &m_delegate, &TessaroAppDelegate::createNewProject);
+    connect(m_ui->tableView, &VTTabbedEditTableView::filledIn, m_ui->createButton, &QPushButton::animateClick);
+    for (QPushButton *button : {m_ui->createButton, m_ui->showButton, m_ui->undoButton, m_ui->installTemplates}) {
+        button->setAutoDefault(true); // Return presses the one that has the focus
+        button->installEventFilter(this);
+    }
     connect(m_ui->projectTemplatePopUp, &QComboBox::activated, &m_delegate, &TessaroAppDelegate::changeProjectTemplate);
     connect(m_ui->emptyParameters, &EmptyState::activated, &m_delegate, &TessaroAppDelegate::useStandardParameters);
     connect(m_ui->installTemplates, &QPushButton::clicked, &m_delegate, &TessaroAppDelegate::installStandardTemplates);
@@ -209,13 +214,12 @@ void MainWindow::setParametersEmpty(bool empty)
     m_ui->parameterStack->setCurrentWidget(empty ? static_cast<QWidget *>(m_ui->emptyParameters) : m_ui->tableView);
 }
 
-void MainWindow::keyPressEvent(QKeyEvent *event)
+/// A key that is held down presses nothing: five projects would be made before it is let go.
+bool MainWindow::eventFilter(QObject *watched, QEvent *event)
 {
-    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (isReturn && shownPane() == Pane::Project && m_ui->createButton->isEnabled())
-        m_ui->createButton->animateClick();
-    else
-        QMainWindow::keyPressEvent(event);
+    if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent *>(event)->isAutoRepeat())
+        return true;
+    return QMainWindow::eventFilter(watched, event);
 }
 
 bool MainWindow::event(QEvent *event)

@@ -4,6 +4,7 @@
 #include "creation/ProjectCreation.h"
 #include "creation/Undo.h"
 
+#include <QElapsedTimer>
 #include <QHash>
 #include <QObject>
 #include <QPointer>
@@ -129,13 +130,16 @@ private:
     void followTemplate(const QString &name, QString &seen);
     void undoProject(const Manifest &manifest);
     void tellWhatStays(const Manifest &manifest, const QList<KeptItem> &kept) const;
+    [[nodiscard]] bool isRepeated() const;
     [[nodiscard]] bool isComplete(const ProjectRequest &request);
     [[nodiscard]] bool mayOverwriteAtFixedLocation(const ProjectRequest &request);
     void askForDestination();
 
     int m_awakeCount = 0;
     bool m_creating = false;
-    bool m_templatesShown = false; ///< the pane is filled when it is first shown: that would only slow the start
+    QElapsedTimer m_sinceCreation;      ///< not valid before the first
+    FilenameParameters m_afterCreation; ///< what the table showed when it had ended
+    bool m_templatesShown = false;      ///< the pane is filled when it is first shown: that would only slow the start
     bool m_closesLater = false;
     int m_imports = 0;      ///< bundles that are being taken in
     QString m_seenTemplate; ///< "selectedProjectTemplate" and "defaultTemplate" when they were last looked at

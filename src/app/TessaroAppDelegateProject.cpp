@@ -20,12 +20,22 @@
 
 #include <QApplication>
 
+namespace {
+
+constexpr std::chrono::milliseconds pauseBetweenProjects{1000};
+
+} // namespace
+
 void TessaroAppDelegate::createNewProject()
 {
     if (m_creating || m_savePanel) // a shortcut may arrive while the sheet of the last one is up
         return;
+    if (m_window->shownPane() != MainWindow::Pane::Project) // nothing is made unseen
+        toolbarNewProjectAction();
     m_tableController->finishEditing();
     m_tableController->bringUpToDate();
+    if (isRepeated())
+        return VTLog::appendLog("A project was created a moment ago; another one needs a change, or a moment's pause");
     VTLog::appendLog("Creating new project");
     ProjectRequest request = shownRequest();
     if (!isComplete(request))
@@ -41,6 +51,14 @@ void TessaroAppDelegate::createNewProject()
     VTLog::appendLog("Creating project at fixed location %@", request.destination());
     if (mayOverwriteAtFixedLocation(request)) // a shortcut may ask for another project meanwhile: this one is this
         createTemplate(request);
+}
+
+/// A second Return right behind the first is meant for something that has just gone, not for a project with the next
+/// number.
+bool TessaroAppDelegate::isRepeated() const
+{
+    return m_sinceCreation.isValid() && m_sinceCreation.elapsed() < pauseBetweenProjects.count() &&
+           m_tableController->dataArray() == m_afterCreation;
 }
 
 ProjectRequest TessaroAppDelegate::shownRequest() const
@@ -68,6 +86,9 @@ bool TessaroAppDelegate::isComplete(const ProjectRequest &request)
     else if (naming::hasUnusableLevel(request.levels()))
         problem =
             tr("The values give a folder level without a usable name (nothing, or dots only). Please change them.");
+    else if (const QStringList tooLong = naming::tooLongLevels(request.levels()); !tooLong.isEmpty())
+        problem = tr("The name of a folder can have 255 bytes, and this one has %1. Please shorten a value.")
+                      .arg(platform::toNative(tooLong.constFirst()).size());
     if (problem.isNull())
         return true;
     VTAlert::show({tr("Unable to create folder"), problem});
@@ -133,6 +154,9 @@ void TessaroAppDelegate::createTemplate(const ProjectRequest &request)
     const CreationResult result = ProjectCreation(*this).createProject(request);
     m_creating = false;
     m_tableController->follow(); // what came during the creation
+    if (result.ok())
+        m_sinceCreation.start();
+    m_afterCreation = m_tableController->dataArray();
     for (const QString &note : result.notes)
         VTAlert::show({note, {}});
     if (result.ok())

@@ -224,6 +224,11 @@ bool CreateCommand::parametersAreComplete()
             Text::tr("Unable to create folder") + u'\n' +
             Text::tr(
                 "The values give a folder level without a usable name (nothing, or dots only). Please change them.");
+    else if (const QStringList tooLong = naming::tooLongLevels(m_request.levels());
+             !tooLong.isEmpty() && !m_invocation.has("--dry-run")) // which names them itself
+        problem = Text::tr("Unable to create folder") + u'\n' +
+                  Text::tr("The name of a folder can have 255 bytes, and this one has %1. Please shorten a value.")
+                      .arg(platform::toNative(tooLong.constFirst()).size());
     return problem.isNull() || fail(ExitStatus::failed, problem);
 }
 

@@ -1,5 +1,6 @@
 #include "creation/CreationPlan.h"
 
+#include "parameters/ProjectNaming.h"
 #include "platform/base/NativePath.h"
 
 #include <algorithm>
@@ -11,11 +12,6 @@ namespace {
 
 const QString placeholder = QStringLiteral("template");
 constexpr std::string_view placeholderBytes = "template";
-
-bool isTooLong(const QString &name)
-{
-    return platform::toNative(name).size() > longestName;
-}
 
 /// Most names do not: no texts are made of them.
 bool mentionsPlaceholder(std::string_view name)
@@ -36,7 +32,7 @@ void nameItem(platform::TreeFolder &folder, platform::TreeItem &item, const QStr
     const QByteArray wanted = platform::toNative(inProject);
     if (inProject == name)
         return;
-    if (wanted.size() > longestName) {
+    if (wanted.size() > naming::longestName) {
         item.remark = static_cast<unsigned char>(Remark::NameTooLong);
     } else if (taken.contains(wanted.toStdString())) {
         item.remark = static_cast<unsigned char>(Remark::NameTaken);
@@ -97,8 +93,7 @@ qsizetype CreationPlan::renamed() const
 
 CreationPlan planCreation(const QString &templateFiles, const QStringList &levels, const std::atomic<bool> &cancelled)
 {
-    CreationPlan plan{levels, {}, {}, {}};
-    std::copy_if(levels.begin(), levels.end(), std::back_inserter(plan.tooLongLevels), isTooLong);
+    CreationPlan plan{levels, naming::tooLongLevels(levels), {}, {}};
     const QString projectName = levels.isEmpty() ? QString() : levels.constLast();
     plan.tree = platform::readTree(
         templateFiles, [&](platform::TreeFolder &folder) { nameItems(folder, projectName); }, cancelled);

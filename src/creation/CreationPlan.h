@@ -50,9 +50,6 @@ struct CreationPlan
  */
 void nameItems(platform::TreeFolder &folder, const QString &projectName);
 
-/** Most file systems take names of 255 bytes (NAME_MAX of limits.h). */
-inline constexpr qsizetype longestName = 255;
-
 /**
  * The name that an item of the template gets in the project. Where the name without its extension contains the word
  * template, every occurrence in the whole name, in any letter case, is replaced; else the name stays.

@@ -1,6 +1,6 @@
 #include "creation/Workplace.h"
 
-#include "creation/CreationPlan.h"
+#include "parameters/ProjectNaming.h"
 #include "platform/base/NativePath.h"
 #include "platform/files/FileSystem.h"
 #include "platform/files/FileTree.h"
@@ -16,7 +16,7 @@ QString hiddenName(const QString &name)
 {
     const auto number = QString::number(QRandomGenerator::global()->generate64(), 36);
     const QString whole = QStringLiteral(".%1.tessaro-%2").arg(name, number);
-    return platform::toNative(whole).size() <= longestName ? whole : QStringLiteral(".tessaro-%1").arg(number);
+    return platform::toNative(whole).size() <= naming::longestName ? whole : QStringLiteral(".tessaro-%1").arg(number);
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "parameters/ProjectNaming.h"
 
+#include "platform/base/NativePath.h"
 #include "support/VTFileManager.h"
 
 namespace naming {
@@ -41,10 +42,17 @@ QString projectName(const QStringList &components)
     return components.isEmpty() ? QString(QLatin1String("")) : QLatin1String("") + components.constLast();
 }
 
+QStringList tooLongLevels(const QStringList &components)
+{
+    QStringList tooLong = components;
+    tooLong.removeIf([](const QString &level) { return platform::toNative(level).size() <= longestName; });
+    return tooLong;
+}
+
 bool hasUnusableLevel(const QStringList &components)
 {
     return std::any_of(components.begin(), components.end(), [](const QString &component) {
-        return component.isEmpty() || component == u"." || component == u"..";
+        return component.trimmed().isEmpty() || component == u"." || component == u"..";
     });
 }
 

@@ -77,24 +77,69 @@ void VTTabbedEditTableView::moveOn(Movement movement)
     const int row = firstSelectedRow().value_or(currentIndex().row());
     if (movement == Movement::Other || rows == 0)
         return;
-    if (movement == Movement::Backtab)
-        return editRow(row < 1 ? rows - 1 : row - 1);
-    if (row < rows - 1)
-        return editRow(row + 1);
-    if (movement == Movement::Tab)
-        return editRow(0);
+    const int step = movement == Movement::Backtab ? -1 : 1;
+    const int end = step < 0 ? rows - 1 : 0; // where it goes on beyond the last
+    if (const int next = editableRow(row + step, step); next >= 0)
+        return editRow(next);
+    const int wrapped = movement == Movement::Return ? -1 : editableRow(end, step);
+    if (wrapped >= 0)
+        return editRow(wrapped);
     setFocus();
+    m_isFilledIn = movement == Movement::Return;
+}
+
+/// The first row from there on whose value can be typed; locked ones are passed over. -1: none.
+int VTTabbedEditTableView::editableRow(int from, int step) const
+{
+    int row = from;
+    while (row >= 0 && row < model()->rowCount() &&
+           !model()->index(row, valueColumn).flags().testFlag(Qt::ItemIsEditable))
+        row += step;
+    return row < model()->rowCount() ? row : -1;
+}
+
+/// Return edits the row, or leads to the next that can be; only a fresh one behind the last value ends the form: one
+/// that is held down never does.
+bool VTTabbedEditTableView::takeReturn(const QKeyEvent &event)
+{
+    const bool isReturn = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+    if (!isReturn || event.modifiers() & ~Qt::KeypadModifier)
+        return false;
+    if (event.isAutoRepeat())
+        return true;
+    if (m_isFilledIn)
+        Q_EMIT filledIn();
+    else if (const int row = editableRow(qMax(0, currentIndex().row()), 1); row >= 0)
+        editRow(row);
+    else
+        m_isFilledIn = true;
+    return true;
+}
+
+void VTTabbedEditTableView::focusOutEvent(QFocusEvent *event)
+{
+    m_isFilledIn = false;
+    VTTableView::focusOutEvent(event);
+}
+
+void VTTabbedEditTableView::currentChanged(const QModelIndex &current, const QModelIndex &previous)
+{
+    m_isFilledIn = false;
+    VTTableView::currentChanged(current, previous);
 }
 
 void VTTabbedEditTableView::keyPressEvent(QKeyEvent *event)
 {
+    if (state() != EditingState && takeReturn(*event))
+        return;
     if (state() == EditingState || WatchKeys::characterOf(*event) != u'\t')
         return VTTableView::keyPressEvent(event);
     const bool backwards = event->key() == Qt::Key_Backtab || (event->modifiers() & Qt::ShiftModifier);
     const int next = currentIndex().row() + (backwards ? -1 : 1);
-    if (!currentIndex().isValid() || !model()->index(next, valueColumn).isValid())
+    const int row = currentIndex().isValid() ? editableRow(next, backwards ? -1 : 1) : -1;
+    if (row < 0)
         return event->ignore(); // beyond the ends the focus goes on to the next control
-    editRow(next);
+    editRow(row);
 }
 
 void VTTabbedEditTableView::mouseReleaseEvent(QMouseEvent *event)

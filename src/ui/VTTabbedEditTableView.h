@@ -16,7 +16,13 @@ public:
     /** Selects the row alone and edits its value, the whole text selected; a row that is locked is only selected. */
     void editRow(int row);
 
+Q_SIGNALS:
+    /** Return, pressed anew when the last value has been left by Return: the form is filled in. */
+    void filledIn();
+
 protected:
+    void focusOutEvent(QFocusEvent *event) override;
+    void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
     void closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint) override;
     void keyPressEvent(QKeyEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
@@ -26,4 +32,8 @@ protected:
 private:
     enum class Movement { Other, Return, Tab, Backtab };
     void moveOn(Movement movement);
+    [[nodiscard]] int editableRow(int from, int step) const;
+    bool takeReturn(const QKeyEvent &event);
+
+    bool m_isFilledIn = false; ///< the last value was left by Return, and nothing has been done since
 };

@@ -73,7 +73,11 @@ class TestWindow : public QObject
         QVERIFY(QTest::qWaitForWindowActive(&window()));
         m_delegate->applicationDidFinishLaunching();
     }
-    void typeInto(const char *text) { QTest::keyClicks(QApplication::focusWidget(), text); }
+    void typeInto(const char *text)
+    {
+        QTRY_VERIFY(QApplication::focusWidget()); // the window manager takes its time to give it back
+        QTest::keyClicks(QApplication::focusWidget(), text);
+    }
     void press(Qt::Key key)
     {
         QTest::keyClick(QApplication::focusWidget(), key);
@@ -131,6 +135,37 @@ private Q_SLOTS:
         QCOMPARE(m_delegate->shownRequest().relativePath(), QString("Acme_008/Promo"));
         QCOMPARE(part<QLabel>("createdLabel")->text(), QString("Created ‘Promo’."));
         QVERIFY(!part<Spinner>("spinner")->isSpinning() && part<QPushButton>("createButton")->isEnabled());
+    }
+
+    /// Neither a key that is held down nor a second press right behind the first makes another project.
+    void oneProjectForOneReturn()
+    {
+        open();
+        m_delegate->tableController().setData(m_delegate->tableController().index(2, 1), "P", Qt::EditRole);
+        auto *create = part<QPushButton>("createButton");
+        create->setFocus();
+        QTest::keyClick(create, Qt::Key_Return);
+        QTRY_VERIFY(platform::targetExists(fixed("007/P/P.txt")));
+        for (int i = 0; i < 5; ++i) {
+            QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r", true);
+            QApplication::sendEvent(create, &held);
+            QTest::keyClick(create, Qt::Key_Return);
+            QTest::keyClick(&window(), Qt::Key_Return, Qt::ControlModifier);
+        }
+        QCOMPARE(platform::listFolder(fixed())->size(), 1);
+        // A change is meant.
+        m_delegate->tableController().setData(m_delegate->tableController().index(2, 1), "Q", Qt::EditRole);
+        QTest::keyClick(&window(), Qt::Key_Return, Qt::ControlModifier);
+        QTRY_VERIFY(platform::targetExists(fixed("008/Q/Q.txt")));
+        // From the other pane it is seen what is made; Return on another button presses that one.
+        m_delegate->toolbarTemplateAction();
+        m_delegate->tableController().setData(m_delegate->tableController().index(2, 1), "R", Qt::EditRole);
+        QTest::keyClick(&window(), Qt::Key_Return, Qt::ControlModifier);
+        QCOMPARE(window().shownPane(), MainWindow::Pane::Project);
+        QTRY_VERIFY(platform::targetExists(fixed("009/R/R.txt")));
+        part<QPushButton>("undoButton")->setFocus();
+        QTest::keyClick(part<QPushButton>("undoButton"), Qt::Key_Return);
+        QTRY_VERIFY(!platform::targetExists(fixed("009")));
     }
 
     /// Ctrl+Z while a row is in edit and nothing was typed there is the window's.
@@ -305,7 +340,6 @@ private Q_SLOTS:
                                    << "Overwrite" << true;
         QTest::newRow("cancel") << "P"
                                 << "Cancel" << false;
-        QTest::newRow("a name that is too long") << QString(300, 'n') << "OK" << false;
     }
     void sheetsAfterTheDestinationPanel()
     {
@@ -319,8 +353,7 @@ private Q_SLOTS:
         m_delegate->createNewProject();
         auto *panel = window().findChild<VTSavePanel *>();
         panel->setDirectory(folder);
-        if (title == "P")
-            QTRY_VERIFY(panel->findChild<QLabel *>("existsWarning")->isVisible());
+        QTRY_VERIFY(panel->findChild<QLabel *>("existsWarning")->isVisible());
         SheetAnswerer answers({button, "OK", "OK"});
         QSignalSpy gone(panel, &QObject::destroyed);
         panel->findChild<QDialogButtonBox *>("buttonBox")->button(QDialogButtonBox::Open)->click();
@@ -328,6 +361,19 @@ private Q_SLOTS:
         QVERIFY(!answers.seen.isEmpty());
         QTEST(platform::targetExists(folder + "/007/P/P.txt"), "isMade");
         QCOMPARE(platform::targetExists(folder + "/007/P/mine"), button != "Overwrite");
+    }
+
+    /// Before anything is asked, taken or made.
+    void aNameThatIsTooLong()
+    {
+        open();
+        m_delegate->tableController().setData(m_delegate->tableController().index(2, 1), QString(300, 'n'),
+                                              Qt::EditRole);
+        SheetAnswerer answers({"OK"});
+        m_delegate->createNewProject();
+        QVERIFY(answers.seen.value(0).startsWith("Unable to create folder|The name of a folder can have 255 bytes, "));
+        QCOMPARE(value(1), QString("007"));
+        QVERIFY(!platform::targetExists(fixed()));
     }
 
     void thePopUp()

@@ -230,6 +230,7 @@ private Q_SLOTS:
         QVERIFY(QTest::qWaitForWindowActive(preferences()));
         QCOMPARE(line->text(), m_work->filePath("Proj"));
         line->setFocus();
+        QTRY_VERIFY(line->hasFocus());
         line->setCursorPosition(static_cast<int>(line->text().size()));
         QTest::keyClicks(line, "ects");
         QTest::keyClick(line, Qt::Key_Tab);

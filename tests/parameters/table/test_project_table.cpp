@@ -16,6 +16,7 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QSignalSpy>
 #include <QTest>
 #include <QVBoxLayout>
 
@@ -122,23 +123,53 @@ private Q_SLOTS:
         QVERIFY(form.isStored() && form.path.path().contains(form.value(start)));
     }
 
-    /// A locked row is a step on the way, and no trap: there the table itself has the keys.
-    void walksOverLockedRows()
+    /// Locked rows are passed over; one that is selected with the mouse has the keys, and changes nothing.
+    void passesOverLockedRows()
     {
         Form form({record("one"), record("two", locked), record("three", locked), record("four")});
         Q_EMIT Notifications::hub().VTTessaroEditFirstParameter();
         QCOMPARE(form.editedRow(), 0);
-        for (const int row : {-1, -1, 3}) {
+        for (const int row : {3, 0, 3}) {
             press(Qt::Key_Tab);
             QCOMPARE(form.editedRow(), row);
         }
         press(Qt::Key_Backtab, Qt::ShiftModifier);
-        press(Qt::Key_Backtab, Qt::ShiftModifier);
-        QCOMPARE(form.table.firstSelectedRow(), std::optional(1));
+        QCOMPARE(form.editedRow(), 0);
+        press(Qt::Key_Escape);
+        form.table.selectRow(1);
         type("x");
         press(Qt::Key_F2);
         QCOMPARE(form.editedRow(), -1);
         QCOMPARE(form.value(1), "default");
+        press(Qt::Key_Return); // on to the next that can be typed
+        QCOMPARE(form.editedRow(), 3);
+    }
+
+    /// The form is filled in when Return comes anew behind the last value, and at no other time.
+    void returnBehindTheLastValue()
+    {
+        Form form({record("one"), record("two"), record("three", locked)});
+        QSignalSpy filledIn(&form.table, &VTTabbedEditTableView::filledIn);
+        form.table.setFocus();
+        form.table.selectRow(0);
+        press(Qt::Key_Return); // edits the row
+        QCOMPARE(form.editedRow(), 0);
+        press(Qt::Key_Return);
+        QTRY_COMPARE(form.editedRow(), 1);
+        press(Qt::Key_Return);
+        QTRY_COMPARE(form.editedRow(), -1);
+        QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r", true);
+        QApplication::sendEvent(&form.table, &held);
+        QCOMPARE(filledIn.size(), 0);
+        form.table.selectRow(0); // somebody goes elsewhere first
+        press(Qt::Key_Return);
+        QCOMPARE(form.editedRow(), 0);
+        press(Qt::Key_Return);
+        QTRY_COMPARE(form.editedRow(), 1);
+        press(Qt::Key_Return);
+        QTRY_COMPARE(form.editedRow(), -1);
+        press(Qt::Key_Return);
+        QCOMPARE(filledIn.size(), 1);
     }
 
     void deleteKeysRevert()
