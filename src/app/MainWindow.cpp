@@ -10,6 +10,7 @@
 #include "ui/ValueCellDelegate.h"
 #include "ui_MainWindow.h"
 
+#include <QAccessible>
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QTimer>
@@ -150,13 +151,15 @@ QStringList MainWindow::selectableToolbarItems() const
     return {m_newProjectItem->objectName(), m_templatesItem->objectName()};
 }
 
-void MainWindow::showCreated(const QString &project)
+void MainWindow::showCreated(const QString &project, const QString &location)
 {
     m_created = project;
     // Elided, for the window must not grow with a long name; the whole path is in the tool tip.
     const QString name = fontMetrics().elidedText(platform::forDisplay(platform::lastComponent(project)),
                                                   Qt::ElideMiddle, longestCreatedName);
-    m_ui->createdLabel->setText(project.isNull() ? QString() : tr("Created ‘%1’.").arg(name));
+    const QString place = fontMetrics().elidedText(platform::forDisplay(platform::lastComponent(location)),
+                                                   Qt::ElideMiddle, longestCreatedName / 2);
+    tell(project.isNull() ? QString() : tr("Created ‘%1’ in %2.").arg(name, place));
     m_ui->createdLabel->setToolTip(platform::forDisplay(project));
     m_ui->showButton->setVisible(!project.isNull());
     m_ui->undoButton->setVisible(!project.isNull());
@@ -179,7 +182,17 @@ void MainWindow::setUndoable(const QString &undoName, const QString &redoName)
 void MainWindow::showMessage(const QString &text)
 {
     showCreated({});
+    tell(text);
+}
+
+/// A screen reader hears of it, too, wherever the focus is.
+void MainWindow::tell(const QString &text)
+{
     m_ui->createdLabel->setText(text);
+    if (text.isEmpty())
+        return;
+    QAccessibleEvent event(m_ui->createdLabel, QAccessible::Alert);
+    QAccessible::updateAccessibility(&event);
 }
 
 void MainWindow::setProcessing(bool processing)

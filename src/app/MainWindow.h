@@ -42,7 +42,7 @@ public:
     [[nodiscard]] QStringList selectableToolbarItems() const;
 
     /** A line at the bottom that says what was created, with a button that shows it; a null path clears it. */
-    void showCreated(const QString &project);
+    void showCreated(const QString &project, const QString &location = {});
     /** What the menu's Undo takes back, and its Redo does again; a null name: nothing. */
     void setUndoable(const QString &undoName, const QString &redoName);
     /** A line in its place that says something else; until the next project. */
@@ -65,6 +65,7 @@ private:
     void buildMenus();
     void connectPanes();
     void setParametersEmpty(bool empty);
+    void tell(const QString &text);
 
     TessaroAppDelegate &m_delegate;
     std::unique_ptr<Ui::MainWindow> m_ui;

@@ -3,12 +3,12 @@
 
 #include "app/BrowseAccessory.h"
 #include "app/MainWindow.h"
-#include "creation/RecentPlaces.h"
 #include "parameters/ProjectNaming.h"
 #include "parameters/table/VTProjectTableController.h"
 #include "platform/base/MainThread.h"
 #include "platform/base/NativePath.h"
 #include "platform/desktop/Desktop.h"
+#include "support/RecentPlaces.h"
 #include "support/Settings.h"
 #include "support/VTAlert.h"
 #include "support/VTFileManager.h"
@@ -123,7 +123,7 @@ void TessaroAppDelegate::askForDestination()
     auto *accessory = new BrowseAccessory(m_request.relativePath());
     m_savePanel->setAccessoryView(accessory);
     connect(m_savePanel, &VTSavePanel::folderChanged, accessory, &BrowseAccessory::setFolder);
-    const QStringList places = recentPlaces() + QStringList{settings::fixedProjectLocationPath.text()};
+    const QStringList places = QStringList{nextPlace()} + recentPlaces();
     m_savePanel->setRecentFolders(places);
     const auto start = std::find_if(places.begin(), places.end(), VTFileManager::isDirectoryAtPath);
     m_savePanel->setDirectory(start != places.end() ? *start : VTLocalPaths::userDirectory());
@@ -166,8 +166,9 @@ void TessaroAppDelegate::createTemplate(const ProjectRequest &request)
     showUndo();
     if (result.stopped)
         m_window->showMessage(tr("Stopped; nothing of the project was kept."));
-    else if (result.ok() && !settings::autoOpenFolder.isOn())
-        m_window->showCreated(result.request.destination());
+    else if (result.ok())
+        m_window->showCreated(result.request.destination(), result.request.location);
+    m_tableController->follow(); // the next one goes where this one went
 }
 
 void TessaroAppDelegate::startProcessing()

@@ -28,8 +28,23 @@ void PathControl::setPath(const QString &path)
     if (path == m_path)
         return;
     m_path = path;
-    m_components = platform::forDisplay(path).split(u'/', Qt::SkipEmptyParts);
-    setToolTip(QStringLiteral("<qt>%1</qt>").arg(m_components.join(QStringLiteral(" ▸ ")).toHtmlEscaped()));
+    show();
+}
+
+void PathControl::setPlace(const QString &folder)
+{
+    if (std::exchange(m_place, folder) != folder)
+        show();
+}
+
+void PathControl::show()
+{
+    const QStringList below = platform::forDisplay(m_path).split(u'/', Qt::SkipEmptyParts);
+    const QStringList above = platform::forDisplay(m_place).split(u'/', Qt::SkipEmptyParts);
+    // A place without a project is no news.
+    m_components = below.isEmpty() || above.isEmpty() ? below : QStringList{above.constLast()} + below;
+    const QStringList all = below.isEmpty() ? below : above + below;
+    setToolTip(QStringLiteral("<qt>%1</qt>").arg(all.join(QStringLiteral(" ▸ ")).toHtmlEscaped()));
     setAccessibleDescription(m_components.join(QStringLiteral(", ")));
     updateGeometry();
     update();
@@ -100,7 +115,8 @@ void PathControl::paintEvent(QPaintEvent *)
     };
     qreal x = 0;
     const auto place = [&](const QIcon &icon, int side) {
-        icon.paint(&painter, QRectF(x, centred(side), side, side).toRect());
+        icon.paint(&painter, QRectF(x, centred(side), side, side).toRect(), Qt::AlignCenter,
+                   isEnabled() ? QIcon::Normal : QIcon::Disabled);
         x += side + gap;
     };
     for (const QString &component : fitting(width())) {

@@ -16,6 +16,8 @@ public:
 
     /** "/Acme/041_Promo" shows two folders; "/" none. */
     void setPath(const QString &path);
+    /** The folder that the path begins in is shown before it, by its name; null shows none. */
+    void setPlace(const QString &folder);
     [[nodiscard]] QString path() const { return m_path; }
 
     /**
@@ -34,7 +36,10 @@ private:
     [[nodiscard]] int widthOf(const QString &component) const;
     [[nodiscard]] QStringList fitting(int width) const;
 
+    void show();
+
     QString m_path;
+    QString m_place;
     QStringList m_components;
     qreal m_originRaised = 0;
 };

@@ -133,7 +133,7 @@ private Q_SLOTS:
         QCOMPARE(readFile(fixed("Acme_007/Promo/Promo.txt")), QByteArray("one"));
         QCOMPARE(value(1), QString("008"));
         QCOMPARE(m_delegate->shownRequest().relativePath(), QString("Acme_008/Promo"));
-        QCOMPARE(part<QLabel>("createdLabel")->text(), QString("Created ‘Promo’."));
+        QCOMPARE(part<QLabel>("createdLabel")->text(), QString("Created ‘Promo’ in Fixed."));
         QVERIFY(!part<Spinner>("spinner")->isSpinning() && part<QPushButton>("createButton")->isEnabled());
     }
 

@@ -7,6 +7,7 @@
 #include "platform/base/MainThread.h"
 #include "platform/base/NativePath.h"
 #include "support/Notifications.h"
+#include "support/RecentPlaces.h"
 #include "support/Settings.h"
 #include "support/VTFileManager.h"
 #include "support/VTLocalPaths.h"
@@ -346,9 +347,10 @@ void VTProjectTableController::updateFilenamePreview()
         VTLog::appendLog("Error: null filename for path display");
         return;
     }
+    const QString location = nextPlace();
+    m_views.previewPathControl->setPlace(location);
     m_views.previewPathControl->setPath(u'/' + path);
     const quint64 number = ++m_previewNumber;
-    const QString location = settings::fixedProjectLocationPath.text();
     if (location.isEmpty() || path.isEmpty())
         return showWarning(false);
     // Asked on a worker: the fixed location may lie on a share that takes its time to answer, or has gone.

@@ -1,4 +1,4 @@
-#include "creation/RecentPlaces.h"
+#include "support/RecentPlaces.h"
 
 #include "support/Settings.h"
 
@@ -16,4 +16,12 @@ void rememberPlace(const QString &folder)
         return platform::Result<QVariant>(
             QVariant(QVariantList(places.cbegin(), places.cbegin() + qMin(places.size(), rememberedPlaces))));
     }));
+}
+
+QString nextPlace()
+{
+    const QString fixed = settings::fixedProjectLocationPath.text();
+    const QStringList places = recentPlaces();
+    return places.isEmpty() || (settings::useFixedProjectLocation.isOn() && !fixed.isEmpty()) ? fixed
+                                                                                              : places.constFirst();
 }
