@@ -76,13 +76,16 @@ void MainWindow::connectPanes()
 {
     connect(m_ui->createButton, &QPushButton::clicked, &m_delegate, &TessaroAppDelegate::createNewProject);
     connect(m_ui->tableView, &VTTabbedEditTableView::filledIn, m_ui->createButton, &QPushButton::animateClick);
-    for (QPushButton *button : {m_ui->createButton, m_ui->showButton, m_ui->undoButton, m_ui->installTemplates}) {
+    for (QPushButton *button : {m_ui->createButton, m_ui->showButton, m_ui->undoButton, m_ui->installTemplates,
+                                m_ui->retryLibrary, m_ui->chooseLibrary}) {
         button->setAutoDefault(true); // Return presses the one that has the focus
         button->installEventFilter(this);
     }
     connect(m_ui->projectTemplatePopUp, &QComboBox::activated, &m_delegate, &TessaroAppDelegate::changeProjectTemplate);
     connect(m_ui->emptyParameters, &EmptyState::activated, &m_delegate, &TessaroAppDelegate::useStandardParameters);
     connect(m_ui->installTemplates, &QPushButton::clicked, &m_delegate, &TessaroAppDelegate::installStandardTemplates);
+    connect(m_ui->retryLibrary, &QPushButton::clicked, &m_delegate, &TessaroAppDelegate::populateTemplatePopUp);
+    connect(m_ui->chooseLibrary, &QPushButton::clicked, &m_delegate, &TessaroAppDelegate::showPreferences);
     connect(m_ui->undoButton, &QPushButton::clicked, &m_delegate, &TessaroAppDelegate::undoCreation);
     connect(m_ui->showButton, &QPushButton::clicked, this, [this] { m_delegate.showProject(m_created); });
 }
@@ -124,8 +127,16 @@ void MainWindow::setTemplates(const QStringList &names, const QString &selected)
         popUp->addItem(platform::forDisplay(name), name);
     popUp->setCurrentIndex(popUp->findData(selected));
     popUp->setVisible(!names.isEmpty());
-    m_ui->installTemplates->setVisible(names.isEmpty());
+    m_ui->installTemplates->setVisible(names.isEmpty() && m_ui->libraryProblem->text().isEmpty());
     m_ui->createButton->setEnabled(!names.isEmpty());
+}
+
+void MainWindow::setLibraryProblem(const QString &sentence)
+{
+    m_ui->libraryProblem->setText(sentence);
+    m_ui->libraryProblem->setToolTip(sentence);
+    for (QWidget *part : QList<QWidget *>{m_ui->libraryProblem, m_ui->retryLibrary, m_ui->chooseLibrary})
+        part->setVisible(!sentence.isEmpty());
 }
 
 QString MainWindow::selectedTemplate() const
@@ -154,11 +165,8 @@ QStringList MainWindow::selectableToolbarItems() const
 void MainWindow::showCreated(const QString &project, const QString &location)
 {
     m_created = project;
-    // Elided, for the window must not grow with a long name; the whole path is in the tool tip.
-    const QString name = fontMetrics().elidedText(platform::forDisplay(platform::lastComponent(project)),
-                                                  Qt::ElideMiddle, longestCreatedName);
-    const QString place = fontMetrics().elidedText(platform::forDisplay(platform::lastComponent(location)),
-                                                   Qt::ElideMiddle, longestCreatedName / 2);
+    const QString name = platform::forOneLine(platform::lastComponent(project));
+    const QString place = platform::forOneLine(platform::lastComponent(location));
     tell(project.isNull() ? QString() : tr("Created ‘%1’ in %2.").arg(name, place));
     m_ui->createdLabel->setToolTip(platform::forDisplay(project));
     m_ui->showButton->setVisible(!project.isNull());

@@ -33,6 +33,9 @@ public:
     [[nodiscard]] Pane shownPane() const;
 
     void setTemplates(const QStringList &names, const QString &selected);
+    /** In the place of the templates: that the library cannot be reached, and what can be done; null: it can. To be
+       followed by setTemplates(). */
+    void setLibraryProblem(const QString &sentence);
     [[nodiscard]] QString selectedTemplate() const;
     [[nodiscard]] QStringList shownTemplates() const;
 

@@ -25,10 +25,12 @@
 #include "templates/editor/TemplatePane.h"
 
 #include <QApplication>
+#include <QTimer>
 
 namespace {
 
 /// A sibling application of the same maker: who has it needs no advertisement for it.
+constexpr std::chrono::seconds libraryPatience{5};
 const QString siblingApplication = QStringLiteral("com.vantrel.Clipwell");
 
 } // namespace
@@ -85,8 +87,11 @@ void TessaroAppDelegate::watchSettings()
     m_settingsWatch = std::make_unique<platform::FileWatch>(settings::userFile(), [this] { followSettings(); });
     // A home on a share may have been written to from another machine; and the day may be another.
     connect(qApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
-        if (state == Qt::ApplicationActive)
-            followSettings();
+        if (state != Qt::ApplicationActive)
+            return;
+        followSettings();
+        if (m_templatesShown && !m_creating)
+            m_window->templatePane().followDisk();
     });
 }
 
@@ -189,7 +194,19 @@ void TessaroAppDelegate::populateTemplatePopUp()
 {
     VTLog::appendLog("Populating template popup list");
     auto &store = VTDataController::sharedController();
-    static_cast<void>(store.populateTemplates()); // said and logged where it failed
+    const platform::Outcome read = store.populateTemplates(); // said and logged where it failed
+    const bool isGone = read.is(platform::Cause::Unreachable);
+    m_window->setLibraryProblem(
+        isGone
+            ? tr("The library at %1 cannot be reached.").arg(platform::forDisplay(VTDataController::templateLocation()))
+            : QString());
+    if (isGone && !std::exchange(m_awaitsLibrary, true)) // it comes back by itself when its drive does
+        QTimer::singleShot(libraryPatience, this, [this] {
+            m_awaitsLibrary = false;
+            populateTemplatePopUp();
+            if (m_templatesShown)
+                m_window->templatePane().tableController().readAnew();
+        });
     const QStringList names = store.templates();
     const QString selected = chosenTemplate(names);
     m_window->setTemplates(names, selected);

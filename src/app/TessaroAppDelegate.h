@@ -141,6 +141,7 @@ private:
     FilenameParameters m_afterCreation; ///< what the table showed when it had ended
     bool m_templatesShown = false;      ///< the pane is filled when it is first shown: that would only slow the start
     bool m_closesLater = false;
+    bool m_awaitsLibrary = false;
     int m_imports = 0;      ///< bundles that are being taken in
     QString m_seenTemplate; ///< "selectedProjectTemplate" and "defaultTemplate" when they were last looked at
     QString m_seenDefault;

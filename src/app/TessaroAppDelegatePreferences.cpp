@@ -29,6 +29,8 @@ void TessaroAppDelegate::showPreferences()
             m_window->templatePane().tableController().switchedToView();
     });
     m_preferences->setWindowFlag(Qt::Window);
+    // In front of the window that they belong to, and on its screen.
+    m_preferences->move(m_window->frameGeometry().center() - m_preferences->rect().center());
     m_preferences->show();
     m_preferences->raise();
     m_preferences->activateWindow();

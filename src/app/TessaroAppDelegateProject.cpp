@@ -15,7 +15,7 @@
 #include "support/VTLocalPaths.h"
 #include "support/VTLog.h"
 #include "templates/VTDataController.h"
-#include "ui/PanelEnd.h"
+#include "ui/FilePanels.h"
 #include "ui/VTSavePanel.h"
 
 #include <QApplication>

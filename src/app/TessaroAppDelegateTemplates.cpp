@@ -12,8 +12,8 @@
 #include "templates/TemplateMigration.h"
 #include "templates/VTDataController.h"
 #include "templates/editor/TemplatePane.h"
+#include "ui/FilePanels.h"
 #include "ui/ImportPanel.h"
-#include "ui/PanelEnd.h"
 
 void TessaroAppDelegate::importTemplate()
 {

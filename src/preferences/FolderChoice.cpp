@@ -3,7 +3,7 @@
 #include "platform/base/FormatString.h"
 #include "support/FileOperations.h"
 #include "support/VTAlert.h"
-#include "ui/PanelEnd.h"
+#include "ui/FilePanels.h"
 
 #include <QCoreApplication>
 #include <QFileDialog>
@@ -25,6 +25,7 @@ void folderchoice::browse(QWidget &window, const QString &title, std::function<v
     panel->setWindowModality(Qt::WindowModal);
     panel->setFileMode(QFileDialog::Directory);
     panel->setOption(QFileDialog::ShowDirsOnly);
+    makePlain(*panel);
     whenLeft<QFileDialog>(*panel, window, [chosen = std::move(chosen)](QFileDialog &left, bool accepted) {
         if (accepted)
             chosen(left.selectedFiles().value(0));

@@ -60,6 +60,16 @@ Outcome install(const QString &archive, const QString &location, DiskSteps &step
     return installed;
 }
 
+/// Where the drive of a library has gone, nothing is to be made in its place: neither a new library nor a question for
+/// rights.
+bool mayBeMade(const QString &location)
+{
+    QString above = platform::parentPath(location);
+    while (platform::isMissing(above) && above != platform::parentPath(above))
+        above = platform::parentPath(above);
+    return platform::isWritable(above) || !platform::leadsToFolder(above);
+}
+
 /// Whole or not at all: a library that stands is taken for complete by every later start.
 Outcome makeLibrary(const QString &location, Outcome &installed)
 {
@@ -114,6 +124,10 @@ Outcome VTDataController::populateDefaultTemplates(Force force, DiskSteps *steps
     if (!stands) { // a library that cannot be looked at is no new one
         VTLog::appendLog("Unable to look at the template library: %@", stands.outcome().description());
         return stands.outcome();
+    }
+    if (!*stands && !mayBeMade(location)) {
+        VTLog::appendLog("The template library %@ cannot be reached", location);
+        return Outcome::failure(Cause::Unreachable, location);
     }
     if (*stands)
         return force == Force::No ? Outcome() : installShippedTemplates(location, steps);

@@ -33,7 +33,7 @@ public:
        that cannot be made has been said; the rest of a failure is for the caller. What was replaced is noted. */
     platform::Outcome populateDefaultTemplates(Force force = Force::No, DiskSteps *steps = nullptr);
     /** Makes sure that the library exists and builds the list. A library that cannot be read gives an empty list and
-     * why. */
+     * why; one whose drive has gone is Cause::Unreachable, and nothing is made in its place. */
     platform::Outcome populateTemplates();
 
     /** Unpacks every shipped template into an existing folder; what stands there under the name goes to the Trash. Goes

@@ -1,11 +1,24 @@
 #include "ui/ImportPanel.h"
 
 #include "platform/base/NativePath.h"
+#include "platform/base/Users.h"
 #include "platform/files/FileSystem.h"
+#include "ui/FilePanels.h"
 
 #include <QAbstractItemView>
 #include <QKeyEvent>
 #include <QLineEdit>
+
+namespace {
+
+/// Where something was found, the next thing lies mostly.
+QString &lastFolder()
+{
+    static QString folder;
+    return folder;
+}
+
+} // namespace
 
 ImportPanel::ImportPanel(QWidget *parent, Takes takes, QString extension)
     : QFileDialog(parent)
@@ -13,11 +26,12 @@ ImportPanel::ImportPanel(QWidget *parent, Takes takes, QString extension)
     , m_extension(std::move(extension))
 {
     setWindowModality(Qt::WindowModal);
-    setOption(DontUseNativeDialog); // the desktops' own panels take either files or one folder
     setFileMode(takes == Takes::FilesAndFolders ? ExistingFiles : Directory);
     setOption(ShowDirsOnly, takes != Takes::FilesAndFolders);
     setOption(ReadOnly); // here nothing is made, renamed or removed
     setLabelText(Accept, tr("Import"));
+    makePlain(*this); // the desktops' own panels take either files or one folder
+    setDirectory(platform::leadsToFolder(lastFolder()) ? lastFolder() : platform::homeFolder());
     for (const char *name : {"listView", "treeView"}) {
         auto *view = findChild<QAbstractItemView *>(QLatin1String(name));
         if (!view)
@@ -79,6 +93,7 @@ void ImportPanel::accept()
         items.removeIf([this](const QString &path) { return !isBundle(path); });
     if (!items.isEmpty()) {
         m_chosen = items;
+        lastFolder() = directory().absolutePath();
         return QDialog::accept();
     }
     if (!platform::leadsToFolder(folder) || folder == directory().absolutePath())

@@ -2,6 +2,7 @@
 
 #include "platform/base/Users.h"
 #include "platform/files/FileSystem.h"
+#include "ui/FilePanels.h"
 
 #include <QFileSystemModel>
 #include <QGridLayout>
@@ -16,6 +17,7 @@ VTSavePanel::VTSavePanel(QWidget *parent)
     setWindowModality(Qt::WindowModal);
     setLabelText(Accept, tr("Create Here"));
     setLabelText(FileName, tr("Folder:"));
+    makePlain(*this);
     const auto tell = [this] {
         Q_EMIT folderChanged(chosenFolder());
     };

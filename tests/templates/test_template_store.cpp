@@ -14,6 +14,7 @@
 #include "templates/VTDataController.h"
 
 #include <QTest>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace {
@@ -115,6 +116,22 @@ private Q_SLOTS:
         QVERIFY(!store().populateTemplates().ok());
         QCOMPARE(m_alerts.messages, QStringList{"Unable to create directory " + m_work->filePath("file/Library")});
         QVERIFY(store().templates().isEmpty());
+    }
+
+    /// Neither a new library in its place nor a question: the drive comes back.
+    void aLibraryThatIsGone()
+    {
+        if (geteuid() == 0)
+            QSKIP("The super-user may write anywhere");
+        QVERIFY(platform::makeFolders(m_work->filePath("media")).ok());
+        QCOMPARE(chmod(m_work->filePath("media").toUtf8().constData(), 0555), 0);
+        storeSetting(settings::templateLocation, m_work->filePath("media/Drive/Library"));
+        QVERIFY(store().populateTemplates().is(platform::Cause::Unreachable));
+        QCOMPARE(chmod(m_work->filePath("media").toUtf8().constData(), 0755), 0);
+        QVERIFY(m_alerts.messages.isEmpty() && store().templates().isEmpty());
+        writeFile(m_work->filePath("media/Drive/Library/Film.tzt/Files/x"), "x");
+        QVERIFY(store().populateTemplates().ok());
+        QCOMPARE(store().templates(), QStringList("Film"));
     }
 
     void choice_data()

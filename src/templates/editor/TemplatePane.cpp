@@ -185,8 +185,9 @@ void TemplatePane::setTreeSelection(qsizetype count, bool isLoaded)
     m_ui->removeButton->setEnabled(count > 0);
     for (QAction *action : m_forItems + m_labels)
         action->setEnabled(count > 0);
-    m_ui->outlineView->setPlaceholder(isLoaded ? tr("Drop files and folders here, or add a folder.")
-                                               : tr("Make a template with the plus sign on the left."));
+    const QString hint = m_table.rowCount() > 0 ? tr("Select a template on the left.")
+                                                : tr("Make a template with the plus sign on the left.");
+    m_ui->outlineView->setPlaceholder(isLoaded ? tr("Drop files and folders here, or add a folder.") : hint);
 }
 
 void TemplatePane::buildLabels()
@@ -231,6 +232,12 @@ void TemplatePane::finishEditing()
 {
     m_table.finishEditing();
     m_outline.finishEditing();
+}
+
+void TemplatePane::followDisk()
+{
+    if (isVisible() && !m_ui->templateTable->isEditing() && !m_outline.isEditing() && !m_outline.isImporting())
+        m_table.readAnew();
 }
 
 void TemplatePane::undo()

@@ -31,6 +31,8 @@ public:
     [[nodiscard]] ChangeHistory &history() { return m_history; }
     /** Takes in a name that is being typed, before this returns. */
     void finishEditing();
+    /** Shows what other programs have done, unless a name is being typed. */
+    void followDisk();
     /** Take back the last change, and do it again; what cannot be done is said. */
     void undo();
     void redo();

@@ -105,6 +105,7 @@ private:
     void catchUp();
     void editItem(const QString &path);
     void selectOnly(const QString &path);
+    void selectNear(const QString &folder, int row);
     void rename(const QString &path, const QString &typed);
     void fillAddMenu();
     void showImportPanel(bool foldersOnly);

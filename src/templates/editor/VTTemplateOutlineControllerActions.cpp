@@ -10,8 +10,8 @@
 #include "support/VTAlert.h"
 #include "support/VTLog.h"
 #include "templates/EditingGuard.h"
+#include "ui/FilePanels.h"
 #include "ui/ImportPanel.h"
-#include "ui/PanelEnd.h"
 #include "ui/VTOutlineView.h"
 
 #include <QMenu>
@@ -169,6 +169,10 @@ void VTTemplateOutlineController::removeFiles()
                                       VTAlert::alternateReturn});
     if (answer != VTAlert::defaultReturn)
         return;
+    const QModelIndex last = selectedIndexes().constLast();
+    const TemplateNode *above = TemplateTreeModel::nodeAt(last)->parent();
+    const QString folder = above ? above->filename() : QString();
+    const int row = last.row();
     DiskChange change{tr("Remove"), {}};
     for (const QString &path : paths) {
         VTLog::appendLog("Removing template file %@", path);
@@ -181,6 +185,18 @@ void VTTemplateOutlineController::removeFiles()
         rereadParentOf(paths.first());
     else
         populateTemplateStructure();
+    if (selectedIndexes().isEmpty())
+        selectNear(folder, row);
+}
+
+/// The neighbour of what has gone, else its folder: the keyboard stays where it was.
+void VTTemplateOutlineController::selectNear(const QString &folder, int row)
+{
+    const QModelIndex parent = m_model.indexOf(nodeAtPath(folder));
+    const int rows = m_model.rowCount(parent);
+    const QModelIndex near = rows > 0 ? m_model.index(qMin(row, rows - 1), 0, parent) : parent;
+    if (near.isValid())
+        selectOnly(TemplateTreeModel::nodeAt(near)->filename());
 }
 
 void VTTemplateOutlineController::duplicateFiles()

@@ -3,6 +3,12 @@
 #include <QDialog>
 #include <functional>
 
+class QFileDialog;
+
+/** What the program's panels leave out of the toolkit's own: the list of file types, of which there are none, and the
+   pictures on the buttons. */
+void makePlain(QFileDialog &panel);
+
 /**
  * Calls the function once the panel has been left, with whether something was chosen, when its own event is over: what
  * comes then may show sheets, and a panel that is still ending would be destroyed beneath them. The panel is hidden by

@@ -1,0 +1,18 @@
+#include "ui/FilePanels.h"
+
+#include <QDialogButtonBox>
+#include <QFileDialog>
+#include <QPushButton>
+
+void makePlain(QFileDialog &panel)
+{
+    panel.setOption(QFileDialog::DontUseNativeDialog);
+    for (const char *name : {"fileTypeLabel", "fileTypeCombo"}) {
+        if (auto *part = panel.findChild<QWidget *>(QLatin1String(name)))
+            part->hide();
+    }
+    if (const auto *buttons = panel.findChild<QDialogButtonBox *>()) {
+        for (QAbstractButton *button : buttons->buttons())
+            button->setIcon({});
+    }
+}
