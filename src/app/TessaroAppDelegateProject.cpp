@@ -4,6 +4,7 @@
 #include "app/BrowseAccessory.h"
 #include "app/MainWindow.h"
 #include "parameters/ProjectNaming.h"
+#include "parameters/ValueRules.h"
 #include "parameters/table/VTProjectTableController.h"
 #include "platform/base/MainThread.h"
 #include "platform/base/NativePath.h"
@@ -78,6 +79,14 @@ bool TessaroAppDelegate::isComplete(const ProjectRequest &request)
         VTAlert::show({platform::formatString(tr("'%@' cannot be left blank"), request.parameters[*blank].title()),
                        tr("Please fill in this parameter before creating a project.")});
         m_tableController->editItem(static_cast<int>(*blank));
+        return false;
+    }
+    if (const auto counter = rules::firstCounterAtItsEnd(request.parameters)) {
+        VTAlert::show(
+            {platform::formatString(tr("'%@' cannot count any further"), request.parameters[*counter].title()),
+             tr("Its number has too many digits: counters end at 2147483646. A date in front of a number is "
+                "better a parameter of its own.")});
+        m_tableController->editItem(static_cast<int>(*counter));
         return false;
     }
     QString problem;

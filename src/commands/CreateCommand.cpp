@@ -7,6 +7,7 @@
 #include "creation/Unfinished.h"
 #include "parameters/ParameterStore.h"
 #include "parameters/ProjectNaming.h"
+#include "parameters/ValueRules.h"
 #include "platform/base/Interruption.h"
 #include "platform/base/NativePath.h"
 #include "support/Settings.h"
@@ -217,6 +218,12 @@ bool CreateCommand::parametersAreComplete()
         problem = platform::formatString(Text::tr("'%@' cannot be left blank"), m_request.parameters[*blank].title()) +
                   u'\n' + Text::tr("Please fill in this parameter before creating a project.") + u' ' +
                   Text::tr("(--set \"%1=…\")").arg(m_request.parameters[*blank].title());
+    else if (const auto counter = rules::firstCounterAtItsEnd(m_request.parameters))
+        problem =
+            platform::formatString(Text::tr("'%@' cannot count any further"), m_request.parameters[*counter].title()) +
+            u'\n' +
+            Text::tr("Its number has too many digits: counters end at 2147483646. A date in front of a number is "
+                     "better a parameter of its own.");
     else if (m_request.relativePath().isEmpty())
         problem = Text::tr("Unable to create folder") + u'\n' + Text::tr("You must specify at least one parameter.");
     else if (naming::hasUnusableLevel(m_request.levels()))

@@ -80,6 +80,16 @@ QString incrementNumber(const QString &text)
     return text.chopped(digits.size()) + padNumberString(nextNumber(digits), digits.size());
 }
 
+std::optional<qsizetype> firstCounterAtItsEnd(const FilenameParameters &parameters)
+{
+    for (qsizetype i = 0; i < parameters.size(); ++i) {
+        if (parameters[i].kind() == FilenameParameter::Kind::Counter &&
+            incrementNumber(parameters[i].value()).contains(QLatin1String("-2147483648")))
+            return i;
+    }
+    return std::nullopt;
+}
+
 QString revertedValue(const FilenameParameter &parameter)
 {
     if (parameter.kind() == FilenameParameter::Kind::Choice)

@@ -2,6 +2,8 @@
 
 #include "parameters/FilenameParameter.h"
 
+#include <optional>
+
 #include <ctime>
 
 /** How values change: typed, counted up, refreshed, reverted. Pure functions; any thread. */
@@ -24,6 +26,8 @@ inline constexpr qsizetype historyLimit = 50;
  * alphanumeric run, so that "A1B2" becomes "A002": this must stay. Numbers are 32-bit and signed.
  */
 [[nodiscard]] QString incrementNumber(const QString &text);
+/** The first counter whose number is the largest of 32 bits or beyond: its next one would be negative. */
+[[nodiscard]] std::optional<qsizetype> firstCounterAtItsEnd(const FilenameParameters &parameters);
 /** With "0" in front until it has the length. */
 [[nodiscard]] QString padNumberString(const QString &number, qsizetype length);
 

@@ -378,6 +378,11 @@ private Q_SLOTS:
             row("--help", 2, QString(words).split(' '));
         row("Tessaro create", 1, {}); // no display
         row("Unable to create folder", 1, in, with({record({{"val", QString(300, 'x')}})}));
+        row("Unable to create folder", 1, in, with({record({{"val", "  "}})})); // blanks name no folder
+        row("'No' cannot count any further", 1, in,
+            with({record({{"title", "No"}, {"type", 2}, {"val", "3026112201"}})}));
+        row("'No' cannot count any further", 1, in,
+            with({record({{"title", "No"}, {"type", 2}, {"val", "J-2147483647"}})}));
     }
     void refusals()
     {
