@@ -188,6 +188,22 @@ std::optional<qsizetype> rowOfSame(const FilenameParameters &list, qsizetype row
     return std::nullopt;
 }
 
+FilenameParameters withValuesOf(FilenameParameters wanted, const FilenameParameters &now)
+{
+    for (qsizetype row = 0; row < wanted.size(); ++row) {
+        auto same = rowOfSame(wanted, row, now);
+        if (!same && wanted.size() == now.size() && !rowOfSame(now, row, wanted))
+            same = row; // renamed
+        if (!same || wanted[row].kind() != now[*same].kind())
+            continue;
+        for (const char *key : {recordkey::value, recordkey::history}) {
+            if (const QVariant entry = now[*same].entry(QLatin1String(key)); entry.isValid())
+                wanted[row].setEntry(QLatin1String(key), entry);
+        }
+    }
+    return wanted;
+}
+
 std::optional<Moved> moved(const FilenameParameters &list, QList<int> rows, int dropRow)
 {
     std::sort(rows.begin(), rows.end());

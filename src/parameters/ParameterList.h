@@ -39,6 +39,10 @@ inline constexpr int columnCount = 7;
 [[nodiscard]] std::optional<qsizetype> rowOfSame(const FilenameParameters &list, qsizetype row,
                                                  const FilenameParameters &other);
 
+/** An earlier or later state of the list, with the values and histories that its parameters have now: a counter has
+   moved on meanwhile, and a number must not come twice. Found by title; where only titles differ, by row. */
+[[nodiscard]] FilenameParameters withValuesOf(FilenameParameters wanted, const FilenameParameters &now);
+
 struct Moved
 {
     FilenameParameters list;

@@ -11,9 +11,12 @@
 #include "ui/ValueCellDelegate.h"
 #include "ui_Prefs_Dialog.h"
 
+#include <QAction>
 #include <QHeaderView>
+#include <QMimeData>
 #include <QRegularExpressionValidator>
 #include <ctime>
+#include <memory>
 
 using parameterlist::Column;
 
@@ -81,6 +84,17 @@ void ParametersPane::setUpTable()
     header->setSectionResizeMode(static_cast<int>(Column::Default), QHeaderView::Stretch);
     header->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     header->setHighlightSections(false);
+    const auto key = [&](const QList<QKeySequence> &keys, auto slot) {
+        auto *action = new QAction(&m_window);
+        action->setShortcuts(keys); // in an editor they are the line's own
+        connect(action, &QAction::triggered, this, slot);
+        m_window.addAction(action);
+    };
+    key({QKeySequence(Qt::CTRL | Qt::Key_Z)}, [this] { m_parameters.undo(); });
+    key({QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z)}, [this] { m_parameters.redo(); });
+    key({QKeySequence(Qt::ALT | Qt::Key_Up)}, [this] { moveSelected(-1); });
+    key({QKeySequence(Qt::ALT | Qt::Key_Down)}, [this] { moveSelected(1); });
+    table->setTabKeyNavigation(false); // Tab leads out of the table; the arrows lead around in it
     table->setWatchDelegate(this);
     table->addWatchKeys(WatchKeys::deleteKeys(), "removeFilenameParam");
     connect(&m_parameters, &ParameterEditorModel::listChanged, this, &ParametersPane::showPreview);
@@ -90,6 +104,18 @@ void ParametersPane::setUpTable()
             table->selectionModel()->select(table->model()->index(row, 0),
                                             QItemSelectionModel::Select | QItemSelectionModel::Rows);
     });
+}
+
+/// The order of the parameters, from the keyboard.
+void ParametersPane::moveSelected(int by)
+{
+    auto *table = m_ui.parameterTable;
+    const auto row = table->firstSelectedRow();
+    if (!row || !table->isVisible() || *row + by < 0 || *row + by >= m_parameters.rowCount())
+        return;
+    const std::unique_ptr<QMimeData> dragged(m_parameters.mimeData({m_parameters.index(*row, 0)}));
+    m_parameters.dropMimeData(dragged.get(), Qt::MoveAction, by < 0 ? *row - 1 : *row + 2, 0, {});
+    table->setCurrentIndex(m_parameters.index(*row + by, 0));
 }
 
 void ParametersPane::finishEditing()
@@ -115,7 +141,7 @@ void ParametersPane::removeFilenameParam()
     if (rows.isEmpty())
         return;
     const int answer = VTAlert::show({tr("Are you sure you wish to remove this parameter?"),
-                                      tr("This cannot be undone."),
+                                      tr("Ctrl+Z brings it back for as long as this window is open."),
                                       tr("Remove"),
                                       tr("Cancel"),
                                       {},

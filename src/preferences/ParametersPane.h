@@ -28,6 +28,7 @@ public Q_SLOTS:
 
 private:
     void setUpTable();
+    void moveSelected(int by);
     void follow();
     void populateDateFormats();
     void changeDateFormat();

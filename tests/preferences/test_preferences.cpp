@@ -6,6 +6,7 @@
 #include "harness/StoredSettings.h"
 #include "harness/TemporaryHome.h"
 #include "parameters/ParameterList.h"
+#include "parameters/ParameterStore.h"
 #include "parameters/table/VTProjectTableController.h"
 #include "platform/base/NativePath.h"
 #include "platform/base/PropertyList.h"
@@ -304,6 +305,55 @@ private Q_SLOTS:
         QVERIFY(answers.buttons.isEmpty());
         part<QPushButton>("restoreParameters")->click();
         QVERIFY(m_delegate->tableController().rowCount() > 3);
+    }
+
+    /// Each change of the list, and what was typed and counted meanwhile stays.
+    void parametersAreUndone()
+    {
+        storeSetting(settings::filenameTemplate, QVariantList{record({{"title", "Client"}, {"saveHistory", true}}),
+                                                              record({{"title", "Job"}, {"type", 2}, {"val", "007"}}),
+                                                              record({{"title", "Title"}, {"val", "Promo"}})});
+        open();
+        preferences()->toolbarParameters();
+        auto *table = part<VTTableView>("parameterTable");
+        table->setFocus();
+        const auto titles = [&] {
+            QStringList all;
+            for (const QVariant &parameter : stored(settings::filenameTemplate).toList())
+                all << parameter.toMap()["title"].toString();
+            return all.join(',');
+        };
+        const auto press = [&](Qt::Key key, Qt::KeyboardModifiers modifiers) {
+            QTest::keyClick(table, key, modifiers);
+        };
+        QTest::keyClick(table, Qt::Key_Z, Qt::ControlModifier); // nothing yet
+        table->selectRow(2);
+        press(Qt::Key_Up, Qt::AltModifier);
+        QCOMPARE(titles(), QString("Client,Title,Job"));
+        QCOMPARE(table->firstSelectedRow(), std::optional(1));
+        table->model()->setData(table->model()->index(2, 0), "Number", Qt::EditRole);
+        SheetAnswerer answers({"Remove"});
+        table->selectRow(0);
+        press(Qt::Key_Delete, Qt::NoModifier);
+        QTRY_COMPARE(titles(), QString("Title,Number"));
+        part<QPushButton>("restoreParameters")->click();
+        const QString shipped = titles();
+        for (const char *before : {"Title,Number", "Client,Title,Number", "Client,Title,Job", "Client,Job,Title"}) {
+            press(Qt::Key_Z, Qt::ControlModifier);
+            QCOMPARE(titles(), QString(before));
+        }
+        // A project has taken the number meanwhile.
+        QVERIFY(changeParameters([](FilenameParameters list) {
+                    list[1].setValue("008");
+                    return platform::Result<FilenameParameters>(list);
+                }).ok());
+        press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+        press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+        QCOMPARE(titles(), QString("Client,Title,Number"));
+        QCOMPARE(stored(settings::filenameTemplate).toList()[2].toMap()["val"].toString(), QString("008"));
+        press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+        press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+        QCOMPARE(titles(), shipped);
     }
 
     void dateFormats()

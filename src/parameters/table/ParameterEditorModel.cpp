@@ -185,7 +185,9 @@ void ParameterEditorModel::remove(const QList<int> &rows)
 void ParameterEditorModel::restoreDefaultParams()
 {
     beginResetModel();
+    const FilenameParameters before = storedParameters();
     static_cast<void>(restoreShippedParameters()); // the table shows what is stored
+    remember({before, storedParameters()});
     m_rowsSeen = rowCount();
     endResetModel();
     notify();
@@ -206,10 +208,52 @@ void ParameterEditorModel::reload()
 
 void ParameterEditorModel::change(const std::function<FilenameParameters(FilenameParameters)> &change)
 {
-    const platform::Outcome stored = changeParameters(
-        [&](FilenameParameters list) { return platform::Result<FilenameParameters>(change(std::move(list))); });
+    Edit edit;
+    const platform::Outcome stored = changeParameters([&](FilenameParameters list) {
+        edit.before = list;
+        edit.after = change(std::move(list));
+        return platform::Result<FilenameParameters>(edit.after);
+    });
+    if (stored.ok()) // the table shows what is stored
+        remember(edit);
+    m_rowsSeen = rowCount();
+    notify();
+    Q_EMIT listChanged();
+}
+
+void ParameterEditorModel::remember(const Edit &edit)
+{
+    if (edit.before == edit.after)
+        return;
+    m_done.append(edit);
+    m_undone.clear();
+}
+
+void ParameterEditorModel::undo()
+{
+    if (m_done.isEmpty())
+        return;
+    m_undone.append(m_done.takeLast());
+    goTo(m_undone.constLast().before);
+}
+
+void ParameterEditorModel::redo()
+{
+    if (m_undone.isEmpty())
+        return;
+    m_done.append(m_undone.takeLast());
+    goTo(m_done.constLast().after);
+}
+
+void ParameterEditorModel::goTo(const FilenameParameters &wanted)
+{
+    beginResetModel();
+    const platform::Outcome stored = changeParameters([&](const FilenameParameters &now) {
+        return platform::Result<FilenameParameters>(parameterlist::withValuesOf(wanted, now));
+    });
     static_cast<void>(stored); // the table shows what is stored
     m_rowsSeen = rowCount();
+    endResetModel();
     notify();
     Q_EMIT listChanged();
 }

@@ -38,6 +38,11 @@ public:
     void remove(const QList<int> &rows);
     /** The shipped list applies again. */
     void restoreDefaultParams();
+    /** Take back the last change that was made here, and make it again. Values and numbers stay as they are by then. */
+    void undo();
+    void redo();
+    [[nodiscard]] bool canUndo() const { return !m_done.isEmpty(); }
+    [[nodiscard]] bool canRedo() const { return !m_undone.isEmpty(); }
     /** Shows the stored list anew: someone else may have changed it. */
     void reload();
 
@@ -51,7 +56,17 @@ Q_SIGNALS:
     void listChanged();
 
 private:
+    struct Edit
+    {
+        FilenameParameters before;
+        FilenameParameters after;
+    };
     void change(const std::function<FilenameParameters(FilenameParameters)> &change);
+    void remember(const Edit &edit);
+    void goTo(const FilenameParameters &wanted);
+
+    QList<Edit> m_done; ///< the last ones last
+    QList<Edit> m_undone;
 
     int m_rowsSeen = rowCount(); ///< when the views were last told
 };
