@@ -12,14 +12,30 @@
 
 #include <QAccessible>
 #include <QCloseEvent>
+#include <QDropEvent>
 #include <QKeyEvent>
+#include <QMimeData>
 #include <QTimer>
+#include <QUrl>
 
 namespace {
 
 constexpr int toolbarIconSide = 24;
 constexpr int warningSide = 16;
 constexpr int longestCreatedName = 220; // pixels
+
+QStringList bundlesIn(const QMimeData &data)
+{
+    QStringList bundles;
+    for (const QUrl &url : data.urls()) {
+        QString path = url.toLocalFile();
+        if (path.endsWith(u'/'))
+            path.chop(1);
+        if (platform::extensionOf(path).compare(QLatin1String("tzt"), Qt::CaseInsensitive) == 0)
+            bundles.append(path);
+    }
+    return bundles;
+}
 
 } // namespace
 
@@ -32,6 +48,7 @@ MainWindow::MainWindow(TessaroAppDelegate &delegate)
     m_ui->warningImage->setPixmap(icons::named("warning").pixmap(warningSide, warningSide));
     m_ui->emptyParameters->setContents("empty-parameters", tr("No parameters yet"), tr("Use the Standard Parameters"));
     m_ui->centralLayout->addWidget(new ProgressLine(m_ui->centralwidget));
+    setAcceptDrops(true);
     buildToolbar();
     buildMenus();
     connectPanes();
@@ -257,6 +274,25 @@ void MainWindow::closeEvent(QCloseEvent *event)
         QMainWindow::closeEvent(event);
     else
         event->ignore();
+}
+
+/// Bundles may be dropped anywhere but on the tree, which takes them as items.
+void MainWindow::dragEnterEvent(QDragEnterEvent *event)
+{
+    if (!bundlesIn(*event->mimeData()).isEmpty()) {
+        event->setDropAction(Qt::CopyAction);
+        event->accept();
+    }
+}
+
+void MainWindow::dropEvent(QDropEvent *event)
+{
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+    // The other program waits until the drop has ended, and the import may ask something.
+    QMetaObject::invokeMethod(
+        &m_delegate, [this, bundles = bundlesIn(*event->mimeData())] { m_delegate.openFiles(bundles); },
+        Qt::QueuedConnection);
 }
 
 void MainWindow::changeEvent(QEvent *event)

@@ -60,7 +60,9 @@ void nameItems(platform::TreeFolder &folder, const QString &projectName)
 
 QString nameInProject(const QString &name, const QString &projectName)
 {
-    if (!platform::withoutExtension(name).toLower().contains(placeholder))
+    // "01. Template" has no extension: a blank is in none.
+    const bool hasExtension = !platform::extensionOf(name).contains(u' ');
+    if (!(hasExtension ? platform::withoutExtension(name) : name).toLower().contains(placeholder))
         return name;
     return QString(name).replace(placeholder, projectName, Qt::CaseInsensitive);
 }

@@ -51,7 +51,8 @@ struct CreationPlan
 void nameItems(platform::TreeFolder &folder, const QString &projectName);
 
 /**
- * The name that an item of the template gets in the project. Where the name without its extension contains the word
- * template, every occurrence in the whole name, in any letter case, is replaced; else the name stays.
+ * The name that an item of the template gets in the project. Where the name without its extension (which has no blank
+ * in it) contains the word template, every occurrence in the whole name, in any letter case, is replaced; else the name
+ * stays.
  */
 [[nodiscard]] QString nameInProject(const QString &name, const QString &projectName);

@@ -8,6 +8,7 @@
 #include "ui_Prefs_Dialog.h"
 
 #include <QCloseEvent>
+#include <QKeyEvent>
 #include <QToolButton>
 
 namespace {
@@ -84,7 +85,7 @@ void VTPreferenceController::buildToolbar()
     add("parameters", "kind-text", tr("Parameters"), &VTPreferenceController::toolbarParameters);
     add("hotkeys", "hotkeys", tr("Hotkeys"), &VTPreferenceController::toolbarHotkeys);
     auto *close = new QAction(this);
-    close->setShortcuts({QKeySequence(QKeySequence::Close), QKeySequence(Qt::Key_Escape)});
+    close->setShortcuts(QKeySequence::keyBindings(QKeySequence::Close));
     connect(close, &QAction::triggered, this, &QWidget::close);
     addAction(close);
 }
@@ -133,6 +134,16 @@ void VTPreferenceController::modifyTemplatePath(const QString &path)
 void VTPreferenceController::modifyFixedPath(const QString &path)
 {
     m_project->modifyFixedPath(path);
+}
+
+/// What has a use of its own for Escape, an open list or an editor, has had it by then; as a shortcut it would come
+/// first.
+void VTPreferenceController::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Escape)
+        close();
+    else
+        QMainWindow::keyPressEvent(event);
 }
 
 void VTPreferenceController::closeEvent(QCloseEvent *event)

@@ -1,6 +1,8 @@
 #include "ui/VTTabbedEditTableView.h"
 
+#include <QClipboard>
 #include <QComboBox>
+#include <QGuiApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -116,6 +118,16 @@ bool VTTabbedEditTableView::takeReturn(const QKeyEvent &event)
     return true;
 }
 
+/// Replaces the value of the row that is selected.
+bool VTTabbedEditTableView::takePaste(const QKeyEvent &event)
+{
+    const QModelIndex value = model()->index(currentIndex().row(), valueColumn);
+    if (!event.matches(QKeySequence::Paste) || !value.flags().testFlag(Qt::ItemIsEditable))
+        return false;
+    const QString text = QGuiApplication::clipboard()->text().section(u'\n', 0, 0).trimmed();
+    return !text.isEmpty() && model()->setData(value, text, Qt::EditRole);
+}
+
 void VTTabbedEditTableView::focusOutEvent(QFocusEvent *event)
 {
     m_isFilledIn = false;
@@ -130,7 +142,7 @@ void VTTabbedEditTableView::currentChanged(const QModelIndex &current, const QMo
 
 void VTTabbedEditTableView::keyPressEvent(QKeyEvent *event)
 {
-    if (state() != EditingState && takeReturn(*event))
+    if (state() != EditingState && (takeReturn(*event) || takePaste(*event)))
         return;
     if (state() == EditingState || WatchKeys::characterOf(*event) != u'\t')
         return VTTableView::keyPressEvent(event);

@@ -34,6 +34,7 @@ private:
     void moveOn(Movement movement);
     [[nodiscard]] int editableRow(int from, int step) const;
     bool takeReturn(const QKeyEvent &event);
+    bool takePaste(const QKeyEvent &event);
 
     bool m_isFilledIn = false; ///< the last value was left by Return, and nothing has been done since
 };

@@ -30,6 +30,7 @@
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDirIterator>
+#include <QDropEvent>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QMimeData>
@@ -618,6 +619,26 @@ private Q_SLOTS:
         SheetAnswerer answers({"Restore"});
         m_delegate->restoreDefaultTemplates();
         QVERIFY(list().rowCount() > 3);
+    }
+
+    void bundlesAreDroppedOnTheWindow()
+    {
+        writeFile(m_work->filePath("in/Doc.tzt/Files/d"), "d");
+        m_delegate->toolbarNewProjectAction();
+        for (const char *path : {"in", "in/Doc.tzt/"}) {
+            const std::unique_ptr<QMimeData> data(fromOutside({m_work->filePath(path)}));
+            QDragEnterEvent entered({20, 20}, Qt::CopyAction | Qt::MoveAction, data.get(), Qt::LeftButton, {});
+            entered.ignore();
+            QApplication::sendEvent(&window(), &entered);
+            const bool isBundle = QLatin1String(path) != "in";
+            QCOMPARE(entered.isAccepted(), isBundle);
+            if (!isBundle)
+                continue;
+            QDropEvent dropped({20, 20}, Qt::CopyAction | Qt::MoveAction, data.get(), Qt::LeftButton, {});
+            QApplication::sendEvent(&window(), &dropped);
+        }
+        QTRY_COMPARE(list().selectedTemplate(), QString("Doc"));
+        QVERIFY(targetExists(m_work->filePath("in/Doc.tzt/Files/d"))); // a copy
     }
 
     /// Closed while something is taken in, the window stays until that has ended, and somebody who comes for it keeps

@@ -44,6 +44,8 @@ private Q_SLOTS:
         QCOMPARE(nameInProject("TemplateTemplate", "Acme_Promo"), "Acme_PromoAcme_Promo");
         QCOMPARE(nameInProject(".template", "Acme_Promo"), ".Acme_Promo");
         QCOMPARE(nameInProject("a.template.b", "Acme_Promo"), "a.Acme_Promo.b");
+        QCOMPARE(nameInProject("01. Template", "Acme_Promo"), "01. Acme_Promo");
+        QCOMPARE(nameInProject("v1.2 template", "Acme_Promo"), "v1.2 Acme_Promo");
     }
 
     void followsRenamedFolders()

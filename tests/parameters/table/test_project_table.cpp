@@ -13,6 +13,7 @@
 
 #include <QAbstractItemModelTester>
 #include <QApplication>
+#include <QClipboard>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -143,6 +144,20 @@ private Q_SLOTS:
         QCOMPARE(form.value(1), "default");
         press(Qt::Key_Return); // on to the next that can be typed
         QCOMPARE(form.editedRow(), 3);
+    }
+
+    void pastesIntoTheRow()
+    {
+        Form form({record("one"), record("two", locked)});
+        form.table.setFocus();
+        QGuiApplication::clipboard()->setText("Acme \nsecond line");
+        for (int row = 0; row < 2; ++row) {
+            form.table.selectRow(row);
+            press(Qt::Key_V, Qt::ControlModifier);
+        }
+        QCOMPARE(form.value(0), "Acme");
+        QCOMPARE(form.value(1), "default");
+        QVERIFY(form.isStored());
     }
 
     /// The form is filled in when Return comes anew behind the last value, and at no other time.
