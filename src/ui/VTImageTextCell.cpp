@@ -1,5 +1,6 @@
 #include "ui/VTImageTextCell.h"
 
+#include "ui/Colours.h"
 #include "ui/Icons.h"
 #include "ui/ValueCellDelegate.h"
 
@@ -17,6 +18,7 @@ constexpr int strip = 7; ///< beside the icon's width, what is cut off for it
 constexpr int subtitleReserve = 50;
 constexpr int rowPadding = 8;
 constexpr int badgeSide = 11;
+constexpr double fainterSelection = 0.35;
 /// On every label, in every palette: at least 9 to 1.
 const QColor textOnLabel(0x1a, 0x1a, 0x1a);
 
@@ -89,6 +91,19 @@ void drawSubtitle(QPainter &painter, const QRect &frame, const QStyleOptionViewI
 
 } // namespace
 
+void VTImageTextCell::dimWithoutFocus(QStyleOptionViewItem &row)
+{
+    const bool hasKeys = !row.widget || row.widget->hasFocus() || row.widget->isAncestorOf(QApplication::focusWidget());
+    if (hasKeys || !row.state.testFlag(QStyle::State_Selected))
+        return;
+    for (const auto group : {QPalette::Active, QPalette::Inactive}) {
+        const QColor base = row.palette.color(group, QPalette::Base);
+        row.palette.setColor(group, QPalette::Highlight,
+                             blended(base, row.palette.color(group, QPalette::Highlight), fainterSelection));
+        row.palette.setColor(group, QPalette::HighlightedText, row.palette.color(group, QPalette::Text));
+    }
+}
+
 QSize VTImageTextCell::cellSize(const QSize &inherited, const QSize &image)
 {
     return inherited + QSize(qMax(0, image.width()) + gap, 0);
@@ -129,6 +144,7 @@ void VTImageTextCell::paint(QPainter *painter, const QStyleOptionViewItem &optio
     initStyleOption(&row, index);
     row.text.clear();
     row.icon = {};
+    dimWithoutFocus(row);
     const QStyle *style = row.widget ? row.widget->style() : QApplication::style();
     style->drawControl(QStyle::CE_ItemViewItem, &row, painter, row.widget); // selection, focus and hover only
 
@@ -138,17 +154,17 @@ void VTImageTextCell::paint(QPainter *painter, const QStyleOptionViewItem &optio
     if (!image.isEmpty()) {
         const int y = frame.y() + static_cast<int>(std::ceil((frame.height() - image.height()) * 0.5));
         const QRect place(QPoint(frame.x() + gap, y), image);
-        drawIcon(*painter, place, option, index);
+        drawIcon(*painter, place, row, index);
         if (index.data(CellRole::IsLink).toBool())
-            drawLinkBadge(*painter, place, option);
+            drawLinkBadge(*painter, place, row);
     }
     frame = textFrame(frame, image);
     painter->setFont(row.font);
-    painter->setPen(textColor(option, index));
+    painter->setPen(textColor(row, index));
     const QString title = index.data(Qt::DisplayRole).toString().replace(u'\n', u' ').replace(u'\r', u' ');
     painter->drawText(frame, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine,
                       row.fontMetrics.elidedText(title, Qt::ElideRight, frame.width()));
-    drawSubtitle(*painter, frame, option, index);
+    drawSubtitle(*painter, frame, row, index);
     painter->restore();
 }
 

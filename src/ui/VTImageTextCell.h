@@ -19,6 +19,8 @@ public:
     static constexpr int iconSide = 16;
 
     // Geometry, in the coordinates of the rectangle handed in. Pure. An empty image size means no image.
+    /** Where the keys do not go, the selection is fainter. */
+    static void dimWithoutFocus(QStyleOptionViewItem &row);
     [[nodiscard]] static QSize cellSize(const QSize &inherited, const QSize &image);
     /** Its vertical place is measured from 0 and not from the rectangle's own: this must stay. */
     [[nodiscard]] static QRect imageRectForBounds(const QRect &bounds, const QSize &image);

@@ -1,5 +1,6 @@
 #include "ui/VTOutlineView.h"
 
+#include "ui/VTImageTextCell.h"
 #include "ui/ValueCellDelegate.h"
 
 #include <QDragMoveEvent>
@@ -82,5 +83,8 @@ void VTColoredOutlineView::drawRow(QPainter *painter, const QStyleOptionViewItem
     const QVariant color = selectionModel()->isSelected(index) ? QVariant() : index.data(CellRole::LabelColor);
     if (color.isValid())
         painter->fillRect(option.rect, color.value<QColor>());
-    QTreeView::drawRow(painter, option, index);
+    QStyleOptionViewItem row = option;
+    row.state.setFlag(QStyle::State_Selected, selectionModel()->isSelected(index));
+    VTImageTextCell::dimWithoutFocus(row); // before the branches, too
+    QTreeView::drawRow(painter, row, index);
 }

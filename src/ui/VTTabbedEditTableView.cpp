@@ -1,5 +1,7 @@
 #include "ui/VTTabbedEditTableView.h"
 
+#include "ui/Colours.h"
+
 #include <QClipboard>
 #include <QComboBox>
 #include <QGuiApplication>
@@ -15,14 +17,6 @@ constexpr int lowestRow = 30;  // pixels, at least; more where the font needs it
 constexpr int titleShare = 40; // per cent of the width
 constexpr int roomAroundText = 12;
 constexpr double selectionTint = 0.22;
-
-QColor blended(const QColor &under, const QColor &over, double share)
-{
-    const auto mix = [share](int a, int b) {
-        return static_cast<int>(a + (b - a) * share);
-    };
-    return {mix(under.red(), over.red()), mix(under.green(), over.green()), mix(under.blue(), over.blue())};
-}
 
 } // namespace
 

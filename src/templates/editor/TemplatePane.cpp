@@ -20,6 +20,7 @@ constexpr int defaultListWidth = 240;
 constexpr int rowHeight = 24;
 constexpr int dotSide = 16;
 constexpr int labelCount = 7;
+constexpr double disabledOpacity = 0.35;
 
 QColor labelColor(int tag)
 {
@@ -32,19 +33,26 @@ QColor labelColor(int tag)
 QIcon labelIcon(int tag, const QPalette &palette)
 {
     QIcon icon;
-    for (const int ratio : {1, 2, 3}) {
+    for (const auto &[ratio, mode] : {std::pair(1, QIcon::Normal),
+                                      {2, QIcon::Normal},
+                                      {3, QIcon::Normal},
+                                      {1, QIcon::Disabled},
+                                      {2, QIcon::Disabled},
+                                      {3, QIcon::Disabled}}) {
         QPixmap pixmap(dotSide * ratio, dotSide * ratio);
         pixmap.setDevicePixelRatio(ratio);
         pixmap.fill(Qt::transparent);
         QPainter painter(&pixmap);
         painter.setRenderHint(QPainter::Antialiasing);
+        painter.setOpacity(mode == QIcon::Normal ? 1
+                                                 : disabledOpacity); // the style's own would shine in a dark palette
         QColor ring = palette.color(QPalette::WindowText);
         ring.setAlphaF(tag == 0 ? 0.7F : 0.3F);
         painter.setPen(QPen(ring, tag == 0 ? 1.25 : 1));
         painter.setBrush(tag == 0 ? QBrush(Qt::NoBrush) : QBrush(labelColor(tag)));
         painter.drawEllipse(QRectF(2.5, 2.5, dotSide - 5, dotSide - 5));
         painter.end();
-        icon.addPixmap(pixmap);
+        icon.addPixmap(pixmap, mode);
     }
     return icon;
 }

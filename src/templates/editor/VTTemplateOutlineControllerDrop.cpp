@@ -113,7 +113,7 @@ bool VTTemplateOutlineController::acceptDrop(const TemplateDrop &drop, const QSt
 bool VTTemplateOutlineController::moveInside(const TemplateNode &dragged, const QString &folder, QStringList &moved,
                                              DiskSteps &steps)
 {
-    const QString source = dragged.filename();
+    const QString &source = dragged.filename();
     const QString landing = joined(folder, lastComponent(source));
     if (source == folder || source == landing)
         return false;
