@@ -44,9 +44,12 @@ void TessaroAppDelegate::undoCreation()
 void TessaroAppDelegate::undo()
 {
     if (m_window->shownPane() == MainWindow::Pane::Templates)
-        m_window->templatePane().undo();
-    else
-        undoCreation();
+        return m_window->templatePane().undo();
+    if (!m_tableController->hasClearedHistory())
+        return undoCreation();
+    m_tableController->finishEditing();
+    m_tableController->restoreHistory();
+    showUndo();
 }
 
 void TessaroAppDelegate::redo()
@@ -60,6 +63,8 @@ void TessaroAppDelegate::showUndo()
 {
     const bool inTemplates = m_window->shownPane() == MainWindow::Pane::Templates;
     QString undone = !inTemplates && m_undoable ? tr("Creation of ‘%1’").arg(shownName(*m_undoable)) : QString();
+    if (!inTemplates && m_tableController->hasClearedHistory()) // later than any creation
+        undone = tr("Clear History");
     QString redone;
     if (inTemplates) {
         undone = m_window->templatePane().history().undoName();

@@ -163,8 +163,10 @@ void TessaroAppDelegate::createTemplate(const ProjectRequest &request)
     const CreationResult result = ProjectCreation(*this).createProject(request);
     m_creating = false;
     m_tableController->follow(); // what came during the creation
-    if (result.ok())
+    if (result.ok()) {
         m_sinceCreation.start();
+        m_tableController->forgetClearedHistory(); // the creation is what Undo means now
+    }
     m_afterCreation = m_tableController->dataArray();
     for (const QString &note : result.notes)
         VTAlert::show({note, {}});

@@ -118,7 +118,9 @@ void TessaroAppDelegate::restoreDefaultTemplates()
 
 void TessaroAppDelegate::clearHistory()
 {
+    m_tableController->finishEditing();
     m_tableController->clearHistory();
+    showUndo();
     VTAlert::show(
         {tr("History successfully cleared"),
          tr("To switch history logging off entirely, go to Preferences and deselect Save History next to each "

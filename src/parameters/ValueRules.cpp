@@ -126,6 +126,21 @@ FilenameParameters withHistoryCleared(FilenameParameters parameters)
     return parameters;
 }
 
+FilenameParameters withHistoryOf(FilenameParameters parameters, const FilenameParameters &before)
+{
+    for (FilenameParameter &parameter : parameters) {
+        const auto same = std::find_if(before.begin(), before.end(),
+                                       [&](const auto &other) { return other.title() == parameter.title(); });
+        if (same == before.end())
+            continue;
+        if (parameter.history().isEmpty() && !same->history().isEmpty())
+            parameter.setHistory(same->history());
+        if (parameter.value() == parameter.defaultValue() && !parameter.keepsValue())
+            parameter.setValue(same->value());
+    }
+    return parameters;
+}
+
 FilenameParameters asLoaded(FilenameParameters parameters)
 {
     for (FilenameParameter &parameter : parameters) {

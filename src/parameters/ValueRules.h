@@ -41,6 +41,9 @@ inline constexpr qsizetype historyLimit = 50;
 [[nodiscard]] FilenameParameters withDynamicValues(FilenameParameters parameters, const QString &dateFormat,
                                                    const QString &userName, std::time_t now);
 [[nodiscard]] FilenameParameters withHistoryCleared(FilenameParameters parameters);
+/** What clearing took from a list comes back into what it is now: histories that are empty, values that are the
+ * default. */
+[[nodiscard]] FilenameParameters withHistoryOf(FilenameParameters parameters, const FilenameParameters &before);
 /** As at start-up: values without history go back to their defaults, counters and choices stay. */
 [[nodiscard]] FilenameParameters asLoaded(FilenameParameters parameters);
 

@@ -87,7 +87,13 @@ void VTPreferenceController::buildToolbar()
     auto *close = new QAction(this);
     close->setShortcuts(QKeySequence::keyBindings(QKeySequence::Close));
     connect(close, &QAction::triggered, this, &QWidget::close);
-    addAction(close);
+    auto *quit = new QAction(this);
+    quit->setShortcut(Qt::CTRL | Qt::Key_Q);
+    connect(quit, &QAction::triggered, this, [this] {
+        m_parameters->finishEditing();
+        tellDelegate("quit");
+    });
+    addActions({close, quit});
 }
 
 QStringList VTPreferenceController::toolbarSelectableItemIdentifiers() const

@@ -1,6 +1,7 @@
 #include "ui/VTImageTextCell.h"
 
 #include "ui/Colours.h"
+#include "ui/EditorFocus.h"
 #include "ui/Icons.h"
 #include "ui/ValueCellDelegate.h"
 
@@ -194,6 +195,11 @@ void VTImageTextCell::setEditorData(QWidget *editor, const QModelIndex &index) c
     // The view selects everything right after this.
     if (line && stem.isValid())
         QTimer::singleShot(0, line, [line, stem] { line->setSelection(0, stem.toInt()); });
+}
+
+bool VTImageTextCell::eventFilter(QObject *editor, QEvent *event)
+{
+    return !leavesForAnotherWindow(*event) && QStyledItemDelegate::eventFilter(editor, event);
 }
 
 void VTImageTextCell::updateEditorGeometry(QWidget *editor, const QStyleOptionViewItem &option,

@@ -1,6 +1,7 @@
 #include "ui/ValueCellDelegate.h"
 
 #include "platform/base/NativePath.h"
+#include "ui/EditorFocus.h"
 #include "ui/Icons.h"
 
 #include <QApplication>
@@ -103,6 +104,8 @@ QWidget *ValueCellDelegate::createEditor(QWidget *parent, const QStyleOptionView
 
 bool ValueCellDelegate::eventFilter(QObject *editor, QEvent *event)
 {
+    if (leavesForAnotherWindow(*event))
+        return false;
     const auto *combo = qobject_cast<QComboBox *>(editor);
     const auto *line = combo ? combo->lineEdit() : qobject_cast<QLineEdit *>(editor);
     const bool isUndo =

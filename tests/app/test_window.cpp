@@ -363,6 +363,43 @@ private Q_SLOTS:
         QCOMPARE(platform::targetExists(folder + "/007/P/mine"), button != "Overwrite");
     }
 
+    void aClearedHistoryComesBack()
+    {
+        open();
+        auto &table = m_delegate->tableController();
+        table.setData(table.index(0, 1), "Acme", Qt::EditRole);
+        table.setData(table.index(0, 1), "Bolt", Qt::EditRole);
+        SheetAnswerer answers({"OK"});
+        m_delegate->clearHistory();
+        QVERIFY(table.dataArray()[0].history().isEmpty());
+        QVERIFY(window().findChild<QAction *>("Undo")->text().contains("Clear History"));
+        m_delegate->undo();
+        QCOMPARE(table.dataArray()[0].history(), QStringList({"Bolt", "Acme"}));
+        QCOMPARE(value(0), QString("Bolt"));
+        QVERIFY(!window().findChild<QAction *>("Undo")->isEnabled());
+    }
+
+    /// Looking into another window in mid-word ends nothing, and half a word gets into no history.
+    void anEditGoesOn()
+    {
+        open();
+        m_delegate->tableController().editItem(0);
+        typeInto("Ac");
+        const QPointer<QWidget> field = QApplication::focusWidget();
+        QWidget other;
+        other.show();
+        other.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&other));
+        QVERIFY(m_delegate->tableController().dataArray()[0].history().isEmpty());
+        window().activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&window()));
+        QTRY_VERIFY(field && field->hasFocus());
+        QTest::keyClicks(field, "me");
+        press(Qt::Key_Return);
+        QTRY_COMPARE(value(0), QString("Acme"));
+        QCOMPARE(m_delegate->tableController().dataArray()[0].history(), QStringList("Acme"));
+    }
+
     /// Before anything is asked, taken or made.
     void aNameThatIsTooLong()
     {

@@ -317,6 +317,7 @@ private Q_SLOTS:
         preferences()->toolbarParameters();
         auto *table = part<VTTableView>("parameterTable");
         table->setFocus();
+        QTRY_VERIFY(table->hasFocus());
         const auto titles = [&] {
             QStringList all;
             for (const QVariant &parameter : stored(settings::filenameTemplate).toList())
@@ -324,6 +325,7 @@ private Q_SLOTS:
             return all.join(',');
         };
         const auto press = [&](Qt::Key key, Qt::KeyboardModifiers modifiers) {
+            QTRY_VERIFY(QApplication::activeWindow() == preferences()); // shortcuts are an active window's
             QTest::keyClick(table, key, modifiers);
         };
         QTest::keyClick(table, Qt::Key_Z, Qt::ControlModifier); // nothing yet

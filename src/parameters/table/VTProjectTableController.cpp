@@ -212,8 +212,17 @@ void VTProjectTableController::revertToDefaultValue()
 void VTProjectTableController::clearHistory()
 {
     VTLog::appendLog("Clearing history");
+    m_beforeClearing = storedParameters();
     change(rules::withHistoryCleared);
     VTLog::appendLog("History successfully cleared");
+}
+
+void VTProjectTableController::restoreHistory()
+{
+    VTLog::appendLog("Bringing back the history");
+    const FilenameParameters before = std::exchange(m_beforeClearing, {});
+    change([&](FilenameParameters list) { return rules::withHistoryOf(std::move(list), before); });
+    updateFilenamePreview();
 }
 
 void VTProjectTableController::incrementDynamicValues()

@@ -53,6 +53,10 @@ public:
     void editItem(int row);
 
     void clearHistory();
+    /** Brings back what it took, until forgetClearedHistory(). */
+    void restoreHistory();
+    [[nodiscard]] bool hasClearedHistory() const { return !m_beforeClearing.isEmpty(); }
+    void forgetClearedHistory() { m_beforeClearing.clear(); }
     /** Shows the counters as a creation has left them. */
     void incrementDynamicValues();
     /** The day may have changed since the values were filled in. */
@@ -90,6 +94,7 @@ private:
 
     FilenameParameters m_dataArray;
     Views m_views;
+    FilenameParameters m_beforeClearing;
     bool m_isBehind = false;     ///< the parameter being edited has been removed
     quint64 m_previewNumber = 0; ///< an answer about an earlier preview's existence is not shown
 };

@@ -194,7 +194,8 @@ bool TemplateTreeModel::setData(const QModelIndex &index, const QVariant &value,
 
 void TemplateTreeModel::takeTypedNames()
 {
-    if (std::exchange(m_isTakingNames, true)) // a question, or a slow disk, has turned the event loop: one after the other
+    if (std::exchange(m_isTakingNames,
+                      true)) // a question, or a slow disk, has turned the event loop: one after the other
         return;
     while (!m_typed.isEmpty()) {
         const auto [path, typed] = m_typed.takeFirst();
