@@ -23,10 +23,24 @@ struct Buttons
     QPushButton *safe; ///< the one that loses nothing, where another does
 };
 
+/// With the first letter that no other button has as its key.
+QString withMnemonic(const QString &title, QString &taken)
+{
+    const QString plain = QString(title).replace(u'&', QLatin1String("&&"));
+    for (qsizetype i = 0; i < plain.size(); ++i) {
+        if (!plain[i].isLetterOrNumber() || taken.contains(plain[i].toLower()))
+            continue;
+        taken.append(plain[i].toLower());
+        return QString(plain).insert(i, u'&');
+    }
+    return plain;
+}
+
 Buttons addButtons(QMessageBox *box, const AlertPresenter::Sheet &sheet)
 {
-    const auto add = [box](const QString &title, QMessageBox::ButtonRole role) {
-        return title.isNull() ? nullptr : box->addButton(title, role);
+    QString taken = sheet.defaultButton.isNull() ? QStringLiteral("o") : QString(); // the desktop's own OK
+    const auto add = [box, &taken](const QString &title, QMessageBox::ButtonRole role) {
+        return title.isNull() ? nullptr : box->addButton(withMnemonic(title, taken), role);
     };
     Buttons buttons{};
     buttons.main = sheet.defaultButton.isNull() ? box->addButton(QMessageBox::Ok)

@@ -98,7 +98,13 @@ QWidget *ValueCellDelegate::createEditor(QWidget *parent, const QStyleOptionView
         editor = createCombo(parent, index, kind);
     }
     editor->setAutoFillBackground(true);
-    editor->setAccessibleName(index.data(CellRole::AccessibleName).toString());
+    const QString name = index.data(CellRole::AccessibleName).toString();
+    editor->setAccessibleName(name);
+    if (auto *combo = qobject_cast<QComboBox *>(editor)) { // whose name, to a reader on this desktop, is its value
+        combo->setAccessibleDescription(name);
+        if (combo->lineEdit())
+            combo->lineEdit()->setAccessibleName(name);
+    }
     return editor;
 }
 

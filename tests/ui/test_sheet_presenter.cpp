@@ -8,6 +8,7 @@
 #include <QApplication>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QSet>
 #include <QTest>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -45,7 +46,7 @@ void whenSheetIsUp(std::function<void(QMessageBox &)> act)
 void click(QMessageBox &box, const QString &title)
 {
     for (QAbstractButton *button : box.buttons()) {
-        if (button->text() == title)
+        if (button->text().remove('&') == title)
             return QTest::mouseClick(button, Qt::LeftButton);
     }
     QFAIL(qPrintable("No button " + title));
@@ -123,6 +124,10 @@ private Q_SLOTS:
         QFETCH(QString, press);
         Window window;
         whenSheetIsUp([&](QMessageBox &box) {
+            QSet<QKeySequence> keys; // each button has one of its own
+            for (const QAbstractButton *button : box.buttons())
+                keys.insert(QKeySequence::mnemonic(button->text()));
+            QCOMPARE(keys.size(), box.buttons().size());
             if (press == "Escape" || press == "Return")
                 return QTest::keyClick(&box, press == "Return" ? Qt::Key_Return : Qt::Key_Escape);
             click(box, press);

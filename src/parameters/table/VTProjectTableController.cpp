@@ -135,6 +135,15 @@ QVariant VTProjectTableController::valueData(const FilenameParameter &parameter,
     }
 }
 
+QVariant VTProjectTableController::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (role != Qt::DisplayRole && role != Qt::AccessibleTextRole)
+        return {};
+    if (orientation == Qt::Horizontal)
+        return section == TitleColumn ? tr("Parameter") : tr("Value");
+    return section < m_dataArray.size() ? m_dataArray[section].title() : QString();
+}
+
 Qt::ItemFlags VTProjectTableController::flags(const QModelIndex &index) const
 {
     if (!index.isValid() || !checkIndex(index))

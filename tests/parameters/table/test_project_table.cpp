@@ -146,6 +146,20 @@ private Q_SLOTS:
         QCOMPARE(form.editedRow(), 3);
     }
 
+    void isReadAloud()
+    {
+        Form form({record("one", remembered), record("two")});
+        const auto *model = form.table.model();
+        QCOMPARE(model->headerData(0, Qt::Horizontal).toString(), "Parameter");
+        QCOMPARE(model->headerData(1, Qt::Horizontal).toString(), "Value");
+        QCOMPARE(model->headerData(1, Qt::Vertical).toString(), form.controller.dataArray()[1].title());
+        form.controller.editItem(0);
+        const auto *combo = form.table.findChild<QComboBox *>();
+        QVERIFY(combo && combo->lineEdit());
+        QCOMPARE(combo->lineEdit()->accessibleName(), form.controller.dataArray()[0].title());
+        QCOMPARE(combo->accessibleDescription(), form.controller.dataArray()[0].title());
+    }
+
     void pastesIntoTheRow()
     {
         Form form({record("one"), record("two", locked)});
