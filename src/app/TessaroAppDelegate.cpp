@@ -205,7 +205,7 @@ void TessaroAppDelegate::populateTemplatePopUp()
             m_awaitsLibrary = false;
             populateTemplatePopUp();
             if (m_templatesShown)
-                m_window->templatePane().tableController().readAnew();
+                m_window->templatePane().followDisk();
         });
     const QStringList names = store.templates();
     const QString selected = chosenTemplate(names);

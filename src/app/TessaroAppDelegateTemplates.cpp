@@ -52,8 +52,8 @@ bool TessaroAppDelegate::isImporting() const
 bool TessaroAppDelegate::mayClose()
 {
     m_closesLater = isImporting();
-    if (m_closesLater)
-        m_window->showMessage(tr("The window closes when everything has been taken in."));
+    if (m_closesLater) // in the title, which both panes have
+        m_window->setWindowTitle(tr("Tessaro: closes when everything has been taken in"));
     return !m_closesLater;
 }
 
@@ -75,7 +75,7 @@ void TessaroAppDelegate::openFiles(const QStringList &paths)
 void TessaroAppDelegate::bringToFront()
 {
     if (std::exchange(m_closesLater, false)) // somebody wants to see it after all
-        m_window->showMessage({});
+        m_window->setWindowTitle(tr("Tessaro"));
     if (m_window->isMinimized())
         m_window->showNormal();
     m_window->raise();

@@ -38,6 +38,7 @@
 #include <QProcess>
 #include <QSignalSpy>
 #include <QTest>
+#include <QTimer>
 #include <QToolButton>
 #include <QUrl>
 #include <unistd.h>
@@ -372,6 +373,24 @@ private Q_SLOTS:
         QVERIFY(targetExists(files("A/x.txt")));
     }
 
+    /// Another program takes the item away, and the tree is read anew, while the question is up.
+    void whatIsAskedAboutGoes()
+    {
+        select({"top.txt"});
+        QTimer::singleShot(0, this, [this] {
+            QTRY_VERIFY(qobject_cast<QMessageBox *>(QApplication::activeModalWidget()));
+            QVERIFY(platform::removeTree(files("top.txt")).ok());
+            window().templatePane().followDisk();
+            for (QAbstractButton *button : qobject_cast<QMessageBox *>(QApplication::activeModalWidget())->buttons()) {
+                if (button->text().remove('&') == "Remove")
+                    return button->click();
+            }
+        });
+        editor().removeFiles();
+        QVERIFY(!row("top.txt").isValid() && row("A").isValid());
+        QVERIFY(!window().templatePane().history().canUndo());
+    }
+
     /// What lies behind a link is another folder's: it is shown, and nothing here changes it.
     void linksAreNoDoors()
     {
@@ -657,12 +676,14 @@ private Q_SLOTS:
         QTRY_VERIFY(qobject_cast<QMessageBox *>(QApplication::activeWindow()));
         const QString file = files("top.txt");
         QVERIFY(!window().close() && window().isVisible());
+        QVERIFY(window().windowTitle().contains("closes when"));
         if (isWanted)
             m_delegate->bringToFront();
         SheetAnswerer answers({"Overwrite"});
         QTRY_COMPARE(readFile(file), "new");
         QTRY_VERIFY(!editor().isImporting());
         QTRY_COMPARE(window().isVisible(), isWanted);
+        QCOMPARE(window().windowTitle() == "Tessaro", isWanted);
     }
 
     /// A second start hands its file to the first and ends; the first takes it in.

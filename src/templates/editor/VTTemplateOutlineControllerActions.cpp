@@ -158,7 +158,14 @@ void VTTemplateOutlineController::removeFiles()
 {
     finishEditing();
     const QStringList paths = selectedPaths();
-    if (paths.isEmpty() || !editingIsAllowed())
+    if (paths.isEmpty())
+        return;
+    // Before anything is asked: the tree may be read anew meanwhile.
+    const QModelIndex last = selectedIndexes().constLast();
+    const TemplateNode *above = TemplateTreeModel::nodeAt(last)->parent();
+    const QString folder = above ? above->filename() : QString();
+    const int row = last.row();
+    if (!editingIsAllowed())
         return;
     const QString what = paths.size() == 1 ? tr("this item") : tr("these items");
     const int answer = VTAlert::show({formatString(tr("Are you sure you wish to remove %@?"), what),
@@ -169,10 +176,6 @@ void VTTemplateOutlineController::removeFiles()
                                       VTAlert::alternateReturn});
     if (answer != VTAlert::defaultReturn)
         return;
-    const QModelIndex last = selectedIndexes().constLast();
-    const TemplateNode *above = TemplateTreeModel::nodeAt(last)->parent();
-    const QString folder = above ? above->filename() : QString();
-    const int row = last.row();
     DiskChange change{tr("Remove"), {}};
     for (const QString &path : paths) {
         VTLog::appendLog("Removing template file %@", path);
