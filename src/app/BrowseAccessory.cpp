@@ -1,14 +1,10 @@
 #include "app/BrowseAccessory.h"
 
-#include "platform/base/MainThread.h"
 #include "platform/base/NativePath.h"
-#include "support/VTFileManager.h"
 #include "ui/Icons.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QPointer>
-#include <QThreadPool>
 #include <QVBoxLayout>
 
 namespace {
@@ -55,13 +51,5 @@ void BrowseAccessory::setFolder(const QString &folder)
 {
     const QString whole = platform::joined(folder, m_relativePath);
     m_path->setText(tr("Makes: %1").arg(platform::forDisplay(whole)));
-    const quint64 number = ++m_number;
-    QThreadPool::globalInstance()->start([self = QPointer(this), number, whole] {
-        const bool exists = VTFileManager::fileExistsAtPath(whole);
-        const auto show = [self, number, exists] {
-            if (self && self->m_number == number)
-                self->m_sign->setVisible(exists);
-        };
-        platform::MainThread::perform(show, platform::Waiting::No);
-    });
+    m_exists.ask(whole, [this](bool exists) { m_sign->setVisible(exists); });
 }

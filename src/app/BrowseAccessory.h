@@ -1,5 +1,7 @@
 #pragma once
 
+#include "support/ExistsQuestion.h"
+
 #include <QWidget>
 
 class QLabel;
@@ -22,5 +24,5 @@ private:
     QLabel *m_path;
     QLabel *m_warning;
     QWidget *m_sign;
-    quint64 m_number = 0; ///< of the last question: an answer that comes late is another's
+    ExistsQuestion m_exists;
 };

@@ -84,8 +84,7 @@ void GeneralPane::modifyTemplatePath(const QString &typed)
 
 GeneralPane::Move GeneralPane::askToMove(const QString &from, const QString &to, qsizetype count)
 {
-    const QString places = tr("%n templates are in %1.", nullptr, static_cast<int>(count)).arg(from) + u'\n' +
-                           tr("The new location is %1.").arg(to);
+    const QString places = tr("Templates in %1: %2").arg(from).arg(count) + u'\n' + tr("New location: %1").arg(to);
     const int answer = VTAlert::show(
         {tr("Would you like to move your templates to the new location?"),
          tr("Any templates outside of the new backup location will not be displayed in the Templates pane.") +

@@ -265,7 +265,7 @@ private Q_SLOTS:
         QTest::keyClick(panel->findChild<QLineEdit *>("fileNameEdit"), Qt::Key_Return);
         QTRY_COMPARE(gone.size(), 1);
         QCOMPARE(answers.seen.size(), 1);
-        QVERIFY(answers.seen[0].contains("1 templates are in " + library()) &&
+        QVERIFY(answers.seen[0].contains("Templates in " + library() + ": 1") &&
                 answers.seen[0].contains(m_work->filePath("New")));
         QCOMPARE(stored(settings::templateLocation), QVariant(isTaken ? m_work->filePath("New") : library()));
         QCOMPARE(targetExists(m_work->filePath("New/A.tzt")), isMoved);

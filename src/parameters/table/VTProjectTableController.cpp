@@ -9,7 +9,6 @@
 #include "support/Notifications.h"
 #include "support/RecentPlaces.h"
 #include "support/Settings.h"
-#include "support/VTFileManager.h"
 #include "support/VTLocalPaths.h"
 #include "support/VTLog.h"
 #include "ui/Icons.h"
@@ -21,7 +20,6 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QLabel>
-#include <QThreadPool>
 
 namespace {
 
@@ -368,18 +366,10 @@ void VTProjectTableController::updateFilenamePreview()
     const QString location = nextPlace();
     m_views.previewPathControl->setPlace(location);
     m_views.previewPathControl->setPath(u'/' + path);
-    const quint64 number = ++m_previewNumber;
+    m_exists.forget();
     if (location.isEmpty() || path.isEmpty())
         return showWarning(false);
-    // Asked on a worker: the fixed location may lie on a share that takes its time to answer, or has gone.
-    QThreadPool::globalInstance()->start([self = QPointer(this), number, whole = platform::joined(location, path)] {
-        const bool exists = VTFileManager::fileExistsAtPath(whole);
-        const auto show = [self, number, exists] {
-            if (self && self->m_previewNumber == number)
-                self->showWarning(exists);
-        };
-        platform::MainThread::perform(show, platform::Waiting::No);
-    });
+    m_exists.ask(platform::joined(location, path), [this](bool exists) { showWarning(exists); });
 }
 
 void VTProjectTableController::showWarning(bool exists)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "parameters/FilenameParameter.h"
+#include "support/ExistsQuestion.h"
 
 #include <QAbstractTableModel>
 #include <QPointer>
@@ -97,6 +98,6 @@ private:
     FilenameParameters m_dataArray;
     Views m_views;
     FilenameParameters m_beforeClearing;
-    bool m_isBehind = false;     ///< the parameter being edited has been removed
-    quint64 m_previewNumber = 0; ///< an answer about an earlier preview's existence is not shown
+    bool m_isBehind = false; ///< the parameter being edited has been removed
+    ExistsQuestion m_exists; ///< whether the project that is shown stands already
 };
