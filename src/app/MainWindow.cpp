@@ -4,10 +4,12 @@
 #include "app/TessaroAppDelegate.h"
 #include "parameters/table/VTProjectTableController.h"
 #include "platform/base/NativePath.h"
+#include "support/Settings.h"
 #include "templates/editor/TemplatePane.h"
 #include "ui/Icons.h"
 #include "ui/ProgressLine.h"
 #include "ui/ValueCellDelegate.h"
+#include "ui/WindowPlace.h"
 #include "ui_MainWindow.h"
 
 #include <QAccessible>
@@ -46,13 +48,16 @@ MainWindow::MainWindow(TessaroAppDelegate &delegate)
     m_ui->setupUi(this);
     m_ui->tableView->setItemDelegate(new ValueCellDelegate(m_ui->tableView));
     m_ui->warningImage->setPixmap(icons::named("warning").pixmap(warningSide, warningSide));
-    m_ui->emptyParameters->setContents("empty-parameters", tr("No parameters yet"), tr("Use the Standard Parameters"));
+    m_ui->emptyParameters->setContents("empty-parameters", tr("No parameters yet"), tr("Edit the Parameters…"));
     m_ui->centralLayout->addWidget(new ProgressLine(m_ui->centralwidget));
     setAcceptDrops(true);
     buildToolbar();
     buildMenus();
     connectPanes();
+    connectPlace();
     showCreated({});
+    resizeWithFont(*this, width(), height());
+    keepPlaceOf(*this, settings::mainWindowPlace);
 }
 
 MainWindow::~MainWindow() = default;
@@ -99,12 +104,20 @@ void MainWindow::connectPanes()
         button->installEventFilter(this);
     }
     connect(m_ui->projectTemplatePopUp, &QComboBox::activated, &m_delegate, &TessaroAppDelegate::changeProjectTemplate);
-    connect(m_ui->emptyParameters, &EmptyState::activated, &m_delegate, &TessaroAppDelegate::useStandardParameters);
+    connect(m_ui->emptyParameters, &EmptyState::activated, &m_delegate, &TessaroAppDelegate::editParameters);
     connect(m_ui->installTemplates, &QPushButton::clicked, &m_delegate, &TessaroAppDelegate::installStandardTemplates);
     connect(m_ui->retryLibrary, &QPushButton::clicked, &m_delegate, &TessaroAppDelegate::populateTemplatePopUp);
     connect(m_ui->chooseLibrary, &QPushButton::clicked, &m_delegate, &TessaroAppDelegate::showPreferences);
     connect(m_ui->undoButton, &QPushButton::clicked, &m_delegate, &TessaroAppDelegate::undoCreation);
     connect(m_ui->showButton, &QPushButton::clicked, this, [this] { m_delegate.showProject(m_created); });
+}
+
+void MainWindow::connectPlace()
+{
+    connect(m_ui->previewPathControl, &PathControl::placeChanged, m_ui->placeButton, &PlaceButton::setPlace);
+    connect(m_ui->placeButton, &PlaceButton::placeChosen, &m_delegate, &TessaroAppDelegate::takePlace);
+    connect(m_ui->placeButton, &PlaceButton::panelWanted, &m_delegate, &TessaroAppDelegate::choosePlace);
+    connect(m_ui->placeButton, &PlaceButton::pinned, &m_delegate, &TessaroAppDelegate::pinPlace);
 }
 
 void MainWindow::connectTable(VTProjectTableController &controller)
@@ -224,8 +237,9 @@ void MainWindow::setProcessing(bool processing)
 {
     if (processing)
         m_focusBefore = focusWidget();
-    for (QWidget *control : QList<QWidget *>{m_ui->projectTemplatePopUp, m_ui->parameterStack, m_ui->createButton,
-                                             m_ui->previewPathControl, m_ui->showButton, m_ui->undoButton})
+    for (QWidget *control :
+         QList<QWidget *>{m_ui->projectTemplatePopUp, m_ui->parameterStack, m_ui->createButton,
+                          m_ui->previewPathControl, m_ui->placeButton, m_ui->showButton, m_ui->undoButton})
         control->setEnabled(!processing);
     for (QAction *action : std::as_const(m_busyActions))
         action->setEnabled(!processing);

@@ -69,6 +69,7 @@ private:
     void buildToolbar();
     void buildMenus();
     void connectPanes();
+    void connectPlace();
     void setParametersEmpty(bool empty);
     void tell(const QString &text);
 

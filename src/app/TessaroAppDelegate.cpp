@@ -214,14 +214,6 @@ void TessaroAppDelegate::populateTemplatePopUp()
         static_cast<void>(settings::selectedProjectTemplate.store(selected)); // logged
 }
 
-void TessaroAppDelegate::useStandardParameters()
-{
-    static_cast<void>(restoreShippedParameters()); // logged; the table shows what is stored
-    Q_EMIT Notifications::hub().VTTessaroReloadFilenameParams();
-    Q_EMIT Notifications::hub().VTTessaroRefreshDynamicValues();
-    Q_EMIT Notifications::hub().VTTessaroEditFirstParameter();
-}
-
 void TessaroAppDelegate::installStandardTemplates()
 {
     restoreShippedTemplates();

@@ -90,7 +90,13 @@ public Q_SLOTS:
     void performCommand(const QString &identifier);
     void beginNewProject();
 
-    void useStandardParameters();
+    /** In the preferences. */
+    void editParameters();
+    /** The next project goes there. */
+    void takePlace(const QString &folder);
+    /** The same, asked for by a panel. */
+    void choosePlace();
+    void pinPlace(const QString &folder, bool pinned);
     void installStandardTemplates();
     void showTemplateLibrary();
     void showProject(const QString &project);
@@ -134,6 +140,7 @@ private:
     [[nodiscard]] bool isComplete(const ProjectRequest &request);
     [[nodiscard]] bool mayOverwriteAtFixedLocation(const ProjectRequest &request);
     void askForDestination();
+    [[nodiscard]] VTSavePanel *placePanel();
 
     int m_awakeCount = 0;
     bool m_creating = false;

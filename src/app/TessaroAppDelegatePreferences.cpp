@@ -8,6 +8,7 @@
 #include "support/Settings.h"
 #include "support/VTLog.h"
 #include "templates/editor/TemplatePane.h"
+#include "ui/WindowPlace.h"
 
 #include <QHash>
 
@@ -29,11 +30,19 @@ void TessaroAppDelegate::showPreferences()
             m_window->templatePane().tableController().switchedToView();
     });
     m_preferences->setWindowFlag(Qt::Window);
-    // In front of the window that they belong to, and on its screen.
-    m_preferences->move(m_window->frameGeometry().center() - m_preferences->rect().center());
+    // In front of the window that they belong to, and on its screen, until they have been put elsewhere.
+    if (!keepPlaceOf(*m_preferences, settings::preferencesPlace))
+        m_preferences->move(m_window->frameGeometry().center() - m_preferences->rect().center());
     m_preferences->show();
     m_preferences->raise();
     m_preferences->activateWindow();
+}
+
+void TessaroAppDelegate::editParameters()
+{
+    showPreferences();
+    if (m_preferences)
+        m_preferences->toolbarParameters();
 }
 
 void TessaroAppDelegate::enablePrefsMenu()

@@ -1,7 +1,6 @@
 // The create action: from the filled-in table to a finished project.
 #include "app/TessaroAppDelegate.h"
 
-#include "app/BrowseAccessory.h"
 #include "app/MainWindow.h"
 #include "parameters/ProjectNaming.h"
 #include "parameters/ValueRules.h"
@@ -13,10 +12,8 @@
 #include "support/Settings.h"
 #include "support/VTAlert.h"
 #include "support/VTFileManager.h"
-#include "support/VTLocalPaths.h"
 #include "support/VTLog.h"
 #include "templates/VTDataController.h"
-#include "ui/FilePanels.h"
 #include "ui/VTSavePanel.h"
 
 #include <QApplication>
@@ -122,38 +119,6 @@ bool TessaroAppDelegate::mayOverwriteAtFixedLocation(const ProjectRequest &reque
     const bool overwrite = answer == VTAlert::defaultReturn;
     VTLog::appendLog(overwrite ? "User chose to overwrite" : "User chose to cancel");
     return overwrite;
-}
-
-void TessaroAppDelegate::askForDestination()
-{
-    VTLog::appendLog("Prompting for destination");
-    m_savePanel = new VTSavePanel(m_window.get());
-    m_savePanel->setWindowTitle(tr("Choose a destination"));
-    auto *accessory = new BrowseAccessory(m_request.relativePath());
-    m_savePanel->setAccessoryView(accessory);
-    connect(m_savePanel, &VTSavePanel::folderChanged, accessory, &BrowseAccessory::setFolder);
-    const QStringList places = QStringList{nextPlace()} + recentPlaces();
-    m_savePanel->setRecentFolders(places);
-    const auto start = std::find_if(places.begin(), places.end(), VTFileManager::isDirectoryAtPath);
-    m_savePanel->setDirectory(start != places.end() ? *start : VTLocalPaths::userDirectory());
-    accessory->setFolder(m_savePanel->chosenFolder());
-    whenLeft<VTSavePanel>(*m_savePanel, *this, [this](VTSavePanel &, bool accepted) {
-        destinationBrowseDidEnd(accepted ? QDialog::Accepted : QDialog::Rejected);
-    });
-    m_savePanel->open();
-}
-
-void TessaroAppDelegate::destinationBrowseDidEnd(int returnCode)
-{
-    VTSavePanel *panel = m_savePanel;
-    m_savePanel = nullptr;
-    if (returnCode != QDialog::Accepted)
-        return;
-    m_request.location = panel->chosenFolder();
-    if (settings::useFixedProjectLocation.isOn())
-        static_cast<void>(settings::fixedProjectLocationPath.store(
-            m_request.location)); // logged; this project goes there all the same
-    createTemplate(m_request);
 }
 
 void TessaroAppDelegate::createTemplate(const ProjectRequest &request)

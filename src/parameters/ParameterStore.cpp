@@ -1,7 +1,6 @@
 #include "parameters/ParameterStore.h"
 
 #include "parameters/ProjectNaming.h"
-#include "parameters/ValueRules.h"
 #include "support/Settings.h"
 #include "support/VTLocalPaths.h"
 #include "support/VTLog.h"
@@ -18,10 +17,14 @@ FilenameParameters currentParameters()
     return withDynamicValues(rules::asLoaded(storedParameters()));
 }
 
+rules::AutomaticValues automaticValues()
+{
+    return {rules::dateValue(settings::dateFormat.text(), std::time(nullptr)), VTLocalPaths::username()};
+}
+
 FilenameParameters withDynamicValues(FilenameParameters parameters)
 {
-    return rules::withDynamicValues(std::move(parameters), settings::dateFormat.text(), VTLocalPaths::username(),
-                                    std::time(nullptr));
+    return rules::withDynamicValues(std::move(parameters), automaticValues());
 }
 
 Outcome changeParameters(const ListChange &change)

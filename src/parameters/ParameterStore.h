@@ -1,6 +1,7 @@
 #pragma once
 
 #include "parameters/FilenameParameter.h"
+#include "parameters/ValueRules.h"
 #include "platform/base/Outcome.h"
 
 #include <functional>
@@ -13,7 +14,9 @@
 [[nodiscard]] FilenameParameters storedParameters();
 /** As the list is when the program starts: defaults in place of values that nobody keeps, today's date, the user. */
 [[nodiscard]] FilenameParameters currentParameters();
-/** The list with today's date and the user's name. */
+/** Today's date in the format of the settings, and the user's name. */
+[[nodiscard]] rules::AutomaticValues automaticValues();
+/** The list with these. */
 [[nodiscard]] FilenameParameters withDynamicValues(FilenameParameters parameters);
 
 using ListChange = std::function<platform::Result<FilenameParameters>(FilenameParameters)>;

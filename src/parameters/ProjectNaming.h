@@ -27,6 +27,17 @@ inline constexpr qsizetype longestName = 255;
 /** A level that no folder can be named: nothing or blanks after cleaning, or one that leads elsewhere ("..", "."). */
 [[nodiscard]] bool hasUnusableLevel(const QStringList &components);
 
+/** What is wrong with a value where it stands. */
+enum class Problem {
+    None,
+    Blank,           ///< a required one
+    CountsNoFurther, ///< a counter whose next number would be negative
+    TooLong,         ///< the longest of a level whose folder cannot be made
+    NoName,          ///< of a level that no folder can be named
+};
+/** One for each parameter. */
+[[nodiscard]] QList<Problem> problems(const FilenameParameters &parameters, const QString &separator);
+
 /** The first required parameter without a value. */
 [[nodiscard]] std::optional<qsizetype> firstBlankRequired(const FilenameParameters &parameters);
 

@@ -80,14 +80,16 @@ QString incrementNumber(const QString &text)
     return text.chopped(digits.size()) + padNumberString(nextNumber(digits), digits.size());
 }
 
+bool isAtItsEnd(const FilenameParameter &parameter)
+{
+    return parameter.kind() == FilenameParameter::Kind::Counter &&
+           incrementNumber(parameter.value()).contains(QLatin1String("-2147483648"));
+}
+
 std::optional<qsizetype> firstCounterAtItsEnd(const FilenameParameters &parameters)
 {
-    for (qsizetype i = 0; i < parameters.size(); ++i) {
-        if (parameters[i].kind() == FilenameParameter::Kind::Counter &&
-            incrementNumber(parameters[i].value()).contains(QLatin1String("-2147483648")))
-            return i;
-    }
-    return std::nullopt;
+    const auto first = std::find_if(parameters.begin(), parameters.end(), isAtItsEnd);
+    return first == parameters.end() ? std::nullopt : std::optional(first - parameters.begin());
 }
 
 QString revertedValue(const FilenameParameter &parameter)
@@ -103,15 +105,34 @@ QString dateValue(const QString &format, std::time_t now)
     return value.isEmpty() ? QString() : value;
 }
 
-FilenameParameters withDynamicValues(FilenameParameters parameters, const QString &dateFormat, const QString &userName,
-                                     std::time_t now)
+QString automaticValue(const FilenameParameter &parameter, const AutomaticValues &values)
 {
-    const QString date = dateValue(dateFormat, now);
+    if (parameter.kind() == FilenameParameter::Kind::Date)
+        return values.date;
+    return parameter.kind() == FilenameParameter::Kind::UserName ? values.userName : QString();
+}
+
+bool isTypedOver(const FilenameParameter &parameter, const AutomaticValues &values)
+{
+    const QString automatic = automaticValue(parameter, values);
+    return !automatic.isNull() && parameter.value() != automatic;
+}
+
+FilenameParameters withDynamicValues(FilenameParameters parameters, const AutomaticValues &values)
+{
     for (FilenameParameter &parameter : parameters) {
-        if (parameter.kind() == FilenameParameter::Kind::Date && !date.isNull())
-            parameter.setValue(date);
-        else if (parameter.kind() == FilenameParameter::Kind::UserName)
-            parameter.setValue(userName);
+        if (isTypedOver(parameter, values))
+            parameter.setValue(automaticValue(parameter, values));
+    }
+    return parameters;
+}
+
+FilenameParameters withDynamicValues(FilenameParameters parameters, const AutomaticValues &before,
+                                     const AutomaticValues &values)
+{
+    for (FilenameParameter &parameter : parameters) {
+        if (!isTypedOver(parameter, before) && isTypedOver(parameter, values))
+            parameter.setValue(automaticValue(parameter, values));
     }
     return parameters;
 }

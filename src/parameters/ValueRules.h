@@ -26,7 +26,9 @@ inline constexpr qsizetype historyLimit = 50;
  * alphanumeric run, so that "A1B2" becomes "A002": this must stay. Numbers are 32-bit and signed.
  */
 [[nodiscard]] QString incrementNumber(const QString &text);
-/** The first counter whose number is the largest of 32 bits or beyond: its next one would be negative. */
+/** Whether it is a counter whose number is the largest of 32 bits or beyond: its next one would be negative. */
+[[nodiscard]] bool isAtItsEnd(const FilenameParameter &parameter);
+/** The first of these. */
 [[nodiscard]] std::optional<qsizetype> firstCounterAtItsEnd(const FilenameParameters &parameters);
 /** With "0" in front until it has the length. */
 [[nodiscard]] QString padNumberString(const QString &number, qsizetype length);
@@ -37,9 +39,24 @@ inline constexpr qsizetype historyLimit = 50;
 /** Today by the format, or by "%Y-%m-%d" when that is empty; null when formatting yields nothing. */
 [[nodiscard]] QString dateValue(const QString &format, std::time_t now);
 
+/** What the program fills in by itself; a null one leaves a value as it is. */
+struct AutomaticValues
+{
+    QString date;
+    QString userName;
+
+    bool operator==(const AutomaticValues &) const = default;
+};
+/** Null for the kinds that are not automatic. */
+[[nodiscard]] QString automaticValue(const FilenameParameter &parameter, const AutomaticValues &values);
+/** Whether somebody has typed another value in place of the automatic one. */
+[[nodiscard]] bool isTypedOver(const FilenameParameter &parameter, const AutomaticValues &values);
+
 // The whole list.
-[[nodiscard]] FilenameParameters withDynamicValues(FilenameParameters parameters, const QString &dateFormat,
-                                                   const QString &userName, std::time_t now);
+[[nodiscard]] FilenameParameters withDynamicValues(FilenameParameters parameters, const AutomaticValues &values);
+/** The same, but what was typed over stays: values that are not the ones of before. */
+[[nodiscard]] FilenameParameters withDynamicValues(FilenameParameters parameters, const AutomaticValues &before,
+                                                   const AutomaticValues &values);
 [[nodiscard]] FilenameParameters withHistoryCleared(FilenameParameters parameters);
 /** What clearing took from a list comes back into what it is now: histories that are empty, values that are the
  * default. */

@@ -18,6 +18,30 @@ void rememberPlace(const QString &folder)
     }));
 }
 
+QStringList pinnedPlaces()
+{
+    return settings::pinnedLocations.value().toStringList();
+}
+
+void setPinned(const QString &folder, bool pinned)
+{
+    static_cast<void>(settings::pinnedLocations.change([&](const QVariant &stored) {
+        QStringList places = stored.toStringList();
+        places.removeAll(folder);
+        if (pinned)
+            places.append(folder);
+        return platform::Result<QVariant>(QVariant(QVariantList(places.cbegin(), places.cend())));
+    }));
+}
+
+void setNextPlace(const QString &folder)
+{
+    if (settings::useFixedProjectLocation.isOn())
+        static_cast<void>(settings::fixedProjectLocationPath.store(folder));
+    else
+        rememberPlace(folder);
+}
+
 QString nextPlace()
 {
     const QString fixed = settings::fixedProjectLocationPath.text();

@@ -168,6 +168,9 @@ const Setting filenameTemplate{"filenameTemplate", Type::Value, nullptr, shipped
 const TextSetting selectedProjectTemplate{{"selectedProjectTemplate", Type::Text, nullptr, editingTemplate}};
 const SwitchSetting firstRun{{"firstRun", Type::Boolean, nullptr, yes}};
 const Setting recentLocations{"recentLocations", Type::Value};
+const Setting pinnedLocations{"pinnedLocations", Type::Value};
+const Setting mainWindowPlace{"mainWindowPlace", Type::Value};
+const Setting preferencesPlace{"preferencesPlace", Type::Value};
 const NumberSetting templateListWidth{{"templateListWidth", Type::Number}};
 const Setting webAddresses{"webAddresses", Type::Value};
 const Setting launch{"launch", Type::Value};
@@ -192,6 +195,9 @@ const QList<const Setting *> &all()
                                              &selectedProjectTemplate,
                                              &firstRun,
                                              &recentLocations,
+                                             &pinnedLocations,
+                                             &mainWindowPlace,
+                                             &preferencesPlace,
                                              &templateListWidth,
                                              &webAddresses,
                                              &launch,

@@ -84,6 +84,9 @@ extern const SwitchSetting requireAdminPassword;
 extern const SwitchSetting requireAdminPasswordForEditing;
 extern const SwitchSetting requireAdminPasswordForPrefs;
 extern const Setting recentLocations;         ///< where projects were created: a list of folders, the latest first
+extern const Setting pinnedLocations;         ///< the ones that somebody wants to keep at hand
+extern const Setting mainWindowPlace;         ///< where it was and how large, in the toolkit's own form
+extern const Setting preferencesPlace;        ///< the same
 extern const NumberSetting templateListWidth; ///< pixels: the list beside the tree
 extern const Setting webAddresses;            ///< dictionary: page name to address, see HelpPages
 extern const Setting launch;                  ///< date of the last launch

@@ -33,19 +33,18 @@ void PathControl::setPath(const QString &path)
 
 void PathControl::setPlace(const QString &folder)
 {
-    if (std::exchange(m_place, folder) != folder)
-        show();
+    if (std::exchange(m_place, folder) == folder)
+        return;
+    show();
+    Q_EMIT placeChanged(folder);
 }
 
 void PathControl::show()
 {
-    const QStringList below = platform::forDisplay(m_path).split(u'/', Qt::SkipEmptyParts);
-    const QStringList above = platform::forDisplay(m_place).split(u'/', Qt::SkipEmptyParts);
-    // A place without a project is no news.
-    m_components = below.isEmpty() || above.isEmpty() ? below : QStringList{above.constLast()} + below;
-    const QStringList all = below.isEmpty() ? below : above + below;
+    m_components = platform::forDisplay(m_path).split(u'/', Qt::SkipEmptyParts);
+    const QStringList all = platform::forDisplay(m_place).split(u'/', Qt::SkipEmptyParts) + m_components;
     setToolTip(QStringLiteral("<qt>%1</qt>").arg(all.join(QStringLiteral(" ▸ ")).toHtmlEscaped()));
-    setAccessibleDescription(m_components.join(QStringLiteral(", ")));
+    setAccessibleDescription(all.join(QStringLiteral(", ")));
     updateGeometry();
     update();
 }

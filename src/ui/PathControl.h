@@ -16,7 +16,7 @@ public:
 
     /** "/Acme/041_Promo" shows two folders; "/" none. */
     void setPath(const QString &path);
-    /** The folder that the path begins in is shown before it, by its name; null shows none. */
+    /** The folder that the path begins in: part of the tool tip and of what is read aloud; null for none. */
     void setPlace(const QString &folder);
     [[nodiscard]] QString path() const { return m_path; }
 
@@ -28,6 +28,9 @@ public:
 
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
+
+Q_SIGNALS:
+    void placeChanged(const QString &folder);
 
 protected:
     void paintEvent(QPaintEvent *event) override;

@@ -17,6 +17,7 @@ constexpr int lowestRow = 30;  // pixels, at least; more where the font needs it
 constexpr int titleShare = 40; // per cent of the width
 constexpr int roomAroundText = 12;
 constexpr double selectionTint = 0.22;
+constexpr double idleTint = 0.10; // of a row that the keys do not go to
 
 } // namespace
 
@@ -122,10 +123,25 @@ bool VTTabbedEditTableView::takePaste(const QKeyEvent &event)
     return !text.isEmpty() && model()->setData(value, text, Qt::EditRole);
 }
 
+void VTTabbedEditTableView::focusInEvent(QFocusEvent *event)
+{
+    VTTableView::focusInEvent(event);
+    viewport()->update();
+}
+
 void VTTabbedEditTableView::focusOutEvent(QFocusEvent *event)
 {
     m_isFilledIn = false;
     VTTableView::focusOutEvent(event);
+    viewport()->update();
+}
+
+void VTTabbedEditTableView::dataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight,
+                                        const QList<int> &roles)
+{
+    VTTableView::dataChanged(topLeft, bottomRight, roles);
+    if (isEditing())
+        updateEditorGeometries();
 }
 
 void VTTabbedEditTableView::currentChanged(const QModelIndex &current, const QModelIndex &previous)
@@ -173,11 +189,12 @@ void VTTabbedEditTableView::resizeEvent(QResizeEvent *event)
 void VTTabbedEditTableView::initViewItemOption(QStyleOptionViewItem *option) const
 {
     VTTableView::initViewItemOption(option);
+    const double tint = hasFocus() || isEditing() ? selectionTint : idleTint;
     for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
         QPalette &colours = option->palette;
         colours.setColor(
             group, QPalette::Highlight,
-            blended(colours.color(group, QPalette::Base), colours.color(group, QPalette::Highlight), selectionTint));
+            blended(colours.color(group, QPalette::Base), colours.color(group, QPalette::Highlight), tint));
         colours.setColor(group, QPalette::HighlightedText, colours.color(group, QPalette::Text));
     }
 }

@@ -4,12 +4,14 @@
 #include "ui/EditorFocus.h"
 #include "ui/Icons.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
 #include <QCompleter>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPainter>
+#include <functional>
 
 namespace {
 
@@ -17,6 +19,8 @@ namespace {
 constexpr const char *textBefore = "textBefore";
 constexpr int chevronSide = 16;
 constexpr int margin = 8;
+constexpr int signSide = 16;
+constexpr int signGap = 4;
 constexpr float hairlineOpacity = 0.15F;
 constexpr float secondaryOpacity = 0.65F;
 constexpr int accentWidth = 3;
@@ -33,11 +37,81 @@ QColor faint(QColor colour, float opacity)
     return colour;
 }
 
+/// How much of the cell's right end the hint takes, with its sign and a gap; at most half of the cell.
+int hintWidth(const QStyleOptionViewItem &option, const QModelIndex &index)
+{
+    const QString hint = index.data(CellRole::Hint).toString();
+    if (hint.isEmpty())
+        return 0;
+    const int sign = index.data(CellRole::IsProblem).toBool() ? signSide + signGap : 0;
+    return qMin(option.fontMetrics.horizontalAdvance(hint) + sign + 2 * margin, option.rect.width() / 2);
+}
+
+/// Where the list's sign is, if the cell has one.
+int chevronWidth(const QModelIndex &index)
+{
+    const bool offersItems = editorOf(index) != CellEditor::Text && index.flags().testFlag(Qt::ItemIsEditable);
+    return offersItems && !index.data(CellRole::Items).toStringList().isEmpty() ? chevronSide + margin : 0;
+}
+
+void drawHint(QPainter &painter, const QStyleOptionViewItem &option, const QModelIndex &index)
+{
+    const int width = hintWidth(option, index);
+    if (width == 0)
+        return;
+    const int right = option.rect.right() - chevronWidth(index);
+    QRect place(right - width + margin, option.rect.y(), width - 2 * margin, option.rect.height());
+    if (index.data(CellRole::IsProblem).toBool()) {
+        icons::named("warning").paint(&painter,
+                                      QRect(place.x(), place.center().y() - signSide / 2 + 1, signSide, signSide));
+        place.setLeft(place.x() + signSide + signGap);
+    }
+    painter.setPen(faint(option.palette.color(QPalette::Text), secondaryOpacity));
+    painter.drawText(
+        place, Qt::AlignVCenter | Qt::AlignRight,
+        option.fontMetrics.elidedText(index.data(CellRole::Hint).toString(), Qt::ElideRight, place.width()));
+}
+
 QString textIn(const QWidget *editor)
 {
     const auto *combo = qobject_cast<const QComboBox *>(editor);
     return combo ? combo->currentText() : qobject_cast<const QLineEdit *>(editor)->text();
 }
+
+/// The open list of a history: Delete takes the marked value out of it. Owned by the combo box.
+class HistoryList : public QObject
+{
+public:
+    HistoryList(QComboBox &combo, std::function<void(const QString &)> removed)
+        : QObject(&combo)
+        , m_combo(combo)
+        , m_removed(std::move(removed))
+    {
+        combo.view()->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject *list, QEvent *event) override
+    {
+        if (event->type() != QEvent::KeyPress || static_cast<QKeyEvent *>(event)->key() != Qt::Key_Delete)
+            return QObject::eventFilter(list, event);
+        const int row = m_combo.view()->currentIndex().row();
+        if (row < 0)
+            return true;
+        const QString text = m_combo.currentText(); // what is typed is no part of the list
+        const QString item = m_combo.itemData(row).toString();
+        m_combo.removeItem(row);
+        m_combo.setEditText(text);
+        m_combo.view()->setCurrentIndex(m_combo.model()->index(qMin(row, m_combo.count() - 1), 0));
+        if (m_combo.count() == 0)
+            m_combo.hidePopup();
+        m_removed(item);
+        return true;
+    }
+
+private:
+    QComboBox &m_combo;
+    std::function<void(const QString &)> m_removed;
+};
 
 } // namespace
 
@@ -47,6 +121,9 @@ void ValueCellDelegate::initStyleOption(QStyleOptionViewItem *option, const QMod
     option->text = platform::forDisplay(option->text);
     option->decorationSize = QSize(16, 16);
     option->state &= ~QStyle::State_HasFocus; // the whole row is marked; a frame within it would be drawn twice
+    if (const int hint = hintWidth(*option, index); hint > 0)
+        option->text = option->fontMetrics.elidedText(option->text, Qt::ElideRight,
+                                                      option->rect.width() - hint - chevronWidth(index) - 2 * margin);
     if (!index.data(CellRole::Secondary).toBool())
         return;
     for (const auto role : {QPalette::Text, QPalette::HighlightedText})
@@ -59,11 +136,12 @@ void ValueCellDelegate::paint(QPainter *painter, const QStyleOptionViewItem &opt
     painter->save();
     painter->setPen(faint(option.palette.color(QPalette::Text), hairlineOpacity));
     painter->drawLine(option.rect.bottomLeft(), option.rect.bottomRight());
-    if (option.state.testFlag(QStyle::State_Selected) && index.column() == 0)
+    const bool hasKeys = option.widget && option.widget->hasFocus();
+    if (option.state.testFlag(QStyle::State_Selected) && index.column() == 0 && hasKeys)
         painter->fillRect(option.rect.x(), option.rect.y(), accentWidth, option.rect.height() - 1,
-                          option.widget ? option.widget->palette().highlight() : option.palette.highlight());
-    const bool offersItems = editorOf(index) != CellEditor::Text && index.flags().testFlag(Qt::ItemIsEditable);
-    if (offersItems && !index.data(CellRole::Items).toStringList().isEmpty()) {
+                          option.widget->palette().highlight());
+    drawHint(*painter, option, index);
+    if (chevronWidth(index) > 0) {
         const QRect place(option.rect.right() - margin - chevronSide, option.rect.center().y() - chevronSide / 2 + 1,
                           chevronSide, chevronSide);
         icons::named("chevron-down", icons::Tone::Secondary).paint(painter, place);
@@ -98,6 +176,7 @@ QWidget *ValueCellDelegate::createEditor(QWidget *parent, const QStyleOptionView
         editor = createCombo(parent, index, kind);
     }
     editor->setAutoFillBackground(true);
+    followTyping(*editor, index);
     const QString name = index.data(CellRole::AccessibleName).toString();
     editor->setAccessibleName(name);
     if (auto *combo = qobject_cast<QComboBox *>(editor)) { // whose name, to a reader on this desktop, is its value
@@ -106,6 +185,26 @@ QWidget *ValueCellDelegate::createEditor(QWidget *parent, const QStyleOptionView
             combo->lineEdit()->setAccessibleName(name);
     }
     return editor;
+}
+
+void ValueCellDelegate::followTyping(QWidget &editor, const QModelIndex &index) const
+{
+    const QPersistentModelIndex cell(index);
+    const auto tell = [this, cell](const QString &text) {
+        Q_EMIT typed(cell, text);
+    };
+    auto *combo = qobject_cast<QComboBox *>(&editor);
+    if (auto *line = combo ? combo->lineEdit() : qobject_cast<QLineEdit *>(&editor))
+        connect(line, &QLineEdit::textEdited, this, tell);
+    if (!combo)
+        return;
+    if (combo->isEditable()) {
+        connect(combo, &QComboBox::textActivated, this, tell);
+        new HistoryList(*combo, [this, cell](const QString &item) { Q_EMIT itemRemoved(cell, item); });
+    } else {
+        connect(combo, &QComboBox::activated, this,
+                [combo, self = const_cast<ValueCellDelegate *>(this)] { Q_EMIT self->commitData(combo); });
+    }
 }
 
 bool ValueCellDelegate::eventFilter(QObject *editor, QEvent *event)
@@ -160,7 +259,11 @@ void ValueCellDelegate::setModelData(QWidget *editor, QAbstractItemModel *model,
 }
 
 void ValueCellDelegate::updateEditorGeometry(QWidget *editor, const QStyleOptionViewItem &option,
-                                             const QModelIndex &) const
+                                             const QModelIndex &index) const
 {
-    editor->setGeometry(option.rect.adjusted(0, 0, 0, -1)); // the hairline stays
+    QStyleOptionViewItem cell = option;
+    cell.fontMetrics = editor->fontMetrics();
+    const int hint = hintWidth(cell, index);
+    // The hairline stays, and what a hint says of what is being typed.
+    editor->setGeometry(option.rect.adjusted(0, 0, hint > 0 ? -hint - chevronWidth(index) : 0, -1));
 }

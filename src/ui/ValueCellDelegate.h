@@ -11,6 +11,8 @@ namespace CellRole {
 enum : int {
     Editor = Qt::UserRole + 1, ///< CellEditor
     Items,                     ///< QStringList: what a history or a choice offers
+    Hint,                      ///< QString: a few words at the right of the cell, beside its editor, too
+    IsProblem,                 ///< bool: the hint gets a warning sign
     Secondary,                 ///< bool: filled in by the program, drawn fainter
     AccessibleName,            ///< QString: what the editor is called
     LabelColor,                ///< QColor behind the whole row; invalid without a label
@@ -37,6 +39,12 @@ public:
     void updateEditorGeometry(QWidget *editor, const QStyleOptionViewItem &option,
                               const QModelIndex &index) const override;
 
+Q_SIGNALS:
+    /** At every key, before the value is taken in. One that is picked from a list is taken in at once. */
+    void typed(const QModelIndex &index, const QString &text) const;
+    /** Somebody has taken one out of the values that a history offers. */
+    void itemRemoved(const QModelIndex &index, const QString &item) const;
+
 protected:
     /** Undo, where an editor has nothing to take back, is the window's. */
     bool eventFilter(QObject *editor, QEvent *event) override;
@@ -44,5 +52,6 @@ protected:
 
 private:
     void show(QWidget *editor, const QModelIndex &index) const;
+    void followTyping(QWidget &editor, const QModelIndex &index) const;
     [[nodiscard]] QWidget *createCombo(QWidget *parent, const QModelIndex &index, CellEditor kind) const;
 };

@@ -1,5 +1,6 @@
 // The window, driven by keys and clicks, from its first start to a finished project.
 #include "app/MainWindow.h"
+#include "app/PlaceButton.h"
 #include "app/TessaroAppDelegate.h"
 #include "creation/Unfinished.h"
 #include "harness/Records.h"
@@ -13,9 +14,12 @@
 #include "platform/files/ApplicationBundle.h"
 #include "platform/files/FileSystem.h"
 #include "platform/files/WholeFile.h"
+#include "preferences/VTPreferenceController.h"
+#include "support/RecentPlaces.h"
 #include "support/Settings.h"
 #include "support/VTAlert.h"
 #include "support/VTLocalPaths.h"
+#include "ui/EmptyState.h"
 #include "ui/SheetPresenter.h"
 #include "ui/Spinner.h"
 #include "ui/VTSavePanel.h"
@@ -26,7 +30,9 @@
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListView>
 #include <QMenu>
+#include <QPointer>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
@@ -425,6 +431,81 @@ private Q_SLOTS:
     }
 
     /// Another program on the same settings: the window shows it, and makes what it shows.
+    /// The line under the table begins with the place: a click chooses another, pins it, and it holds.
+    void thePlaceIsChosen()
+    {
+        writeFile(m_work->filePath("Drive/there"));
+        const QString drive = m_work->filePath("Drive");
+        rememberPlace(drive);
+        open();
+        auto *place = part<PlaceButton>("placeButton");
+        QCOMPARE(place->text(), "Fixed");
+        const auto choose = [&](int entry) {
+            QTimer::singleShot(0, place, [place, entry] {
+                place->menu()->actions().at(entry)->trigger();
+                place->menu()->close();
+            });
+            place->setFocus();
+            QTest::keyClick(place, Qt::Key_Space);
+        };
+        choose(0); // the latest one
+        QCOMPARE(place->text(), "Drive");
+        QCOMPARE(m_delegate->shownRequest().location, QString());
+        QCOMPARE(settings::fixedProjectLocationPath.text(), drive);
+        choose(3); // below the panel's line
+        QCOMPARE(pinnedPlaces(), QStringList(drive));
+        QTimer::singleShot(0, this, [&] {
+            auto *panel = window().findChild<VTSavePanel *>();
+            QVERIFY(panel);
+            panel->findChild<QLineEdit *>("fileNameEdit")->setText(m_work->path());
+            panel->findChild<QDialogButtonBox *>()->buttons().constFirst()->click();
+        });
+        m_delegate->choosePlace();
+        QTRY_COMPARE(settings::fixedProjectLocationPath.text(), m_work->path());
+        QTRY_COMPARE(place->toolTip(), "The project goes to " + m_work->path());
+    }
+
+    void aLongListIsSearched()
+    {
+        for (int i = 0; i < 60; ++i)
+            writeFile(m_work->filePath("Library/Film %1.tzt/Files/a").arg(i));
+        open();
+        auto *popUp = part<QComboBox>("projectTemplatePopUp");
+        const QString before = popUp->currentText();
+        for (const auto key : {Qt::Key_Escape, Qt::Key_Return}) {
+            popUp->showPopup();
+            QPointer<QWidget> list = QApplication::activePopupWidget();
+            QVERIFY(list);
+            auto *line = list->findChild<QLineEdit *>();
+            QTRY_VERIFY(line->hasFocus());
+            QTest::keyClicks(line, "ilm 4");
+            QCOMPARE(list->findChild<QListView *>()->model()->rowCount(), 11);
+            QTest::keyClick(line, Qt::Key_Down);
+            QTest::keyClick(line, key);
+            QTRY_VERIFY(!list);
+            QCOMPARE(popUp->currentText(), key == Qt::Key_Escape ? before : "Film 40");
+        }
+        QCOMPARE(settings::selectedProjectTemplate.text(), "Film 40");
+    }
+
+    void windowsComeBackWhereTheyWere()
+    {
+        open();
+        window().setGeometry(120, 90, 700, 560);
+        QTRY_COMPARE(window().geometry(), QRect(120, 90, 700, 560));
+        m_delegate->showPreferences();
+        auto *preferences = window().findChild<VTPreferenceController *>();
+        QVERIFY(QTest::qWaitForWindowActive(preferences));
+        preferences->setGeometry(60, 70, 900, 600);
+        QTRY_COMPARE(preferences->geometry(), QRect(60, 70, 900, 600));
+        preferences->close();
+        m_delegate.reset();
+        open();
+        QTRY_COMPARE(window().geometry(), QRect(120, 90, 700, 560));
+        m_delegate->showPreferences();
+        QTRY_COMPARE(window().findChild<VTPreferenceController *>()->geometry(), QRect(60, 70, 900, 600));
+    }
+
     void followsOtherPrograms()
     {
         open();
@@ -478,9 +559,12 @@ private Q_SLOTS:
         QVERIFY(window().shownTemplates().isEmpty());
         QCOMPARE(settings::standard().string(settings::selectedProjectTemplate), QString("kept"));
         QVERIFY(!part<QPushButton>("createButton")->isEnabled());
-        m_delegate->useStandardParameters();
         part<QPushButton>("installTemplates")->click();
         QTRY_VERIFY(part<QPushButton>("createButton")->isEnabled());
+        part<EmptyState>("emptyParameters")->findChild<QPushButton *>()->click(); // where they can be added or restored
+        auto *preferences = window().findChild<VTPreferenceController *>();
+        QVERIFY(preferences && preferences->findChild<QTableView *>("parameterTable")->isVisible());
+        preferences->close();
     }
 };
 

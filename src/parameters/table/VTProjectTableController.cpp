@@ -2,49 +2,19 @@
 
 #include "parameters/ParameterList.h"
 #include "parameters/ParameterStore.h"
-#include "parameters/ProjectNaming.h"
-#include "parameters/ValueRules.h"
 #include "platform/base/MainThread.h"
-#include "platform/base/NativePath.h"
 #include "support/Notifications.h"
-#include "support/RecentPlaces.h"
 #include "support/Settings.h"
 #include "support/VTLocalPaths.h"
 #include "support/VTLog.h"
-#include "ui/Icons.h"
-#include "ui/PathControl.h"
 #include "ui/Spinner.h"
 #include "ui/VTTabbedEditTableView.h"
 #include "ui/ValueCellDelegate.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QLabel>
 
 namespace {
-
-const char *iconOf(FilenameParameter::Kind kind)
-{
-    switch (kind) {
-    case FilenameParameter::Kind::Counter:
-        return "kind-counter";
-    case FilenameParameter::Kind::Date:
-        return "kind-date";
-    case FilenameParameter::Kind::UserName:
-        return "kind-user";
-    case FilenameParameter::Kind::Choice:
-        return "kind-choice";
-    default:
-        return "kind-text";
-    }
-}
-
-CellEditor editorOf(const FilenameParameter &parameter)
-{
-    if (parameter.kind() == FilenameParameter::Kind::Choice)
-        return CellEditor::Choices;
-    return parameter.savesHistory() ? CellEditor::History : CellEditor::Text;
-}
 
 QString described(const FilenameParameters &parameters)
 {
@@ -67,6 +37,11 @@ void VTProjectTableController::setViews(const Views &views)
     m_views.tableView->setModel(this);
     m_views.tableView->setWatchDelegate(this);
     m_views.tableView->addWatchKeys(WatchKeys::deleteKeys(), "revertToDefaultValue");
+    if (auto *cells = qobject_cast<ValueCellDelegate *>(m_views.tableView->itemDelegate())) {
+        connect(cells, &ValueCellDelegate::typed, this, &VTProjectTableController::showTyped);
+        connect(cells, &ValueCellDelegate::closeEditor, this, &VTProjectTableController::forgetTyped);
+        connect(cells, &ValueCellDelegate::itemRemoved, this, &VTProjectTableController::forgetRemembered);
+    }
 }
 
 void VTProjectTableController::awakeFromNib()
@@ -89,59 +64,6 @@ int VTProjectTableController::columnCount(const QModelIndex &parent) const
     return parent.isValid() ? 0 : ColumnCount;
 }
 
-QVariant VTProjectTableController::data(const QModelIndex &index, int role) const
-{
-    if (!index.isValid() || !checkIndex(index, CheckIndexOption::ParentIsInvalid))
-        return {};
-    const FilenameParameter &parameter = m_dataArray[index.row()];
-    return index.column() == TitleColumn ? titleData(parameter, role) : valueData(parameter, role);
-}
-
-QVariant VTProjectTableController::titleData(const FilenameParameter &parameter, int role) const
-{
-    switch (role) {
-    case Qt::DisplayRole:
-    case Qt::AccessibleTextRole:
-        return parameter.title().isEmpty() ? tr("Untitled") : parameter.title();
-    case Qt::DecorationRole:
-        return icons::named(iconOf(parameter.kind()), icons::Tone::Secondary);
-    default:
-        return {};
-    }
-}
-
-QVariant VTProjectTableController::valueData(const FilenameParameter &parameter, int role) const
-{
-    switch (role) {
-    case Qt::DisplayRole:
-    case Qt::EditRole:
-        return parameter.value();
-    case Qt::AccessibleTextRole:
-        return tr("%1: %2").arg(parameter.title(), parameter.value());
-    case Qt::DecorationRole:
-        return parameter.isLocked() ? icons::named("lock", icons::Tone::Secondary) : QVariant();
-    case CellRole::Editor:
-        return QVariant::fromValue(editorOf(parameter));
-    case CellRole::Items:
-        return parameter.kind() == FilenameParameter::Kind::Choice ? parameter.choices() : parameter.history();
-    case CellRole::Secondary:
-        return parameter.isAutomatic();
-    case CellRole::AccessibleName:
-        return parameter.title();
-    default:
-        return {};
-    }
-}
-
-QVariant VTProjectTableController::headerData(int section, Qt::Orientation orientation, int role) const
-{
-    if (role != Qt::DisplayRole && role != Qt::AccessibleTextRole)
-        return {};
-    if (orientation == Qt::Horizontal)
-        return section == TitleColumn ? tr("Parameter") : tr("Value");
-    return section < m_dataArray.size() ? m_dataArray[section].title() : QString();
-}
-
 Qt::ItemFlags VTProjectTableController::flags(const QModelIndex &index) const
 {
     if (!index.isValid() || !checkIndex(index))
@@ -155,6 +77,7 @@ bool VTProjectTableController::setData(const QModelIndex &index, const QVariant 
 {
     if (role != Qt::EditRole || !index.isValid() || !checkIndex(index) || index.column() != ValueColumn)
         return false;
+    m_typedCell = QModelIndex();
     const bool strict = settings::strictNaming.isOn();
     bool keptTyped = false;
     changeRow(index.row(), [&](const FilenameParameter &parameter) {
@@ -209,10 +132,14 @@ void VTProjectTableController::revertToDefaultValue()
     // Records carry their name as "title": the line says (null), and existing readers of the log know it so.
     const QVariant name = m_dataArray[*selected].entry("name");
     VTLog::appendLog("Reverting %@ to its default value", name.isValid() ? name.toString() : QString());
-    changeRow(*selected, [](FilenameParameter parameter) {
-        parameter.setValue(rules::revertedValue(parameter));
+    const bool isAutomatic = m_dataArray[*selected].isAutomatic();
+    changeRow(*selected, [this](FilenameParameter parameter) {
+        const QString automatic = rules::automaticValue(parameter, m_automatic);
+        parameter.setValue(automatic.isNull() ? rules::revertedValue(parameter) : automatic);
         return parameter;
     });
+    if (isAutomatic)
+        Q_EMIT dataChanged(index(*selected, ValueColumn), index(*selected, ValueColumn));
     updateFilenamePreview();
 }
 
@@ -240,15 +167,20 @@ void VTProjectTableController::incrementDynamicValues()
 void VTProjectTableController::updateDynamicValues()
 {
     VTLog::appendLog("Updating dynamic values");
-    change(withDynamicValues);
+    m_automatic = automaticValues();
+    change([this](FilenameParameters list) { return rules::withDynamicValues(std::move(list), m_automatic); });
     updateFilenamePreview();
 }
 
 void VTProjectTableController::bringUpToDate()
 {
     follow();
-    if (withDynamicValues(m_dataArray) != m_dataArray)
-        updateDynamicValues();
+    const auto before = std::exchange(m_automatic, automaticValues());
+    if (before == m_automatic)
+        return;
+    VTLog::appendLog("Updating dynamic values");
+    change([&](FilenameParameters list) { return rules::withDynamicValues(std::move(list), before, m_automatic); });
+    updateFilenamePreview();
 }
 
 void VTProjectTableController::loadFilenameData()
@@ -352,30 +284,4 @@ void VTProjectTableController::replaceRows(int first, int end, const FilenamePar
             m_dataArray.insert(start + i, *(newHead + i));
         endInsertRows();
     }
-}
-
-void VTProjectTableController::updateFilenamePreview()
-{
-    if (!m_views.previewPathControl)
-        return;
-    const QString path = naming::pathName(naming::pathComponents(m_dataArray, settings::separatorChar.text()));
-    if (path.isNull()) {
-        VTLog::appendLog("Error: null filename for path display");
-        return;
-    }
-    const QString location = nextPlace();
-    m_views.previewPathControl->setPlace(location);
-    m_views.previewPathControl->setPath(u'/' + path);
-    m_exists.forget();
-    if (location.isEmpty() || path.isEmpty())
-        return showWarning(false);
-    m_exists.ask(platform::joined(location, path), [this](bool exists) { showWarning(exists); });
-}
-
-void VTProjectTableController::showWarning(bool exists)
-{
-    if (exists)
-        m_views.previewPathControl->raiseOrigin();
-    if (m_views.warningImage)
-        m_views.warningImage->setVisible(exists);
 }

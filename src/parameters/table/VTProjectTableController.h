@@ -1,6 +1,7 @@
 #pragma once
 
-#include "parameters/FilenameParameter.h"
+#include "parameters/ProjectNaming.h"
+#include "parameters/ValueRules.h"
 #include "support/ExistsQuestion.h"
 
 #include <QAbstractTableModel>
@@ -62,7 +63,7 @@ public:
     void forgetClearedHistory() { m_beforeClearing.clear(); }
     /** Shows the counters as a creation has left them. */
     void incrementDynamicValues();
-    /** The day may have changed since the values were filled in. */
+    /** The day may have changed since the values were filled in; what was typed over stays. */
     void bringUpToDate();
     /**
      * Shows what another program has stored. The edit in progress goes on; where its parameter has been removed, the
@@ -92,10 +93,20 @@ private:
     [[nodiscard]] bool replaceRows(const FilenameParameters &parameters);
     void replaceRows(int first, int end, const FilenameParameters &list);
     [[nodiscard]] QVariant titleData(const FilenameParameter &parameter, int role) const;
-    [[nodiscard]] QVariant valueData(const FilenameParameter &parameter, int role) const;
+    [[nodiscard]] QVariant valueData(qsizetype row, int role) const;
+    [[nodiscard]] QVariant sayingsOf(qsizetype row, int role) const;
+    [[nodiscard]] FilenameParameters withTyped() const;
+    void showTyped(const QModelIndex &index, const QString &text);
+    void forgetTyped();
+    void forgetRemembered(const QModelIndex &index, const QString &value);
+    void showProblems(const FilenameParameters &parameters, const QString &separator);
     void showWarning(bool exists);
 
     FilenameParameters m_dataArray;
+    QList<naming::Problem> m_problems;  ///< of each row, with what is being typed
+    rules::AutomaticValues m_automatic; ///< as they were filled in
+    QPersistentModelIndex m_typedCell;  ///< of the edit in progress, once something has been typed
+    QString m_typed;
     Views m_views;
     FilenameParameters m_beforeClearing;
     bool m_isBehind = false; ///< the parameter being edited has been removed

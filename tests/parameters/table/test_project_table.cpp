@@ -12,6 +12,7 @@
 #include "ui/ValueCellDelegate.h"
 
 #include <QAbstractItemModelTester>
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
@@ -244,6 +245,81 @@ private Q_SLOTS:
         press(Qt::Key_Return);
         QTRY_COMPARE(form.editedRow(), 1);
         QCOMPARE(form.value(0), "Green");
+        QVERIFY(form.isStored());
+    }
+
+    /// The line below the table and the words beside a value follow every key; Escape puts back what was.
+    void followsTheKeys()
+    {
+        Form form({record("one", {{"disallowEmpty", true}, {"saveHistory", true}}), record("Red", chosen),
+                   record("2147483646", {{"type", 2}, {"folder", true}})});
+        const auto hint = [&](int row) {
+            return form.controller.index(row, 1).data(CellRole::Hint).toString();
+        };
+        form.controller.editFirstItem();
+        type("two");
+        QCOMPARE(form.path.path(), "/two_Red/2147483646");
+        QCOMPARE(form.value(0), "one");
+        press(Qt::Key_Escape);
+        QCOMPARE(form.path.path(), "/one_Red/2147483646");
+        form.controller.editFirstItem();
+        press(Qt::Key_Backspace);
+        QCOMPARE(hint(0), "required");
+        const int whole = form.table.columnWidth(1);
+        QVERIFY(form.editor(0)->width() < whole); // makes room for the words
+        type(QString(300, u'x'));
+        QCOMPARE(hint(0), "too long");
+        press(Qt::Key_Escape);
+        QCOMPARE(hint(0), "");
+        form.controller.editItem(2);
+        type("2147483647");
+        QCOMPARE(hint(2), "counts no further");
+        type("8"); // of ten digits and more
+        QCOMPARE(hint(2), "counts no further");
+        press(Qt::Key_Escape);
+        form.controller.editItem(1);
+        auto *choices = qobject_cast<QComboBox *>(form.editor(1));
+        choices->showPopup();
+        QTest::keyClick(choices->view(), Qt::Key_Down);
+        QTest::keyClick(choices->view(), Qt::Key_Return);
+        QCOMPARE(form.value(1), "Green"); // counts at once, while its editor is open
+        QCOMPARE(form.path.path(), "/one_Green/2147483646");
+        QVERIFY(form.isStored());
+    }
+
+    void oneRememberedValueGoes()
+    {
+        Form form({record("x", remembered)});
+        form.controller.editFirstItem();
+        type("half");
+        auto *combo = qobject_cast<QComboBox *>(form.editor(0));
+        combo->showPopup();
+        combo->view()->setCurrentIndex(combo->model()->index(0, 0));
+        QTest::keyClick(combo->view(), Qt::Key_Delete);
+        QCOMPARE(storedParameters()[0].history(), QStringList("Alpha"));
+        QCOMPARE(combo->currentText(), "half");
+        QVERIFY(combo->count() == 1 && combo->view()->isVisible());
+        combo->hidePopup();
+        form.controller.finishEditing();
+        QCOMPARE(storedParameters()[0].history(), QStringList({"half", "Alpha"}));
+    }
+
+    /// What was typed in place of the date stays until somebody wants the date back.
+    void typedOver()
+    {
+        Form form({record("", {{"type", 3}, {"defaultVal", "unused"}})});
+        const QString today = form.value(0);
+        const QModelIndex cell = form.controller.index(0, 1);
+        QVERIFY(today.size() == 10 && cell.data(CellRole::Secondary).toBool());
+        form.set(0, "2001-01-01");
+        form.controller.bringUpToDate();
+        QCOMPARE(form.value(0), "2001-01-01");
+        QVERIFY(!cell.data(CellRole::Secondary).toBool() && cell.data(Qt::ToolTipRole).toString().contains(today));
+        form.table.setFocus();
+        form.table.selectRow(0);
+        press(Qt::Key_Delete);
+        QCOMPARE(form.value(0), today);
+        QCOMPARE(cell.data(CellRole::Hint).toString(), "");
         QVERIFY(form.isStored());
     }
 
