@@ -16,6 +16,7 @@
 #include <QCloseEvent>
 #include <QDropEvent>
 #include <QKeyEvent>
+#include <QMenu>
 #include <QMimeData>
 #include <QTimer>
 #include <QUrl>
@@ -133,8 +134,31 @@ TemplatePane &MainWindow::templatePane()
     if (!m_templatePane) {
         m_templatePane = new TemplatePane(m_ui->panes);
         m_ui->panes->addWidget(m_templatePane);
+        showPaneInMenus();
     }
     return *m_templatePane;
+}
+
+/// Its commands stand in the menu bar, too, while it is shown.
+void MainWindow::showPaneInMenus()
+{
+    const auto menuOf = [this](const char *command) {
+        return qobject_cast<QMenu *>(menuBar()->findChild<QAction *>(QLatin1String(command))->parent());
+    };
+    QMenu *edit = menuOf("Undo");
+    m_paneActions += edit->addSeparator();
+    edit->addActions(m_templatePane->editActions());
+    m_paneActions += m_templatePane->editActions();
+    QMenu *list = menuOf("New Template");
+    QAction *before = menuOf("New Template")->findChild<QAction *>(QStringLiteral("Restore Default Templates…"));
+    list->insertActions(before, m_templatePane->listActions());
+    m_paneActions += m_templatePane->listActions();
+    m_paneActions += list->insertSeparator(before);
+    auto *items = new QMenu(tr("&Items"), menuBar());
+    items->addActions(m_templatePane->treeActions());
+    items->addSeparator();
+    items->addMenu(m_templatePane->labelMenu());
+    m_paneActions += menuBar()->insertMenu(menuBar()->actions().constLast(), items);
 }
 
 void MainWindow::showPane(Pane pane)
@@ -142,6 +166,8 @@ void MainWindow::showPane(Pane pane)
     m_newProjectItem->setChecked(pane == Pane::Project);
     m_templatesItem->setChecked(pane == Pane::Templates);
     m_ui->panes->setCurrentWidget(pane == Pane::Project ? m_ui->viewProject : &templatePane());
+    for (QAction *action : std::as_const(m_paneActions))
+        action->setVisible(pane == Pane::Templates);
 }
 
 MainWindow::Pane MainWindow::shownPane() const

@@ -70,6 +70,7 @@ private:
     void buildMenus();
     void connectPanes();
     void connectPlace();
+    void showPaneInMenus();
     void setParametersEmpty(bool empty);
     void tell(const QString &text);
 
@@ -80,6 +81,7 @@ private:
     QAction *m_templatesItem = nullptr;
     QAction *m_productFamilyItem = nullptr;
     QList<QAction *> m_busyActions;  ///< not to be started while a project is being created
+    QList<QAction *> m_paneActions;  ///< of the template pane, while it is shown
     QPointer<QWidget> m_focusBefore; ///< what had the focus when the controls were dimmed
     QString m_created;
     QAction *m_undoAction = nullptr;

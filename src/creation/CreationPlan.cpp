@@ -32,7 +32,7 @@ void nameItem(platform::TreeFolder &folder, platform::TreeItem &item, const QStr
     const QByteArray wanted = platform::toNative(inProject);
     if (inProject == name)
         return;
-    if (wanted.size() > naming::longestName) {
+    if (wanted.size() > platform::longestName) {
         item.remark = static_cast<unsigned char>(Remark::NameTooLong);
     } else if (taken.contains(wanted.toStdString())) {
         item.remark = static_cast<unsigned char>(Remark::NameTaken);

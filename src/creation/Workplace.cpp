@@ -16,7 +16,8 @@ QString hiddenName(const QString &name)
 {
     const auto number = QString::number(QRandomGenerator::global()->generate64(), 36);
     const QString whole = QStringLiteral(".%1.tessaro-%2").arg(name, number);
-    return platform::toNative(whole).size() <= naming::longestName ? whole : QStringLiteral(".tessaro-%1").arg(number);
+    return platform::toNative(whole).size() <= platform::longestName ? whole
+                                                                     : QStringLiteral(".tessaro-%1").arg(number);
 }
 
 } // namespace

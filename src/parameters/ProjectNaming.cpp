@@ -47,7 +47,7 @@ Composed composed(const FilenameParameters &parameters, const QString &separator
 
 bool isTooLong(const QString &level)
 {
-    return platform::toNative(level).size() > longestName;
+    return platform::toNative(level).size() > platform::longestName;
 }
 
 bool isUnusable(const QString &level)

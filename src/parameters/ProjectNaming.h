@@ -19,9 +19,7 @@ namespace naming {
 /** The innermost level: what replaces the word template in the names of copied items. Empty without levels. */
 [[nodiscard]] QString projectName(const QStringList &components);
 
-/** Most file systems take names of 255 bytes (NAME_MAX of limits.h). */
-inline constexpr qsizetype longestName = 255;
-/** Those whose folder cannot be made. */
+/** Those that are longer than platform::longestName: their folder cannot be made. */
 [[nodiscard]] QStringList tooLongLevels(const QStringList &components);
 
 /** A level that no folder can be named: nothing or blanks after cleaning, or one that leads elsewhere ("..", "."). */

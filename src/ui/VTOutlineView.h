@@ -15,6 +15,9 @@ public:
     /** Asked before a right click selects a row; an item that may not be selected has no menu. */
     using SelectionQuestion = std::function<bool(const QModelIndex &)>;
     void setSelectionQuestion(SelectionQuestion question) { m_maySelect = std::move(question); }
+    /** What a strip at the bottom says while something is dragged over rows that leave no room: a drop there goes to
+       the top level. */
+    void setTopLevelName(const QString &name) { m_topLevelName = name; }
     /** Shown in the middle while there are no rows. */
     void setPlaceholder(const QString &sentence);
 
@@ -23,11 +26,19 @@ protected:
     void paintEvent(QPaintEvent *event) override;
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dragMoveEvent(QDragMoveEvent *event) override;
+    void dragLeaveEvent(QDragLeaveEvent *event) override;
     void dropEvent(QDropEvent *event) override;
+    void startDrag(Qt::DropActions supported) override;
 
 private:
+    [[nodiscard]] QRect topStrip() const;
+    void setDragOver(bool isOver, bool onStrip = false);
+
     SelectionQuestion m_maySelect;
     QString m_placeholder;
+    QString m_topLevelName;
+    bool m_isDraggedOver = false;
+    bool m_isOnStrip = false;
 };
 
 /** An outline whose rows carry the label colour of their item (CellRole::LabelColor), asked at each drawing. The

@@ -19,6 +19,7 @@
 #include "support/VTFileManager.h"
 #include "support/VTLog.h"
 #include "templates/VTDataController.h"
+#include "templates/editor/RenameSheet.h"
 #include "templates/editor/TemplatePane.h"
 #include "ui/ImportPanel.h"
 #include "ui/SheetPresenter.h"
@@ -27,16 +28,21 @@
 #include "ui/VTTableView.h"
 #include "ui/ValueCellDelegate.h"
 
+#include <QClipboard>
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDirIterator>
 #include <QDropEvent>
+#include <QLabel>
 #include <QLineEdit>
+#include <QMenuBar>
 #include <QMessageBox>
 #include <QMimeData>
 #include <QPointer>
 #include <QProcess>
+#include <QPushButton>
 #include <QSignalSpy>
+#include <QSpinBox>
 #include <QTest>
 #include <QTimer>
 #include <QToolButton>
@@ -268,6 +274,16 @@ private Q_SLOTS:
     }
 
     /// Each change, taken back and done again, as the disk has it.
+    void renameSelected(const QString &replacement, int first) const
+    {
+        auto *sheet = window().findChild<RenameSheet *>();
+        QVERIFY(sheet);
+        sheet->findChild<QSpinBox *>()->setValue(first);
+        QTRY_COMPARE(QApplication::activeWindow(), sheet);
+        auto *with = sheet->findChildren<QLineEdit *>().at(1);
+        QTest::keyClicks(with, replacement);
+        QTest::keyClick(with, Qt::Key_Return);
+    }
     void everyChangeIsUndone_data()
     {
         QTest::addColumn<std::function<void()>>("change");
@@ -300,6 +316,33 @@ private Q_SLOTS:
         row("structure", "Import of Folders", [this] {
             editor().createFolderStructureOnThread({{m_work->filePath("in/tree")}, files()});
         });
+        row("paste copies", "Paste", [this] {
+            select({"A", "top.txt"});
+            key(outline(), Qt::Key_C, Qt::ControlModifier);
+            select({"B"});
+            key(outline(), Qt::Key_V, Qt::ControlModifier);
+        });
+        row("cut and paste", "Move", [this] {
+            select({"A", "top.txt"});
+            key(outline(), Qt::Key_X, Qt::ControlModifier);
+            select({"B"});
+            key(outline(), Qt::Key_V, Qt::ControlModifier);
+        });
+        row("paste a list", "Paste", [this] {
+            QGuiApplication::clipboard()->setText("x.txt is a file here\n  010\n    Comp\nB\n\tnew");
+            outline()->clearSelection();
+            key(outline(), Qt::Key_V, Qt::ControlModifier);
+        });
+        row("rename several", "Rename", [this] {
+            select({"A", "A/x.txt", "B"});
+            QTimer::singleShot(0, this, [this] { renameSelected("Day #", 1); });
+            key(outline(), Qt::Key_F2);
+        });
+        row("swap names", "Rename", [this] { // one gets the name that the other gives up
+            select({"1", "2"});
+            QTimer::singleShot(0, this, [this] { renameSelected("#", 2); });
+            key(outline(), Qt::Key_F2);
+        });
         row("new template", "New Template", [this] { list().createNewTemplate(); });
         row("duplicate template", "Duplicate", [this] { list().duplicateTemplate(); });
         row("remove template", "Remove", [this] { list().removeTemplate(); }, {"Remove"});
@@ -331,6 +374,8 @@ private Q_SLOTS:
         writeFile(files("over/x.txt"), "over");
         writeFile(files("over/Song.logicx/data"), "song");
         writeFile(files("A/Song.logicx/data"), "older song");
+        for (const char *name : {"1", "2"})
+            writeFile(files(name), name);
         editor().populateTemplateStructure();
         select({"A/x.txt"});
         SheetAnswerer answers(buttons);
@@ -358,6 +403,93 @@ private Q_SLOTS:
     }
 
     /// What another program did meanwhile is not written over, and what cannot be taken back does not stand in the way.
+    /// What cannot be is said while it is typed, and nothing is renamed.
+    void namesThatCannotBe()
+    {
+        select({"A", "B"});
+        key(outline(), Qt::Key_F2);
+        auto *sheet = window().findChild<RenameSheet *>();
+        QVERIFY(sheet);
+        auto *find = sheet->findChildren<QLineEdit *>().at(0);
+        auto *with = sheet->findChildren<QLineEdit *>().at(1);
+        const auto *ok = sheet->findChildren<QPushButton *>().at(1);
+        QVERIFY(!ok->isEnabled());
+        for (const auto &[name, problem] :
+             {std::pair("a/b", "“a/b” cannot be a name."), {"Same", "Two of them would be called “Same”."}, {"", ""}}) {
+            with->setText(name);
+            QVERIFY(!ok->isEnabled());
+            QCOMPARE(sheet->findChild<QLabel *>("problem")->text(), problem);
+        }
+        find->setText("A");
+        with->setText("top.txt");
+        QVERIFY(sheet->findChild<QLabel *>("problem")->text().startsWith("There is another"));
+        key(with, Qt::Key_Escape);
+        QVERIFY(row("A").isValid() && row("B").isValid());
+    }
+
+    void theFilter()
+    {
+        writeFile(files("A/Deep/needle.txt"), "n");
+        editor().populateTemplateStructure();
+        outline()->collapseAll();
+        outline()->expand(row("B"));
+        outline()->setFocus();
+        key(outline(), Qt::Key_F, Qt::ControlModifier);
+        QTest::keyClicks(QApplication::focusWidget(), "NEEDLE");
+        const auto isShown = [this](const QString &path) {
+            return !outline()->visualRect(row(path)).isEmpty();
+        };
+        QVERIFY(isShown("A/Deep/needle.txt") && !isShown("B") && !isShown("A/x.txt"));
+        writeFile(files("A/Deep/needle 2.txt"), "n");
+        writeFile(files("other"), "n");
+        editor().populateTemplateStructure(); // what comes meanwhile is filtered, too
+        QVERIFY(isShown("A/Deep/needle 2.txt") && !isShown("other"));
+        key(QApplication::focusWidget(), Qt::Key_Escape);
+        QVERIFY(isShown("B/y.txt") && isShown("other") && !isShown("A/x.txt") && outline()->hasFocus());
+    }
+
+    /// Over rows that fill the view, the lowest strip is the top level.
+    void droppedAtTheTopLevel()
+    {
+        for (int i = 0; i < 60; ++i)
+            writeFile(files("B/%1").arg(i));
+        editor().populateTemplateStructure();
+        outline()->expandAll();
+        outline()->scrollToBottom();
+        const std::unique_ptr<QMimeData> data(dragged({"A/x.txt"}));
+        const QPoint bottom(40, outline()->viewport()->height() - 4);
+        QDragEnterEvent enter(bottom, Qt::MoveAction, data.get(), Qt::LeftButton, {});
+        QApplication::sendEvent(outline()->viewport(), &enter);
+        QDragMoveEvent move(bottom, Qt::MoveAction, data.get(), Qt::LeftButton, {});
+        QApplication::sendEvent(outline()->viewport(), &move);
+        QVERIFY(enter.isAccepted() && move.isAccepted());
+        QDropEvent drop(bottom, Qt::MoveAction, data.get(), Qt::LeftButton, {});
+        QApplication::sendEvent(outline()->viewport(), &drop);
+        QTRY_VERIFY(row("x.txt").isValid());
+        QVERIFY(targetExists(files("x.txt")));
+    }
+
+    void commandsInTheMenuBar()
+    {
+        QStringList commands;
+        const auto collect = [&] {
+            commands.clear();
+            for (const QAction *menu : window().menuBar()->actions()) {
+                for (const QAction *action : menu->isVisible() ? menu->menu()->actions() : QList<QAction *>())
+                    commands += action->isVisible() ? action->text().remove(u'&') : QString();
+            }
+        };
+        const QStringList ofThePane{"Cut",  "Copy",   "Paste",   "Filter", "New Folder",          "New Folder Beside",
+                                    "Open", "Rename", "Remove…", "Label",  "Show in File Manager"};
+        collect();
+        for (const QString &command : ofThePane)
+            QVERIFY2(commands.contains(command), qPrintable(command));
+        m_delegate->toolbarNewProjectAction();
+        collect();
+        for (const QString &command : ofThePane)
+            QVERIFY2(!commands.contains(command), qPrintable(command));
+    }
+
     void undoMeetsAnotherProgram()
     {
         outline()->model()->setData(row("A"), "C", Qt::EditRole);

@@ -13,6 +13,9 @@
  */
 namespace platform {
 
+/** In bytes: most file systems take no longer names (NAME_MAX of limits.h). */
+inline constexpr qsizetype longestName = 255;
+
 [[nodiscard]] QByteArray toNative(const QString &path);
 [[nodiscard]] QString fromNative(QByteArrayView bytes);
 

@@ -5,6 +5,7 @@
 #include "support/VTFileManager.h"
 #include "templates/EditingGuard.h"
 #include "templates/VTDataController.h"
+#include "templates/editor/TreeFilter.h"
 #include "ui/Icons.h"
 #include "ui/VTImageTextCell.h"
 #include "ui_TemplatePane.h"
@@ -133,6 +134,7 @@ void TemplatePane::buildTable()
     connect(m_toggleDefault, &QAction::triggered, &m_table, &Table::toggleDefault);
     m_forTemplate +=
         {m_toggleDefault, item(tr("&Show in File Manager"), {Qt::CTRL | Qt::Key_R}, &Table::revealTemplateInFinder)};
+    m_listActions = m_forTemplate;
     table->setContextMenu(menu);
 
     connect(m_ui->newTemplateButton, &QToolButton::clicked, &m_table, &Table::createNewTemplate);
@@ -166,7 +168,17 @@ void TemplatePane::buildOutline()
         menu->addAction(action);
         return action;
     };
-    QAction *newFolder = item(tr("New &Folder"), {Qt::CTRL | Qt::SHIFT | Qt::Key_N}, &Outline::addFolder);
+    const QList<QAction *> adding{
+        item(tr("New &Folder"), {Qt::CTRL | Qt::SHIFT | Qt::Key_N}, &Outline::addFolder),
+        item(tr("New Folder &Beside"), {Qt::CTRL | Qt::ALT | Qt::Key_N}, &Outline::addFolderBeside)};
+    menu->addSeparator();
+    QAction *cut = item(tr("Cu&t"), {QKeySequence::Cut}, &Outline::cutItems);
+    QAction *copy = item(tr("&Copy"), {QKeySequence::Copy}, &Outline::copyItems);
+    m_paste = item(tr("&Paste"), {QKeySequence::Paste}, &Outline::paste);
+    QAction *find = addTo(*this, tr("&Filter"), {QKeySequence::Find});
+    find->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    m_editActions = {cut, copy, m_paste, find};
+    menu->addSeparator();
     m_forItems = {item(tr("&Open"), {Qt::CTRL | Qt::Key_O}, &Outline::openSelectedFiles),
                   item(tr("D&uplicate"), {Qt::CTRL | Qt::Key_D}, &Outline::duplicateFiles),
                   item(tr("Re&name"), {Qt::Key_F2, Qt::Key_Return, Qt::Key_Enter}, &Outline::editSelectedName),
@@ -174,15 +186,21 @@ void TemplatePane::buildOutline()
     menu->addSeparator();
     menu->addMenu(labelMenu());
     m_forItems += item(tr("&Show in File Manager"), {Qt::CTRL | Qt::Key_R}, &Outline::revealFilesInFinder);
+    m_treeActions = adding + m_forItems;
+    m_forItems += {cut, copy};
     outline->setContextMenu(menu);
+    outline->setTopLevelName(tr("Drop here for the top level"));
+    m_filter = new TreeFilter(*outline, *m_ui->filterLine, this);
+    connect(find, &QAction::triggered, m_filter, &TreeFilter::begin);
 
     connect(m_ui->addButton, &QToolButton::clicked, this, [this] {
         m_table.finishEditing();
         m_outline.showAddPopUp();
     });
     connect(m_ui->removeButton, &QToolButton::clicked, &m_outline, &Outline::removeFiles);
-    connect(&m_outline, &Outline::selectionChanged, this, [this, newFolder](qsizetype count, bool isLoaded) {
-        newFolder->setEnabled(isLoaded);
+    connect(&m_outline, &Outline::selectionChanged, this, [this, adding](qsizetype count, bool isLoaded) {
+        for (QAction *action : adding + QList<QAction *>{m_paste})
+            action->setEnabled(isLoaded);
         setTreeSelection(count, isLoaded);
     });
 }

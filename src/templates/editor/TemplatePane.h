@@ -8,6 +8,7 @@
 
 class QAction;
 class QMenu;
+class TreeFilter;
 
 namespace Ui {
 class TemplatePane;
@@ -31,6 +32,11 @@ public:
     [[nodiscard]] ChangeHistory &history() { return m_history; }
     /** Takes in a name that is being typed, before this returns. */
     void finishEditing();
+    /** The commands of the list, of the tree, and those that an Edit menu has; for the menu bar. */
+    [[nodiscard]] const QList<QAction *> &listActions() const { return m_listActions; }
+    [[nodiscard]] const QList<QAction *> &treeActions() const { return m_treeActions; }
+    [[nodiscard]] const QList<QAction *> &editActions() const { return m_editActions; }
+    [[nodiscard]] QMenu *labelMenu();
     /** Shows what other programs have done, unless a name is being typed. */
     void followDisk();
     /** Take back the last change, and do it again; what cannot be done is said. */
@@ -45,7 +51,6 @@ private:
     void buildOutline();
     void buildLabels();
     void drawLabels();
-    [[nodiscard]] QMenu *labelMenu();
     void showAfter(const platform::Outcome &outcome, const QString &sentence);
     void setTreeSelection(qsizetype count, bool isLoaded);
 
@@ -55,6 +60,11 @@ private:
     VTTemplateTableController m_table;
     QAction *m_toggleDefault;
     QMenu *m_addMenu;
+    QList<QAction *> m_listActions;
+    QList<QAction *> m_treeActions;
+    QList<QAction *> m_editActions;
+    QAction *m_paste = nullptr;
+    TreeFilter *m_filter = nullptr;
     QList<QAction *> m_labels;      ///< none, then the seven
     QList<QAction *> m_forTemplate; ///< need a selected template
     QList<QAction *> m_forItems;    ///< need selected items

@@ -327,6 +327,8 @@ void VTTemplateOutlineController::selectOnly(const QString &path)
 
 void VTTemplateOutlineController::editSelectedName()
 {
+    if (selectedIndexes().size() > 1)
+        return renameSeveral();
     const QModelIndex current = m_views.outlineView->currentIndex();
     if (current.isValid())
         m_views.outlineView->edit(current);

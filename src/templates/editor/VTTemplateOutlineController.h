@@ -64,16 +64,25 @@ public:
 
 public Q_SLOTS:
     void showAddPopUp();
+    /** In the selected folder, and beside the selected item. */
     void addFolder();
+    void addFolderBeside();
     void addProject(const QString &source);
     void showImportFileDialog();
     void showImportFolderStructureDialog();
     void removeFiles();
     void duplicateFiles();
+    /** To the desktop's clipboard: as items, as files, and as a list of names. */
+    void copyItems();
+    /** The same, to be moved by the next paste. */
+    void cutItems();
+    /** Into the selected folder: items, files from elsewhere, or folders as an indented list. */
+    void paste();
     void revealFilesInFinder();
     void openSelectedFiles();
     /** 0 takes the label away, 1 to 7 are the labels. */
     void colorCodeFiles(int tag);
+    /** Of several by a sheet. */
     void editSelectedName();
 
 Q_SIGNALS:
@@ -95,12 +104,21 @@ private:
     [[nodiscard]] QModelIndexList selectedIndexes() const;
     [[nodiscard]] QStringList selectedPaths() const;
     [[nodiscard]] QList<Target> targets() const;
+    [[nodiscard]] QMimeData *selectionAsData() const;
+    void pasteCopies(const QByteArray &archive, QString folder);
+    void pasteFolders(const QString &text, const QString &folder);
+    void showPasted(const DiskChange &change, const QString &folder);
+    void renameSeveral();
+    [[nodiscard]] static QString problemOfNames(const QStringList &paths, const QStringList &names);
+    void renameAll(const QStringList &paths, const QStringList &names);
+    void addFolderTo(const QList<Target> &places);
     [[nodiscard]] TemplateNode *nodeAtPath(const QString &path) const;
     [[nodiscard]] ViewState viewState() const;
     void restore(const ViewState &state, const QModelIndex &below);
     void rereadFolder(const QString &folder);
     void rereadParentOf(const QString &path);
-    void insertIntoTargets(const QString &name, const std::function<QString(const QString &folder)> &insert);
+    void insertInto(QList<Target> places, const QString &name,
+                    const std::function<QString(const QString &folder)> &insert);
     [[nodiscard]] bool putsOffReading();
     void catchUp();
     void editItem(const QString &path);

@@ -51,14 +51,12 @@ QList<VTTemplateOutlineController::Target> VTTemplateOutlineController::targets(
     return found;
 }
 
-/// What both kinds of adding have in common: in each target, or at the top, then the first one's name is edited.
-void VTTemplateOutlineController::insertIntoTargets(const QString &name,
-                                                    const std::function<QString(const QString &folder)> &insert)
+/// What all kinds of adding have in common: in each place, or at the top, then the first one's name is edited.
+void VTTemplateOutlineController::insertInto(QList<Target> places, const QString &name,
+                                             const std::function<QString(const QString &folder)> &insert)
 {
-    finishEditing();
     QString first;
     DiskChange change{name, {}};
-    QList<Target> places = targets();
     if (places.isEmpty())
         places.append({filesFolder(), true});
     for (const Target &place : std::as_const(places)) {
@@ -80,9 +78,26 @@ void VTTemplateOutlineController::insertIntoTargets(const QString &name,
 
 void VTTemplateOutlineController::addFolder()
 {
+    finishEditing();
+    addFolderTo(targets());
+}
+
+void VTTemplateOutlineController::addFolderBeside()
+{
+    finishEditing();
+    QList<Target> places;
+    if (const QModelIndexList selected = selectedIndexes(); !selected.isEmpty()) {
+        const TemplateNode *above = TemplateTreeModel::nodeAt(selected.constLast())->parent();
+        places.append(above ? Target{above->filename(), false} : Target{filesFolder(), true});
+    }
+    addFolderTo(places);
+}
+
+void VTTemplateOutlineController::addFolderTo(const QList<Target> &places)
+{
     if (m_baseFilename.isNull() || !editingIsAllowed())
         return;
-    insertIntoTargets(tr("New Folder"), [](const QString &folder) {
+    insertInto(places, tr("New Folder"), [](const QString &folder) {
         const QString path = VTFileManager::uniqueFilename(joined(folder, tr("New Folder")));
         VTLog::appendLog("Adding new folder %@", path);
         const platform::Outcome made = fileoperations::createDirectory(path, patience);
@@ -102,7 +117,8 @@ void VTTemplateOutlineController::addProject(const QString &source)
         return;
     }
     VTLog::appendLog("Creating duplicate of project %@...", source);
-    insertIntoTargets(tr("New Item"), [&](const QString &folder) {
+    finishEditing();
+    insertInto(targets(), tr("New Item"), [&](const QString &folder) {
         // Not translated: creating a project replaces the word in the name.
         const QString path =
             VTFileManager::uniqueFilename(joined(folder, withExtensionOf(QStringLiteral("Template"), source)));

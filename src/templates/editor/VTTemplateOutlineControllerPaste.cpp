@@ -1,0 +1,231 @@
+// The structure editor's clipboard, lists of folders as text, and names given to several items at once.
+#include "templates/editor/VTTemplateOutlineController.h"
+
+#include "platform/base/FormatString.h"
+#include "platform/base/NativePath.h"
+#include "platform/files/FileSystem.h"
+#include "support/FileOperations.h"
+#include "support/InPlace.h"
+#include "support/VTAlert.h"
+#include "support/VTLog.h"
+#include "templates/EditingGuard.h"
+#include "templates/IndentedList.h"
+#include "templates/editor/RenameSheet.h"
+#include "ui/FilePanels.h"
+#include "ui/VTOutlineView.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QMimeData>
+#include <QUrl>
+
+using platform::formatString;
+using platform::joined;
+using platform::lastComponent;
+using platform::parentPath;
+
+namespace {
+
+constexpr std::chrono::seconds patience{20};
+/// Beside the nodes: they are to be moved, not copied.
+const QString cutType = QStringLiteral("application/x-tessaro-cut");
+
+/// By how deep they lie, the deepest first: what is renamed above them would change their path.
+QList<QList<qsizetype>> byDepth(const QStringList &paths)
+{
+    QMap<qsizetype, QList<qsizetype>> levels;
+    for (qsizetype i = 0; i < paths.size(); ++i)
+        levels[-paths[i].count(u'/')].append(i);
+    return levels.values();
+}
+
+} // namespace
+
+QMimeData *VTTemplateOutlineController::selectionAsData() const
+{
+    QMimeData *data = m_model.mimeData(selectedIndexes());
+    QList<QUrl> addresses;
+    for (const QString &path : selectedPaths())
+        addresses.append(QUrl::fromLocalFile(path));
+    data->setUrls(addresses); // for file managers
+    data->setText(indentedlist::listOf(selectedPaths()));
+    return data;
+}
+
+void VTTemplateOutlineController::copyItems()
+{
+    finishEditing();
+    if (!selectedPaths().isEmpty())
+        QGuiApplication::clipboard()->setMimeData(selectionAsData());
+}
+
+void VTTemplateOutlineController::cutItems()
+{
+    finishEditing();
+    if (selectedPaths().isEmpty())
+        return;
+    QMimeData *data = selectionAsData();
+    data->setData(cutType, "1");
+    QGuiApplication::clipboard()->setMimeData(data);
+}
+
+void VTTemplateOutlineController::paste()
+{
+    finishEditing();
+    const QMimeData *data = QGuiApplication::clipboard()->mimeData();
+    if (m_baseFilename.isNull() || !data)
+        return;
+    const QString folder = importDestination();
+    const TemplateDrop drop = TemplateTreeModel::dropOf(*data);
+    if (!drop.archive.isEmpty() && data->hasFormat(cutType)) {
+        if (acceptDrop(drop, folder == filesFolder() ? QString() : folder))
+            QGuiApplication::clipboard()->clear();
+        return;
+    }
+    const QString text = data->text();
+    if (drop.archive.isEmpty() && drop.paths.isEmpty() && text.trimmed().isEmpty())
+        return;
+    if (!editingIsAllowed())
+        return;
+    if (!drop.archive.isEmpty())
+        pasteCopies(drop.archive, folder);
+    else if (!drop.paths.isEmpty())
+        copyFilesOnThread({drop.paths, folder});
+    else
+        pasteFolders(text, folder);
+}
+
+void VTTemplateOutlineController::pasteCopies(const QByteArray &archive, QString folder)
+{
+    const TemplateNodes nodes = nodesFromArchive(archive);
+    // What has just been copied is still selected: its copy is meant to stand beside it, not in it.
+    if (std::any_of(nodes.begin(), nodes.end(), [&](const auto &node) { return node->filename() == folder; }))
+        folder = parentPath(folder);
+    DiskChange change{tr("Paste"), {}};
+    for (const auto &node : nodes) {
+        const QString copy = VTFileManager::uniqueFilename(joined(folder, lastComponent(node->filename())));
+        VTLog::appendLog("Copying template file %@ to %@", node->filename(), copy);
+        const platform::Outcome copied =
+            fileoperations::makeInPlace({copy, m_baseFilename}, [&](const QString &staged) {
+                return fileoperations::copyFile(node->filename(), staged, patience);
+            });
+        if (copied.ok())
+            change.steps.append({DiskStep::Kind::Made, copy});
+        else
+            VTAlert::show(
+                {formatString(tr("Unable to copy file %@ to %@"), node->filename(), copy), checkDestination(copied)});
+    }
+    m_history.add(change);
+    showPasted(change, folder);
+}
+
+void VTTemplateOutlineController::pasteFolders(const QString &text, const QString &folder)
+{
+    const auto folders = indentedlist::foldersIn(text);
+    if (!folders) {
+        VTAlert::show({tr("The text is no list of folders"), folders.outcome().description()});
+        return;
+    }
+    DiskChange change{tr("Paste"), {}};
+    for (const QString &relative : *folders) {
+        const QString path = joined(folder, relative);
+        if (platform::kindOf(path) == platform::FileKind::Folder)
+            continue; // its folders go into the one that is there
+        VTLog::appendLog("Adding new folder %@", path);
+        const platform::Outcome made = fileoperations::createDirectory(path, patience);
+        if (!made.ok()) {
+            VTAlert::show({formatString(tr("Unable to create folder %@"), path), checkDestination(made)});
+            break;
+        }
+        const bool goesAlong = std::any_of(change.steps.begin(), change.steps.end(),
+                                           [&](const DiskStep &step) { return platform::isInside(path, step.path); });
+        if (!goesAlong)
+            change.steps.append({DiskStep::Kind::Made, path});
+    }
+    m_history.add(change);
+    showPasted(change, folder);
+}
+
+void VTTemplateOutlineController::showPasted(const DiskChange &change, const QString &folder)
+{
+    if (folder == filesFolder())
+        populateTemplateStructure();
+    else
+        rereadFolder(folder);
+    if (!change.steps.isEmpty()) {
+        m_views.outlineView->expand(m_model.indexOf(nodeAtPath(folder)));
+        selectOnly(change.steps.constFirst().path);
+    }
+}
+
+void VTTemplateOutlineController::renameSeveral()
+{
+    const QModelIndexList indexes = selectedIndexes();
+    const QStringList paths = selectedPaths();
+    QList<RenamedItem> items;
+    for (qsizetype i = 0; i < paths.size(); ++i) {
+        const bool isFolder = TemplateTreeModel::nodeAt(indexes[i])->isFolderItem();
+        const QString name = lastComponent(paths[i]);
+        items.append({name, isFolder ? name.size() : platform::withoutExtension(name).size()});
+    }
+    auto *sheet = new RenameSheet(
+        items, [paths](const QStringList &names) { return problemOfNames(paths, names); },
+        m_views.outlineView->window());
+    whenLeft<RenameSheet>(*sheet, *this, [this, paths](RenameSheet &left, bool accepted) {
+        if (accepted && editingIsAllowed())
+            renameAll(paths, left.names());
+    });
+    sheet->open();
+}
+
+/// What would go wrong with the names, in a sentence; null when nothing would.
+QString VTTemplateOutlineController::problemOfNames(const QStringList &paths, const QStringList &names)
+{
+    QStringList targets;
+    for (qsizetype i = 0; i < paths.size(); ++i) {
+        const QString &name = names[i];
+        if (name.isEmpty() || VTFileManager::validateFilename(name) != name ||
+            platform::toNative(name).size() > platform::longestName)
+            return tr("“%1” cannot be a name.").arg(platform::forOneLine(name));
+        const QString target = joined(parentPath(paths[i]), name);
+        if (targets.contains(target, Qt::CaseInsensitive))
+            return tr("Two of them would be called “%1”.").arg(platform::forOneLine(name));
+        targets.append(target);
+        if (!paths.contains(target, Qt::CaseInsensitive) && platform::kindOf(target) != platform::FileKind::Missing)
+            return tr("There is another item called “%1”.").arg(platform::forOneLine(name));
+    }
+    return {};
+}
+
+/// All or none: they go by names of their own in between, because one may get the name that another gives up. What
+/// cannot be renamed takes back what was.
+void VTTemplateOutlineController::renameAll(const QStringList &paths, const QStringList &names)
+{
+    DiskChange change{tr("Rename"), {}};
+    const auto move = [&](const QString &from, const QString &to) {
+        const platform::Outcome moved = fileoperations::moveFile(from, to, patience);
+        if (moved.ok())
+            change.steps.append({DiskStep::Kind::Moved, from, to});
+        return moved;
+    };
+    const auto between = [&](qsizetype i) {
+        return joined(parentPath(paths[i]), QStringLiteral(".being renamed %1").arg(i));
+    };
+    platform::Outcome outcome;
+    for (QList<qsizetype> level : byDepth(paths)) {
+        level.removeIf([&](qsizetype i) { return names[i] == lastComponent(paths[i]); });
+        for (const qsizetype i : level)
+            outcome = outcome.ok() ? move(paths[i], between(i)) : outcome;
+        for (const qsizetype i : level)
+            outcome = outcome.ok() ? move(between(i), joined(parentPath(paths[i]), names[i])) : outcome;
+    }
+    if (!outcome.ok()) {
+        const DiskSteps done = change.steps;
+        for (auto step = done.crbegin(); step != done.crend(); ++step)
+            static_cast<void>(fileoperations::moveFile(step->other, step->path, patience)); // the log names what stays
+        change.steps.clear();
+        VTAlert::show({tr("Unable to rename the items"), checkDestination(outcome)});
+    }
+    m_history.add(change);
+    populateTemplateStructure();
+}
