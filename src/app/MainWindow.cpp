@@ -5,6 +5,7 @@
 #include "parameters/table/VTProjectTableController.h"
 #include "platform/base/NativePath.h"
 #include "support/Settings.h"
+#include "templates/TemplateLibrary.h"
 #include "templates/editor/TemplatePane.h"
 #include "ui/Icons.h"
 #include "ui/ProgressLine.h"
@@ -31,11 +32,8 @@ QStringList bundlesIn(const QMimeData &data)
 {
     QStringList bundles;
     for (const QUrl &url : data.urls()) {
-        QString path = url.toLocalFile();
-        if (path.endsWith(u'/'))
-            path.chop(1);
-        if (platform::extensionOf(path).compare(QLatin1String("tzt"), Qt::CaseInsensitive) == 0)
-            bundles.append(path);
+        if (library::isTemplateFile(url.toLocalFile()))
+            bundles.append(url.toLocalFile());
     }
     return bundles;
 }
@@ -156,6 +154,7 @@ void MainWindow::showPaneInMenus()
     m_paneActions += list->insertSeparator(before);
     auto *items = new QMenu(tr("&Items"), menuBar());
     items->addActions(m_templatePane->treeActions());
+    items->insertSeparator(items->actions().value(2)); // below what adds
     items->addSeparator();
     items->addMenu(m_templatePane->labelMenu());
     m_paneActions += menuBar()->insertMenu(menuBar()->actions().constLast(), items);

@@ -5,11 +5,14 @@
 #include "ui/Icons.h"
 
 #include <QMenu>
+#include <QStyleOptionToolButton>
+#include <QStylePainter>
 
 namespace {
 
 constexpr int widest = 200; // pixels: the project's own levels are what one looks for
 constexpr int longestPath = 420;
+constexpr int room = 12;
 
 } // namespace
 
@@ -40,12 +43,20 @@ void PlaceButton::setPlace(const QString &folder)
     updateGeometry();
 }
 
-/// The toolkit's own leaves room for a menu's arrow, which the crumb's chevron stands for.
 QSize PlaceButton::sizeHint() const
 {
-    QSize size = QToolButton::sizeHint();
-    size.setHeight(qMax(fontMetrics().height(), iconSize().height()) + 8);
-    return size;
+    const int content = qMax(fontMetrics().height(), iconSize().height());
+    return {iconSize().width() + fontMetrics().horizontalAdvance(text()) + room, content + room};
+}
+
+/// Without the arrow of a menu: it would stand between the crumbs like one of their chevrons.
+void PlaceButton::paintEvent(QPaintEvent *)
+{
+    QStylePainter painter(this);
+    QStyleOptionToolButton option;
+    initStyleOption(&option);
+    option.features &= ~(QStyleOptionToolButton::HasMenu | QStyleOptionToolButton::Menu);
+    painter.drawComplexControl(QStyle::CC_ToolButton, option);
 }
 
 void PlaceButton::fillMenu()

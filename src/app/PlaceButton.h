@@ -18,6 +18,9 @@ public:
 
     [[nodiscard]] QSize sizeHint() const override;
 
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
 Q_SIGNALS:
     void placeChosen(const QString &folder);
     /** Another one is wanted, by a panel. */

@@ -14,6 +14,7 @@
 #include "platform/files/ApplicationBundle.h"
 #include "platform/files/FileWatch.h"
 #include "preferences/VTPreferenceController.h"
+#include "preferences/VTShortcutKeyTableDelegate.h"
 #include "support/FileOperations.h"
 #include "support/Notifications.h"
 #include "support/Settings.h"
@@ -37,7 +38,9 @@ const QString siblingApplication = QStringLiteral("com.vantrel.Clipwell");
 
 TessaroAppDelegate::TessaroAppDelegate()
 {
-    VTBugReporter::startBugReporter(); // what it finds is the last run's, and so goes into the last run's log
+    VTBugReporter::startBugReporter({}, {}, [this](const QString &report) {
+        m_crashReport = report;
+    }); // what it finds is the last run's, and so goes into the last run's log
     VTLog::createNewLog();
     settings::registerDefaults();
 }
@@ -114,6 +117,10 @@ void TessaroAppDelegate::followTemplate(const QString &name, QString &seen)
 
 void TessaroAppDelegate::applicationDidFinishLaunching()
 {
+    auto &keys = VTShortcutKeyTableDelegate::sharedController();
+    connect(&keys, &VTShortcutKeyTableDelegate::commandRequested, this, &TessaroAppDelegate::performCommand);
+    if (VTShortcutKeyTableDelegate::hasKeys()) // else nobody needs to be asked
+        keys.watchKeys();
     if (settings::firstRun.isOn()) {
         const int answer = VTAlert::show(
             {tr("Welcome to Tessaro"),
@@ -128,8 +135,27 @@ void TessaroAppDelegate::applicationDidFinishLaunching()
             helpUserManual();
         static_cast<void>(settings::firstRun.turn(false)); // who cannot store it is greeted again
     }
+    tellOfCrash();
     offerToPutAwayLeftovers();
     Q_EMIT Notifications::hub().VTTessaroEditFirstParameter();
+}
+
+/// Where a bug reporter is installed, it has done so.
+void TessaroAppDelegate::tellOfCrash()
+{
+    const QString report = std::exchange(m_crashReport, {});
+    if (report.isNull() || VTBugReporter::handsOver())
+        return;
+    const int answer = VTAlert::show(
+        {tr("Tessaro ended unexpectedly the last time"),
+         tr("A report of it lies on this computer; what it says of the program helps to mend the fault. Your projects "
+            "and templates are as they were."),
+         tr("OK"),
+         tr("Show Report"),
+         {},
+         VTAlert::defaultReturn});
+    if (answer == VTAlert::alternateReturn)
+        platform::revealInFileBrowser(report);
 }
 
 void TessaroAppDelegate::offerToPutAwayLeftovers()

@@ -79,6 +79,8 @@ public Q_SLOTS:
     void destinationBrowseDidEnd(int returnCode);
 
     void importTemplate();
+    /** The one that is selected, as an archive for people elsewhere. */
+    void exportTemplate();
     void restoreDefaultTemplates();
     void clearHistory();
     void newTemplate();
@@ -128,6 +130,7 @@ private:
     void importOldTessaroTemplate();
     void restoreShippedTemplates();
     void offerToPutAwayLeftovers();
+    void tellOfCrash();
     [[nodiscard]] bool isImporting() const;
     void showUndo();
     void closeIfWanted();
@@ -149,6 +152,7 @@ private:
     bool m_templatesShown = false;      ///< the pane is filled when it is first shown: that would only slow the start
     bool m_closesLater = false;
     bool m_awaitsLibrary = false;
+    QString m_crashReport;  ///< of the last run; null when it ended well
     int m_imports = 0;      ///< bundles that are being taken in
     QString m_seenTemplate; ///< "selectedProjectTemplate" and "defaultTemplate" when they were last looked at
     QString m_seenDefault;

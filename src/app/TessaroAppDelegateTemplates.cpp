@@ -5,15 +5,20 @@
 #include "parameters/table/VTProjectTableController.h"
 #include "platform/base/MainThread.h"
 #include "platform/base/NativePath.h"
+#include "platform/desktop/Desktop.h"
 #include "support/FileOperations.h"
 #include "support/Notifications.h"
 #include "support/VTAlert.h"
+#include "support/VTLocalPaths.h"
 #include "support/VTLog.h"
+#include "templates/TemplateLibrary.h"
 #include "templates/TemplateMigration.h"
 #include "templates/VTDataController.h"
 #include "templates/editor/TemplatePane.h"
 #include "ui/FilePanels.h"
 #include "ui/ImportPanel.h"
+
+#include <QFileDialog>
 
 void TessaroAppDelegate::importTemplate()
 {
@@ -23,18 +28,47 @@ void TessaroAppDelegate::importTemplate()
     panel->open();
 }
 
+void TessaroAppDelegate::exportTemplate()
+{
+    const QString name = m_window->shownPane() == MainWindow::Pane::Templates
+                             ? m_window->templatePane().tableController().selectedTemplate()
+                             : m_window->selectedTemplate();
+    if (name.isEmpty())
+        return;
+    auto *panel = new QFileDialog(m_window.get());
+    panel->setWindowTitle(tr("Export “%1”").arg(platform::forOneLine(name)));
+    panel->setOption(QFileDialog::DontUseNativeDialog);
+    panel->setAcceptMode(QFileDialog::AcceptSave);
+    panel->setFileMode(QFileDialog::AnyFile);
+    panel->setNameFilter(QStringLiteral("*.tzt.zip"));
+    panel->setWindowModality(Qt::WindowModal);
+    panel->setDirectory(VTLocalPaths::userDirectory());
+    panel->selectFile(name + QStringLiteral(".tzt.zip"));
+    panel->setLabelText(QFileDialog::Accept, tr("Export"));
+    makePlain(*panel);
+    whenLeft<QFileDialog>(*panel, *this, [this, name](QFileDialog &left, bool accepted) {
+        QString file = left.selectedFiles().value(0);
+        if (!accepted || file.isEmpty())
+            return;
+        if (!library::isTemplateFile(file))
+            file += QStringLiteral(".tzt.zip");
+        if (library::exportTemplate(name, file).ok())
+            platform::revealInFileBrowser(file);
+    });
+    panel->open();
+}
+
 bool TessaroAppDelegate::openFile(const QString &path)
 {
     VTLog::appendLog("User opened file %@", path);
-    const QString plain = path.size() > 1 && path.endsWith(u'/') ? path.chopped(1) : path;
-    if (platform::extensionOf(plain).toLower() != u"tzt")
+    if (!library::isTemplateFile(path))
         return false;
     bringToFront();
     if (m_window->shownPane() != MainWindow::Pane::Templates) // where a name may be being typed
         toolbarTemplateAction();
     ++m_imports;
     auto &list = m_window->templatePane().tableController();
-    platform::performBeside([&list, plain] { list.addTemplateFromFile(plain); },
+    platform::performBeside([&list, path] { list.addTemplateFromFile(path); },
                             [this] {
                                 --m_imports;
                                 closeIfWanted();
@@ -68,7 +102,8 @@ void TessaroAppDelegate::openFiles(const QStringList &paths)
     for (const QString &path : paths) {
         if (!openFile(path))
             VTAlert::show({platform::formatString(tr("%@ is not a template"), platform::lastComponent(path)),
-                           tr("Tessaro takes in templates: folders whose name ends in “.tzt”.")});
+                           tr("Tessaro takes in templates: folders whose name ends in “.tzt”, and archives of them, in "
+                              "“.tzt.zip”.")});
     }
 }
 
@@ -124,7 +159,12 @@ void TessaroAppDelegate::clearHistory()
     VTAlert::show(
         {tr("History successfully cleared"),
          tr("To switch history logging off entirely, go to Preferences and deselect Save History next to each "
-            "parameter in the Parameters tab.")});
+            "parameter in the Parameters tab."),
+         {},
+         {},
+         {},
+         {},
+         true});
 }
 
 void TessaroAppDelegate::newTemplate()

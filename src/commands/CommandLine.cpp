@@ -10,6 +10,7 @@
 #include "support/VTAuthorization.h"
 #include "support/VTLog.h"
 #include "templates/EditingGuard.h"
+#include "templates/TemplateLibrary.h"
 
 #include <QCoreApplication>
 
@@ -201,7 +202,7 @@ Result<Invocation> readCommandLine(const QStringList &words)
     if (const Verb *verb = verbOf(words, count))
         return WordReader(words.mid(count), *verb).read();
     const QString &first = words[0];
-    if (!first.startsWith(u'-') && first.endsWith(QLatin1String(".tzt"), Qt::CaseInsensitive)) {
+    if (!first.startsWith(u'-') && library::isTemplateFile(first)) {
         Invocation window;
         window.files = words;
         return window;

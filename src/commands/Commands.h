@@ -19,6 +19,7 @@ int removeTemplate(const Invocation &invocation);
 int defaultTemplate(const Invocation &invocation);
 int showTemplate(const Invocation &invocation);
 int importTemplates(const Invocation &invocation);
+int exportTemplate(const Invocation &invocation);
 int importStructure(const Invocation &invocation);
 int restoreTemplates(const Invocation &invocation);
 

@@ -192,14 +192,34 @@ int commands::importTemplates(const Invocation &invocation)
     int status = ExitStatus::done;
     for (const QString &path : invocation.arguments) {
         const QString bundle = platform::absolutePath(path);
-        const int one = platform::extensionOf(bundle).toLower() == u"tzt"
-                            ? finish(library::addTemplate(bundle))
-                            : complain(ExitStatus::failed,
-                                       Text::tr("%1 is not a template: its name does not end in “.tzt”.").arg(bundle));
+        const int one =
+            library::isTemplateFile(bundle)
+                ? finish(library::addTemplate(bundle))
+                : complain(
+                      ExitStatus::failed,
+                      Text::tr("%1 is not a template: its name ends neither in “.tzt” nor in “.tzt.zip”.").arg(bundle));
         if (one != ExitStatus::done)
             status = one;
     }
     return status;
+}
+
+int commands::exportTemplate(const Invocation &invocation)
+{
+    const QString name = invocation.argument(0);
+    if (const Outcome isKnown = known(name); !isKnown.ok())
+        return complain(isKnown);
+    QString file = invocation.argument(1).isNull() ? name : invocation.argument(1);
+    if (!file.endsWith(QLatin1String(".zip"), Qt::CaseInsensitive))
+        file += file.endsWith(QLatin1String(".tzt"), Qt::CaseInsensitive) ? QStringLiteral(".zip")
+                                                                          : QStringLiteral(".tzt.zip");
+    file = platform::absolutePath(file);
+    if (platform::kindOf(file) != platform::FileKind::Missing)
+        return complain(ExitStatus::notOverwritten, Text::tr("%1 exists already. Please say another name.").arg(file));
+    if (!library::exportTemplate(name, file).ok()) // it has said why
+        return ExitStatus::failed;
+    print(file + u'\n');
+    return ExitStatus::done;
 }
 
 int commands::importStructure(const Invocation &invocation)

@@ -108,9 +108,17 @@ constexpr Verb table[] = {
      .arguments = "PATH...",
      .least = 1,
      .most = -1,
-     .help = QT_TRANSLATE_NOOP("Commands", "Takes in bundles (NAME.tzt); one of the same name goes to the Trash."),
+     .help = QT_TRANSLATE_NOOP(
+         "Commands", "Takes in bundles (NAME.tzt) and archives of them (NAME.tzt.zip); one of the same name goes "
+                     "to the Trash."),
      .run = commands::importTemplates,
      .completes = Completes::File},
+    {.words = "template export",
+     .arguments = "NAME [FILE]",
+     .least = 1,
+     .most = 2,
+     .help = QT_TRANSLATE_NOOP("Commands", "Writes a template as one archive, NAME.tzt.zip, and prints its path."),
+     .run = commands::exportTemplate},
     {.words = "template structure",
      .arguments = "NAME",
      .least = 1,

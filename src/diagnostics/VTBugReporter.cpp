@@ -60,11 +60,21 @@ QString newReportIn(const QString &folder, const QString &name, const QDateTime 
     return written && *written > launch ? last : QString();
 }
 
+bool isSwitchedOff()
+{
+    return globalsettings::isOn(QStringLiteral("disable-crash-reporter"));
+}
+
+/// Null without one.
+QString shippedReporter()
+{
+    const QString shipped = platform::ApplicationBundle::main().resource(QStringLiteral("Bug Reporter.app"));
+    return shipped.isNull() ? QString() : platform::executableOf(shipped);
+}
+
 void handOver(const QString &report)
 {
-    const auto &bundle = platform::ApplicationBundle::main();
-    const QString shipped = bundle.resource(QStringLiteral("Bug Reporter.app"));
-    if (const QString program = shipped.isNull() ? QString() : platform::executableOf(shipped); !program.isNull())
+    if (const QString program = shippedReporter(); !program.isNull())
         return VTTask::runTaskAndReturn(program, {report});
     const QString entry = platform::registeredApplication(reporterIdentifier);
     if (entry.isNull() || !platform::openWithDesktopEntry(entry, report).ok())
@@ -90,7 +100,7 @@ QString check(const QString &givenName, const QString &plistPath)
     if (report.isNull())
         return {};
     VTLog::appendLog("Application crashed on last launch");
-    if (globalsettings::isOn(QStringLiteral("disable-crash-reporter")))
+    if (isSwitchedOff())
         VTLog::appendLogAndPrint("Crash reporter disabled");
     else
         handOver(report);
@@ -107,6 +117,12 @@ QStringList VTBugReporter::reportFolders()
             folders.append(joined(VTLocalPaths::logDirectory(domain), QLatin1String(name)));
     }
     return folders;
+}
+
+bool VTBugReporter::handsOver()
+{
+    return !isSwitchedOff() &&
+           (!shippedReporter().isNull() || !platform::registeredApplication(reporterIdentifier).isNull());
 }
 
 QString VTBugReporter::checkForCrashes(const QString &name, const QString &plistPath)

@@ -27,6 +27,9 @@ public:
     /** A record in somebody's home belongs to them: a path below "Users" goes to the user named there. */
     static void chownPlist(const QString &path);
 
+    /** Whether there is a bug reporter that a report is handed to, and it is not switched off. */
+    [[nodiscard]] static bool handsOver();
+
     /** Where reports are looked for, in this order. */
     [[nodiscard]] static QStringList reportFolders();
 };

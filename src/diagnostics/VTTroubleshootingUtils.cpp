@@ -195,8 +195,13 @@ QString VTTroubleshootingUtils::gatherLogsForApps(const QStringList &names, Sile
         packed = fileoperations::compressFile(folder, archive);
     static_cast<void>(platform::removeOwnTree(folder)); // it lies in the temporary folder
     if (silent == Silent::No && packed.ok())
-        VTAlert::show(
-            {Text::tr("Logs gathered successfully"), Text::tr("The gathered logs were placed on your desktop.")});
+        VTAlert::show({Text::tr("Logs gathered successfully"),
+                       Text::tr("The gathered logs were placed on your desktop."),
+                       {},
+                       {},
+                       {},
+                       {},
+                       true});
     else if (silent == Silent::No)
         VTAlert::show({Text::tr("Logs could not be gathered"),
                        withCause(Text::tr("Please check your file permissions."), packed)});

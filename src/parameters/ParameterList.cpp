@@ -1,6 +1,7 @@
 #include "parameters/ParameterList.h"
 
 #include <QCoreApplication>
+#include <QRegularExpression>
 #include <algorithm>
 #include <array>
 
@@ -157,10 +158,29 @@ FilenameParameters withNewParameter(FilenameParameters list, const QString &titl
     return list;
 }
 
+QString tidyChoices(const QString &typed)
+{
+    static const QRegularExpression between(QStringLiteral("[,\\n\\r]"));
+    QStringList choices;
+    for (const QString &choice : typed.split(between)) {
+        if (!choice.trimmed().isEmpty())
+            choices.append(choice.trimmed());
+    }
+    return choices.join(u',');
+}
+
 FilenameParameters withEntry(FilenameParameters list, int row, const QString &key, const QVariant &value)
 {
-    if (row >= 0 && row < list.size())
-        list[row].setEntry(key, value);
+    if (row < 0 || row >= list.size())
+        return list;
+    FilenameParameter &parameter = list[row];
+    parameter.setEntry(key, value);
+    const bool changesChoices = key == QLatin1String(recordkey::kind) || key == QLatin1String(recordkey::defaultValue);
+    if (changesChoices && parameter.kind() == FilenameParameter::Kind::Choice) {
+        parameter.setEntry(QLatin1String(recordkey::defaultValue), tidyChoices(parameter.defaultValue()));
+        if (!parameter.choices().contains(parameter.value()))
+            parameter.setValue(parameter.choices().value(0));
+    }
     return list;
 }
 

@@ -32,6 +32,9 @@ inline constexpr int columnCount = 7;
 [[nodiscard]] bool isEditable(const FilenameParameters &list, int row, Column column);
 
 [[nodiscard]] FilenameParameters withNewParameter(FilenameParameters list, const QString &title);
+/** Choices as they are kept: commas or line ends between them, without blanks around and empty ones. */
+[[nodiscard]] QString tidyChoices(const QString &typed);
+/** A choice list's default is tidied, and its value one of the choices: the first where it is none. */
 [[nodiscard]] FilenameParameters withEntry(FilenameParameters list, int row, const QString &key, const QVariant &value);
 [[nodiscard]] FilenameParameters without(const FilenameParameters &list, const QList<int> &rows);
 

@@ -12,9 +12,11 @@
 #include "ui_Prefs_Dialog.h"
 
 #include <QAction>
+#include <QComboBox>
 #include <QHeaderView>
 #include <QMimeData>
 #include <QRegularExpressionValidator>
+#include <QStyledItemDelegate>
 #include <ctime>
 #include <memory>
 
@@ -25,6 +27,17 @@ namespace {
 constexpr int rowHeight = 28;
 constexpr int longestSeparator = 10;
 const QStringList separators{"_", "-", ".", " "};
+
+/// A blank in a list would be an empty row.
+class BlankNamer : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+    QString displayText(const QVariant &value, const QLocale &) const override
+    {
+        return value.toString() == u" " ? ParametersPane::tr("(blank)") : value.toString();
+    }
+};
 
 } // namespace
 
@@ -42,6 +55,8 @@ ParametersPane::ParametersPane(Ui::Prefs_Dialog &ui, QWidget &window)
 
     auto *separator = m_ui.separator;
     separator->addItems(separators);
+    separator->setInsertPolicy(QComboBox::NoInsert);
+    separator->setItemDelegate(new BlankNamer(separator));
     separator->setEditText(settings::separatorChar.text());
     // Neither can be in a folder's name, so neither would be seen again.
     separator->setValidator(new QRegularExpressionValidator(
@@ -98,12 +113,25 @@ void ParametersPane::setUpTable()
     table->setWatchDelegate(this);
     table->addWatchKeys(WatchKeys::deleteKeys(), "removeFilenameParam");
     connect(&m_parameters, &ParameterEditorModel::listChanged, this, &ParametersPane::showPreview);
+    connect(table, &QAbstractItemView::clicked, this, &ParametersPane::openKinds);
     connect(&m_parameters, &ParameterEditorModel::rowsDropped, this, [table](const QList<int> &rows) {
         table->clearSelection();
         for (const int row : rows)
             table->selectionModel()->select(table->model()->index(row, 0),
                                             QItemSelectionModel::Select | QItemSelectionModel::Rows);
     });
+}
+
+/// One click, as on any list to choose from.
+void ParametersPane::openKinds(const QModelIndex &clicked)
+{
+    auto *table = m_ui.parameterTable;
+    if (clicked.column() != static_cast<int>(Column::Kind) || !clicked.flags().testFlag(Qt::ItemIsEditable))
+        return;
+    if (!table->indexWidget(clicked))
+        table->edit(clicked);
+    if (auto *kinds = qobject_cast<QComboBox *>(table->indexWidget(clicked)))
+        kinds->showPopup();
 }
 
 /// The order of the parameters, from the keyboard.

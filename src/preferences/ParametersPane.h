@@ -29,6 +29,7 @@ public Q_SLOTS:
 private:
     void setUpTable();
     void moveSelected(int by);
+    void openKinds(const QModelIndex &clicked);
     void follow();
     void populateDateFormats();
     void changeDateFormat();

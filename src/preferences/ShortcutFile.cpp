@@ -21,6 +21,12 @@ bool belongsTo(const QVariantMap &entry, const Owner &owner)
                                             : entry.value("commandid").toString() == owner.commandIdentifier;
 }
 
+Shortcut shortcutIn(const QVariantMap &entry)
+{
+    return {static_cast<quint16>(entry.value("keycode").toUInt()),
+            static_cast<quint16>(entry.value("modifiers").toUInt())};
+}
+
 } // namespace
 
 QVariantMap without(QVariantMap file, const Owner &owner)
@@ -50,15 +56,27 @@ QVariantMap withAssignment(QVariantMap file, const Owner &owner, const Shortcut 
     return result;
 }
 
+QList<Sharer> sharersOf(const QVariantMap &file, const Owner &owner, const Shortcut &shortcut)
+{
+    QList<Sharer> sharers;
+    for (const QVariant &value : file.value(watchlist).toList()) {
+        const QVariantMap entry = value.toMap();
+        if (shortcutIn(entry) != shortcut || belongsTo(entry, owner))
+            continue;
+        const QString called = entry.value("commandid").toString();
+        sharers.append({entry.value("bundleid").toString(),
+                        called.isEmpty() ? entry.value("commandparams").toStringList().join(u' ') : called});
+    }
+    return sharers;
+}
+
 QHash<QString, Shortcut> assignmentsOf(const QVariantMap &file, const QString &bundleIdentifier)
 {
     QHash<QString, Shortcut> found;
     for (const QVariant &value : file.value(watchlist).toList()) {
         const QVariantMap entry = value.toMap();
         if (entry.value("bundleid").toString() == bundleIdentifier)
-            found.insert(entry.value("commandid").toString(),
-                         {static_cast<quint16>(entry.value("keycode").toUInt()),
-                          static_cast<quint16>(entry.value("modifiers").toUInt())});
+            found.insert(entry.value("commandid").toString(), shortcutIn(entry));
     }
     return found;
 }

@@ -14,6 +14,8 @@ struct Shortcut
 {
     quint16 keyCode = 0;
     quint16 modifiers = 0; ///< the sum of the masks below
+
+    bool operator==(const Shortcut &) const = default;
 };
 inline constexpr quint16 command = 0x100;
 inline constexpr quint16 shift = 0x200;
@@ -34,6 +36,14 @@ struct Owner
 [[nodiscard]] QVariantMap without(QVariantMap file, const Owner &owner);
 /** By the commands' identifiers; of several for one command the last counts. */
 [[nodiscard]] QHash<QString, Shortcut> assignmentsOf(const QVariantMap &file, const QString &bundleIdentifier);
+
+/** Who else has the same keys: bundle identifiers and commands' identifiers (or parameters), in the file's order. */
+struct Sharer
+{
+    QString bundleIdentifier;
+    QString command;
+};
+[[nodiscard]] QList<Sharer> sharersOf(const QVariantMap &file, const Owner &owner, const Shortcut &shortcut);
 
 /** "com.vantrel.shortcutkeys.plist" in the user's preferences folder. */
 [[nodiscard]] QString filePath();

@@ -60,6 +60,21 @@ QVariantList commandList()
     return platform::readPropertyListFile(path).valueOr({}).toMap().value(QStringLiteral("VTKeys")).toList();
 }
 
+/// As the "shortcuts" specification of freedesktop.org writes keys; empty when the key has no name in this layout.
+QString triggerOf(const shortcuts::Shortcut &shortcut)
+{
+    const QString symbol = platform::textOfKeyCode(shortcut.keyCode).symbol;
+    if (symbol.isEmpty())
+        return {};
+    QString trigger;
+    for (const auto &[mask, text] : {std::pair{shortcuts::control, "CTRL+"}, std::pair{shortcuts::shift, "SHIFT+"},
+                                     std::pair{shortcuts::option, "ALT+"}, std::pair{shortcuts::command, "LOGO+"}}) {
+        if ((shortcut.modifiers & mask) != 0)
+            trigger += QLatin1String(text);
+    }
+    return trigger + symbol;
+}
+
 QString nameOrUnknown(const shortcuts::Shortcut &shortcut)
 {
     const QString name = VTShortcutKeyTableDelegate::nameForKeyCode(shortcut.keyCode, shortcut.modifiers);
@@ -80,33 +95,99 @@ QString VTShortcutKeyTableDelegate::managerPath()
            QStringLiteral("/Vantrel/Shared Resources/VTShortcutKeyManager");
 }
 
+bool VTShortcutKeyTableDelegate::hasKeys()
+{
+    return !shortcuts::assignmentsOf(shortcuts::read().valueOr({}), ownIdentifier()).isEmpty();
+}
+
+VTShortcutKeyTableDelegate::VTShortcutKeyTableDelegate()
+{
+    connect(&m_desktop, &platform::GlobalShortcuts::activated, this, &VTShortcutKeyTableDelegate::commandRequested);
+    connect(&m_desktop, &platform::GlobalShortcuts::failed, this,
+            [](const QString &reason) { VTLog::appendLog("The desktop's global shortcuts: %@", reason); });
+}
+
 void VTShortcutKeyTableDelegate::setViews(VTShortcutKeyTableview *tableView, QLabel *versionAlertText)
 {
     m_tableView = tableView;
-    const bool hasManager = platform::targetExists(managerPath());
-    versionAlertText->setVisible(!hasManager);
-    tableView->setEnabled(hasManager);
+    m_stateText = versionAlertText;
     tableView->setModel(this);
     connect(tableView, &VTShortcutKeyTableview::keyPressed, this, &VTShortcutKeyTableDelegate::keyChanged);
     connect(tableView, &VTShortcutKeyTableview::cleared, this, &VTShortcutKeyTableDelegate::clearShortcutKey);
     populateKeyData();
+    watchKeys();
+}
+
+void VTShortcutKeyTableDelegate::watchKeys()
+{
+    if (platform::targetExists(managerPath())) {
+        m_watcher = Watcher::Manager;
+        return showState();
+    }
+    showState();
+    platform::GlobalShortcuts::ask(*this, [this](bool offered) {
+        m_watcher = offered ? Watcher::Desktop : Watcher::Nobody;
+        bindInDesktop();
+        showState();
+    });
+}
+
+void VTShortcutKeyTableDelegate::showState()
+{
+    if (!m_tableView || !m_stateText)
+        return;
+    QString state;
+    if (!m_file.ok())
+        state = tr("The shortcuts cannot be changed: %1 Please put that file aside and try again.")
+                    .arg(m_file.description());
+    else if (m_watcher == Watcher::Desktop)
+        state = tr("Your desktop watches these keys while Tessaro runs, and may ask you about them.");
+    else if (m_watcher == Watcher::Nobody)
+        state = tr("Nothing on this computer watches these keys: neither the shortcut key manager nor a desktop with "
+                   "global shortcuts is there.");
+    m_stateText->setText(state);
+    m_stateText->setVisible(!state.isEmpty());
+    m_tableView->setEnabled(m_watcher == Watcher::Manager || m_watcher == Watcher::Desktop);
+}
+
+/// The same keys for two commands: only one of them can have them.
+QString VTShortcutKeyTableDelegate::sharerOf(const QVariantMap &file, const QString &identifier,
+                                             const shortcuts::Shortcut &shortcut) const
+{
+    const auto sharers = shortcuts::sharersOf(file, {ownIdentifier(), identifier, {}}, shortcut);
+    for (const shortcuts::Sharer &sharer : sharers) {
+        if (sharer.bundleIdentifier != ownIdentifier())
+            return platform::extensionOf(sharer.bundleIdentifier); // "com.vantrel.Clipwell"
+        const auto row = std::find_if(m_rows.begin(), m_rows.end(),
+                                      [&](const Row &other) { return other.identifier == sharer.command; });
+        if (row != m_rows.end())
+            return row->description;
+    }
+    return {};
 }
 
 void VTShortcutKeyTableDelegate::populateKeyData()
 {
     beginResetModel();
     m_rows.clear();
-    const auto assigned = shortcuts::assignmentsOf(shortcuts::read().valueOr({}), ownIdentifier());
+    const auto file = shortcuts::read();
+    m_file = !file && !file.outcome().is(platform::Cause::Missing) ? file.outcome() : platform::Outcome();
     for (const QVariant &value : commandList()) {
         const QVariantMap command = value.toMap();
-        Row row{command.value("id").toString(), command.value("description").toString(), {}};
-        if (row.identifier.isEmpty()) // nothing could ever call it
+        if (!command.value("id").toString().isEmpty()) // nothing could ever call it
+            m_rows.append({command.value("id").toString(), command.value("description").toString(), {}});
+    }
+    const QVariantMap entries = file.valueOr({});
+    const auto assigned = shortcuts::assignmentsOf(entries, ownIdentifier());
+    for (Row &row : m_rows) {
+        const auto shortcut = assigned.constFind(row.identifier);
+        if (shortcut == assigned.cend())
             continue;
-        if (const auto shortcut = assigned.constFind(row.identifier); shortcut != assigned.cend())
-            row.keyName = nameOrUnknown(*shortcut);
-        m_rows.append(row);
+        row.keyName = nameOrUnknown(*shortcut);
+        row.sharer = sharerOf(entries, row.identifier, *shortcut);
     }
     endResetModel();
+    showState();
 }
 
 QString VTShortcutKeyTableDelegate::nameOfKeyText(const QString &text)
@@ -162,21 +243,37 @@ platform::Result<QVariantMap> VTShortcutKeyTableDelegate::readForChange()
 
 bool VTShortcutKeyTableDelegate::store(const QVariantMap &file)
 {
-    if (const platform::Outcome written = shortcuts::write(file); !written.ok()) {
-        VTLog::appendLog("Unable to write the shortcut keys: %@", written.description());
-        return false;
-    }
-    platform::postSessionNotification(QStringLiteral("VTShortcutKeysReload"));
-    return true;
+    m_file = shortcuts::write(file);
+    if (!m_file.ok())
+        VTLog::appendLog("Unable to write the shortcut keys: %@", m_file.description());
+    else
+        platform::postSessionNotification(QStringLiteral("VTShortcutKeysReload"));
+    return m_file.ok();
 }
 
-void VTShortcutKeyTableDelegate::setUpManager()
+void VTShortcutKeyTableDelegate::tellWatcher()
 {
     if (platform::targetExists(managerPath()))
         VTTask::runTask(managerPath(), {QStringLiteral("-setup")});
+    else if (m_watcher == Watcher::Desktop)
+        bindInDesktop();
     else
         printToConsole(
             "Unable to setup shortcut keys - shortcut key manager doesn't exist. Please reinstall this software.");
+}
+
+void VTShortcutKeyTableDelegate::bindInDesktop()
+{
+    if (m_watcher != Watcher::Desktop)
+        return;
+    const auto assigned = shortcuts::assignmentsOf(shortcuts::read().valueOr({}), ownIdentifier());
+    QList<platform::GlobalShortcuts::Shortcut> wanted;
+    for (const QVariant &value : commandList()) {
+        const QString identifier = value.toMap().value("id").toString();
+        if (const auto shortcut = assigned.constFind(identifier); shortcut != assigned.cend())
+            wanted.append({identifier, value.toMap().value("description").toString(), triggerOf(*shortcut)});
+    }
+    m_desktop.bind(wanted);
 }
 
 bool VTShortcutKeyTableDelegate::setKeyboardShortcut(const QString &commandIdentifier, const QStringList &parameters,
@@ -185,7 +282,7 @@ bool VTShortcutKeyTableDelegate::setKeyboardShortcut(const QString &commandIdent
     const auto file = readForChange();
     if (!file || !store(shortcuts::withAssignment(*file, {ownIdentifier(), commandIdentifier, parameters}, shortcut)))
         return false;
-    setUpManager();
+    tellWatcher();
     return true;
 }
 
@@ -193,26 +290,34 @@ void VTShortcutKeyTableDelegate::keyChanged(int row, quint16 keyCode, Qt::Keyboa
 {
     if (row < 0 || row >= m_rows.size())
         return;
-    const shortcuts::Shortcut shortcut = shortcutOf(keyCode, modifiers);
-    if (setKeyboardShortcut(m_rows[row].identifier, {}, shortcut))
-        m_rows[row].keyName = nameOrUnknown(shortcut);
-    Q_EMIT dataChanged(index(row, ShortcutColumn), index(row, ShortcutColumn));
+    static_cast<void>(
+        setKeyboardShortcut(m_rows[row].identifier, {}, shortcutOf(keyCode, modifiers))); // the pane says what is
+    showAnew();
 }
 
 void VTShortcutKeyTableDelegate::clearShortcutKey()
 {
     const auto selected = m_tableView ? m_tableView->firstSelectedRow() : std::nullopt;
-    if (selected && *selected < m_rows.size()) {
-        const bool exists = platform::kindOf(shortcuts::filePath()) != platform::FileKind::Missing;
-        const auto file = readForChange();
-        const bool cleared =
-            exists && file && store(shortcuts::without(*file, {ownIdentifier(), m_rows[*selected].identifier, {}}));
-        if (cleared || !exists)
-            m_rows[*selected].keyName = QString();
+    if (selected && *selected < m_rows.size() &&
+        platform::kindOf(shortcuts::filePath()) != platform::FileKind::Missing) {
+        if (const auto file = readForChange())
+            static_cast<void>(store(shortcuts::without(*file, {ownIdentifier(), m_rows[*selected].identifier, {}})));
     }
-    if (!m_rows.isEmpty())
-        Q_EMIT dataChanged(index(0, ShortcutColumn), index(static_cast<int>(m_rows.size()) - 1, ShortcutColumn));
-    setUpManager();
+    showAnew();
+    tellWatcher();
+}
+
+/// The rows stay; keys and who shares them may be others. What could not be stored stays said.
+void VTShortcutKeyTableDelegate::showAnew()
+{
+    const auto selected = m_tableView ? m_tableView->firstSelectedRow() : std::nullopt;
+    const platform::Outcome written = m_file;
+    populateKeyData();
+    if (m_file.ok() && !written.ok())
+        m_file = written;
+    if (selected)
+        m_tableView->selectRow(*selected);
+    showState();
 }
 
 int VTShortcutKeyTableDelegate::rowCount(const QModelIndex &parent) const
@@ -229,12 +334,15 @@ QVariant VTShortcutKeyTableDelegate::data(const QModelIndex &index, int role) co
 {
     const Row row = m_rows.value(index.row());
     const bool isShortcut = index.column() == ShortcutColumn;
+    const QString keys = row.sharer.isNull() ? row.keyName : tr("%1 (also for “%2”)").arg(row.keyName, row.sharer);
     if (role == Qt::DisplayRole)
-        return isShortcut ? row.keyName : row.description;
+        return isShortcut ? keys : row.description;
+    if (role == Qt::ToolTipRole && isShortcut && !row.sharer.isNull())
+        return tr("Only one of the two can have these keys. Please press others for one of them.");
     if (role == Qt::DecorationRole && !isShortcut)
         return icons::application();
     if (role == Qt::AccessibleTextRole)
-        return isShortcut ? (row.keyName.isNull() ? tr("no shortcut") : row.keyName) : row.description;
+        return isShortcut ? (row.keyName.isNull() ? tr("no shortcut") : keys) : row.description;
     return {};
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/desktop/GlobalShortcuts.h"
 #include "preferences/ShortcutFile.h"
 
 #include <QAbstractTableModel>
@@ -10,7 +11,8 @@ class VTShortcutKeyTableview;
 
 /**
  * The commands and the keys that trigger them, in every program. The program does not watch the keyboard itself: a
- * manager, shared by the maker's applications, does, and is told of every change. One object for the whole process.
+ * manager, shared by the maker's applications, does, and is told of every change; where it is not installed, the
+ * desktop, if it offers that. One object for the whole process.
  * Main thread only.
  */
 class VTShortcutKeyTableDelegate : public QAbstractTableModel
@@ -24,6 +26,8 @@ public:
 
     /** The views go away with their window; then it lets go of them. */
     void setViews(VTShortcutKeyTableview *tableView, QLabel *versionAlertText);
+    /** Where the desktop has to do it, hands it the keys that are assigned; commandRequested() comes for them. */
+    void watchKeys();
     /** Reads the commands and their assignments anew. */
     void populateKeyData();
 
@@ -39,6 +43,8 @@ public:
     [[nodiscard]] static shortcuts::Shortcut shortcutOf(quint16 keyCode, Qt::KeyboardModifiers modifiers);
 
     [[nodiscard]] static QString managerPath();
+    /** Whether any command has keys. */
+    [[nodiscard]] static bool hasKeys();
 
     [[nodiscard]] int rowCount(const QModelIndex &parent = {}) const override;
     [[nodiscard]] int columnCount(const QModelIndex &parent = {}) const override;
@@ -51,18 +57,32 @@ public Q_SLOTS:
     void keyChanged(int row, quint16 keyCode, Qt::KeyboardModifiers modifiers);
     void clearShortcutKey();
 
+Q_SIGNALS:
+    void commandRequested(const QString &identifier);
+
 private:
+    enum class Watcher { Unknown, Manager, Desktop, Nobody };
     struct Row
     {
         QString identifier;
         QString description;
-        QString keyName; ///< null without a shortcut
+        QString keyName;     ///< null without a shortcut
+        QString sharer = {}; ///< what else has the same keys, as people know it
     };
-    VTShortcutKeyTableDelegate() = default;
+    VTShortcutKeyTableDelegate();
     [[nodiscard]] static platform::Result<QVariantMap> readForChange();
-    [[nodiscard]] static bool store(const QVariantMap &file);
-    static void setUpManager();
+    [[nodiscard]] bool store(const QVariantMap &file);
+    void tellWatcher();
+    void bindInDesktop();
+    void showState();
+    void showAnew();
+    [[nodiscard]] QString sharerOf(const QVariantMap &file, const QString &identifier,
+                                   const shortcuts::Shortcut &shortcut) const;
 
     QList<Row> m_rows;
     QPointer<VTShortcutKeyTableview> m_tableView;
+    QPointer<QLabel> m_stateText;
+    platform::Outcome m_file; ///< how the shared file was last read or written
+    Watcher m_watcher = Watcher::Unknown;
+    platform::GlobalShortcuts m_desktop;
 };

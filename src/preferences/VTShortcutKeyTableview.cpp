@@ -11,7 +11,9 @@ constexpr int leastRowHeight = 28;
 bool isModifier(int key)
 {
     return key == Qt::Key_Shift || key == Qt::Key_Control || key == Qt::Key_Alt || key == Qt::Key_Meta ||
-           key == Qt::Key_AltGr || key == Qt::Key_Super_L || key == Qt::Key_Super_R || key == Qt::Key_CapsLock;
+           key == Qt::Key_AltGr || key == Qt::Key_Super_L || key == Qt::Key_Super_R || key == Qt::Key_CapsLock ||
+           key == Qt::Key_NumLock || key == Qt::Key_ScrollLock || key == Qt::Key_Hyper_L || key == Qt::Key_Hyper_R ||
+           key == Qt::Key_Mode_switch || key == Qt::Key_unknown;
 }
 
 class CapturingDelegate : public QStyledItemDelegate
@@ -98,6 +100,8 @@ void VTShortcutKeyTableview::keyPressEvent(QKeyEvent *event)
 {
     const int key = event->key();
     const auto row = firstSelectedRow();
+    if (event->isAutoRepeat() && key != Qt::Key_Up && key != Qt::Key_Down)
+        return; // a key that was captured and is still held: what it stands for has just been assigned
     if (key == Qt::Key_Backspace || key == Qt::Key_Delete)
         Q_EMIT cleared();
     else if (row && (key == Qt::Key_Return || key == Qt::Key_Enter))

@@ -19,7 +19,8 @@ public:
         QString defaultButton; ///< null: the desktop's own title
         QString alternateButton;
         QString otherButton;
-        std::optional<int> safeAnswer;   ///< where an answer loses something: the one that loses nothing
+        std::optional<int> safeAnswer; ///< where an answer loses something: the one that loses nothing
+        bool isGoodNews = false;
         QWidget *parentWindow = nullptr; ///< null: the main window
     };
 

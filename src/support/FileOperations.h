@@ -39,7 +39,8 @@ Outcome removeFile(const QString &path, seconds timeout);
 Outcome trashFile(const QString &path, ShouldAuth shouldAuth = ShouldAuth::Yes, QString *inTrash = nullptr,
                   const QString &knownAs = {});
 Outcome trashFile(const QString &path, seconds timeout, QString *inTrash = nullptr);
-Outcome compressFile(const QString &path, const QString &toDestinationFile);
+/** What the archive could not hold, or not under its name, is logged, and noted where that is asked for. */
+Outcome compressFile(const QString &path, const QString &toDestinationFile, QStringList *leftOut = nullptr);
 
 /** Unlike the given operation, a folder that cannot be read is a failure. Cause::Cancelled as the monitor says. */
 Outcome copyContentsOfDirectory(const QString &source, const QString &toPath, seconds timeout,

@@ -134,6 +134,7 @@ bool VTAlert::present(const Texts &texts, QWidget *parentWindow)
     insertIfGiven(dictionary, "alternateButtonTitle", texts.alternateButton);
     insertIfGiven(dictionary, "otherButtonTitle", texts.otherButton);
     insertIfGiven(dictionary, "informativeText", texts.informativeText);
+    dictionary.insert(QStringLiteral("isGoodNews"), texts.isGoodNews);
     if (texts.safeAnswer)
         dictionary.insert(QStringLiteral("safeAnswer"), *texts.safeAnswer);
     insertIfGiven(dictionary, "didEndSelector", QString::fromLatin1(m_didEndSelector));
@@ -170,6 +171,7 @@ void VTAlert::alertSheetWithDictionary(const QVariantMap &dictionary)
                                       text("alternateButtonTitle"),
                                       text("otherButtonTitle"),
                                       safe.isValid() ? std::optional(safe.toInt()) : std::nullopt,
+                                      dictionary.value(QStringLiteral("isGoodNews")).toBool(),
                                       m_parentWindow};
     const QPointer<VTAlert> self(this);
     installedPresenter->present(sheet, [self](int code) {

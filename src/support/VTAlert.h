@@ -38,6 +38,7 @@ public:
         /// Where an answer loses something: the one that loses nothing. Its button has the focus, and Escape presses
         /// it.
         std::optional<int> safeAnswer = {};
+        bool isGoodNews = false; ///< that something was done: no warning
     };
 
     VTAlert() = default;
@@ -71,7 +72,7 @@ public:
                           const QByteArray &didEndSelector, Block block, VTAlert *alertObject);
 
     /** Main thread only: hands the texts to the presenter. Keys: messageText, defaultButtonTitle, alternateButtonTitle,
-        otherButtonTitle, informativeText, didEndSelector, safeAnswer; each optional. */
+        otherButtonTitle, informativeText, didEndSelector, safeAnswer, isGoodNews; each optional. */
     void alertSheetWithDictionary(const QVariantMap &dictionary);
     Q_INVOKABLE void alertDidEnd(VTAlert *alert, qlonglong returnCode, void *contextInfo);
     /** Blocks for the interval on the calling thread, then ends the alert with the default button. */

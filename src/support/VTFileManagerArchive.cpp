@@ -21,7 +21,7 @@ struct Text
 using platform::joined;
 using platform::Outcome;
 
-Outcome fileoperations::compressFile(const QString &path, const QString &toDestinationFile)
+Outcome fileoperations::compressFile(const QString &path, const QString &toDestinationFile, QStringList *leftOut)
 {
     if (const Outcome trashed = trashFile(toDestinationFile, ShouldAuth::No); !trashed.ok()) {
         VTLog::appendLog("Unable to move %@ to the Trash: %@", toDestinationFile, trashed.description());
@@ -39,6 +39,8 @@ Outcome fileoperations::compressFile(const QString &path, const QString &toDesti
         VTLog::appendLog("Left out of the archive %@: %@", toDestinationFile, skipped);
     for (const QString &renamed : report.renamed)
         VTLog::appendLog("Name changed in the archive %@: %@", toDestinationFile, renamed);
+    if (leftOut)
+        *leftOut = report.skipped + report.renamed;
     const Outcome packed = report.outcome.ok() ? platform::moveItem(growing, toDestinationFile) : report.outcome;
     if (packed.ok())
         return {};

@@ -1,12 +1,16 @@
 #include "templates/TemplateLibrary.h"
 
+#include "platform/archive/ZipArchive.h"
 #include "platform/base/FormatString.h"
+#include "platform/base/MainThread.h"
 #include "platform/base/NativePath.h"
 #include "platform/files/FileSystem.h"
+#include "platform/files/TemporaryFolder.h"
 #include "support/FileOperations.h"
 #include "support/InPlace.h"
 #include "support/Settings.h"
 #include "support/VTAlert.h"
+#include "support/VTLocalPaths.h"
 #include "support/VTLog.h"
 #include "templates/VTDataController.h"
 
@@ -24,6 +28,9 @@ namespace {
 
 constexpr std::chrono::seconds patience{20};
 constexpr std::chrono::seconds importPatience{10};
+constexpr qsizetype mostNamed = 10;
+const QString bundleEnding = QStringLiteral(".tzt");
+const QString archiveEnding = QStringLiteral(".tzt.zip");
 
 struct Text
 {
@@ -44,6 +51,11 @@ Change refused(Cause cause, const QString &name, const QString &message, const Q
 QString nameOf(const QString &bundle)
 {
     return withoutExtension(lastComponent(bundle));
+}
+
+bool isArchive(const QString &path)
+{
+    return path.endsWith(archiveEnding, Qt::CaseInsensitive);
 }
 
 } // namespace
@@ -127,10 +139,62 @@ Change renameTemplate(const QString &name, const QString &typed)
     return {{}, cleaned, true, steps};
 }
 
+bool isTemplateFile(const QString &path)
+{
+    const QString plain = path.size() > 1 && path.endsWith(u'/') ? path.chopped(1) : path;
+    return plain.endsWith(bundleEnding, Qt::CaseInsensitive) || isArchive(plain);
+}
+
+Outcome exportTemplate(const QString &name, const QString &file)
+{
+    VTLog::appendLog("Exporting template %@ to %@", name, file);
+    QStringList leftOut;
+    const Outcome packed = fileoperations::compressFile(VTDataController::bundlePath(name), file, &leftOut);
+    if (!packed.ok())
+        return failed(packed, name, formatString(Text::tr("Unable to export %@"), name), checkDestination(packed))
+            .outcome;
+    if (!leftOut.isEmpty())
+        VTAlert::show({Text::tr("%n items of %1 could not be put into the archive as they are", nullptr,
+                                static_cast<int>(leftOut.size()))
+                           .arg(name),
+                       platform::forDisplay(leftOut.first(qMin(mostNamed, leftOut.size())).join(u'\n'))});
+    return {};
+}
+
+/// Out of sight first; then it is taken in as a folder is.
+static Change addArchive(const QString &archive)
+{
+    const auto told = [&](const Outcome &failure) {
+        return failed(
+            failure, nameOf(archive), formatString(Text::tr("Unable to read %@"), archive),
+            withCause(Text::tr("Please ask for the file again, or unpack it and take in the folder."), failure));
+    };
+    const auto folder = platform::TemporaryFolder::make(VTLocalPaths::tempDirectory());
+    if (!folder)
+        return told(folder.outcome());
+    const platform::ExtractReport report =
+        platform::resultInBackground([&] { return platform::extractZip(archive, folder->path()); });
+    if (!report.outcome.ok())
+        return told(report.outcome);
+    if (!report.refused.isEmpty())
+        return told(Outcome::failure(Cause::Damaged, report.refused.constFirst()));
+    QStringList bundles;
+    for (const auto &entry : fileoperations::entriesOf(folder->path())) {
+        if (entry.name.endsWith(bundleEnding, Qt::CaseInsensitive))
+            bundles.append(joined(folder->path(), entry.name));
+    }
+    if (bundles.size() != 1)
+        return refused(Cause::Invalid, nameOf(archive), formatString(Text::tr("%@ holds no template"), archive),
+                       Text::tr("An archive of a template holds one folder whose name ends in “.tzt”."));
+    return addTemplate(bundles.constFirst());
+}
+
 Change addTemplate(const QString &given)
 {
     const QString bundle = given.size() > 1 && given.endsWith(u'/') ? given.chopped(1) : given;
     VTLog::appendLog("Adding template file %@", bundle);
+    if (isArchive(bundle) && !VTFileManager::isDirectoryAtPath(bundle))
+        return addArchive(bundle);
     const QString location = VTDataController::templateLocation();
     if (platform::isInside(bundle, location))
         return {{}, nameOf(bundle)};

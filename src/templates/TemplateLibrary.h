@@ -29,8 +29,14 @@ struct Change
 [[nodiscard]] Change removeTemplate(const QString &name);
 /** A template that was the default stays it under its new name. */
 [[nodiscard]] Change renameTemplate(const QString &name, const QString &typed);
-/** Brings a bundle into the library; one of the same name goes to the Trash. One that lies in the library is left
-   alone. Any thread. */
+/** Whether the name is that of a bundle ("Film.tzt", with or without a slash) or of one in an archive
+   ("Film.tzt.zip"). */
+[[nodiscard]] bool isTemplateFile(const QString &path);
+/** As one zip archive with the bundle in it, for people elsewhere; what stands at the place goes to the Trash. What an
+   archive cannot hold is said. */
+platform::Outcome exportTemplate(const QString &name, const QString &file);
+/** Brings a bundle, or the one in an archive, into the library; one of the same name goes to the Trash. One that lies
+   in the library is left alone. Any thread. */
 [[nodiscard]] Change addTemplate(const QString &bundle);
 
 [[nodiscard]] bool isDefaultTemplate(const QString &name);

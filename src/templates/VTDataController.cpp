@@ -167,11 +167,14 @@ platform::Result<QStringList> VTDataController::templateNames(const QString &loc
     const auto entries = platform::listFolder(location);
     if (!entries)
         return entries.outcome();
-    QStringList names;
+    QList<FolderEntry> templates;
     for (const FolderEntry &entry : *entries) {
         if (platform::extensionOf(entry.name).toLower() == u"tzt")
-            names.append(platform::withoutExtension(entry.name));
+            templates.append({platform::withoutExtension(entry.name), entry.kind});
     }
+    QStringList names; // in the order of what is shown: "Film", "Film 2", although "Film 2.tzt" comes before "Film.tzt"
+    for (const FolderEntry &entry : platform::inListingOrder(std::move(templates)))
+        names.append(entry.name);
     return names;
 }
 

@@ -26,8 +26,10 @@ ImportPanel::ImportPanel(QWidget *parent, Takes takes, QString extension)
     , m_extension(std::move(extension))
 {
     setWindowModality(Qt::WindowModal);
-    setFileMode(takes == Takes::FilesAndFolders ? ExistingFiles : Directory);
-    setOption(ShowDirsOnly, takes != Takes::FilesAndFolders);
+    setFileMode(takes == Takes::Folders ? Directory : ExistingFiles);
+    setOption(ShowDirsOnly, takes == Takes::Folders);
+    if (takes == Takes::Bundles)
+        setNameFilter(QStringLiteral("*.%1.zip").arg(m_extension));
     setOption(ReadOnly); // here nothing is made, renamed or removed
     setLabelText(Accept, tr("Import"));
     makePlain(*this); // the desktops' own panels take either files or one folder
@@ -46,7 +48,9 @@ ImportPanel::ImportPanel(QWidget *parent, Takes takes, QString extension)
 
 bool ImportPanel::isBundle(const QString &path) const
 {
-    return m_takes == Takes::Bundles && platform::extensionOf(path).compare(m_extension, Qt::CaseInsensitive) == 0;
+    const QString ending = u'.' + m_extension;
+    return m_takes == Takes::Bundles && (path.endsWith(ending, Qt::CaseInsensitive) ||
+                                         path.endsWith(ending + QStringLiteral(".zip"), Qt::CaseInsensitive));
 }
 
 /// A double click, or Return, on a bundle chooses what is selected: to the user it is one item.

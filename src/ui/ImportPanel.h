@@ -13,7 +13,8 @@ class ImportPanel : public QFileDialog
 public:
     enum class Takes { FilesAndFolders, Folders, Bundles };
 
-    /** For bundles: folders whose names end in the extension, each chosen as one item; others are entered. */
+    /** For bundles: folders whose names end in the extension, each chosen as one item, and archives of them
+       (".tzt.zip"); other folders are entered. */
     ImportPanel(QWidget *parent, Takes takes, QString extension = {});
     /** Absolute paths, in the panel's order. */
     [[nodiscard]] const QStringList &chosen() const { return m_chosen; }

@@ -59,7 +59,8 @@ Buttons addButtons(QMessageBox *box, const AlertPresenter::Sheet &sheet)
 void fill(QMessageBox *box, const AlertPresenter::Sheet &sheet, const Buttons &buttons)
 {
     const auto [main, alternate, other, safe] = buttons;
-    const QIcon icon = (safe && safe != main) || !alternate ? icons::named("warning") : icons::application();
+    const bool isWarning = !sheet.isGoodNews && ((safe && safe != main) || !alternate);
+    const QIcon icon = isWarning ? icons::named("warning") : icons::application();
     box->setIconPixmap(icon.pixmap(pictureSide, pictureSide));
     box->setText(platform::forDisplay(sheet.messageText));
     box->setInformativeText(platform::forDisplay(sheet.informativeText));

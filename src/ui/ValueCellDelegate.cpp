@@ -11,6 +11,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPainter>
+#include <QPlainTextEdit>
 #include <functional>
 
 namespace {
@@ -21,9 +22,11 @@ constexpr int chevronSide = 16;
 constexpr int margin = 8;
 constexpr int signSide = 16;
 constexpr int signGap = 4;
+constexpr int rounding = 2; // a text is elided by fractions of a pixel
 constexpr float hairlineOpacity = 0.15F;
 constexpr float secondaryOpacity = 0.65F;
 constexpr int accentWidth = 3;
+constexpr int linesShown = 7;
 
 CellEditor editorOf(const QModelIndex &index)
 {
@@ -44,13 +47,14 @@ int hintWidth(const QStyleOptionViewItem &option, const QModelIndex &index)
     if (hint.isEmpty())
         return 0;
     const int sign = index.data(CellRole::IsProblem).toBool() ? signSide + signGap : 0;
-    return qMin(option.fontMetrics.horizontalAdvance(hint) + sign + 2 * margin, option.rect.width() / 2);
+    return qMin(option.fontMetrics.horizontalAdvance(hint) + sign + 2 * margin + rounding, option.rect.width() / 2);
 }
 
 /// Where the list's sign is, if the cell has one.
 int chevronWidth(const QModelIndex &index)
 {
-    const bool offersItems = editorOf(index) != CellEditor::Text && index.flags().testFlag(Qt::ItemIsEditable);
+    const bool offersItems = editorOf(index) != CellEditor::Text && editorOf(index) != CellEditor::Lines &&
+                             index.flags().testFlag(Qt::ItemIsEditable);
     return offersItems && !index.data(CellRole::Items).toStringList().isEmpty() ? chevronSide + margin : 0;
 }
 
@@ -72,8 +76,19 @@ void drawHint(QPainter &painter, const QStyleOptionViewItem &option, const QMode
         option.fontMetrics.elidedText(index.data(CellRole::Hint).toString(), Qt::ElideRight, place.width()));
 }
 
+/// Over the rows below, or above where there is no room.
+void placeLines(QWidget &editor, const QRect &cell)
+{
+    const int height = editor.fontMetrics().lineSpacing() * linesShown + margin;
+    const int lowest = editor.parentWidget()->height() - height;
+    editor.setGeometry(cell.x(), qMax(0, qMin(cell.y(), lowest)), cell.width(), height);
+    editor.raise();
+}
+
 QString textIn(const QWidget *editor)
 {
+    if (const auto *lines = qobject_cast<const QPlainTextEdit *>(editor))
+        return lines->toPlainText();
     const auto *combo = qobject_cast<const QComboBox *>(editor);
     return combo ? combo->currentText() : qobject_cast<const QLineEdit *>(editor)->text();
 }
@@ -168,7 +183,12 @@ QWidget *ValueCellDelegate::createEditor(QWidget *parent, const QStyleOptionView
 {
     const CellEditor kind = editorOf(index);
     QWidget *editor = nullptr;
-    if (kind == CellEditor::Text) {
+    if (kind == CellEditor::Lines) {
+        auto *lines = new QPlainTextEdit(parent);
+        lines->setTabChangesFocus(true);
+        lines->setLineWrapMode(QPlainTextEdit::NoWrap);
+        editor = lines;
+    } else if (kind == CellEditor::Text) {
         auto *line = new QLineEdit(parent);
         line->setFrame(false);
         editor = line;
@@ -237,6 +257,10 @@ void ValueCellDelegate::setEditorData(QWidget *editor, const QModelIndex &index)
 void ValueCellDelegate::show(QWidget *editor, const QModelIndex &index) const
 {
     const QString value = index.data(Qt::EditRole).toString();
+    if (auto *lines = qobject_cast<QPlainTextEdit *>(editor)) {
+        lines->setPlainText(QString(value).replace(u',', u'\n'));
+        return lines->moveCursor(QTextCursor::End);
+    }
     if (auto *combo = qobject_cast<QComboBox *>(editor)) {
         // A value that is not among the choices selects none: showing the first one would put it in by the back door.
         combo->setCurrentIndex(combo->findData(value));
@@ -263,6 +287,8 @@ void ValueCellDelegate::updateEditorGeometry(QWidget *editor, const QStyleOption
 {
     QStyleOptionViewItem cell = option;
     cell.fontMetrics = editor->fontMetrics();
+    if (qobject_cast<QPlainTextEdit *>(editor))
+        return placeLines(*editor, option.rect);
     const int hint = hintWidth(cell, index);
     // The hairline stays, and what a hint says of what is being typed.
     editor->setGeometry(option.rect.adjusted(0, 0, hint > 0 ? -hint - chevronWidth(index) : 0, -1));

@@ -3,7 +3,12 @@
 #include <QStyledItemDelegate>
 
 /** How a value is edited in its cell. */
-enum class CellEditor { Text, History, Choices };
+enum class CellEditor {
+    Text,
+    History,
+    Choices,
+    Lines, ///< several values with commas between them, each on a line of its own while they are edited
+};
 Q_DECLARE_METATYPE(CellEditor)
 
 /** What a model of values tells the delegate besides Qt's own roles. */
@@ -23,7 +28,8 @@ enum : int {
 };
 }
 
-/** Draws the cells of a form and makes the editor that suits a value: a line, a line with memory, a list of choices. */
+/** Draws the cells of a form and makes the editor that suits a value: a line, a line with memory, a list of
+   choices, several lines. */
 class ValueCellDelegate : public QStyledItemDelegate
 {
     Q_OBJECT

@@ -115,6 +115,7 @@ private Q_SLOTS:
         QTest::newRow("a typed bundle") << none << "B.TZT" << false << QStringList{"B.TZT"} << "Here";
         QTest::newRow("several, and a folder")
             << QStringList{"A.tzt", "B.TZT", "Folder"} << "" << false << QStringList{"A.tzt", "B.TZT"} << "Here";
+        QTest::newRow("an archive") << QStringList{"C.tzt.zip"} << "" << true << QStringList{"C.tzt.zip"} << "Here";
         QTest::newRow("a double click") << QStringList{"A.tzt"} << "" << true << QStringList{"A.tzt"} << "Here";
     }
     void bundlesAreChosen()
@@ -125,14 +126,15 @@ private Q_SLOTS:
         QFETCH(QStringList, chosen);
         QFETCH(QString, shown);
         const TemporaryHome home;
-        for (const char *file : {"Here/A.tzt/Files/x", "Here/B.TZT/Files/x", "Here/Folder/x", "Here/file.txt"})
+        for (const char *file :
+             {"Here/A.tzt/Files/x", "Here/B.TZT/Files/x", "Here/Folder/x", "Here/file.txt", "Here/C.tzt.zip"})
             writeFile(home.file(file));
         ImportPanel panel(nullptr, ImportPanel::Takes::Bundles, "tzt");
         panel.setDirectory(home.path() + "/Here");
         panel.open();
         auto *view = panel.findChild<QListView *>("listView");
-        QTRY_COMPARE(view->model()->rowCount(view->rootIndex()), 3); // no files
-        for (int row = 0; row < 3; ++row) {
+        QTRY_COMPARE(view->model()->rowCount(view->rootIndex()), 4); // no other files
+        for (int row = 0; row < 4; ++row) {
             const QModelIndex index = view->model()->index(row, 0, view->rootIndex());
             if (!selected.contains(index.data().toString()))
                 continue;

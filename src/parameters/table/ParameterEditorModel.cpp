@@ -25,6 +25,14 @@ QList<int> rowsOf(const QMimeData &data)
     return rows;
 }
 
+CellEditor editorOf(const FilenameParameters &list, int row, Column column)
+{
+    if (column == Column::Kind)
+        return CellEditor::Choices;
+    const bool isChoice = list.value(row).kind() == FilenameParameter::Kind::Choice;
+    return column == Column::Default && isChoice ? CellEditor::Lines : CellEditor::Text;
+}
+
 } // namespace
 
 int ParameterEditorModel::rowCount(const QModelIndex &parent) const
@@ -53,10 +61,10 @@ QVariant ParameterEditorModel::data(const QModelIndex &index, int role) const
                (isFlag(column) ? (value.toBool() ? tr("on") : tr("off")) : value.toString());
     case Qt::ToolTipRole:
         return column == Column::Default && list.value(index.row()).kind() == FilenameParameter::Kind::Choice
-                   ? tr("The choices, with commas between them; the first is the default.")
+                   ? tr("The choices, each on a line of its own; the first is the default.")
                    : QVariant();
     case CellRole::Editor:
-        return QVariant::fromValue(column == Column::Kind ? CellEditor::Choices : CellEditor::Text);
+        return QVariant::fromValue(editorOf(list, index.row(), column));
     case CellRole::Items:
         return column == Column::Kind ? QVariant(parameterlist::kindNames()) : QVariant();
     case CellRole::Secondary:
@@ -74,7 +82,7 @@ QVariant ParameterEditorModel::headerData(int section, Qt::Orientation orientati
                                     tr("History"), tr("Required"), tr("Locked")};
     static const QStringList tips{tr("What the value is called"),
                                   tr("How it is filled in"),
-                                  tr("What it begins with; for a choice, the choices with commas between them"),
+                                  tr("What it begins with; for a choice, the choices"),
                                   tr("Begins a new folder level"),
                                   tr("Remembers what was typed, and offers it again (Save History)"),
                                   tr("Must not be empty"),

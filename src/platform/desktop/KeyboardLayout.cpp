@@ -44,6 +44,12 @@ QString textOf(xkb_keysym_t symbol)
     return xkb_keysym_to_utf8(symbol, bytes.data(), bytes.size()) > 0 ? QString::fromUtf8(bytes.data()) : QString();
 }
 
+QString nameOf(xkb_keysym_t symbol)
+{
+    std::array<char, 64> name{};
+    return xkb_keysym_get_name(symbol, name.data(), name.size()) > 0 ? QString::fromLatin1(name.data()) : QString();
+}
+
 } // namespace
 
 KeyText textOfKeyCode(quint16 keyCode)
@@ -68,7 +74,7 @@ KeyText textOfKeyCode(quint16 keyCode)
         const int count = xkb_keymap_key_get_syms_by_level(keymap.get(), keyCode, layout, level, &symbols);
         const QString text = count > 0 ? textOf(symbols[0]) : QString();
         if (!text.isEmpty())
-            return {true, text};
+            return {true, text, nameOf(symbols[0])};
     }
     return {true, std::nullopt};
 }

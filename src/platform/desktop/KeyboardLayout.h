@@ -22,6 +22,7 @@ struct KeyText
 {
     bool hasLayout = false;      ///< false: there is no keyboard layout to ask (no X server)
     std::optional<QString> text; ///< without modifiers; nothing when the key gives none in this layout
+    QString symbol = {};         ///< what it is called in the tables of X (keysymdef.h): "a", "F5", "Prior"
 };
 
 /** What the key of that hardware code gives in the layout that is in force at the moment of the call. Any thread. */
