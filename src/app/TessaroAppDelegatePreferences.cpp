@@ -32,7 +32,7 @@ void TessaroAppDelegate::showPreferences()
     m_preferences->setWindowFlag(Qt::Window);
     // In front of the window that they belong to, and on its screen, until they have been put elsewhere.
     if (!keepPlaceOf(*m_preferences, settings::preferencesPlace))
-        m_preferences->move(m_window->frameGeometry().center() - m_preferences->rect().center());
+        moveOver(*m_preferences, *m_window);
     m_preferences->show();
     m_preferences->raise();
     m_preferences->activateWindow();

@@ -55,6 +55,7 @@ ParametersPane::ParametersPane(Ui::Prefs_Dialog &ui, QWidget &window)
 
     auto *separator = m_ui.separator;
     separator->addItems(separators);
+    separator->lineEdit()->setAccessibleName(separator->accessibleName());
     separator->setInsertPolicy(QComboBox::NoInsert);
     separator->setItemDelegate(new BlankNamer(separator));
     separator->setEditText(settings::separatorChar.text());

@@ -42,7 +42,7 @@ VTPreferenceController::VTPreferenceController(QObject *delegate, QWidget *paren
     setAttribute(Qt::WA_DeleteOnClose);
     m_ui->setupUi(this);
     dressHints(*this);
-    resize(fontMetrics().averageCharWidth() * 92, fontMetrics().height() * 31); // every pane, at any font size
+    resize(fontMetrics().averageCharWidth() * 102, fontMetrics().height() * 31); // every pane, at any font size
     awakeFromNib();
 }
 

@@ -25,6 +25,8 @@ constexpr int signGap = 4;
 constexpr int rounding = 2; // a text is elided by fractions of a pixel
 constexpr float hairlineOpacity = 0.15F;
 constexpr float secondaryOpacity = 0.65F;
+constexpr float boxOpacity = 0.6F;
+constexpr float disabledBoxOpacity = 0.25F;
 constexpr int accentWidth = 3;
 constexpr int linesShown = 7;
 
@@ -56,6 +58,33 @@ int chevronWidth(const QModelIndex &index)
     const bool offersItems = editorOf(index) != CellEditor::Text && editorOf(index) != CellEditor::Lines &&
                              index.flags().testFlag(Qt::ItemIsEditable);
     return offersItems && !index.data(CellRole::Items).toStringList().isEmpty() ? chevronSide + margin : 0;
+}
+
+/// A box to check that can be seen in every palette: the style's own has the colour of a dark background.
+void drawBox(QPainter &painter, const QStyleOptionViewItem &cell, const QModelIndex &index)
+{
+    const QVariant check = index.data(Qt::CheckStateRole);
+    if (!check.isValid())
+        return;
+    QStyleOptionViewItem option = cell;
+    option.features |= QStyleOptionViewItem::HasCheckIndicator;
+    const QStyle *style = cell.widget ? cell.widget->style() : QApplication::style();
+    QRectF box(style->subElementRect(QStyle::SE_ItemViewItemCheckIndicator, &option, cell.widget));
+    box.adjust(1.5, 1.5, -1.5, -1.5);
+    const bool isEnabled = index.flags().testFlag(Qt::ItemIsEnabled);
+    const QColor text = cell.palette.color(QPalette::Active, QPalette::Text);
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(faint(text, isEnabled ? boxOpacity : disabledBoxOpacity), 1));
+    painter.drawRoundedRect(box, 2, 2);
+    if (check.toInt() == Qt::Checked) {
+        painter.setPen(QPen(faint(text, isEnabled ? 1.0F : boxOpacity), 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        const auto at = [&](double x, double y) {
+            return QPointF(box.x() + x * box.width(), box.y() + y * box.height());
+        };
+        painter.drawPolyline(QPolygonF{at(0.22, 0.52), at(0.43, 0.74), at(0.8, 0.28)});
+    }
+    painter.restore();
 }
 
 void drawHint(QPainter &painter, const QStyleOptionViewItem &option, const QModelIndex &index)
@@ -135,21 +164,23 @@ void ValueCellDelegate::initStyleOption(QStyleOptionViewItem *option, const QMod
     QStyledItemDelegate::initStyleOption(option, index);
     option->text = platform::forDisplay(option->text);
     option->decorationSize = QSize(16, 16);
+    option->features &= ~QStyleOptionViewItem::HasCheckIndicator; // drawBox() draws it
     option->state &= ~QStyle::State_HasFocus; // the whole row is marked; a frame within it would be drawn twice
     if (const int hint = hintWidth(*option, index); hint > 0)
         option->text = option->fontMetrics.elidedText(option->text, Qt::ElideRight,
                                                       option->rect.width() - hint - chevronWidth(index) - 2 * margin);
     if (!index.data(CellRole::Secondary).toBool())
         return;
-    for (const auto role : {QPalette::Text, QPalette::HighlightedText})
-        option->palette.setColor(role, faint(option->palette.color(role), secondaryOpacity));
+    for (const auto role : {QPalette::Text, QPalette::HighlightedText}) // what cannot be changed is read all the same
+        option->palette.setColor(role, faint(option->palette.color(QPalette::Active, role), secondaryOpacity));
 }
 
 void ValueCellDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const
 {
     QStyledItemDelegate::paint(painter, option, index);
+    drawBox(*painter, option, index);
     painter->save();
-    painter->setPen(faint(option.palette.color(QPalette::Text), hairlineOpacity));
+    painter->setPen(faint(option.palette.color(QPalette::Active, QPalette::Text), hairlineOpacity));
     painter->drawLine(option.rect.bottomLeft(), option.rect.bottomRight());
     const bool hasKeys = option.widget && option.widget->hasFocus();
     if (option.state.testFlag(QStyle::State_Selected) && index.column() == 0 && hasKeys)
@@ -199,10 +230,14 @@ QWidget *ValueCellDelegate::createEditor(QWidget *parent, const QStyleOptionView
     followTyping(*editor, index);
     const QString name = index.data(CellRole::AccessibleName).toString();
     editor->setAccessibleName(name);
+    const QString sentence = index.data(Qt::AccessibleDescriptionRole).toString();
+    editor->setAccessibleDescription(sentence);
     if (auto *combo = qobject_cast<QComboBox *>(editor)) { // whose name, to a reader on this desktop, is its value
-        combo->setAccessibleDescription(name);
-        if (combo->lineEdit())
+        combo->setAccessibleDescription(sentence.isEmpty() ? name : name + QStringLiteral(". ") + sentence);
+        if (combo->lineEdit()) {
             combo->lineEdit()->setAccessibleName(name);
+            combo->lineEdit()->setAccessibleDescription(sentence);
+        }
     }
     return editor;
 }

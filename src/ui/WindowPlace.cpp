@@ -45,6 +45,15 @@ bool keepPlaceOf(QWidget &window, const settings::Setting &place)
     return window.restoreGeometry(place.value().toByteArray());
 }
 
+void moveOver(QWidget &window, const QWidget &other)
+{
+    const QRect room = other.screen()->availableGeometry();
+    window.resize(window.size().boundedTo(room.size() - QSize(frame, frame)));
+    const QPoint wanted = other.frameGeometry().center() - window.rect().center();
+    const QPoint last = room.bottomRight() - QPoint(window.width(), window.height() + frame / 2);
+    window.move(qMax(room.x(), qMin(wanted.x(), last.x())), qMax(room.y(), qMin(wanted.y(), last.y())));
+}
+
 void resizeWithFont(QWidget &window, int width, int height)
 {
     const double larger = qMax(1.0, window.fontMetrics().height() / usualLineHeight);

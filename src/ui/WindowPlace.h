@@ -12,5 +12,8 @@ struct Setting;
  */
 bool keepPlaceOf(QWidget &window, const settings::Setting &place);
 
+/** In the middle of the other window, but whole on its screen, where that is large enough. */
+void moveOver(QWidget &window, const QWidget &other);
+
 /** The size, made larger as the font is larger than the usual one, but never larger than the screen. */
 void resizeWithFont(QWidget &window, int width, int height);

@@ -3,6 +3,7 @@
 #include "app/PlaceButton.h"
 #include "app/TessaroAppDelegate.h"
 #include "creation/Unfinished.h"
+#include "diagnostics/VTBugReporter.h"
 #include "harness/Records.h"
 #include "harness/SheetAnswerer.h"
 #include "harness/StoredSettings.h"
@@ -250,7 +251,7 @@ private Q_SLOTS:
             const auto inWindow = [&](QWidget *widget) {
                 return widget->mapTo(&window(), widget->rect().center());
             };
-            QTest::mouseClick(window().windowHandle(), Qt::LeftButton, {}, inWindow(part<QPushButton>("showButton")));
+            QTest::mouseClick(window().windowHandle(), Qt::LeftButton, {}, inWindow(part<QPushButton>("createButton")));
             QTest::keyClick(window().windowHandle(), Qt::Key_2, Qt::ControlModifier);
             createIsClosed = window().shownPane() == MainWindow::Pane::Project;
             if (byKey)
@@ -546,6 +547,27 @@ private Q_SLOTS:
             QVERIFY(leftovers().isEmpty());
             m_delegate.reset();
         }
+    }
+
+    /// Where no bug reporter is installed, the next start says it, once.
+    void aCrashIsSaid()
+    {
+        const QDateTime launched = QDateTime::currentDateTimeUtc().addSecs(-60);
+        storeSetting(settings::launch, launched);
+        const QString report = VTBugReporter::reportFolders().constFirst() + "/Tessaro_crashed.crash";
+        writeFile(report, "report");
+        QFile file(report);
+        QVERIFY(file.open(QIODevice::ReadWrite) &&
+                file.setFileTime(launched.addSecs(30), QFileDevice::FileModificationTime));
+        for (const bool isTold : {true, false}) {
+            SheetAnswerer answers({"OK"});
+            open();
+            QCOMPARE(answers.seen.size(), isTold ? 1 : 0);
+            m_delegate.reset();
+            if (isTold)
+                QVERIFY(answers.seen[0].startsWith("Tessaro ended unexpectedly the last time|"));
+        }
+        QVERIFY(QFile::remove(report));
     }
 
     void withoutTemplatesOrParameters()

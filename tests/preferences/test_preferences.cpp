@@ -26,6 +26,7 @@
 #include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QStackedWidget>
@@ -305,6 +306,39 @@ private Q_SLOTS:
         QVERIFY(answers.buttons.isEmpty());
         part<QPushButton>("restoreParameters")->click();
         QVERIFY(m_delegate->tableController().rowCount() > 3);
+    }
+
+    /// A kind is one click away; choices are lines, and what is not one of them is not left as the value.
+    void choicesAreAList()
+    {
+        open();
+        preferences()->toolbarParameters();
+        auto *table = part<VTTableView>("parameterTable");
+        const auto cell = [&](parameterlist::Column column) {
+            return table->model()->index(0, static_cast<int>(column));
+        };
+        QTest::mouseClick(table->viewport(), Qt::LeftButton, {},
+                          table->visualRect(cell(parameterlist::Column::Kind)).center());
+        auto *kinds = qobject_cast<QComboBox *>(table->indexWidget(cell(parameterlist::Column::Kind)));
+        QVERIFY(kinds && kinds->view()->isVisible());
+        QTest::keyClick(kinds->view(), Qt::Key_End);
+        QTest::keyClick(kinds->view(), Qt::Key_Return);
+        QCOMPARE(stored(settings::filenameTemplate).toList()[0].toMap()["type"].toInt(), 5);
+        QTRY_VERIFY(!QApplication::activePopupWidget() && QApplication::activeWindow() == preferences());
+        table->finishEditing();
+        table->edit(cell(parameterlist::Column::Default));
+        auto *lines = qobject_cast<QPlainTextEdit *>(table->indexWidget(cell(parameterlist::Column::Default)));
+        QVERIFY(lines && lines->height() > 3 * table->rowHeight(0) / 2);
+        QTRY_VERIFY(lines->hasFocus());
+        lines->selectAll();
+        QTest::keyClicks(lines, " Red ");
+        QTest::keyClick(lines, Qt::Key_Return);
+        QTest::keyClick(lines, Qt::Key_Return);
+        QTest::keyClicks(lines, "Light green,Blue, ");
+        QTest::keyClick(lines, Qt::Key_Tab);
+        const QVariantMap parameter = stored(settings::filenameTemplate).toList()[0].toMap();
+        QCOMPARE(parameter["defaultVal"].toString(), "Red,Light green,Blue");
+        QCOMPARE(parameter["val"].toString(), "Red");
     }
 
     /// Each change of the list, and what was typed and counted meanwhile stays.

@@ -2,6 +2,7 @@
 #include "harness/Answers.h"
 #include "harness/StoredSettings.h"
 #include "harness/TemporaryHome.h"
+#include "platform/archive/ZipArchive.h"
 #include "platform/base/NativePath.h"
 #include "platform/desktop/Desktop.h"
 #include "platform/files/FileSystem.h"
@@ -169,6 +170,42 @@ private Q_SLOTS:
         writeFile(m_in + "/Film.tzt", "a plain file");
         QCOMPARE(library::addTemplate(m_in + "/Film.tzt").outcome.cause(), Cause::NotAFolder);
         QVERIFY(targetExists(m_files + "/new"));
+    }
+
+    /// Out as an archive and in again it is the same; what is no archive of a template changes nothing.
+    void archivesGoOutAndIn()
+    {
+        writeFile(m_files + "/Sub/é template.txt", "text");
+        QVERIFY(VTFileManager::createDirectory(m_files + "/Empty"));
+        VTFileManager::setFinderColorIndex(6, m_files + "/Empty");
+        const QString archive = joined(m_home.path(), "out/Film by mail.tzt.zip");
+        QVERIFY(VTFileManager::createDirectory(joined(m_home.path(), "out")));
+        QVERIFY(library::isTemplateFile(archive) && library::isTemplateFile("/x/Film.TZT/"));
+        QVERIFY(!library::isTemplateFile("/x/Film.zip") && !library::isTemplateFile("/x/tzt"));
+        QVERIFY(library::exportTemplate("Film", archive).ok());
+        m_answers->answers = {1};
+        QVERIFY(library::removeTemplate("Film").isChanged);
+        const library::Change added = library::addTemplate(archive);
+        QVERIFY(added.isChanged && added.name == "Film");
+        QCOMPARE(readFile(m_files + "/Sub/é template.txt"), "text");
+        QCOMPARE(VTFileManager::finderColorIndexForPath(m_files + "/Empty"), 6);
+        // Cut off in the middle, or without a template in it.
+        const QByteArray whole = readFile(archive);
+        writeFile(archive, whole.left(whole.size() / 2));
+        m_answers->answers = {1, 1};
+        QVERIFY(!library::addTemplate(archive).outcome.ok());
+        QVERIFY(platform::compressZip(m_files, joined(m_home.path(), "out/none.tzt.zip")).outcome.ok());
+        QCOMPARE(library::addTemplate(joined(m_home.path(), "out/none.tzt.zip")).outcome.cause(), Cause::Invalid);
+        QCOMPARE(readFile(m_files + "/Sub/é template.txt"), "text");
+    }
+
+    /// As they are shown: the ending plays no part.
+    void inTheOrderOfTheirNames()
+    {
+        for (const char *name : {"Film Duplicate 2", "Film Duplicate", "film 10"})
+            static_cast<void>(m_home.file(QString("Templates/%1.tzt/Files/x").arg(name)));
+        const auto found = VTDataController::templateNames(joined(m_home.path(), "Templates"));
+        QCOMPARE(*found, QStringList({"Film", "film 10", "Film Duplicate", "Film Duplicate 2"}));
     }
 
 private:

@@ -36,6 +36,15 @@ CellEditor editorOf(const FilenameParameter &parameter)
     return parameter.savesHistory() ? CellEditor::History : CellEditor::Text;
 }
 
+/// For those to whom colour and lock say nothing.
+QString spokenValue(const FilenameParameter &parameter, bool isTypedOver)
+{
+    const QString value = VTProjectTableController::tr("%1: %2").arg(parameter.title(), parameter.value());
+    if (parameter.isLocked())
+        return VTProjectTableController::tr("%1, locked").arg(value);
+    return parameter.isAutomatic() && !isTypedOver ? VTProjectTableController::tr("%1, automatic").arg(value) : value;
+}
+
 } // namespace
 
 QVariant VTProjectTableController::data(const QModelIndex &index, int role) const
@@ -66,7 +75,7 @@ QVariant VTProjectTableController::valueData(qsizetype row, int role) const
     case Qt::EditRole:
         return parameter.value();
     case Qt::AccessibleTextRole:
-        return tr("%1: %2").arg(parameter.title(), parameter.value());
+        return spokenValue(parameter, rules::isTypedOver(parameter, m_automatic));
     case Qt::DecorationRole:
         return parameter.isLocked() ? icons::named("lock", icons::Tone::Secondary) : QVariant();
     case CellRole::Editor:

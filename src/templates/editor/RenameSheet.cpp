@@ -89,6 +89,8 @@ void RenameSheet::follow()
     for (int row = 0; row < m_table->rowCount(); ++row) {
         const bool changed = m_names[row] != m_items[row].name;
         m_table->item(row, 1)->setText(changed ? platform::forDisplay(m_names[row]) : QString());
+        m_table->item(row, 1)->setData(Qt::AccessibleTextRole,
+                                       changed ? platform::forDisplay(m_names[row]) : tr("stays as it is"));
         changes = changes || changed;
     }
     const QString problem = changes ? m_check(m_names) : QString();
