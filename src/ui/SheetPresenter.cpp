@@ -47,6 +47,7 @@ Buttons addButtons(QMessageBox *box, const AlertPresenter::Sheet &sheet)
                                                 : add(sheet.defaultButton, QMessageBox::AcceptRole);
     buttons.alternate = add(sheet.alternateButton, QMessageBox::RejectRole);
     buttons.other = add(sheet.otherButton, QMessageBox::DestructiveRole);
+    buttons.main->setIcon({}); // some desktops draw pictures on their own OK, and on no other
     buttons.safe = !sheet.safeAnswer                               ? nullptr
                    : *sheet.safeAnswer == VTAlert::alternateReturn ? buttons.alternate
                    : *sheet.safeAnswer == VTAlert::otherReturn     ? buttons.other

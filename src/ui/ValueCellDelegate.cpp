@@ -60,6 +60,13 @@ int chevronWidth(const QModelIndex &index)
     return offersItems && !index.data(CellRole::Items).toStringList().isEmpty() ? chevronSide + margin : 0;
 }
 
+QColor textColor(const QStyleOptionViewItem &cell)
+{
+    const bool isSelected = cell.state.testFlag(QStyle::State_Selected);
+    const auto group = cell.state.testFlag(QStyle::State_Active) ? QPalette::Active : QPalette::Inactive;
+    return cell.palette.color(group, isSelected ? QPalette::HighlightedText : QPalette::Text);
+}
+
 /// A box to check that can be seen in every palette: the style's own has the colour of a dark background.
 void drawBox(QPainter &painter, const QStyleOptionViewItem &cell, const QModelIndex &index)
 {
@@ -71,8 +78,8 @@ void drawBox(QPainter &painter, const QStyleOptionViewItem &cell, const QModelIn
     const QStyle *style = cell.widget ? cell.widget->style() : QApplication::style();
     QRectF box(style->subElementRect(QStyle::SE_ItemViewItemCheckIndicator, &option, cell.widget));
     box.adjust(1.5, 1.5, -1.5, -1.5);
-    const bool isEnabled = index.flags().testFlag(Qt::ItemIsEnabled);
-    const QColor text = cell.palette.color(QPalette::Active, QPalette::Text);
+    const bool isEnabled = index.flags().testFlag(Qt::ItemIsUserCheckable);
+    const QColor text = textColor(cell);
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(faint(text, isEnabled ? boxOpacity : disabledBoxOpacity), 1));
@@ -186,6 +193,11 @@ void ValueCellDelegate::paint(QPainter *painter, const QStyleOptionViewItem &opt
     if (option.state.testFlag(QStyle::State_Selected) && index.column() == 0 && hasKeys)
         painter->fillRect(option.rect.x(), option.rect.y(), accentWidth, option.rect.height() - 1,
                           option.widget->palette().highlight());
+    // Where a row has several cells to be in, the one that has the keys is framed.
+    if (option.state.testFlag(QStyle::State_HasFocus) && index.model()->columnCount() > 2) {
+        painter->setPen(textColor(option));
+        painter->drawRect(QRectF(option.rect).adjusted(0.5, 0.5, -1.5, -2.5));
+    }
     drawHint(*painter, option, index);
     if (chevronWidth(index) > 0) {
         const QRect place(option.rect.right() - margin - chevronSide, option.rect.center().y() - chevronSide / 2 + 1,

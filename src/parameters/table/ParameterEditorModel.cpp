@@ -123,9 +123,10 @@ Qt::ItemFlags ParameterEditorModel::flags(const QModelIndex &index) const
     if (!index.isValid())
         return Qt::ItemIsDropEnabled; // between the rows only
     const auto column = static_cast<Column>(index.column());
-    Qt::ItemFlags flags = Qt::ItemIsSelectable | Qt::ItemIsDragEnabled;
+    // What cannot be changed is part of its row all the same: a disabled cell would be a hole in a selected one.
+    Qt::ItemFlags flags = Qt::ItemIsSelectable | Qt::ItemIsDragEnabled | Qt::ItemIsEnabled;
     if (parameterlist::isEditable(storedParameters(), index.row(), column))
-        flags |= Qt::ItemIsEnabled | (isFlag(column) ? Qt::ItemIsUserCheckable : Qt::ItemIsEditable);
+        flags |= isFlag(column) ? Qt::ItemIsUserCheckable : Qt::ItemIsEditable;
     return flags;
 }
 
