@@ -433,9 +433,10 @@ private Q_SLOTS:
         editor().populateTemplateStructure();
         outline()->collapseAll();
         outline()->expand(row("B"));
-        outline()->setFocus();
+        select({"B", "A"});
         key(outline(), Qt::Key_F, Qt::ControlModifier);
         QTest::keyClicks(QApplication::focusWidget(), "NEEDLE");
+        QCOMPARE(outline()->selectionModel()->selectedRows().size(), 1); // what is not in sight is not meant
         const auto isShown = [this](const QString &path) {
             return !outline()->visualRect(row(path)).isEmpty();
         };

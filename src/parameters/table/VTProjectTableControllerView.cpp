@@ -157,6 +157,8 @@ void VTProjectTableController::forgetTyped()
 
 void VTProjectTableController::forgetRemembered(const QModelIndex &index, const QString &value)
 {
+    if (!index.isValid()) // another program has taken its parameter away
+        return;
     VTLog::appendLog("Removing a value from the history");
     changeRow(index.row(), [&](FilenameParameter parameter) {
         QStringList history = parameter.history();

@@ -87,6 +87,7 @@ void TreeFilter::apply()
         rememberOpen({}, {});
     m_view.setUpdatesEnabled(false);
     filter({}, text, false);
+    deselectHidden();
     if (!m_isFiltering && wasFiltering) {
         m_view.collapseAll();
         openAgain({}, {});
@@ -94,6 +95,21 @@ void TreeFilter::apply()
         m_view.scrollTo(m_view.currentIndex());
     }
     m_view.setUpdatesEnabled(true);
+}
+
+/// What is not in sight is not meant by the next command.
+void TreeFilter::deselectHidden()
+{
+    QItemSelection hidden;
+    for (const QModelIndex &row : m_view.selectionModel()->selectedRows()) {
+        for (QModelIndex above = row; above.isValid(); above = above.parent()) {
+            if (m_view.isRowHidden(above.row(), above.parent())) {
+                hidden.select(row, row);
+                break;
+            }
+        }
+    }
+    m_view.selectionModel()->select(hidden, QItemSelectionModel::Deselect | QItemSelectionModel::Rows);
 }
 
 /// Whether anything at or below the folder is found.

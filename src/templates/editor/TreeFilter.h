@@ -27,6 +27,7 @@ protected:
 
 private:
     void apply();
+    void deselectHidden();
     bool filter(const QModelIndex &parent, const QString &text, bool isBelowFound);
     void rememberOpen(const QModelIndex &parent, const QString &path);
     void openAgain(const QModelIndex &parent, const QString &path);

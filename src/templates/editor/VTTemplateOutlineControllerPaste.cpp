@@ -197,8 +197,8 @@ QString VTTemplateOutlineController::problemOfNames(const QStringList &paths, co
     return {};
 }
 
-/// All or none: they go by names of their own in between, because one may get the name that another gives up. What
-/// cannot be renamed takes back what was.
+/// All or none. Where one gets the name that another gives up they go by names of their own in between. What cannot be
+/// renamed takes back what was.
 void VTTemplateOutlineController::renameAll(const QStringList &paths, const QStringList &names)
 {
     DiskChange change{tr("Rename"), {}};
@@ -214,10 +214,17 @@ void VTTemplateOutlineController::renameAll(const QStringList &paths, const QStr
     platform::Outcome outcome;
     for (QList<qsizetype> level : byDepth(paths)) {
         level.removeIf([&](qsizetype i) { return names[i] == lastComponent(paths[i]); });
+        const auto target = [&](qsizetype i) {
+            return joined(parentPath(paths[i]), names[i]);
+        };
+        const bool crosses = std::any_of(level.begin(), level.end(), [&](qsizetype i) {
+            return paths.contains(target(i), Qt::CaseInsensitive) &&
+                   target(i).compare(paths[i], Qt::CaseInsensitive) != 0;
+        });
         for (const qsizetype i : level)
-            outcome = outcome.ok() ? move(paths[i], between(i)) : outcome;
+            outcome = outcome.ok() && crosses ? move(paths[i], between(i)) : outcome;
         for (const qsizetype i : level)
-            outcome = outcome.ok() ? move(between(i), joined(parentPath(paths[i]), names[i])) : outcome;
+            outcome = outcome.ok() ? move(crosses ? between(i) : paths[i], target(i)) : outcome;
     }
     if (!outcome.ok()) {
         const DiskSteps done = change.steps;

@@ -89,7 +89,7 @@ private Q_SLOTS:
             return model.index(row, static_cast<int>(column));
         };
         QCOMPARE(at(0, Column::Default).data(), "(auto)");
-        QVERIFY(!(model.flags(at(0, Column::Default)) & Qt::ItemIsEnabled));
+        QVERIFY(!(model.flags(at(0, Column::Default)) & Qt::ItemIsEditable));
         QCOMPARE(at(0, Column::Folder).data(Qt::CheckStateRole), Qt::Checked); // the first always begins the path
         QVERIFY(!model.setData(at(0, Column::Folder), Qt::Unchecked, Qt::CheckStateRole));
         QCOMPARE(at(1, Column::History).data(Qt::CheckStateRole), Qt::Unchecked);
