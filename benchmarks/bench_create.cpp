@@ -4,8 +4,9 @@
 //   bench_create 0                                   one file of 2 GiB
 //
 // With cold, every turn begins with nothing of the template in memory; only the super-user can have that.
-// Three take turns, each into a new destination: `cp -a` as a process; a creation in a program that runs already, as in
-// the window (claim, copy, renaming, dates); and `Tessaro create` as a process, with its start-up. Nothing is deleted
+// They take turns, each into a new destination: `cp -a` as a process; a creation in a program that runs already, as in
+// the window (claim, copy, renaming, dates); `Tessaro create` as a process, with its start-up; and, where they are
+// installed, `rsync -a` and cookiecutter, which also gives names, on the same tree. Nothing is deleted
 // before the end, because creating files soon after a large deletion is slow on ext4 and would make every ratio 1.
 #include "Timing.h"
 #include "creation/ProjectCreation.h"
@@ -25,6 +26,9 @@
 namespace {
 
 constexpr int rounds = 7;
+constexpr int slowRounds = 3; // of what takes a hundred times as long
+const QString rsync = QStringLiteral("/usr/bin/rsync");
+const QString cookiecutter = QStringLiteral("/usr/bin/cookiecutter");
 
 void makeLargeTemplate(const QString &files)
 {
@@ -77,6 +81,17 @@ double secondsOfCreation(const QString &templateName, const QString &location)
     });
 }
 
+/// The tree as cookiecutter wants it: the project's folder named by a variable, every file as it is.
+void makeCookiecutter(const QString &files, const QString &folder)
+{
+    const QString project = folder + QStringLiteral("/{{cookiecutter.name}}");
+    QFile settings(folder + QStringLiteral("/cookiecutter.json"));
+    if (!platform::makeFolders(folder).ok() || !settings.open(QIODevice::WriteOnly) ||
+        settings.write(R"({"name": "Bench"})") < 0)
+        qFatal("Cannot make %s", qPrintable(folder));
+    static_cast<void>(timing::secondsOf("/bin/cp", {"-a", files, project}));
+}
+
 /// Writes back what waits for it, so that nobody pays for what another has written; and forgets what was read.
 void prepareTurn(bool isCold)
 {
@@ -96,7 +111,14 @@ void measure(const QString &work, const QString &library, const QString &what, b
     const QString files = library + u'/' + name + QStringLiteral(".tzt/Files");
     count == 0 ? makeLargeTemplate(files) : makeTemplate(files, count, perFolder);
     const QString program = platform::parentPath(QCoreApplication::applicationFilePath()) + QStringLiteral("/Tessaro");
+    const bool hasRsync = QFile::exists(rsync);
+    const bool hasCookiecutter = count > 0 && QFile::exists(cookiecutter);
+    const QString cookies = work + QStringLiteral("/cookies %1 %2").arg(count).arg(perFolder);
+    if (hasCookiecutter)
+        makeCookiecutter(files, cookies);
     std::vector<double> copies;
+    std::vector<double> rsyncs;
+    std::vector<double> cutters;
     std::vector<double> creations;
     std::vector<double> commands;
     for (int round = -1; round < rounds; ++round) {
@@ -109,16 +131,31 @@ void measure(const QString &work, const QString &library, const QString &what, b
         const double creation = secondsOfCreation(name, target + "/running");
         prepareTurn(isCold);
         const double command = timing::secondsOf(program, {"create", "--in", target + "/command", "--template", name});
+        prepareTurn(isCold);
+        const double synced = hasRsync ? timing::secondsOf(rsync, {"-a", files + "/", target + "/rsync"}) : 0;
+        prepareTurn(isCold);
+        const bool isCut = hasCookiecutter && round < slowRounds;
+        const double cut =
+            isCut ? timing::secondsOf(cookiecutter, {"--no-input", "-o", target + "/cookies", cookies}) : 0;
         if (round < 0)
             continue; // the first round fills the caches
         copies.push_back(copy);
         creations.push_back(creation);
         commands.push_back(command);
+        rsyncs.push_back(synced);
+        if (isCut)
+            cutters.push_back(cut);
     }
     QTextStream(stdout) << count << " files, " << perFolder << " in a folder" << (isCold ? ", cold" : "") << ": cp -a "
                         << timing::median(copies) * 1000 << " ms\n";
     timing::printRatio("in a running program", creations, "cp -a", copies);
     timing::printRatio("Tessaro create", commands, "cp -a", copies);
+    if (hasRsync)
+        timing::printRatio("Tessaro create", commands, "rsync -a", rsyncs);
+    if (hasCookiecutter) {
+        commands.resize(cutters.size());
+        timing::printRatio("Tessaro create", commands, "cookiecutter", cutters);
+    }
 }
 
 } // namespace

@@ -97,7 +97,7 @@ QList<QAction *> buildMenus(QMenuBar &menuBar, TessaroAppDelegate &delegate)
             }
             QAction *action = item.slot ? built->addAction(Text::tr(item.text))
                                         : recentProjects(*built, Text::tr(item.text), delegate)->menuAction();
-            action->setObjectName(QString::fromLatin1(item.text).remove(u'&'));
+            action->setObjectName(QString::fromUtf8(item.text).remove(u'&'));
             action->setShortcut(QKeySequence(QLatin1String(item.shortcut)));
             action->setAutoRepeat(false); // a key that is held down does its work once
             if (item.slot)

@@ -148,7 +148,7 @@ void MainWindow::showPaneInMenus()
     edit->addActions(m_templatePane->editActions());
     m_paneActions += m_templatePane->editActions();
     QMenu *list = menuOf("New Template");
-    QAction *before = menuOf("New Template")->findChild<QAction *>(QStringLiteral("Restore Default Templates…"));
+    QAction *before = list->findChild<QAction *>(QStringLiteral("Restore Default Templates…"));
     list->insertActions(before, m_templatePane->listActions());
     m_paneActions += m_templatePane->listActions();
     m_paneActions += list->insertSeparator(before);
@@ -158,6 +158,8 @@ void MainWindow::showPaneInMenus()
     items->addSeparator();
     items->addMenu(m_templatePane->labelMenu());
     m_paneActions += menuBar()->insertMenu(menuBar()->actions().constLast(), items);
+    for (QAction *action : std::as_const(m_paneActions))
+        action->setVisible(false); // until it is shown
 }
 
 void MainWindow::showPane(Pane pane)

@@ -6,6 +6,7 @@
 #include "platform/base/MainThread.h"
 #include "platform/base/NativePath.h"
 #include "platform/desktop/Desktop.h"
+#include "platform/files/FileSystem.h"
 #include "support/FileOperations.h"
 #include "support/Notifications.h"
 #include "support/VTAlert.h"
@@ -28,6 +29,17 @@ void TessaroAppDelegate::importTemplate()
     panel->open();
 }
 
+static bool mayReplace(const QString &file)
+{
+    return VTAlert::show({platform::formatString(TessaroAppDelegate::tr("%@ already exists. Overwrite?"),
+                                                 platform::lastComponent(file)),
+                          TessaroAppDelegate::tr("What is there goes to the Trash."),
+                          TessaroAppDelegate::tr("Overwrite"),
+                          TessaroAppDelegate::tr("Cancel"),
+                          {},
+                          VTAlert::alternateReturn}) == VTAlert::defaultReturn;
+}
+
 void TessaroAppDelegate::exportTemplate()
 {
     const QString name = m_window->shownPane() == MainWindow::Pane::Templates
@@ -47,11 +59,12 @@ void TessaroAppDelegate::exportTemplate()
     panel->setLabelText(QFileDialog::Accept, tr("Export"));
     makePlain(*panel);
     whenLeft<QFileDialog>(*panel, *this, [this, name](QFileDialog &left, bool accepted) {
-        QString file = left.selectedFiles().value(0);
-        if (!accepted || file.isEmpty())
+        const QString given = left.selectedFiles().value(0);
+        if (!accepted || given.isEmpty())
             return;
-        if (!library::isTemplateFile(file))
-            file += QStringLiteral(".tzt.zip");
+        const QString file = library::exportFile(name, given);
+        if (file != given && platform::targetExists(file) && !mayReplace(file)) // the panel has asked about another
+            return;
         if (library::exportTemplate(name, file).ok())
             platform::revealInFileBrowser(file);
     });

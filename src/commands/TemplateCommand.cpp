@@ -209,15 +209,12 @@ int commands::exportTemplate(const Invocation &invocation)
     const QString name = invocation.argument(0);
     if (const Outcome isKnown = known(name); !isKnown.ok())
         return complain(isKnown);
-    QString file = invocation.argument(1).isNull() ? name : invocation.argument(1);
-    if (!file.endsWith(QLatin1String(".zip"), Qt::CaseInsensitive))
-        file += file.endsWith(QLatin1String(".tzt"), Qt::CaseInsensitive) ? QStringLiteral(".zip")
-                                                                          : QStringLiteral(".tzt.zip");
-    file = platform::absolutePath(file);
+    const QString given = invocation.argument(1).isNull() ? name : invocation.argument(1);
+    const QString file = platform::absolutePath(library::exportFile(name, given));
     if (platform::kindOf(file) != platform::FileKind::Missing)
         return complain(ExitStatus::notOverwritten, Text::tr("%1 exists already. Please say another name.").arg(file));
-    if (!library::exportTemplate(name, file).ok()) // it has said why
-        return ExitStatus::failed;
+    if (const Outcome exported = library::exportTemplate(name, file); !exported.ok()) // it has said why
+        return exported.is(Cause::Cancelled) ? ExitStatus::stopped : ExitStatus::failed;
     print(file + u'\n');
     return ExitStatus::done;
 }

@@ -127,11 +127,14 @@ FilenameParameters withDynamicValues(FilenameParameters parameters, const Automa
     return parameters;
 }
 
-FilenameParameters withDynamicValues(FilenameParameters parameters, const AutomaticValues &before,
-                                     const AutomaticValues &values)
+FilenameParameters withDynamicValues(FilenameParameters parameters, const FilenameParameters &known,
+                                     const AutomaticValues &before, const AutomaticValues &values)
 {
     for (FilenameParameter &parameter : parameters) {
-        if (!isTypedOver(parameter, before) && isTypedOver(parameter, values))
+        const bool wasThere = std::any_of(known.begin(), known.end(), [&](const FilenameParameter &other) {
+            return other.title() == parameter.title() && other.kind() == parameter.kind();
+        });
+        if ((!wasThere || !isTypedOver(parameter, before)) && isTypedOver(parameter, values))
             parameter.setValue(automaticValue(parameter, values));
     }
     return parameters;

@@ -54,9 +54,10 @@ struct AutomaticValues
 
 // The whole list.
 [[nodiscard]] FilenameParameters withDynamicValues(FilenameParameters parameters, const AutomaticValues &values);
-/** The same, but what was typed over stays: values that are not the ones of before. */
-[[nodiscard]] FilenameParameters withDynamicValues(FilenameParameters parameters, const AutomaticValues &before,
-                                                   const AutomaticValues &values);
+/** The same, but what was typed over stays: values that are not the ones of before, of parameters that were known and
+ * automatic by then. */
+[[nodiscard]] FilenameParameters withDynamicValues(FilenameParameters parameters, const FilenameParameters &known,
+                                                   const AutomaticValues &before, const AutomaticValues &values);
 [[nodiscard]] FilenameParameters withHistoryCleared(FilenameParameters parameters);
 /** What clearing took from a list comes back into what it is now: histories that are empty, values that are the
  * default. */

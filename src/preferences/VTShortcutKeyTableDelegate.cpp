@@ -103,8 +103,11 @@ bool VTShortcutKeyTableDelegate::hasKeys()
 VTShortcutKeyTableDelegate::VTShortcutKeyTableDelegate()
 {
     connect(&m_desktop, &platform::GlobalShortcuts::activated, this, &VTShortcutKeyTableDelegate::commandRequested);
-    connect(&m_desktop, &platform::GlobalShortcuts::failed, this,
-            [](const QString &reason) { VTLog::appendLog("The desktop's global shortcuts: %@", reason); });
+    connect(&m_desktop, &platform::GlobalShortcuts::failed, this, [this](const QString &reason) {
+        VTLog::appendLog("The desktop's global shortcuts: %@", reason);
+        m_refusal = reason;
+        showState();
+    });
 }
 
 void VTShortcutKeyTableDelegate::setViews(VTShortcutKeyTableview *tableView, QLabel *versionAlertText)
@@ -140,6 +143,8 @@ void VTShortcutKeyTableDelegate::showState()
     if (!m_file.ok())
         state = tr("The shortcuts cannot be changed: %1 Please put that file aside and try again.")
                     .arg(m_file.description());
+    else if (m_watcher == Watcher::Desktop && !m_refusal.isNull())
+        state = tr("Your desktop does not watch these keys now: %1").arg(m_refusal);
     else if (m_watcher == Watcher::Desktop)
         state = tr("Your desktop watches these keys while Tessaro runs, and may ask you about them.");
     else if (m_watcher == Watcher::Nobody)
@@ -273,6 +278,7 @@ void VTShortcutKeyTableDelegate::bindInDesktop()
         if (const auto shortcut = assigned.constFind(identifier); shortcut != assigned.cend())
             wanted.append({identifier, value.toMap().value("description").toString(), triggerOf(*shortcut)});
     }
+    m_refusal = QString();
     m_desktop.bind(wanted);
 }
 

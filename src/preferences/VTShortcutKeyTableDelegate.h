@@ -84,5 +84,6 @@ private:
     QPointer<QLabel> m_stateText;
     platform::Outcome m_file; ///< how the shared file was last read or written
     Watcher m_watcher = Watcher::Unknown;
+    QString m_refusal; ///< why the desktop does not watch the keys; null while it does
     platform::GlobalShortcuts m_desktop;
 };

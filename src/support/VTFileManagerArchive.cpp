@@ -23,10 +23,6 @@ using platform::Outcome;
 
 Outcome fileoperations::compressFile(const QString &path, const QString &toDestinationFile, QStringList *leftOut)
 {
-    if (const Outcome trashed = trashFile(toDestinationFile, ShouldAuth::No); !trashed.ok()) {
-        VTLog::appendLog("Unable to move %@ to the Trash: %@", toDestinationFile, trashed.description());
-        return trashed;
-    }
     // Under another name until it is whole: half an archive is none.
     const QString growing = joined(platform::parentPath(toDestinationFile),
                                    u'.' + QUuid::createUuid().toString(QUuid::WithoutBraces) + QStringLiteral(".zip"));
@@ -41,7 +37,14 @@ Outcome fileoperations::compressFile(const QString &path, const QString &toDesti
         VTLog::appendLog("Name changed in the archive %@: %@", toDestinationFile, renamed);
     if (leftOut)
         *leftOut = report.skipped + report.renamed;
-    const Outcome packed = report.outcome.ok() ? platform::moveItem(growing, toDestinationFile) : report.outcome;
+    Outcome packed = report.outcome;
+    if (packed.ok()) { // what stands there makes room for a whole archive only
+        packed = trashFile(toDestinationFile, ShouldAuth::No);
+        if (!packed.ok())
+            VTLog::appendLog("Unable to move %@ to the Trash: %@", toDestinationFile, packed.description());
+    }
+    if (packed.ok())
+        packed = platform::moveItem(growing, toDestinationFile);
     if (packed.ok())
         return {};
     VTLog::appendLog("Unable to compress %@: %@", path, packed.description());

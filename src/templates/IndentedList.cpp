@@ -33,7 +33,8 @@ qsizetype widthOf(const QString &indentation)
 platform::Result<QStringList> foldersIn(const QString &text)
 {
     // What leads to a name: blanks, the lines of a drawn tree, then perhaps a bullet.
-    static const QRegularExpression form(QStringLiteral("^([\\s│├└─┬|`]*(?:[-*•+–]\\s+)?)(.*?)/*\\s*$"));
+    static const QRegularExpression form(
+        QStringLiteral("^((?:[\\s\\x{A0}│├└─┬]|[|`](?:--)?)*(?:[-*•+–]\\s+)?)(.*?)/*\\s*$"));
     const QStringList lines = text.split(u'\n');
     if (lines.size() > mostLines)
         return Outcome::failure(Cause::Invalid, {}, Text::tr("The list has more than 10,000 lines."));

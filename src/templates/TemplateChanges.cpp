@@ -109,6 +109,16 @@ Outcome ChangeHistory::redo()
     return redone;
 }
 
+/// What cannot be taken back either is logged and left.
+void ChangeHistory::takeBack(DiskChange &change, bool isUndo)
+{
+    while (!change.steps.isEmpty()) {
+        DiskStep step = isUndo ? change.steps.takeFirst() : change.steps.takeLast();
+        if (const Outcome outcome = ::carryOut(step, !isUndo); !outcome.ok())
+            VTLog::appendLog("Unable to take back: %@", outcome.description());
+    }
+}
+
 /// What was carried out and what was not are changes of their own from then on: neither is lost.
 Outcome ChangeHistory::carryOut(QList<DiskChange> &from, QList<DiskChange> &to, bool isUndo)
 {
@@ -116,7 +126,7 @@ Outcome ChangeHistory::carryOut(QList<DiskChange> &from, QList<DiskChange> &to, 
         return {};
     DiskChange change = from.takeLast();
     VTLog::appendLog(isUndo ? "Undoing %@" : "Doing %@ again", change.name);
-    DiskChange carriedOut{change.name, {}};
+    DiskChange carriedOut{change.name, {}, change.parts};
     Outcome outcome;
     while (!change.steps.isEmpty() && outcome.ok()) {
         DiskStep step = isUndo ? change.steps.takeLast() : change.steps.takeFirst();
@@ -129,6 +139,8 @@ Outcome ChangeHistory::carryOut(QList<DiskChange> &from, QList<DiskChange> &to, 
         // What is gone, or whose place is taken, stays so: the changes before it can still be taken back.
         if (!outcome.is(Cause::Missing) && !outcome.is(Cause::Exists))
             from.append(change);
+        else if (change.parts == DiskChange::Parts::BelongTogether)
+            takeBack(carriedOut, isUndo);
     }
     if (!carriedOut.steps.isEmpty())
         to.append(carriedOut);

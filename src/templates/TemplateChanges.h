@@ -32,6 +32,9 @@ struct DiskChange
 {
     QString name; ///< as the menu says it behind "Undo": "Rename"
     DiskSteps steps;
+    /// Those that belong together are undone whole or not at all.
+    enum class Parts { StandAlone, BelongTogether };
+    Parts parts = Parts::StandAlone;
 };
 
 namespace changes {
@@ -69,6 +72,7 @@ Q_SIGNALS:
     void changed();
 
 private:
+    static void takeBack(DiskChange &change, bool isUndo);
     static platform::Outcome carryOut(QList<DiskChange> &from, QList<DiskChange> &to, bool isUndo);
 
     QList<DiskChange> m_done;

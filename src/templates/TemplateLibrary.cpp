@@ -145,11 +145,27 @@ bool isTemplateFile(const QString &path)
     return plain.endsWith(bundleEnding, Qt::CaseInsensitive) || isArchive(plain);
 }
 
+QString exportFile(const QString &name, const QString &given)
+{
+    if (given.endsWith(u'/') || VTFileManager::isDirectoryAtPath(given))
+        return joined(given, name + archiveEnding);
+    if (isArchive(given))
+        return given;
+    QString stem = given;
+    for (const QString &ending : {QStringLiteral(".zip"), bundleEnding}) {
+        if (stem.endsWith(ending, Qt::CaseInsensitive))
+            stem.chop(ending.size());
+    }
+    return stem + archiveEnding;
+}
+
 Outcome exportTemplate(const QString &name, const QString &file)
 {
     VTLog::appendLog("Exporting template %@ to %@", name, file);
     QStringList leftOut;
     const Outcome packed = fileoperations::compressFile(VTDataController::bundlePath(name), file, &leftOut);
+    if (packed.is(Cause::Cancelled))
+        return packed;
     if (!packed.ok())
         return failed(packed, name, formatString(Text::tr("Unable to export %@"), name), checkDestination(packed))
             .outcome;

@@ -32,6 +32,9 @@ struct Change
 /** Whether the name is that of a bundle ("Film.tzt", with or without a slash) or of one in an archive
    ("Film.tzt.zip"). */
 [[nodiscard]] bool isTemplateFile(const QString &path);
+/** Where an export goes to, from what a person gave: a folder gets an archive of the template's name, a name the
+   ending by which it can be taken in again. */
+[[nodiscard]] QString exportFile(const QString &name, const QString &given);
 /** As one zip archive with the bundle in it, for people elsewhere; what stands at the place goes to the Trash. What an
    archive cannot hold is said. */
 platform::Outcome exportTemplate(const QString &name, const QString &file);

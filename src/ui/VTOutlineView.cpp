@@ -7,6 +7,7 @@
 #include <QDragMoveEvent>
 #include <QMimeData>
 #include <QPainter>
+#include <QScrollBar>
 
 namespace {
 
@@ -135,6 +136,8 @@ void VTOutlineView::dragMoveEvent(QDragMoveEvent *event)
     setDragOver(true, onStrip);
     if (!onStrip)
         return QTreeView::dragMoveEvent(event);
+    if (verticalScrollBar()->value() < verticalScrollBar()->maximum())
+        startAutoScroll(); // what is held at the edge goes on
     const auto action = event->dropAction();
     event->setAccepted(model()->canDropMimeData(event->mimeData(), action, -1, -1, {}));
 }

@@ -18,6 +18,8 @@ namespace {
 
 /// Property of an editor: what it showed before anything was typed.
 constexpr const char *textBefore = "textBefore";
+/// Property of an editor: a value that it offered was taken out of the history. Leaving it would put the same one back.
+constexpr const char *itemWasRemoved = "itemWasRemoved";
 constexpr int chevronSide = 16;
 constexpr int margin = 8;
 constexpr int signSide = 16;
@@ -155,6 +157,7 @@ public:
         m_combo.view()->setCurrentIndex(m_combo.model()->index(qMin(row, m_combo.count() - 1), 0));
         if (m_combo.count() == 0)
             m_combo.hidePopup();
+        m_combo.setProperty(itemWasRemoved, true);
         m_removed(item);
         return true;
     }
@@ -261,8 +264,15 @@ void ValueCellDelegate::followTyping(QWidget &editor, const QModelIndex &index) 
         Q_EMIT typed(cell, text);
     };
     auto *combo = qobject_cast<QComboBox *>(&editor);
-    if (auto *line = combo ? combo->lineEdit() : qobject_cast<QLineEdit *>(&editor))
+    if (auto *line = qobject_cast<QLineEdit *>(&editor))
         connect(line, &QLineEdit::textEdited, this, tell);
+    if (auto *line = combo ? combo->lineEdit() : nullptr) {
+        const auto tellCompleted = [line, tell] { // the completion comes after the key
+            if (line->isVisible())
+                tell(line->text());
+        };
+        connect(line, &QLineEdit::textEdited, this, tellCompleted, Qt::QueuedConnection);
+    }
     if (!combo)
         return;
     if (combo->isEditable()) {
@@ -292,8 +302,9 @@ bool ValueCellDelegate::eventFilter(QObject *editor, QEvent *event)
 void ValueCellDelegate::setEditorData(QWidget *editor, const QModelIndex &index) const
 {
     const QVariant before = editor->property(textBefore);
-    if (before.isValid() && before.toString() != textIn(editor))
-        return;
+    const bool isTyped = before.isValid() && before.toString() != textIn(editor);
+    if (isTyped || (before.isValid() && index.data(Qt::EditRole).toString() == before.toString()))
+        return; // something else of the row has changed
     show(editor, index);
     editor->setProperty(textBefore, textIn(editor));
     auto *combo = qobject_cast<QComboBox *>(editor);
@@ -326,7 +337,9 @@ void ValueCellDelegate::setModelData(QWidget *editor, QAbstractItemModel *model,
             model->setData(index, combo->currentData());
         return;
     }
-    model->setData(index, textIn(editor));
+    const bool isUntouched = editor->property(textBefore).toString() == textIn(editor);
+    if (!(isUntouched && editor->property(itemWasRemoved).toBool()))
+        model->setData(index, textIn(editor));
 }
 
 void ValueCellDelegate::updateEditorGeometry(QWidget *editor, const QStyleOptionViewItem &option,

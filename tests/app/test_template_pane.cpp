@@ -427,6 +427,44 @@ private Q_SLOTS:
         QVERIFY(row("A").isValid() && row("B").isValid());
     }
 
+    /// What another program puts in the way meanwhile is not written over, by a rename or by its undo.
+    void renamesNothingAway()
+    {
+        for (const char *name : {"take 1", "take 2", "Take 2"})
+            writeFile(files(name), name);
+        editor().populateTemplateStructure();
+        SheetAnswerer answers({"OK", "OK"});
+        select({"take 1", "take 2"});
+        key(outline(), Qt::Key_F2);
+        QPointer sheet = window().findChild<RenameSheet *>();
+        QVERIFY(sheet);
+        const auto ask = [&](const QString &replacement) {
+            sheet->findChildren<QLineEdit *>().at(1)->setText(replacement);
+            sheet->findChild<QSpinBox *>()->setValue(2);
+        };
+        ask("Take #");
+        QVERIFY(sheet->findChild<QLabel *>("problem")->text().startsWith("There is another"));
+        ask("take #"); // 2 and 3: they cross
+        writeFile(files("take 3"), "theirs");
+        sheet->accept();
+        QTRY_COMPARE(answers.seen.size(), 1);
+        QCOMPARE(readFile(files("take 3")), "theirs");
+        QVERIFY(platform::removeTree(files("take 3")).ok());
+        QTRY_VERIFY(!sheet);
+        editor().editSelectedName();
+        sheet = window().findChild<RenameSheet *>();
+        QVERIFY(sheet);
+        ask("take #");
+        sheet->accept();
+        QTRY_VERIFY(targetExists(files("take 3")) && !targetExists(files("take 1")));
+        QVERIFY(platform::removeTree(files("take 2")).ok()); // the one that was 1
+        window().templatePane().undo();
+        QCOMPARE(answers.seen.size(), 2);
+        QCOMPARE(readFile(files("take 3")), "take 2"); // whole or not at all: it has its later name again
+        QCOMPARE(QDir(files()).entryList({"*renamed*"}, QDir::Hidden | QDir::AllEntries), QStringList());
+        QCOMPARE(readFile(files("Take 2")), "Take 2");
+    }
+
     void theFilter()
     {
         writeFile(files("A/Deep/needle.txt"), "n");
@@ -447,6 +485,12 @@ private Q_SLOTS:
         QVERIFY(isShown("A/Deep/needle 2.txt") && !isShown("other"));
         key(QApplication::focusWidget(), Qt::Key_Escape);
         QVERIFY(isShown("B/y.txt") && isShown("other") && !isShown("A/x.txt") && outline()->hasFocus());
+        key(outline(), Qt::Key_F, Qt::ControlModifier);
+        QTest::keyClicks(QApplication::focusWidget(), "needle");
+        outline()->clearSelection();
+        editor().addFolder(); // never out of sight
+        QTRY_VERIFY(isShown("New Folder") && isShown("B"));
+        key(QApplication::focusWidget(), Qt::Key_Escape);
     }
 
     /// Over rows that fill the view, the lowest strip is the top level.

@@ -50,6 +50,7 @@ class Portal : public QDBusVirtualObject
 public:
     QStringList bound;
     int closed = 0;
+    uint answer = 0;
 
     Portal()
     {
@@ -76,7 +77,7 @@ public:
         else
             takeShortcuts(message.arguments()[1].value<QDBusArgument>());
         QDBusMessage response = QDBusMessage::createSignal(request, "org.freedesktop.portal.Request", "Response");
-        response << 0U << results;
+        response << (message.member() == "CreateSession" ? 0U : answer) << results;
         return bus.send(response);
     }
     void press(const QString &identifier)
@@ -263,6 +264,15 @@ private Q_SLOTS:
         table->selectRow(0);
         keys.clearShortcutKey();
         QTRY_COMPARE(portal.bound, QStringList("create-project=ALT+Escape"));
+        portal.answer = 1; // the user says no
+        keys.keyChanged(0, 39, {});
+        const auto *state = container.findChild<QLabel *>("versionAlertText");
+        QTRY_VERIFY(state->text().startsWith("Your desktop does not watch"));
+        portal.answer = 0;
+        portal.bound.clear();
+        keys.watchKeys(); // asked again
+        QTRY_COMPARE(portal.bound.size(), 2);
+        QTRY_VERIFY(state->text().startsWith("Your desktop watches"));
     }
 
     /// Two commands with the same keys are said at once, in whichever program the other is.

@@ -19,6 +19,10 @@ private Q_SLOTS:
                                                         "Shots/020", "Shots/020/Plates", "Sound"};
         QTest::newRow("a drawn tree") << "Job\n├── A-Cam/\n│   └── Day 1\n└── Sound"
                                       << QStringList{"Job", "Job/A-Cam", "Job/A-Cam/Day 1", "Job/Sound"};
+        QTest::newRow("a tool's tree") << QString("Job\n├── A-Cam\n│\u00a0\u00a0 └── Day 1\n└── Sound")
+                                       << QStringList{"Job", "Job/A-Cam", "Job/A-Cam/Day 1", "Job/Sound"};
+        QTest::newRow("its plain one") << "Job\n|-- A-Cam\n|   `-- Day 1\n`-- Sound"
+                                       << QStringList{"Job", "Job/A-Cam", "Job/A-Cam/Day 1", "Job/Sound"};
         QTest::newRow("bullets") << "- One\n  * Two\n  • Three" << QStringList{"One", "One/Two", "One/Three"};
         QTest::newRow("a list that begins indented") << "    A\n      B\n    C" << QStringList{"A", "A/B", "C"};
         QTest::newRow("out by a half") << "A\n    B\n  C" << QStringList{"A", "A/B", "A/C"};

@@ -107,7 +107,10 @@ bool ParameterEditorModel::setData(const QModelIndex &index, const QVariant &val
     else
         return false;
     const FilenameParameters list = storedParameters();
-    const bool isShown = !isFlag(column) && value == parameterlist::shownValue(list, index.row(), column);
+    bool isShown = !isFlag(column) && value == parameterlist::shownValue(list, index.row(), column);
+    if (editorOf(list, index.row(), column) == CellEditor::Lines)
+        isShown = parameterlist::tidyChoices(value.toString()) ==
+                  parameterlist::tidyChoices(list[index.row()].defaultValue());
     if (isShown || !parameterlist::isEditable(list, index.row(), column))
         return false;
     change([&](const FilenameParameters &now) {

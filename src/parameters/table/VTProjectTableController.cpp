@@ -174,12 +174,16 @@ void VTProjectTableController::updateDynamicValues()
 
 void VTProjectTableController::bringUpToDate()
 {
+    const FilenameParameters known = m_dataArray;
     follow();
     const auto before = std::exchange(m_automatic, automaticValues());
-    if (before == m_automatic)
+    const auto refreshed = [&](FilenameParameters list) {
+        return rules::withDynamicValues(std::move(list), known, before, m_automatic);
+    };
+    if (refreshed(m_dataArray) == m_dataArray)
         return;
     VTLog::appendLog("Updating dynamic values");
-    change([&](FilenameParameters list) { return rules::withDynamicValues(std::move(list), before, m_automatic); });
+    change(refreshed);
     updateFilenamePreview();
 }
 

@@ -6,6 +6,7 @@
 #include <QDBusMetaType>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
+#include <QDBusServiceWatcher>
 #include <QDBusVariant>
 #include <QRandomGenerator>
 
@@ -50,6 +51,35 @@ QString requestPath(const QString &token)
 
 } // namespace
 
+GlobalShortcuts::GlobalShortcuts(QObject *parent)
+    : QObject(parent)
+{
+    auto *watcher =
+        new QDBusServiceWatcher(service, QDBusConnection::sessionBus(), QDBusServiceWatcher::WatchForOwnerChange, this);
+    connect(watcher, &QDBusServiceWatcher::serviceOwnerChanged, this, &GlobalShortcuts::ownerChanged);
+}
+
+void GlobalShortcuts::ownerChanged(const QString &, const QString &, const QString &now)
+{
+    m_session.clear(); // it went with its owner
+    if (!now.isEmpty())
+        bind(std::exchange(m_shortcuts, {}));
+}
+
+/// The same shortcuts may be asked for again.
+void GlobalShortcuts::fail(const QString &reason)
+{
+    m_shortcuts.clear();
+    closeSession();
+    Q_EMIT failed(reason);
+}
+
+void GlobalShortcuts::sessionClosed()
+{
+    m_session.clear();
+    fail(tr("The desktop has ended its global shortcuts."));
+}
+
 GlobalShortcuts::~GlobalShortcuts()
 {
     closeSession();
@@ -91,7 +121,7 @@ void GlobalShortcuts::request(const char *method, QVariantList arguments, QVaria
     auto *watcher = new QDBusPendingCallWatcher(bus.asyncCall(call), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
         if (watcher->isError())
-            Q_EMIT failed(watcher->error().message());
+            fail(watcher->error().message());
         watcher->deleteLater();
     });
 }
@@ -107,11 +137,12 @@ void GlobalShortcuts::sessionCreated(uint response, const QVariantMap &results)
 {
     const QString session = results.value(QStringLiteral("session_handle")).toString();
     if (response != 0 || session.isEmpty()) {
-        Q_EMIT failed(tr("The desktop did not give its global shortcuts."));
-        return;
+        return fail(tr("The desktop did not give its global shortcuts."));
     }
     closeSession(); // the last one asked for counts
     m_session = session;
+    QDBusConnection::sessionBus().connect(service, session, QStringLiteral("org.freedesktop.portal.Session"),
+                                          QStringLiteral("Closed"), this, SLOT(sessionClosed()));
     QDBusConnection::sessionBus().connect(service, desktopPath, interfaceName, QStringLiteral("Activated"), this,
                                           SLOT(shortcutActivated(QDBusObjectPath, QString, qulonglong, QVariantMap)));
     bindInSession();
@@ -135,7 +166,7 @@ void GlobalShortcuts::bindInSession()
 void GlobalShortcuts::shortcutsBound(uint response, const QVariantMap &)
 {
     if (response != 0)
-        Q_EMIT failed(tr("The desktop did not take the shortcuts."));
+        fail(tr("The desktop did not take the shortcuts."));
 }
 
 void GlobalShortcuts::shortcutActivated(const QDBusObjectPath &session, const QString &identifier, qulonglong,

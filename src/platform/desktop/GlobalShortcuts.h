@@ -18,7 +18,7 @@ class GlobalShortcuts : public QObject
     Q_OBJECT
 
 public:
-    using QObject::QObject;
+    explicit GlobalShortcuts(QObject *parent = nullptr);
     ~GlobalShortcuts() override;
 
     struct Shortcut
@@ -33,7 +33,8 @@ public:
     /** Whether the desktop offers them; answered by the event loop, never when the context has gone. */
     static void ask(QObject &context, std::function<void(bool offered)> answer);
 
-    /** In place of the ones before; the same ones are not asked for again. What goes wrong is told by failed(). */
+    /** In place of the ones before; the same ones are not asked for again while they hold. What goes wrong is told by
+        failed(), and none hold then. A portal that is started anew is asked anew. */
     void bind(const QList<Shortcut> &shortcuts);
 
 Q_SIGNALS:
@@ -44,11 +45,14 @@ private:
     void createSession();
     void closeSession();
     void bindInSession();
+    void fail(const QString &reason);
     void request(const char *method, QVariantList arguments, QVariantMap options, const char *answer);
 
 private Q_SLOTS:
     void sessionCreated(uint response, const QVariantMap &results);
     void shortcutsBound(uint response, const QVariantMap &results);
+    void sessionClosed();
+    void ownerChanged(const QString &service, const QString &before, const QString &now);
     void shortcutActivated(const QDBusObjectPath &session, const QString &identifier, qulonglong timestamp,
                            const QVariantMap &options);
 

@@ -192,6 +192,7 @@ void TemplatePane::buildOutline()
     outline->setTopLevelName(tr("Drop here for the top level"));
     m_filter = new TreeFilter(*outline, *m_ui->filterLine, this);
     connect(find, &QAction::triggered, m_filter, &TreeFilter::begin);
+    connect(&m_outline, &Outline::needsWholeTree, m_filter, &TreeFilter::clear);
 
     connect(m_ui->addButton, &QToolButton::clicked, this, [this] {
         m_table.finishEditing();

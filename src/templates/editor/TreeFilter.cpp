@@ -30,9 +30,14 @@ void TreeFilter::begin()
 
 void TreeFilter::end()
 {
+    clear();
+    m_view.setFocus();
+}
+
+void TreeFilter::clear()
+{
     m_line.clear();
     m_line.hide();
-    m_view.setFocus();
 }
 
 bool TreeFilter::eventFilter(QObject *watched, QEvent *event)

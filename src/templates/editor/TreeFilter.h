@@ -21,6 +21,8 @@ public:
     /** Shows the line, with its text selected. */
     void begin();
     void end();
+    /** The same, and the focus stays where it is. */
+    void clear();
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;

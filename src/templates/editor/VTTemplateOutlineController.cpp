@@ -149,6 +149,8 @@ void VTTemplateOutlineController::loadDataFromFile(const QString &bundle)
     finishEditing();
     ++m_generation;
     const bool isAnother = bundle != m_baseFilename;
+    if (isAnother)
+        Q_EMIT needsWholeTree();
     m_baseFilename = bundle;
     if (bundle.isNull() || isAnother)
         m_model.setNodes({});
@@ -268,7 +270,7 @@ void VTTemplateOutlineController::restore(const ViewState &state, const QModelIn
     }
     QItemSelection selection;
     for (const QString &path : state.selected) {
-        if (const QModelIndex index = m_model.indexOf(nodeAtPath(path)); index.isValid())
+        if (const QModelIndex index = m_model.indexOf(nodeAtPath(path)); index.isValid() && isInSight(index))
             selection.select(index, index);
     }
     outline->selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
@@ -315,11 +317,20 @@ void VTTemplateOutlineController::editItem(const QString &path)
     outline->edit(index);
 }
 
+/// Not hidden by the filter.
+bool VTTemplateOutlineController::isInSight(const QModelIndex &index) const
+{
+    QModelIndex above = index;
+    while (above.isValid() && !m_views.outlineView->isRowHidden(above.row(), above.parent()))
+        above = above.parent();
+    return !above.isValid();
+}
+
 void VTTemplateOutlineController::selectOnly(const QString &path)
 {
     const QModelIndex index = m_model.indexOf(nodeAtPath(path));
     auto *selection = m_views.outlineView->selectionModel();
-    if (index.isValid())
+    if (index.isValid() && isInSight(index))
         selection->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
     else
         selection->clearSelection();

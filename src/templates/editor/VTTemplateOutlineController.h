@@ -88,6 +88,8 @@ public Q_SLOTS:
 Q_SIGNALS:
     /** How many items are selected; whether a template is loaded at all. */
     void selectionChanged(qsizetype count, bool isLoaded);
+    /** Something is about to be shown, or edited, that a filter might hide. */
+    void needsWholeTree();
     /** None runs any more. */
     void importsEnded();
 
@@ -112,6 +114,7 @@ private:
     [[nodiscard]] static QString problemOfNames(const QStringList &paths, const QStringList &names);
     void renameAll(const QStringList &paths, const QStringList &names);
     void addFolderTo(const QList<Target> &places);
+    [[nodiscard]] bool isInSight(const QModelIndex &index) const;
     [[nodiscard]] TemplateNode *nodeAtPath(const QString &path) const;
     [[nodiscard]] ViewState viewState() const;
     void restore(const ViewState &state, const QModelIndex &below);
@@ -139,6 +142,7 @@ private:
     TemplateTreeModel m_model;
     quint64 m_generation = 0; ///< counts loads: one that was overtaken while it read is thrown away
     bool m_isBehind = false;  ///< the tree is to be read anew when the open editor has been left
+    bool m_hasMoved = false;  ///< whether the last drop inside did anything
     int m_spinning = 0;
     int m_jobs = 0;
 };

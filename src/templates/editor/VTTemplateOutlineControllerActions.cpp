@@ -55,6 +55,7 @@ QList<VTTemplateOutlineController::Target> VTTemplateOutlineController::targets(
 void VTTemplateOutlineController::insertInto(QList<Target> places, const QString &name,
                                              const std::function<QString(const QString &folder)> &insert)
 {
+    Q_EMIT needsWholeTree();
     QString first;
     DiskChange change{name, {}};
     if (places.isEmpty())
@@ -233,6 +234,8 @@ void VTTemplateOutlineController::duplicateFiles()
             fileoperations::makeInPlace({copy, m_baseFilename}, [&](const QString &staged) {
                 return fileoperations::copyFile(path, staged, patience);
             });
+        if (copied.is(platform::Cause::Cancelled))
+            break;
         if (copied.ok())
             change.steps.append({DiskStep::Kind::Made, copy});
         else
@@ -257,7 +260,10 @@ void VTTemplateOutlineController::rename(const QString &path, const QString &typ
     if (cleaned == platform::lastComponent(path))
         return;
     const QString renamed = joined(platform::parentPath(path), cleaned);
-    if (platform::kindOf(renamed) != platform::FileKind::Missing && renamed.toLower() != path.toLower()) {
+    // In other letters it may be the item itself, or, where these tell names apart, another one.
+    const bool isItself =
+        renamed.toLower() == path.toLower() && platform::identityOf(renamed) == platform::identityOf(path);
+    if (platform::kindOf(renamed) != platform::FileKind::Missing && !isItself) {
         VTAlert::show(
             {tr("Item already exists"),
              formatString(

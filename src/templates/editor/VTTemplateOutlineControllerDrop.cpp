@@ -96,6 +96,7 @@ bool VTTemplateOutlineController::acceptDrop(const TemplateDrop &drop, const QSt
             toReread.append(parent);
     }
     m_history.add(change);
+    m_hasMoved = !change.steps.isEmpty();
     const bool knowsAll = static_cast<std::size_t>(toReread.size()) == dragged.size() && !target.isNull();
     if (!knowsAll) {
         populateTemplateStructure();

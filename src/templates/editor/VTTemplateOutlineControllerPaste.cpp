@@ -14,8 +14,9 @@
 #include "ui/FilePanels.h"
 #include "ui/VTOutlineView.h"
 
+#include <QApplication>
 #include <QClipboard>
-#include <QGuiApplication>
+#include <QLineEdit>
 #include <QMimeData>
 #include <QUrl>
 
@@ -29,6 +30,13 @@ namespace {
 constexpr std::chrono::seconds patience{20};
 /// Beside the nodes: they are to be moved, not copied.
 const QString cutType = QStringLiteral("application/x-tessaro-cut");
+
+/// Whether something else stands there: on some file systems it may be the item itself under a name in other letters.
+bool isAnother(const QString &there, const QString &item)
+{
+    return platform::kindOf(there) != platform::FileKind::Missing &&
+           platform::identityOf(there) != platform::identityOf(item);
+}
 
 /// By how deep they lie, the deepest first: what is renamed above them would change their path.
 QList<QList<qsizetype>> byDepth(const QStringList &paths)
@@ -46,7 +54,7 @@ QMimeData *VTTemplateOutlineController::selectionAsData() const
     QMimeData *data = m_model.mimeData(selectedIndexes());
     QList<QUrl> addresses;
     for (const QString &path : selectedPaths())
-        addresses.append(QUrl::fromLocalFile(path));
+        addresses.append(QUrl::fromEncoded("file://" + platform::toNative(path).toPercentEncoding("/")));
     data->setUrls(addresses); // for file managers
     data->setText(indentedlist::listOf(selectedPaths()));
     return data;
@@ -54,32 +62,40 @@ QMimeData *VTTemplateOutlineController::selectionAsData() const
 
 void VTTemplateOutlineController::copyItems()
 {
+    if (auto *line = qobject_cast<QLineEdit *>(QApplication::focusWidget()))
+        return line->copy(); // of what is being typed
     finishEditing();
     if (!selectedPaths().isEmpty())
-        QGuiApplication::clipboard()->setMimeData(selectionAsData());
+        QApplication::clipboard()->setMimeData(selectionAsData());
 }
 
 void VTTemplateOutlineController::cutItems()
 {
+    if (auto *line = qobject_cast<QLineEdit *>(QApplication::focusWidget()))
+        return line->cut();
     finishEditing();
     if (selectedPaths().isEmpty())
         return;
     QMimeData *data = selectionAsData();
     data->setData(cutType, "1");
-    QGuiApplication::clipboard()->setMimeData(data);
+    QApplication::clipboard()->setMimeData(data);
 }
 
 void VTTemplateOutlineController::paste()
 {
+    if (auto *line = qobject_cast<QLineEdit *>(QApplication::focusWidget()))
+        return line->paste();
     finishEditing();
-    const QMimeData *data = QGuiApplication::clipboard()->mimeData();
+    const QMimeData *data = QApplication::clipboard()->mimeData();
     if (m_baseFilename.isNull() || !data)
         return;
     const QString folder = importDestination();
     const TemplateDrop drop = TemplateTreeModel::dropOf(*data);
     if (!drop.archive.isEmpty() && data->hasFormat(cutType)) {
-        if (acceptDrop(drop, folder == filesFolder() ? QString() : folder))
-            QGuiApplication::clipboard()->clear();
+        const bool moved = acceptDrop(drop, folder == filesFolder() ? QString() : folder) && m_hasMoved;
+        const QMimeData *now = QApplication::clipboard()->mimeData();
+        if (moved && now && now->hasFormat(cutType))
+            QApplication::clipboard()->clear();
         return;
     }
     const QString text = data->text();
@@ -101,6 +117,7 @@ void VTTemplateOutlineController::pasteCopies(const QByteArray &archive, QString
     // What has just been copied is still selected: its copy is meant to stand beside it, not in it.
     if (std::any_of(nodes.begin(), nodes.end(), [&](const auto &node) { return node->filename() == folder; }))
         folder = parentPath(folder);
+    Q_EMIT needsWholeTree();
     DiskChange change{tr("Paste"), {}};
     for (const auto &node : nodes) {
         const QString copy = VTFileManager::uniqueFilename(joined(folder, lastComponent(node->filename())));
@@ -109,6 +126,8 @@ void VTTemplateOutlineController::pasteCopies(const QByteArray &archive, QString
             fileoperations::makeInPlace({copy, m_baseFilename}, [&](const QString &staged) {
                 return fileoperations::copyFile(node->filename(), staged, patience);
             });
+        if (copied.is(platform::Cause::Cancelled))
+            break;
         if (copied.ok())
             change.steps.append({DiskStep::Kind::Made, copy});
         else
@@ -126,13 +145,16 @@ void VTTemplateOutlineController::pasteFolders(const QString &text, const QStrin
         VTAlert::show({tr("The text is no list of folders"), folders.outcome().description()});
         return;
     }
+    Q_EMIT needsWholeTree();
     DiskChange change{tr("Paste"), {}};
     for (const QString &relative : *folders) {
         const QString path = joined(folder, relative);
         if (platform::kindOf(path) == platform::FileKind::Folder)
             continue; // its folders go into the one that is there
         VTLog::appendLog("Adding new folder %@", path);
-        const platform::Outcome made = fileoperations::createDirectory(path, patience);
+        const bool isTaken = platform::kindOf(path) != platform::FileKind::Missing; // a link leads out of the template
+        const platform::Outcome made = isTaken ? platform::Outcome::failure(platform::Cause::Exists, path)
+                                               : fileoperations::createDirectory(path, patience);
         if (!made.ok()) {
             VTAlert::show({formatString(tr("Unable to create folder %@"), path), checkDestination(made)});
             break;
@@ -172,26 +194,30 @@ void VTTemplateOutlineController::renameSeveral()
         items, [paths](const QStringList &names) { return problemOfNames(paths, names); },
         m_views.outlineView->window());
     whenLeft<RenameSheet>(*sheet, *this, [this, paths](RenameSheet &left, bool accepted) {
-        if (accepted && editingIsAllowed())
+        const QString problem = accepted ? problemOfNames(paths, left.names()) : QString();
+        if (!problem.isNull()) // since it was typed
+            VTAlert::show({tr("Unable to rename the items"), problem});
+        else if (accepted && editingIsAllowed())
             renameAll(paths, left.names());
     });
     sheet->open();
 }
 
-/// What would go wrong with the names, in a sentence; null when nothing would.
+/// What would go wrong with the names, in a sentence; null when nothing would. Names that stay are not looked at.
 QString VTTemplateOutlineController::problemOfNames(const QStringList &paths, const QStringList &names)
 {
     QStringList targets;
     for (qsizetype i = 0; i < paths.size(); ++i) {
         const QString &name = names[i];
-        if (name.isEmpty() || VTFileManager::validateFilename(name) != name ||
-            platform::toNative(name).size() > platform::longestName)
-            return tr("“%1” cannot be a name.").arg(platform::forOneLine(name));
         const QString target = joined(parentPath(paths[i]), name);
-        if (targets.contains(target, Qt::CaseInsensitive))
+        const bool changes = target != paths[i];
+        if (changes && (name.isEmpty() || VTFileManager::validateFilename(name) != name ||
+                        platform::toNative(name).size() > platform::longestName))
+            return tr("“%1” cannot be a name.").arg(platform::forOneLine(name));
+        if (targets.contains(target, changes ? Qt::CaseInsensitive : Qt::CaseSensitive))
             return tr("Two of them would be called “%1”.").arg(platform::forOneLine(name));
         targets.append(target);
-        if (!paths.contains(target, Qt::CaseInsensitive) && platform::kindOf(target) != platform::FileKind::Missing)
+        if (changes && !paths.contains(target) && isAnother(target, paths[i]))
             return tr("There is another item called “%1”.").arg(platform::forOneLine(name));
     }
     return {};
@@ -201,16 +227,19 @@ QString VTTemplateOutlineController::problemOfNames(const QStringList &paths, co
 /// renamed takes back what was.
 void VTTemplateOutlineController::renameAll(const QStringList &paths, const QStringList &names)
 {
-    DiskChange change{tr("Rename"), {}};
+    DiskChange change{tr("Rename"), {}, DiskChange::Parts::BelongTogether};
     const auto move = [&](const QString &from, const QString &to) {
+        if (isAnother(to, from)) // what another program has put there is not written over
+            return platform::Outcome::failure(platform::Cause::Exists, to);
         const platform::Outcome moved = fileoperations::moveFile(from, to, patience);
         if (moved.ok())
             change.steps.append({DiskStep::Kind::Moved, from, to});
         return moved;
     };
-    const auto between = [&](qsizetype i) {
-        return joined(parentPath(paths[i]), QStringLiteral(".being renamed %1").arg(i));
-    };
+    QStringList between;
+    for (const QString &path : paths)
+        between.append(VTFileManager::uniqueFilename(
+            joined(parentPath(path), QStringLiteral(".being renamed %1").arg(between.size()))));
     platform::Outcome outcome;
     for (QList<qsizetype> level : byDepth(paths)) {
         level.removeIf([&](qsizetype i) { return names[i] == lastComponent(paths[i]); });
@@ -222,9 +251,9 @@ void VTTemplateOutlineController::renameAll(const QStringList &paths, const QStr
                    target(i).compare(paths[i], Qt::CaseInsensitive) != 0;
         });
         for (const qsizetype i : level)
-            outcome = outcome.ok() && crosses ? move(paths[i], between(i)) : outcome;
+            outcome = outcome.ok() && crosses ? move(paths[i], between[i]) : outcome;
         for (const qsizetype i : level)
-            outcome = outcome.ok() ? move(crosses ? between(i) : paths[i], target(i)) : outcome;
+            outcome = outcome.ok() ? move(crosses ? between[i] : paths[i], target(i)) : outcome;
     }
     if (!outcome.ok()) {
         const DiskSteps done = change.steps;

@@ -258,17 +258,19 @@ private Q_SLOTS:
         };
         form.controller.editFirstItem();
         type("two");
-        QCOMPARE(form.path.path(), "/two_Red/2147483646");
+        QTRY_COMPARE(form.path.path(), "/two_Red/2147483646");
         QCOMPARE(form.value(0), "one");
         press(Qt::Key_Escape);
         QCOMPARE(form.path.path(), "/one_Red/2147483646");
         form.controller.editFirstItem();
         press(Qt::Key_Backspace);
-        QCOMPARE(hint(0), "required");
+        QTRY_COMPARE(hint(0), "required");
         const int whole = form.table.columnWidth(1);
         QVERIFY(form.editor(0)->width() < whole); // makes room for the words
+        type("ab");                               // both letters: what is said of the first selects nothing
+        QTRY_COMPARE(form.path.path(), "/ab_Red/2147483646");
         type(QString(300, u'x'));
-        QCOMPARE(hint(0), "too long");
+        QTRY_COMPARE(hint(0), "too long");
         press(Qt::Key_Escape);
         QCOMPARE(hint(0), "");
         form.controller.editItem(2);
@@ -302,6 +304,14 @@ private Q_SLOTS:
         combo->hidePopup();
         form.controller.finishEditing();
         QCOMPARE(storedParameters()[0].history(), QStringList({"half", "Alpha"}));
+        form.controller.editFirstItem(); // the one that is shown goes, too
+        combo = qobject_cast<QComboBox *>(form.editor(0));
+        combo->showPopup();
+        combo->view()->setCurrentIndex(combo->model()->index(0, 0));
+        QTest::keyClick(combo->view(), Qt::Key_Delete);
+        combo->hidePopup();
+        form.controller.finishEditing();
+        QCOMPARE(storedParameters()[0].history(), QStringList("Alpha"));
     }
 
     /// What was typed in place of the date stays until somebody wants the date back.
@@ -321,6 +331,13 @@ private Q_SLOTS:
         QCOMPARE(form.value(0), today);
         QCOMPARE(cell.data(CellRole::Hint).toString(), "");
         QVERIFY(form.isStored());
+        // A date that another program has added is filled in, and what is typed over stays beside it.
+        form.set(0, "2001-01-01");
+        storeSetting(settings::filenameTemplate,
+                     QVariantList{storedParameters()[0].record(), record("", {{"title", "Day"}, {"type", 3}})});
+        form.controller.bringUpToDate();
+        QCOMPARE(form.value(0), "2001-01-01");
+        QCOMPARE(form.value(1), today);
     }
 
     void engineWithoutViews()
