@@ -135,16 +135,9 @@ class TestTemplatePane : public QObject
 private Q_SLOTS:
     void init()
     {
-        settings::registerDefaults();
         VTAlert::setPresenter(&m_sheets);
         m_work = std::make_unique<QTemporaryDir>();
-        for (const settings::Setting *setting : settings::all())
-            removeSetting(*setting);
-        storeSetting(settings::firstRun, false);
-        storeSetting(settings::templateLocation, m_work->filePath("Library"));
-        storeSetting(settings::useFixedProjectLocation, 1LL);
-        storeSetting(settings::fixedProjectLocationPath, m_work->filePath("Projects"));
-        storeSetting(settings::autoOpenFolder, 0LL);
+        storeFirstSettings(m_work->path());
         storeSetting(settings::filenameTemplate, QVariantList{record({{"title", "Title"}, {"val", "Promo"}})});
         writeFile(m_work->filePath("Library/Film.tzt/Files/A/x.txt"), "x");
         writeFile(m_work->filePath("Library/Film.tzt/Files/B/y.txt"), "y");

@@ -107,17 +107,12 @@ private Q_SLOTS:
 
     void init()
     {
-        settings::registerDefaults();
         VTAlert::setPresenter(&m_sheets);
         m_work = std::make_unique<QTemporaryDir>();
-        for (const settings::Setting *setting : settings::all())
-            removeSetting(*setting);
-        storeSetting(settings::templateLocation, m_work->filePath("Library"));
+        storeFirstSettings(m_work->path());
         writeFile(m_work->filePath("Library/One.tzt/Files/Template.txt"), "one");
         writeFile(m_work->filePath("Library/Two.tzt/Files/Sub/two template.txt"), "two");
-        storeSetting(settings::useFixedProjectLocation, 1LL);
         storeSetting(settings::fixedProjectLocationPath, fixed());
-        storeSetting(settings::autoOpenFolder, 0LL);
         storeSetting(settings::filenameTemplate,
                      QVariantList{record({{"title", "Client"}, {"saveHistory", true}}),
                                   record({{"title", "Job"}, {"type", 2}, {"val", "007"}}),
