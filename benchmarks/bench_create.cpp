@@ -1,14 +1,18 @@
 // Creating a project against `cp -a` of the same tree, in the same run.
 //
-//   bench_create [cold] [FILES[/PER-FOLDER]]...      default: 1000 10000, 100 files of 2 KiB in a folder
-//   bench_create 0                                   one file of 2 GiB
+//   bench_create [cold] [in=FOLDER] [turns=N] [FILES[/PER-FOLDER[/KIB]]]...
+//                              default: 1000 10000, 100 files of 2 KiB in a folder
+//   bench_create 0             one file of 2 GiB
+//   bench_create growth FILES  1,000 files and that many, how the time for one changes, and the memory of a plan
 //
-// With cold, every turn begins with nothing of the template in memory; only the super-user can have that.
+// With cold, every turn begins with nothing of the template in memory; only the super-user can have that. With a folder
+// the projects go there: another drive, or the stand-in for a share, whose calls are counted then (user.counts).
 // They take turns, each into a new destination: `cp -a` as a process; a creation in a program that runs already, as in
 // the window (claim, copy, renaming, dates); `Tessaro create` as a process, with its start-up; and, where they are
 // installed, `rsync -a` and cookiecutter, which also gives names, on the same tree. Nothing is deleted
 // before the end, because creating files soon after a large deletion is slow on ext4 and would make every ratio 1.
 #include "Timing.h"
+#include "creation/CreationPlan.h"
 #include "creation/ProjectCreation.h"
 #include "platform/base/NativePath.h"
 #include "platform/base/System.h"
@@ -21,11 +25,13 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QTemporaryDir>
+#include <malloc.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 
 namespace {
 
-constexpr int rounds = 7;
+int rounds = 7;
 constexpr int slowRounds = 3; // of what takes a hundred times as long
 const QString rsync = QStringLiteral("/usr/bin/rsync");
 const QString cookiecutter = QStringLiteral("/usr/bin/cookiecutter");
@@ -42,9 +48,9 @@ void makeLargeTemplate(const QString &files)
     }
 }
 
-void makeTemplate(const QString &files, int count, int perFolder)
+void makeTemplate(const QString &files, int count, int perFolder, int kibibytes)
 {
-    const QByteArray contents(2048, 'x');
+    const QByteArray contents(kibibytes * 1024, 'x');
     const int folders = std::max(1, count / perFolder);
     for (int i = 0; i < count; ++i) {
         const QString folder = files + QStringLiteral("/Folder %1").arg(i % folders);
@@ -103,13 +109,36 @@ void prepareTurn(bool isCold)
         qFatal("Only the super-user can empty the caches");
 }
 
-void measure(const QString &work, const QString &library, const QString &what, bool isCold)
+/// What the stand-in for a share has counted since it was last asked, "CALL NUMBER" in each line; empty elsewhere.
+QByteArray countedCalls(const QString &folder)
+{
+    static_cast<void>(getxattr(QFile::encodeName(folder).constData(), "user.counts", nullptr, 0));
+    QFile counts(qEnvironmentVariable("TESSARO_SHARE_COUNTS"));
+    return counts.open(QIODevice::ReadOnly) ? counts.readAll() : QByteArray();
+}
+
+void printCalls(const QByteArray &counted, int files)
+{
+    int calls = 0;
+    int most = 0;
+    for (const QByteArray &line : counted.split('\n')) {
+        const int number = line.mid(line.indexOf(' ') + 1).toInt();
+        line.startsWith("most") ? most = number : calls += number;
+    }
+    if (calls > 0)
+        QTextStream(stdout) << "  calls a file " << static_cast<double>(calls) / files << ", at most " << most
+                            << " at a time\n";
+}
+
+void measure(const QString &work, const QString &library, const QString &what, const QString &place, bool isCold)
 {
     const int count = what.section(u'/', 0, 0).toInt();
-    const int perFolder = what.contains(u'/') ? what.section(u'/', 1).toInt() : 100;
-    const QString name = QStringLiteral("Bench %1 %2").arg(count).arg(perFolder);
+    const int perFolder = what.contains(u'/') ? what.section(u'/', 1, 1).toInt() : 100;
+    const int kibibytes = what.count(u'/') > 1 ? what.section(u'/', 2).toInt() : 2;
+    const QString name = QStringLiteral("Bench %1 %2 %3").arg(count).arg(perFolder).arg(kibibytes);
     const QString files = library + u'/' + name + QStringLiteral(".tzt/Files");
-    count == 0 ? makeLargeTemplate(files) : makeTemplate(files, count, perFolder);
+    if (!QFile::exists(files))
+        count == 0 ? makeLargeTemplate(files) : makeTemplate(files, count, perFolder, kibibytes);
     const QString program = platform::parentPath(QCoreApplication::applicationFilePath()) + QStringLiteral("/Tessaro");
     const bool hasRsync = QFile::exists(rsync);
     const bool hasCookiecutter = count > 0 && QFile::exists(cookiecutter);
@@ -121,8 +150,10 @@ void measure(const QString &work, const QString &library, const QString &what, b
     std::vector<double> cutters;
     std::vector<double> creations;
     std::vector<double> commands;
+    QByteArray calls;
     for (int round = -1; round < rounds; ++round) {
-        const QString target = work + QStringLiteral("/%1-%2-%3").arg(count).arg(perFolder).arg(round);
+        const QString target =
+            place + QStringLiteral("/%1-%2-%3-%4").arg(count).arg(perFolder).arg(kibibytes).arg(round);
         if (!platform::makeFolders(target + "/command").ok())
             qFatal("Cannot make %s", qPrintable(target));
         prepareTurn(isCold);
@@ -130,7 +161,9 @@ void measure(const QString &work, const QString &library, const QString &what, b
         prepareTurn(isCold);
         const double creation = secondsOfCreation(name, target + "/running");
         prepareTurn(isCold);
+        static_cast<void>(countedCalls(place));
         const double command = timing::secondsOf(program, {"create", "--in", target + "/command", "--template", name});
+        const QByteArray counted = countedCalls(place);
         prepareTurn(isCold);
         const double synced = hasRsync ? timing::secondsOf(rsync, {"-a", files + "/", target + "/rsync"}) : 0;
         prepareTurn(isCold);
@@ -145,9 +178,10 @@ void measure(const QString &work, const QString &library, const QString &what, b
         rsyncs.push_back(synced);
         if (isCut)
             cutters.push_back(cut);
+        calls = counted;
     }
-    QTextStream(stdout) << count << " files, " << perFolder << " in a folder" << (isCold ? ", cold" : "") << ": cp -a "
-                        << timing::median(copies) * 1000 << " ms\n";
+    QTextStream(stdout) << count << " files of " << kibibytes << " KiB, " << perFolder << " in a folder"
+                        << (isCold ? ", cold" : "") << ": cp -a " << timing::median(copies) * 1000 << " ms\n";
     timing::printRatio("in a running program", creations, "cp -a", copies);
     timing::printRatio("Tessaro create", commands, "cp -a", copies);
     if (hasRsync)
@@ -156,6 +190,42 @@ void measure(const QString &work, const QString &library, const QString &what, b
         commands.resize(cutters.size());
         timing::printRatio("Tessaro create", commands, "cookiecutter", cutters);
     }
+    printCalls(calls, count);
+}
+
+/// Bytes that this program has asked for and not given back.
+double bytesInUse()
+{
+    const auto info = mallinfo2();
+    return static_cast<double>(info.uordblks + info.hblkhd);
+}
+
+void measureGrowth(const QString &work, const QString &library, int many)
+{
+    constexpr int few = 1000;
+    std::vector<double> ratios;
+    for (const int count : {few, many})
+        makeTemplate(library + QStringLiteral("/Growth %1.tzt/Files").arg(count), count, 100, 0);
+    for (int round = -1; round < 3; ++round) {
+        // As many small ones as take some time, so that both are measured alike.
+        double ofFew = 0;
+        for (int i = 0; i < 20; ++i)
+            ofFew += secondsOfCreation(QStringLiteral("Growth %1").arg(few),
+                                       work + QStringLiteral("/few-%1-%2").arg(round).arg(i));
+        const double ofMany =
+            secondsOfCreation(QStringLiteral("Growth %1").arg(many), work + QStringLiteral("/many-%1").arg(round));
+        if (round >= 0)
+            ratios.push_back((ofMany / many) / (ofFew / 20 / few));
+    }
+    const double before = bytesInUse();
+    const std::atomic<bool> cancelled = false;
+    const auto plan =
+        planCreation(VTDataController::filesFolder(QStringLiteral("Growth %1").arg(many)), {"Bench"}, cancelled);
+    const double each = (bytesInUse() - before) / static_cast<double>(plan.tree.itemCount());
+    const auto [least, most] = std::minmax_element(ratios.begin(), ratios.end());
+    QTextStream(stdout) << "from " << few << " to " << many << " files: the time for one is " << timing::median(ratios)
+                        << " times as long (" << *least << " to " << *most << "); a plan takes " << each
+                        << " bytes an item\n";
 }
 
 } // namespace
@@ -173,9 +243,21 @@ int main(int argc, char **argv)
     const QString library = work.filePath("Library/Application Support/Vantrel/Tessaro/Templates");
     QStringList counts = QCoreApplication::arguments().mid(1);
     const bool isCold = counts.removeAll(QStringLiteral("cold")) > 0;
+    if (counts.value(0) == u"growth") {
+        measureGrowth(work.path(), library, counts.value(1, QStringLiteral("100000")).toInt());
+        return 0;
+    }
+    QString place = work.path();
+    for (const QString &option : counts) {
+        if (option.startsWith(u"in="))
+            place = option.mid(3);
+        if (option.startsWith(u"turns="))
+            rounds = option.mid(6).toInt();
+    }
+    counts.removeIf([](const QString &word) { return word.contains(u'='); });
     if (counts.isEmpty())
         counts = QStringList{"1000", "10000"};
     for (const QString &count : counts)
-        measure(work.path(), library, count, isCold);
+        measure(work.path(), library, count, place, isCold);
     return 0;
 }

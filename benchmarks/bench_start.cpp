@@ -3,6 +3,8 @@
 //
 //   bench_start PROGRAM [ROUNDS]
 //
+// Then the program with a library of a thousand templates against the program with none.
+//
 // Both sides are processes on the current display that say so and end at once after their first paint, without putting
 // anything away; the program does so when TESSARO_QUIT_AFTER_FIRST_PAINT is set.
 #include <QApplication>
@@ -14,6 +16,8 @@
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
+#include <filesystem>
+#include <fstream>
 #include <string>
 #include <sys/resource.h>
 #include <sys/wait.h>
@@ -92,6 +96,44 @@ double median(std::vector<double> values)
     return values[values.size() / 2];
 }
 
+/// A home in which the program has been started before, with so many templates.
+std::string homeWith(const std::string &folder, int templates)
+{
+    const std::string home = folder + '/' + std::to_string(templates);
+    const std::string library = home + "/Library/Application Support/Vantrel/Tessaro/Templates";
+    std::filesystem::create_directories(library);
+    for (int i = 0; i < templates; ++i)
+        std::filesystem::create_directories(library + "/Template " + std::to_string(i) + ".tzt/Files/Footage");
+    std::filesystem::create_directories(home + "/Library/Preferences");
+    std::ofstream(home + "/Library/Preferences/com.vantrel.Tessaro.plist")
+        << R"(<plist version="1.0"><dict><key>firstRun</key><false/></dict></plist>)";
+    return home;
+}
+
+void compareLibraries(const std::string &program, int rounds)
+{
+    char folder[] = "/tmp/bench_start-XXXXXX";
+    if (!mkdtemp(folder))
+        std::abort();
+    const std::string few = homeWith(folder, 1);
+    const std::string many = homeWith(folder, 1000);
+    std::vector<double> times;
+    std::vector<double> sizes;
+    for (int i = -2; i < rounds; ++i) {
+        setenv("HOME", few.c_str(), 1);
+        const Cost ofFew = run({program});
+        setenv("HOME", many.c_str(), 1);
+        const Cost ofMany = run({program});
+        if (i < 0)
+            continue;
+        times.push_back(ofMany.seconds / ofFew.seconds);
+        sizes.push_back(ofMany.mebibytes / ofFew.mebibytes);
+    }
+    std::filesystem::remove_all(folder);
+    QTextStream(stdout) << "with 1,000 templates against one: time " << median(times) << ", memory " << median(sizes)
+                        << '\n';
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -125,5 +167,6 @@ int main(int argc, char **argv)
     QTextStream(stdout) << "start to first paint: ratio " << median(times) << ", to the one with text "
                         << median(timesToText) << ", peak memory: ratio " << median(sizes) << " (medians of " << rounds
                         << ")\n";
+    compareLibraries(argv[1], rounds);
     return 0;
 }

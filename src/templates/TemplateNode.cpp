@@ -81,10 +81,24 @@ std::unique_ptr<TemplateNode> decode(QDataStream &stream, int depth)
 class TreeReader
 {
 public:
-    TemplateNodes read(const QString &folder)
+    /// The nodes at the top carry their paths; those below have them from their folders.
+    TemplateNodes read(const QString &folder) { return read(folder, true); }
+
+    /// Once the reading is over.
+    [[nodiscard]] const QList<platform::Outcome> &unreadable() const { return m_unreadable; }
+
+private:
+    static constexpr std::size_t worthSharing = 4;
+    struct Folder
+    {
+        VTFolderItem *node;
+        QString path;
+    };
+
+    TemplateNodes read(const QString &folder, bool isTop)
     {
         TemplateNodes nodes;
-        std::vector<VTFolderItem *> folders;
+        std::vector<Folder> folders;
         const auto entries = platform::listFolder(folder);
         if (!entries) {
             const std::scoped_lock lock(m_mutex);
@@ -93,18 +107,19 @@ public:
         }
         nodes.reserve(static_cast<std::size_t>(entries->size()));
         for (const FolderEntry &entry : *entries) {
-            QString path = platform::joined(folder, entry.name);
             const bool isLink = entry.kind == FileKind::Link;
+            const bool mayBeFolder = isLink || entry.kind == FileKind::Folder;
+            const QString path = isTop || mayBeFolder ? platform::joined(folder, entry.name) : QString();
             const bool leadsToFolder = entry.kind == FileKind::Folder || (isLink && platform::leadsToFolder(path));
             if (leadsToFolder && !platform::isPackage(path)) {
                 const bool isEntered = !isLink || !leadsBack(path);
-                auto node = std::make_unique<VTFolderItem>(entry.name, std::move(path));
+                auto node = std::make_unique<VTFolderItem>(entry.name, isTop ? path : QString());
                 node->setLink(isLink);
                 if (isEntered)
-                    folders.push_back(node.get());
+                    folders.push_back({node.get(), path});
                 nodes.push_back(std::move(node));
             } else if (!entry.name.startsWith(u'.')) {
-                nodes.push_back(std::make_unique<VTFileItem>(entry.name, std::move(path)));
+                nodes.push_back(std::make_unique<VTFileItem>(entry.name, isTop ? path : QString()));
                 nodes.back()->setLink(isLink);
             }
         }
@@ -112,18 +127,12 @@ public:
         return nodes;
     }
 
-    /// Once the reading is over.
-    [[nodiscard]] const QList<platform::Outcome> &unreadable() const { return m_unreadable; }
-
-private:
-    static constexpr std::size_t worthSharing = 4;
-
-    void readAll(const std::vector<VTFolderItem *> &folders)
+    void readAll(const std::vector<Folder> &folders)
     {
         std::atomic<std::size_t> next = 0;
         const auto work = [&] {
             for (std::size_t i = next++; i < folders.size(); i = next++)
-                folders[i]->setChildren(read(folders[i]->filename()));
+                folders[i].node->setChildren(read(folders[i].path, false));
         };
         std::thread second;
         if (folders.size() >= worthSharing && !m_isShared.exchange(true))
@@ -149,6 +158,11 @@ TemplateNode::TemplateNode(const QString &path, VTFolderItem *parent)
 {
 }
 
+QString TemplateNode::filename() const
+{
+    return m_filename.isNull() && m_parent ? platform::joined(m_parent->filename(), m_name) : m_filename;
+}
+
 void TemplateNode::rename(const QString &newPath)
 {
     m_filename = newPath;
@@ -165,7 +179,7 @@ bool TemplateNode::isBehindLink() const
 
 int TemplateNode::colorIndex() const
 {
-    return VTFileManager::finderColorIndexForPath(m_filename);
+    return VTFileManager::finderColorIndexForPath(filename());
 }
 
 std::unique_ptr<VTFileItem> VTFileItem::fileItemWithPath(const QString &path, VTFolderItem *parent)

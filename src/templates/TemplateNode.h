@@ -33,7 +33,8 @@ public:
     [[nodiscard]] int row() const { return m_row; }
     /** The last component of the path: what is shown and edited. */
     [[nodiscard]] const QString &name() const { return m_name; }
-    [[nodiscard]] const QString &filename() const { return m_filename; }
+    /** Its path: its own, or, as in most of a tree, that of its folder with its name. */
+    [[nodiscard]] QString filename() const;
     void setName(const QString &name) { m_name = name; }
     void setFilename(const QString &filename) { m_filename = filename; }
 
@@ -62,7 +63,7 @@ private:
     int m_row = 0;
     bool m_isLink = false;
     QString m_name;
-    QString m_filename;
+    QString m_filename; ///< null: as its folder's says
 };
 
 /** A file, or a package, which the desktop shows as one. */

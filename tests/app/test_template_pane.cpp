@@ -467,7 +467,7 @@ private Q_SLOTS:
         select({"B", "A"});
         key(outline(), Qt::Key_F, Qt::ControlModifier);
         QTest::keyClicks(QApplication::focusWidget(), "NEEDLE");
-        QCOMPARE(outline()->selectionModel()->selectedRows().size(), 1); // what is not in sight is not meant
+        QTRY_COMPARE(outline()->selectionModel()->selectedRows().size(), 1); // what is not in sight is not meant
         const auto isShown = [this](const QString &path) {
             return !outline()->visualRect(row(path)).isEmpty();
         };
@@ -569,7 +569,7 @@ private Q_SLOTS:
         editor().populateTemplateStructure();
         QCOMPARE(row("Link").data(Qt::ToolTipRole).toString(), "Link to " + m_work->filePath("outside"));
         QVERIFY(row("Link").data(CellRole::IsLink).toBool());
-        QVERIFY(row("Link/deep/x.txt").isValid() && row("Link/deep/x.txt").flags() == Qt::NoItemFlags);
+        QVERIFY(row("Link/deep/x.txt").isValid() && !row("Link/deep/x.txt").flags().testFlag(Qt::ItemIsEnabled));
         QVERIFY(!drop(dragged({"A/x.txt"}), "Link") && !drop(dragged({"A/x.txt"}), "Link/deep"));
         QVERIFY(!drop(fromOutside({files("top.txt")}), "Link"));
         select({"Link"});

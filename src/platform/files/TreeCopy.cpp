@@ -19,8 +19,9 @@
 namespace platform {
 namespace {
 
-/// Files that one worker takes at a time, so that one large flat folder keeps both busy.
-constexpr std::uint32_t filesPerJob = 32;
+/// Files that one worker takes at a time: few, so that a flat folder keeps all busy, and a share's waiting is noticed
+/// soon.
+constexpr std::uint32_t filesPerJob = 8;
 /// So many items that failed, and there is no hope for the others.
 constexpr std::size_t mostFailures = 1000;
 
@@ -138,7 +139,7 @@ void TreeCopier::workOff()
     raiseDescriptorLimit();
     distribute(m_root);
     // A copy of one small file is over sooner than a thread is started.
-    const std::vector<Job> &jobs = m_jobs.waiting();
+    const std::deque<Job> &jobs = m_jobs.waiting();
     const bool worthASecond =
         jobs.size() > 1 || (jobs.size() == 1 && m_root->contents->items[jobs[0].first].type == DT_DIR);
     m_jobs.workOff([this](const Job &job) { perform(job); }, worthASecond ? Workers::Two : Workers::One);

@@ -208,9 +208,11 @@ Qt::ItemFlags TemplateTreeModel::flags(const QModelIndex &index) const
 {
     if (!index.isValid())
         return Qt::ItemIsDropEnabled;
+    // Said of a file, "every folder opened" opens folders only; else each file is entered into the view's list, too.
+    const Qt::ItemFlags own = nodeAt(index)->isFolderItem() ? Qt::NoItemFlags : Qt::ItemFlags(Qt::ItemNeverHasChildren);
     if (nodeAt(index)->isBehindLink())
-        return Qt::NoItemFlags;
-    return Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsEditable | Qt::ItemIsDragEnabled |
+        return own;
+    return own | Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsEditable | Qt::ItemIsDragEnabled |
            Qt::ItemIsDropEnabled;
 }
 

@@ -1,10 +1,12 @@
 #pragma once
 
+#include <QModelIndex>
 #include <QObject>
 #include <QSet>
+#include <QTimer>
+#include <vector>
 
 class QLineEdit;
-class QModelIndex;
 class QTreeView;
 
 /**
@@ -30,12 +32,22 @@ protected:
 private:
     void apply();
     void deselectHidden();
+    void carryOut();
     bool filter(const QModelIndex &parent, const QString &text, bool isBelowFound);
     void rememberOpen(const QModelIndex &parent, const QString &path);
     void openAgain(const QModelIndex &parent, const QString &path);
 
     QTreeView &m_view;
     QLineEdit &m_line;
+    QTimer m_soon;
     bool m_isFiltering = false;
+    struct Change
+    {
+        QModelIndex index;
+        bool hides;
+        bool opens;
+    };
+    std::vector<Change> m_changes; ///< of one filtering
+    QSet<QPersistentModelIndex> m_hidden;
     QSet<QString> m_wasOpen; ///< names from the top on: a model that is reset keeps no indexes
 };

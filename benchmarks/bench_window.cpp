@@ -1,0 +1,128 @@
+// How long the window takes from a key to the picture, at the median and at the 99th percentile: a value typed among
+// two hundred parameters, the filter of a template of 100,000 entries, and the whole window drawn anew.
+//
+//   bench_window
+#include "Timing.h"
+#include "app/MainWindow.h"
+#include "app/TessaroAppDelegate.h"
+#include "parameters/FilenameParameter.h"
+#include "platform/base/System.h"
+#include "platform/files/FileSystem.h"
+#include "support/Settings.h"
+#include "support/VTLocalPaths.h"
+#include "templates/editor/TemplatePane.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QTemporaryDir>
+
+namespace {
+
+constexpr int keys = 400;
+constexpr int parameters = 200;
+constexpr int entries = 100'000;
+
+void fillTemplate(const QString &files)
+{
+    for (int i = 0; i < entries / 100; ++i) {
+        const QString folder = files + QStringLiteral("/Group %1/Folder %2").arg(i % 20).arg(i);
+        if (!platform::makeFolders(folder).ok())
+            qFatal("Cannot make the tree");
+        for (int k = 0; k < 99; ++k) {
+            QFile file(folder + QStringLiteral("/Clip %1.mov").arg(k));
+            if (!file.open(QIODevice::WriteOnly))
+                qFatal("Cannot make the tree");
+        }
+    }
+}
+
+/// Everything that has been asked for is drawn.
+void settle(QWidget &window)
+{
+    QCoreApplication::processEvents();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::UpdateRequest);
+    window.repaint();
+    QCoreApplication::processEvents();
+}
+
+void print(const char *what, std::vector<double> seconds)
+{
+    std::sort(seconds.begin(), seconds.end());
+    QTextStream(stdout) << "  " << what << ": " << timing::median(seconds) * 1000 << " ms, 99th percentile "
+                        << seconds[seconds.size() * 99 / 100] * 1000 << " ms\n";
+}
+
+/// Letters, and now and then all of them taken away again.
+void type(const char *what, QWidget &window)
+{
+    std::vector<double> seconds;
+    for (int i = 0; i < keys; ++i) {
+        const bool clears = i % 20 == 19;
+        const int key = clears ? Qt::Key_Backspace : Qt::Key_A + i % 5;
+        const QString text = clears ? QString() : QString(QChar(QStringLiteral("clip 1")[i % 20 % 6]));
+        QWidget *target = QApplication::focusWidget();
+        if (!target)
+            qFatal("Nothing has the focus");
+        if (auto *line = qobject_cast<QLineEdit *>(target); clears && line)
+            line->selectAll();
+        QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, text);
+        QKeyEvent release(QEvent::KeyRelease, key, Qt::NoModifier, text);
+        seconds.push_back(timing::secondsOf([&] {
+            QCoreApplication::sendEvent(target, &press);
+            settle(window);
+        }));
+        QCoreApplication::sendEvent(target, &release);
+    }
+    print(what, seconds);
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    platform::prepareLocale();
+    QApplication application(argc, argv);
+    const QTemporaryDir work(QStringLiteral("./bench_window-XXXXXX"));
+    const QString home = QDir::current().absoluteFilePath(work.path());
+    qputenv("HOME", home.toUtf8());
+    settings::registerDefaults();
+    QVariantList list;
+    for (int i = 0; i < parameters; ++i)
+        list.append(QVariantMap{{"title", QStringLiteral("Parameter %1").arg(i)}});
+    const bool isStored = settings::firstRun.turn(false).ok() && settings::filenameTemplate.store(list).ok() &&
+                          settings::templateLocation.store(home + "/Library/Templates").ok();
+    if (!isStored)
+        qFatal("The settings cannot be written");
+    fillTemplate(home + "/Library/Templates/Large.tzt/Files");
+    TessaroAppDelegate delegate;
+    if (!delegate.awakeFromNib())
+        return 1;
+    MainWindow &window = *delegate.mainWindow();
+    window.resize(1000, 800);
+    window.show();
+    window.activateWindow();
+    for (int i = 0; i < 50 && !window.isActiveWindow(); ++i) {
+        timespec pause{0, 20'000'000};
+        nanosleep(&pause, nullptr);
+        QCoreApplication::processEvents();
+    }
+    delegate.applicationDidFinishLaunching();
+    settle(window);
+    QTextStream(stdout) << "From a key to the picture, " << keys << " keys\n";
+    std::vector<double> redraws;
+    for (int i = 0; i < keys / 4; ++i)
+        redraws.push_back(timing::secondsOf([&] { window.repaint(); }));
+    print("the window drawn anew", redraws);
+    type("a value among 200 parameters", window);
+    delegate.toolbarTemplateAction();
+    settle(window);
+    auto *filter = window.findChild<QLineEdit *>(QStringLiteral("filterLine"));
+    if (!filter)
+        qFatal("There is no filter");
+    filter->show();
+    filter->setFocus();
+    type("the filter of 100,000 entries", window);
+    return 0;
+}
