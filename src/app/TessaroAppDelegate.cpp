@@ -137,6 +137,7 @@ void TessaroAppDelegate::applicationDidFinishLaunching()
     }
     tellOfCrash();
     offerToPutAwayLeftovers();
+    tellOfDoubtfulProjects();
     Q_EMIT Notifications::hub().VTTessaroEditFirstParameter();
 }
 
@@ -173,6 +174,28 @@ void TessaroAppDelegate::offerToPutAwayLeftovers()
         const platform::Outcome ended = answer == VTAlert::defaultReturn ? putAway(leftover) : forget(leftover);
         if (!ended.ok())
             VTAlert::show({tr("The unfinished project could not be put away"), ended.description()});
+    }
+}
+
+void TessaroAppDelegate::tellOfDoubtfulProjects()
+{
+    for (const DoubtfulProject &doubtful : platform::resultInBackground(doubtfulProjects)) {
+        const QString name = platform::lastComponent(doubtful.project);
+        VTLog::appendLog("After the computer went down %@ is not as it was made: %@", doubtful.project,
+                         doubtful.isThere ? doubtful.cutOff.join(QStringLiteral(", "))
+                                          : QStringLiteral("it is not there"));
+        const int answer =
+            VTAlert::show({doubtful.isThere ? tr("‘%1’ is not whole").arg(name) : tr("‘%1’ is not there").arg(name),
+                           descriptionOf(doubtful) + QStringLiteral("\n\n") +
+                               (doubtful.isThere ? tr("Create it once more, or take these files from the template.")
+                                                 : tr("Please create it once more.")),
+                           tr("OK"),
+                           tr("Show"),
+                           {},
+                           VTAlert::defaultReturn});
+        if (answer == VTAlert::alternateReturn)
+            showProject(doubtful.project);
+        static_cast<void>(forget(doubtful)); // one that stays is said again
     }
 }
 

@@ -130,6 +130,7 @@ private:
     void importOldTessaroTemplate();
     void restoreShippedTemplates();
     void offerToPutAwayLeftovers();
+    void tellOfDoubtfulProjects();
     void tellOfCrash();
     [[nodiscard]] bool isImporting() const;
     void showUndo();

@@ -69,6 +69,11 @@ int commands::create(const Invocation &invocation)
         complain(ExitStatus::done, Text::tr("A creation was cut off. This is left of it: %1").arg(leftover.folder));
     if (!left.isEmpty())
         complain(ExitStatus::done, Text::tr("Tessaro clean-up --yes moves it to the Trash."));
+    const auto doubtful = doubtfulProjects();
+    for (const DoubtfulProject &project : doubtful)
+        complain(ExitStatus::done, project.project + QStringLiteral(": ") + descriptionOf(project));
+    if (!doubtful.isEmpty())
+        complain(ExitStatus::done, Text::tr("Tessaro clean-up --yes takes note of it."));
     return CreateCommand(invocation).run();
 }
 
@@ -81,6 +86,12 @@ int commands::cleanUp(const Invocation &invocation)
             status = ExitStatus::notOverwritten;
         else if (const platform::Outcome away = putAway(leftover); !away.ok())
             status = complain(away);
+    }
+    for (const DoubtfulProject &doubtful : doubtfulProjects()) {
+        print(doubtful.project + u'\n');
+        complain(ExitStatus::done, descriptionOf(doubtful));
+        if (invocation.has("--yes"))
+            static_cast<void>(forget(doubtful)); // one that stays is said again
     }
     if (status == ExitStatus::notOverwritten)
         complain(status, Text::tr("Nothing was moved to the Trash; say --yes to do it."));

@@ -37,7 +37,8 @@ constexpr Verb table[] = {
     {.words = "clean-up",
      .arguments = "",
      .help = QT_TRANSLATE_NOOP("Commands",
-                               "Lists what creations that were cut off have left behind, and moves it to the Trash."),
+                               "Lists what creations that were cut off have left behind, and moves it to the Trash; names "
+                               "the projects that a power cut has damaged."),
      .run = commands::cleanUp,
      .options = yes},
     {.words = "history",

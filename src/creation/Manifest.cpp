@@ -90,7 +90,7 @@ template <typename Value> Outcome write(const QString &file, const Value &value)
     QDataStream stream(&bytes, QIODevice::WriteOnly);
     stream.setVersion(streamVersion);
     stream << mark << format << value;
-    return platform::replaceFile(file, bytes, platform::Waits::ForTheSystem);
+    return platform::replaceFile(file, bytes, platform::Waits::ForItsBytes);
 }
 
 template <typename Value> Result<Value> read(const QString &file)

@@ -76,9 +76,7 @@ CreationResult ProjectCreation::createProject(const ProjectRequest &request)
 bool ProjectCreation::build()
 {
     const QString destination = m_result.request.destination();
-    m_place.emplace(destination);
-    if (m_place->isHidden())
-        m_note.emplace(m_place->folder(), destination);
+    m_place.emplace(destination, m_hiddenFolder);
     m_place->make();
     if (!m_place->isHidden())
         m_note.reset();
@@ -93,8 +91,8 @@ bool ProjectCreation::build()
     if (m_monitor.cancelled)
         return false;
     const Outcome placed = m_place->putInPlace();
-    if (m_note && !placed.ok())
-        m_note->leaveSomethingBehind();
+    if (m_note)
+        placed.ok() ? m_note->placed() : m_note->leaveSomethingBehind();
     m_note.reset();
     remember();
     if (!m_stored.ok())
@@ -201,9 +199,13 @@ Outcome ProjectCreation::claimOnce()
             if (withNextNumbers(m_result.request, list).parameters != m_result.request.parameters)
                 return made = Outcome::failure(Cause::Busy, destination);
             m_levelsMade = missingLevels(platform::parentPath(destination));
+            m_hiddenFolder = Workplace::hiddenFolderFor(destination);
+            m_note.emplace(m_hiddenFolder, destination, m_levelsMade);
             made = platform::makeFolders(platform::parentPath(destination));
             if (made.ok())
                 made = platform::makeNewFolder(destination);
+            if (!made.ok())
+                m_note.reset();
             if (made.is(Cause::Exists) && platform::kindOf(destination) != FileKind::Missing)
                 return made;
             return withNumbersTaken(list, m_result.request);

@@ -89,6 +89,7 @@ private:
     CreationResult m_result;
     platform::CopyMonitor m_monitor;
     std::optional<Workplace> m_place;
+    QString m_hiddenFolder; ///< where it will be built, if it can be; null without a claim
     std::optional<CreationNote> m_note;
     CreationPlan m_plan;
     QStringList m_copiedByTool; ///< folders in the workplace

@@ -1,7 +1,9 @@
 #include "creation/Unfinished.h"
 
+#include "creation/Manifest.h"
 #include "platform/base/NativePath.h"
 #include "platform/base/PropertyList.h"
+#include "platform/base/System.h"
 #include "platform/files/AppendFile.h"
 #include "platform/files/FileSystem.h"
 #include "platform/files/FileTree.h"
@@ -10,14 +12,25 @@
 #include "support/VTLocalPaths.h"
 #include "support/VTLog.h"
 
+#include <QCoreApplication>
+#include <QDateTime>
 #include <QRandomGenerator>
+#include <algorithm>
 
 using platform::Outcome;
 
 namespace {
 
+struct Text
+{
+    Q_DECLARE_TR_FUNCTIONS(Unfinished)
+};
+
+constexpr qsizetype mostNamed = 10;
 const QString folderKey = QStringLiteral("folder");
 const QString destinationKey = QStringLiteral("destination");
+const QString levelsKey = QStringLiteral("levels");
+const QString runKey = QStringLiteral("run");
 
 QString notesFolder()
 {
@@ -25,18 +38,125 @@ QString notesFolder()
            QStringLiteral("/Vantrel/Tessaro/Unfinished");
 }
 
-Outcome write(const QString &file, const QVariantMap &note)
+/// For projects that stand: a folder for each run of the computer and each hour, so that the notes of an hour go at
+/// once.
+QString placedFolder()
 {
-    // Not forced onto the disk: that would take longer than a small project. What a power cut takes with it here it has
-    // mostly taken from the project, too.
+    return notesFolder() + QStringLiteral("/Placed");
+}
+
+/// The system writes within half a minute; an hour is what a laptop that saves power may take, and more.
+constexpr qint64 secondsUntilWritten = 3600;
+
+qint64 hourNow()
+{
+    return QDateTime::currentSecsSinceEpoch() / secondsUntilWritten;
+}
+
+Outcome keepAsPlaced(const QString &note, const QString &runOfSystem)
+{
+    const QString folder = platform::joined(placedFolder(), runOfSystem + u'.' + QString::number(hourNow()));
+    const Outcome made = platform::makeFolders(folder);
+    return made.ok() ? platform::moveItem(note, platform::joined(folder, platform::lastComponent(note))) : made;
+}
+
+Outcome write(const QString &file, const QVariantMap &note, platform::Waits waits)
+{
     platform::AppendFile target;
-    const Outcome opened = target.open(file);
-    return opened.ok() ? target.append(platform::writePropertyList(note)) : opened;
+    Outcome written = target.open(file);
+    if (written.ok())
+        written = target.append(platform::writePropertyList(note));
+    return written.ok() ? target.waitFor(waits) : written;
+}
+
+/// In one journal what was written first is there first; of two drives nobody knows which was sooner.
+platform::Waits waitsFor(const QString &folder, const QString &note)
+{
+    QString above = platform::parentPath(folder);
+    while (!above.isEmpty() && above != u"/" && platform::kindOf(above) == platform::FileKind::Missing)
+        above = platform::parentPath(above);
+    const auto ofFolder = platform::identityOf(above);
+    const auto ofNote = platform::identityOf(note);
+    const bool isSameDrive = ofFolder && ofNote && ofFolder->device == ofNote->device;
+    return isSameDrive ? platform::Waits::ForItsBytes : platform::Waits::ForTheDisk;
+}
+
+/// A file that was cut off has the date of its making, or no contents at all; what a user has changed has neither.
+bool isCutOff(const platform::MadeItem &made, const platform::MadeItem &now)
+{
+    return now.inode == made.inode && now.size < made.size && (now.size == 0 || now.modified == made.modified);
+}
+
+QStringList cutOffOf(const Manifest &manifest, const std::vector<ManifestItem> &items)
+{
+    QStringList found;
+    QStringList path;
+    for (const ManifestItem &item : items) {
+        path.resize(static_cast<qsizetype>(item.depth));
+        path.append(platform::fromNative(item.name));
+        const QString below = path.join(u'/');
+        if (platform::kindOfType(item.type) == platform::FileKind::File &&
+            isCutOff(item.made, platform::madeItemAt(platform::joined(manifest.project, below))))
+            found.append(below);
+    }
+    return found;
+}
+
+/// Where nothing says what was made: a file without contents is what a power cut leaves.
+QStringList emptyFilesIn(const QString &project)
+{
+    QStringList found;
+    const std::atomic<bool> never = false;
+    const platform::Tree tree = platform::readTree(
+        project, [](platform::TreeFolder &) {}, never);
+    tree.forEachFolder([&](std::uint32_t number) {
+        const platform::TreeFolder &folder = tree.folders[number];
+        for (const platform::TreeItem &item : folder.items) {
+            const QString below = platform::joined(tree.pathOf(number), platform::fromNative(folder.nameOf(item)));
+            if (platform::kindOfType(item.type) == platform::FileKind::File &&
+                platform::fileSizeOf(platform::joined(project, below)) == 0)
+                found.append(below);
+        }
+    });
+    return found;
+}
+
+/// Nothing for a project that is as it was made.
+std::optional<DoubtfulProject> judged(const QString &note, const QString &project, const QList<Manifest> &manifests)
+{
+    DoubtfulProject doubtful{note, project, platform::kindOf(project) == platform::FileKind::Folder, {}};
+    const auto identity = platform::identityOf(project);
+    if (!doubtful.isThere || platform::listFolder(project).valueOr({}).isEmpty()) {
+        doubtful.isThere = false;
+        return doubtful;
+    }
+    const auto known = std::find_if(manifests.begin(), manifests.end(), [&](const Manifest &manifest) {
+        return manifest.project == project && identity == manifest.identity;
+    });
+    const auto items =
+        known == manifests.end()
+            ? platform::Result<std::vector<ManifestItem>>(Outcome::failure(platform::Cause::Missing, project))
+            : itemsOf(*known);
+    doubtful.cutOff = items ? cutOffOf(*known, *items) : emptyFilesIn(project);
+    return doubtful.cutOff.isEmpty() ? std::nullopt : std::optional(doubtful);
+}
+
+/// The place that was claimed, and the levels above it that came with it; one that is in use by now stays.
+void removeEmptyPlace(const Leftover &leftover)
+{
+    QStringList folders = leftover.levels;
+    folders.append(leftover.destination);
+    for (qsizetype i = folders.size() - 1; i >= 0; --i) {
+        const bool isGone = folders[i].isEmpty() || platform::isMissing(folders[i]) ||
+                            platform::removeEmptyFolder(folders[i]).ok();
+        if (!isGone)
+            return;
+    }
 }
 
 } // namespace
 
-CreationNote::CreationNote(const QString &folder, const QString &destination)
+CreationNote::CreationNote(const QString &folder, const QString &destination, const QStringList &levels)
     : m_file(platform::joined(notesFolder(), QString::number(QRandomGenerator::global()->generate64(), 36)))
 {
     Outcome noted = platform::makeFolders(notesFolder());
@@ -47,9 +167,15 @@ CreationNote::CreationNote(const QString &folder, const QString &destination)
             m_lock.emplace(*std::move(lock));
     }
     if (noted.ok())
-        noted = write(m_file, {{folderKey, folder}, {destinationKey, destination}});
+        noted = write(m_file, {{folderKey, folder}, {destinationKey, destination}, {levelsKey, levels}, {runKey, platform::runOfSystem()}},
+                      waitsFor(folder, m_file));
     if (!noted.ok())
         VTLog::appendLog("Unable to note the creation: %@", noted.description());
+}
+
+void CreationNote::placed()
+{
+    m_isToStay = keepAsPlaced(m_file, platform::runOfSystem()).ok();
 }
 
 CreationNote::~CreationNote()
@@ -62,15 +188,22 @@ QList<Leftover> leftovers()
 {
     QList<Leftover> found;
     for (const platform::FolderEntry &entry : platform::listFolder(notesFolder()).valueOr({})) {
+        if (entry.kind != platform::FileKind::File)
+            continue;
         const QString file = platform::joined(notesFolder(), entry.name);
         if (platform::FileLock::acquire(file, {}).outcome().is(platform::Cause::Busy))
             continue; // under way
         const QVariantMap note = platform::readPropertyListFile(file).valueOr(QVariant()).toMap();
-        const Leftover leftover{file, note.value(folderKey).toString(), note.value(destinationKey).toString()};
-        if (platform::kindOf(leftover.folder) == platform::FileKind::Folder)
+        const Leftover leftover{file, note.value(folderKey).toString(), note.value(destinationKey).toString(),
+                                note.value(levelsKey).toStringList()};
+        if (platform::kindOf(leftover.folder) == platform::FileKind::Folder) {
             found.append(leftover);
-        else
-            static_cast<void>(forget(leftover)); // nothing is left of it
+            continue;
+        }
+        removeEmptyPlace(leftover); // nothing else is left of it
+        if (platform::kindOf(leftover.destination) != platform::FileKind::Folder ||
+            !keepAsPlaced(file, note.value(runKey).toString()).ok())
+            static_cast<void>(forget(leftover));
     }
     return found;
 }
@@ -80,11 +213,57 @@ Outcome putAway(const Leftover &leftover)
     const Outcome trashed = fileoperations::trashFile(leftover.folder);
     if (!trashed.ok())
         return trashed;
-    static_cast<void>(platform::removeEmptyFolder(leftover.destination)); // one that is in use by now stays
+    removeEmptyPlace(leftover);
     return forget(leftover);
 }
 
 Outcome forget(const Leftover &leftover)
 {
     return platform::removeTree(leftover.note);
+}
+
+QList<DoubtfulProject> doubtfulProjects()
+{
+    QList<DoubtfulProject> found;
+    std::optional<QList<Manifest>> manifests;
+    for (const platform::FolderEntry &hour : platform::listFolder(placedFolder()).valueOr({})) {
+        const QString folder = platform::joined(placedFolder(), hour.name);
+        const bool isOfThisRun = hour.name.section(u'.', 0, 0) == platform::runOfSystem();
+        if (isOfThisRun && hour.name.section(u'.', 1).toLongLong() >= hourNow() - 1)
+            continue;
+        for (const platform::FolderEntry &entry : platform::listFolder(folder).valueOr({})) {
+            const QString file = platform::joined(folder, entry.name);
+            const QVariantMap note = platform::readPropertyListFile(file).valueOr(QVariant()).toMap();
+            if (!isOfThisRun && !manifests)
+                manifests = recentProjects();
+            const auto doubtful =
+                isOfThisRun ? std::nullopt : judged(file, note.value(destinationKey).toString(), *manifests);
+            if (doubtful && !doubtful->project.isEmpty())
+                found.append(*doubtful);
+            else
+                static_cast<void>(platform::removeTree(file)); // one that stays is looked at again
+        }
+        static_cast<void>(platform::removeEmptyFolder(folder)); // else it holds what is not yet told
+    }
+    return found;
+}
+
+QString descriptionOf(const DoubtfulProject &project)
+{
+    if (!project.isThere)
+        return Text::tr("The computer lost its power, or was switched off, before the project had reached its drive.");
+    QString text =
+        Text::tr("The computer lost its power, or was switched off, before all of the project had reached its "
+                 "drive. %n of its files are empty or cut off:",
+                 nullptr, static_cast<int>(project.cutOff.size()));
+    for (const QString &file : project.cutOff.first(qMin(mostNamed, project.cutOff.size())))
+        text += u'\n' + platform::forOneLine(file);
+    return project.cutOff.size() > mostNamed ? text + QStringLiteral("\n…") : text;
+}
+
+Outcome forget(const DoubtfulProject &project)
+{
+    const Outcome gone = platform::removeTree(project.note);
+    static_cast<void>(platform::removeEmptyFolder(platform::parentPath(project.note))); // the others are still to come
+    return gone;
 }

@@ -22,13 +22,17 @@ QString hiddenName(const QString &name)
 
 } // namespace
 
-Workplace::Workplace(const QString &destination)
+Workplace::Workplace(const QString &destination, const QString &hidden)
     : m_destination(destination)
     , m_folder(destination)
 {
     if (platform::kindOf(destination) == platform::FileKind::Folder) // else there is no place to take
-        m_folder =
-            platform::joined(platform::parentPath(destination), hiddenName(platform::lastComponent(destination)));
+        m_folder = hidden.isNull() ? hiddenFolderFor(destination) : hidden;
+}
+
+QString Workplace::hiddenFolderFor(const QString &destination)
+{
+    return platform::joined(platform::parentPath(destination), hiddenName(platform::lastComponent(destination)));
 }
 
 void Workplace::make()

@@ -14,7 +14,9 @@ class Workplace
 public:
     /** The destination is the project's own, still empty folder. Nothing is made yet: what will be is noted first, so
         that it is found whenever the program is ended. */
-    explicit Workplace(const QString &destination);
+    explicit Workplace(const QString &destination, const QString &hidden = {});
+    /** A path for the hidden folder, which nothing has. */
+    [[nodiscard]] static QString hiddenFolderFor(const QString &destination);
     /** Where the hidden folder cannot be made, the destination is the workplace from now on. */
     void make();
 

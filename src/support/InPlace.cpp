@@ -1,9 +1,11 @@
 #include "support/InPlace.h"
 
+#include "platform/base/MainThread.h"
 #include "platform/base/NativePath.h"
 #include "platform/files/FileSystem.h"
 #include "platform/files/FileTree.h"
 #include "platform/files/StagingFolder.h"
+#include "platform/files/WriteOut.h"
 #include "support/FileOperations.h"
 #include "support/VTLog.h"
 
@@ -98,6 +100,10 @@ Outcome makeInPlace(const InPlace &place, const std::function<Outcome(const QStr
     const Outcome made = make(staged);
     if (!made.ok())
         return shownAs(made, staged, place.destination);
+    // A name that stood for empty files after a power cut would be a template that makes empty files from then on.
+    const Outcome written = platform::resultInBackground([&] { return platform::writeOut(staged); });
+    if (!written.ok())
+        return shownAs(written, staged, place.destination);
     staging.giveToOwnerOfPlace();
     const bool stands = place.replaces == Replaces::WhatStandsThere && isThere(place.destination);
     return stands ? replace(place, staging)

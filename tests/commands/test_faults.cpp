@@ -2,12 +2,9 @@
 // with the old state, with the new one, or with a word about what is missing; never with half of something and 0.
 //
 // TESSARO_EVERY_FAULT=1 tries every call with every error, and says what came of it; otherwise one in a few.
-#include "harness/TemporaryHome.h"
-#include "platform/base/NativePath.h"
-#include "platform/files/FileSystem.h"
+#include "commands/VerbState.h"
 #include "platform/files/FileTree.h"
 #include "platform/files/TreeCopy.h"
-#include "platform/files/WholeFile.h"
 
 #include <QElapsedTimer>
 #include <QProcess>
@@ -20,18 +17,12 @@
 #include <sys/stat.h>
 #include <thread>
 
-using platform::joined;
+using verbs::inLibrary;
+using verbs::isOldOrNew;
+using verbs::leftBehind;
+using verbs::State;
 
 namespace {
-
-/// What counts of a home: by path, what stands there.
-struct State
-{
-    QMap<QString, QByteArray> library;
-    QMap<QString, QByteArray> projects;
-    QVariant settings;
-    bool operator==(const State &) const = default;
-};
 
 struct Ended
 {
@@ -41,58 +32,6 @@ struct Ended
     QByteArray errors;
     QByteArray report; ///< "CALLS CALL PATH"
 };
-
-QMap<QString, QByteArray> treeOf(const QString &folder)
-{
-    QMap<QString, QByteArray> tree;
-    for (const auto &entry : platform::listFolder(folder).valueOr({})) {
-        if (entry.name.startsWith(u".tessaro-") || entry.name.contains(u".tessaro-"))
-            continue;
-        const QString path = joined(folder, entry.name);
-        const bool isFolder = entry.kind == platform::FileKind::Folder;
-        tree[entry.name] = isFolder ? "folder" : readFile(path);
-        const auto below = isFolder ? treeOf(path) : QMap<QString, QByteArray>();
-        for (auto item = below.begin(); item != below.end(); ++item)
-            tree[entry.name + u'/' + item.key()] = item.value();
-    }
-    return tree;
-}
-
-QMap<QString, QByteArray> onlyOf(const QMap<QString, QByteArray> &tree, const QString &bundle)
-{
-    QMap<QString, QByteArray> part;
-    for (auto item = tree.begin(); item != tree.end(); ++item) {
-        if (item.key() == bundle || item.key().startsWith(bundle + u'/'))
-            part[item.key()] = item.value();
-    }
-    return part;
-}
-
-/// Each template is the old one or the new one; a command that changes several may have come to some of them.
-bool isOldOrNew(const State &found, const State &before, const State &after)
-{
-    QSet<QString> bundles;
-    for (const auto &library : {found.library, before.library, after.library}) {
-        for (const QString &path : library.keys())
-            bundles.insert(path.section(u'/', 0, 0));
-    }
-    return std::all_of(bundles.begin(), bundles.end(), [&](const QString &bundle) {
-        const auto part = onlyOf(found.library, bundle);
-        return part == onlyOf(before.library, bundle) || part == onlyOf(after.library, bundle);
-    });
-}
-
-QStringList leftBehind(const QString &folder)
-{
-    QStringList found;
-    for (const auto &entry : platform::listFolder(folder).valueOr({})) {
-        if (entry.name.contains(u".tessaro-"))
-            found << joined(folder, entry.name);
-        else if (entry.kind == platform::FileKind::Folder)
-            found << leftBehind(joined(folder, entry.name));
-    }
-    return found;
-}
 
 } // namespace
 
@@ -104,11 +43,6 @@ class TestFaults : public QObject
     QString m_prepared = m_folder.filePath("prepared");
     QString m_home = m_folder.filePath("home"); ///< a copy of the prepared one for each run, always at the same path
     QString m_report = m_folder.filePath("report");
-
-    QString inLibrary(const QString &home, const QString &path) const
-    {
-        return home + "/Library/Application Support/Vantrel/Tessaro/Templates/" + path;
-    }
 
     std::unique_ptr<QProcess> start(const QStringList &words, int at = 0, int error = 0) const
     {
@@ -144,50 +78,16 @@ class TestFaults : public QObject
         QVERIFY(platform::removeOwnTree(m_home).ok());
         QVERIFY(platform::copyItem(m_prepared, m_home).ok());
     }
-    State state() const
-    {
-        const auto settings = platform::readPropertyListFile(m_home + "/Library/Preferences/com.vantrel.Tessaro.plist");
-        return {treeOf(inLibrary(m_home, {})), treeOf(m_home + "/Projects"), settings.valueOr(QVariant())};
-    }
-
-    /// Of the verbs, what they may change; null words end the list.
-    void rows()
-    {
-        QTest::addColumn<QStringList>("words");
-        const QString in = m_home + "/In/";
-        QTest::newRow("create") << QStringList{"create", "--in",  m_home + "/Projects", "--template",
-                                               "Film",   "--set", "Client=Acme"};
-        QTest::newRow("import") << QStringList{"template", "import", in + "New.tzt"};
-        QTest::newRow("import over an old one") << QStringList{"template", "import", in + "Film.tzt"};
-        QTest::newRow("new") << QStringList{"template", "new", "Empty"};
-        QTest::newRow("duplicate") << QStringList{"template", "duplicate", "Film"};
-        QTest::newRow("rename") << QStringList{"template", "rename", "Film", "Feature"};
-        QTest::newRow("structure") << QStringList{"template", "structure", "Film", "--from", in + "Shots"};
-        QTest::newRow("remove") << QStringList{"template", "remove", "Film", "--yes"};
-        QTest::newRow("restore") << QStringList{"template", "restore", "--yes"};
-        QTest::newRow("set") << QStringList{"settings", "set", "separatorChar", "-"};
-        QTest::newRow("parameter") << QStringList{"parameters", "add", "Reel", "text", "x"};
-    }
+    State state() const { return verbs::stateOf(m_home); }
+    void rows() { verbs::rows(m_home); }
 
 private Q_SLOTS:
     void initTestCase()
     {
         QVERIFY(platform::makeFolders(m_home).ok());
         QCOMPARE(run({"template", "restore", "--yes"}).status, 0);
-        for (const auto &entry : *platform::listFolder(inLibrary(m_home, {}))) {
-            if (entry.name != u"Photography.tzt")
-                QVERIFY(platform::removeTree(inLibrary(m_home, entry.name)).ok());
-        }
-        QVERIFY(platform::removeTree(platform::joined(m_home, ".local")).ok());
+        verbs::prepare(m_home);
         QCOMPARE(run({"settings", "set", "autoOpenFolder", "0"}).status, 0);
-        for (int i = 0; i < 6; ++i) {
-            const QString file = QStringLiteral("/Files/%1/template %2").arg(i / 3).arg(i);
-            writeFile(inLibrary(m_home, "Film.tzt") + file, "film");
-            writeFile(m_home + "/In/Film.tzt" + file + " new", "newer");
-            writeFile(m_home + "/In/New.tzt" + file, "new");
-            writeFile(m_home + QStringLiteral("/In/Shots/%1/A/B %2/x").arg(i / 3).arg(i));
-        }
-        QVERIFY(platform::makeFolders(m_home + "/Projects").ok());
         QVERIFY(platform::copyItem(m_home, m_prepared).ok());
     }
 

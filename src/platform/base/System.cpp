@@ -1,12 +1,14 @@
 #include "platform/base/System.h"
 
 #include "platform/base/NativePath.h"
+#include "platform/plain/UniqueDescriptor.h"
 
 #include <QSysInfo>
 #include <climits>
 #include <clocale>
 #include <csignal>
 #include <cstring>
+#include <fcntl.h>
 #include <langinfo.h>
 #include <sys/prctl.h>
 #include <unistd.h>
@@ -32,6 +34,14 @@ Outcome becomeProgram(const QString &path, char **words)
 QString operatingSystemName()
 {
     return QSysInfo::prettyProductName();
+}
+
+QString runOfSystem()
+{
+    char identifier[64];
+    const UniqueDescriptor file(open("/proc/sys/kernel/random/boot_id", O_RDONLY | O_CLOEXEC));
+    const ssize_t length = file.isOpen() ? read(file.get(), identifier, sizeof identifier) : 0;
+    return length <= 0 ? QString() : QString::fromLatin1(identifier, length).trimmed();
 }
 
 int processorCount()

@@ -12,6 +12,9 @@ namespace platform {
 Outcome becomeProgram(const QString &path, char **words);
 
 /** "Debian GNU/Linux 12 (bookworm)"; the kernel's name where the system does not say. */
+/** Tells this run of the computer from any other: the same for all processes until it is started again. Null where the
+    system does not say. */
+[[nodiscard]] QString runOfSystem();
 [[nodiscard]] QString operatingSystemName();
 [[nodiscard]] int processorCount();
 [[nodiscard]] double memoryInGibibytes();

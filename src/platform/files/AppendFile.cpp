@@ -7,6 +7,7 @@
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace platform {
 
@@ -50,6 +51,14 @@ Outcome AppendFile::append(const QByteArray &bytes)
 {
     const bool written = writeWhole(m_file.get(), bytes.constData(), static_cast<std::size_t>(bytes.size()));
     return written ? Outcome() : Outcome::fromErrno(m_path);
+}
+
+Outcome AppendFile::waitFor(Waits waits)
+{
+    const bool isWritten = waits == Waits::ForTheDisk    ? fsync(m_file.get()) == 0
+                           : waits == Waits::ForItsBytes ? writeOut(m_file.get(), WritesOut::Ends)
+                                                         : true;
+    return isWritten ? Outcome() : Outcome::fromErrno(m_path);
 }
 
 } // namespace platform

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/base/Outcome.h"
+#include "platform/files/Waits.h"
 #include "platform/plain/UniqueDescriptor.h"
 
 #include <QByteArray>
@@ -26,6 +27,8 @@ public:
     [[nodiscard]] static bool isInUse(const QString &path);
     /** All bytes, in one write where the system takes them whole. */
     Outcome append(const QByteArray &bytes);
+    /** What was added is on the disk, or on its way there (see replaceFile()). */
+    Outcome waitFor(Waits waits);
 
 private:
     QString m_path;

@@ -41,6 +41,19 @@ QString behindLink(const QString &path)
     return realPath(path);
 }
 
+bool hasGone(int file, Waits waits)
+{
+    switch (waits) {
+    case Waits::ForTheDisk:
+        return fsync(file) == 0 || errno == EINVAL;
+    case Waits::ForItsBytes:
+        return writeOut(file, WritesOut::Ends);
+    case Waits::ForTheSystem:
+        break;
+    }
+    return true;
+}
+
 /// The bytes under a name of their own, with the mode of the old file or, without one, that of a new
 /// one. Nothing is left of them on failure, which leaves errno.
 bool writeBeside(int folder, const QByteArray &name, const struct stat *old, const QByteArray &bytes, Waits waits)
@@ -54,8 +67,7 @@ bool writeBeside(int folder, const QByteArray &name, const struct stat *old, con
     // Drives that know no modes refuse to set one; the file can be used all the same.
     const bool hasMode = !old || fchmod(file.get(), old->st_mode & 07777U) == 0 || errno == EPERM || errno == ENOTSUP;
     const bool written = hasMode && writeWhole(file.get(), bytes.constData(), static_cast<std::size_t>(bytes.size())) &&
-                         (waits == Waits::ForTheSystem || fsync(file.get()) == 0 || errno == EINVAL) &&
-                         file.closeChecked() == 0;
+                         hasGone(file.get(), waits) && file.closeChecked() == 0;
     if (written)
         return true;
     const int error = errno;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/base/Outcome.h"
+#include "platform/files/Waits.h"
 
 #include <QByteArray>
 #include <QString>
@@ -17,10 +18,6 @@ inline constexpr qint64 largestWholeFile = qint64{64} * 1024 * 1024;
 
 /** Every byte, or a failure: half a file is never returned. Cause::Missing only when nothing stands there. */
 [[nodiscard]] Result<QByteArray> readFile(const QString &path, qint64 atMost = largestWholeFile);
-
-/** Whether a write returns when the disk has it, or when the system has it: some milliseconds sooner, and enough for
-    what nobody misses after a power cut. */
-enum class Waits { ForTheDisk, ForTheSystem };
 
 /**
  * Puts the bytes in place of the file in one step: who reads it meanwhile, or after a power cut, finds the old or the

@@ -1,6 +1,7 @@
 #include "platform/plain/WholeWrite.h"
 
 #include <cerrno>
+#include <fcntl.h>
 #include <unistd.h>
 
 namespace platform {
@@ -35,6 +36,19 @@ bool writeWholeAt(int descriptor, const char *bytes, std::size_t count, off_t of
     return writeEveryByte(bytes, count, [&](const char *from, std::size_t left, off_t done) {
         return pwrite(descriptor, from, left, offset + done);
     });
+}
+
+bool writeOut(int descriptor, WritesOut how)
+{
+    const unsigned flags = how == WritesOut::Begins
+                               ? SYNC_FILE_RANGE_WRITE
+                               : SYNC_FILE_RANGE_WAIT_BEFORE | SYNC_FILE_RANGE_WRITE | SYNC_FILE_RANGE_WAIT_AFTER;
+    for (;;) {
+        if (sync_file_range(descriptor, 0, 0, flags) == 0)
+            return true;
+        if (errno != EINTR)
+            return errno != EIO && errno != ENOSPC && errno != EDQUOT;
+    }
 }
 
 } // namespace platform

@@ -10,4 +10,9 @@ namespace platform {
 /** The same at a place in the file; the descriptor's own offset stays. */
 [[nodiscard]] bool writeWholeAt(int descriptor, const char *bytes, std::size_t count, off_t offset);
 
+enum class WritesOut { Begins, Ends };
+/** What has been written to the file goes to the drive: that is begun, or waited for. False, with errno, when the drive
+   has lost it; true where there is nothing to wait for. Any thread. */
+[[nodiscard]] bool writeOut(int descriptor, WritesOut how);
+
 } // namespace platform
