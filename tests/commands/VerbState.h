@@ -20,6 +20,7 @@ struct State
 {
     QMap<QString, QByteArray> library;
     QMap<QString, QByteArray> projects;
+    QMap<QString, QByteArray> archives;
     QVariant settings;
     bool operator==(const State &) const = default;
 };
@@ -45,10 +46,25 @@ inline QString inLibrary(const QString &home, const QString &path)
     return home + "/Library/Application Support/Vantrel/Tessaro/Templates/" + path;
 }
 
+/// What was packed or written out; of an archive, which holds dates and logs, whether it is whole.
+inline QMap<QString, QByteArray> archivesOf(const QString &folder)
+{
+    QMap<QString, QByteArray> archives;
+    const auto tree = treeOf(folder);
+    for (auto item = tree.begin(); item != tree.end(); ++item) {
+        const bool isArchive = item.key().endsWith(u".zip");
+        const bool isWhole = item.value().startsWith("PK") && item.value().right(22).startsWith("PK\5\6");
+        archives[isArchive ? "archive" : item.key()] =
+            isArchive ? QByteArray(isWhole ? "whole" : "half") : item.value();
+    }
+    return archives;
+}
+
 inline State stateOf(const QString &home)
 {
     const auto settings = platform::readPropertyListFile(home + "/Library/Preferences/com.vantrel.Tessaro.plist");
-    return {treeOf(inLibrary(home, {})), treeOf(home + "/Projects"), settings.valueOr(QVariant())};
+    return {treeOf(inLibrary(home, {})), treeOf(home + "/Projects"), archivesOf(home + "/Out"),
+            settings.valueOr(QVariant())};
 }
 
 inline QMap<QString, QByteArray> onlyOf(const QMap<QString, QByteArray> &tree, const QString &bundle)
@@ -84,6 +100,10 @@ inline QStringList leftBehind(const QString &folder)
         else if (entry.kind == platform::FileKind::Folder)
             found << leftBehind(platform::joined(folder, entry.name));
     }
+    if (folder.endsWith(u"/tmp") || folder.contains(u"/tmp/"))
+        return found;
+    for (const auto &entry : platform::listFolder(folder + "/tmp").valueOr({}))
+        found << platform::joined(folder + "/tmp", entry.name);
     return found;
 }
 
@@ -102,6 +122,9 @@ inline void rows(const QString &home)
     QTest::newRow("structure") << QStringList{"template", "structure", "Film", "--from", in + "Shots"};
     QTest::newRow("remove") << QStringList{"template", "remove", "Film", "--yes"};
     QTest::newRow("restore") << QStringList{"template", "restore", "--yes"};
+    QTest::newRow("export") << QStringList{"template", "export", "Film", home + "/Out"};
+    QTest::newRow("gather") << QStringList{"logs", "gather", "--to", home + "/Out"};
+    QTest::newRow("export parameters") << QStringList{"parameters", "export", home + "/Out/list.plist"};
     QTest::newRow("set") << QStringList{"settings", "set", "separatorChar", "-"};
     QTest::newRow("parameter") << QStringList{"parameters", "add", "Reel", "text", "x"};
 }
@@ -121,7 +144,8 @@ inline void prepare(const QString &home)
         writeFile(home + "/In/New.tzt" + file, "new");
         writeFile(home + QStringLiteral("/In/Shots/%1/A/B %2/x").arg(i / 3).arg(i));
     }
-    QVERIFY(platform::makeFolders(home + "/Projects").ok());
+    for (const char *folder : {"/Projects", "/tmp", "/Out"})
+        QVERIFY(platform::makeFolders(home + QLatin1String(folder)).ok());
 }
 
 } // namespace verbs

@@ -3,8 +3,10 @@
 //
 //   FAULT_BELOW   the folder
 //   FAULT_AT      the number of the call, from 1; 0 counts only
-//   FAULT_ERRNO   the error
-//   FAULT_REPORT  a file that receives the number of calls, and the name of the one that failed
+//   FAULT_ERRNO   the error; 0: a read or a write does half of what it was asked for, and other calls succeed
+//   FAULT_REPORT  a file that receives the number of calls, the name of the one that failed and its path, then in a
+//   line of
+//                 their own the descriptors that are open below the folder and the threads that there are at the end
 #include <atomic>
 #include <cerrno>
 #include <cstdarg>
@@ -50,6 +52,11 @@ bool isBelow(const char *path)
     return s.below && strncmp(path, s.below, s.length) == 0;
 }
 
+bool isShort()
+{
+    return settings().error == 0;
+}
+
 /// Whether the call is the one to fail.
 bool fails(const char *call, const char *path)
 {
@@ -58,7 +65,7 @@ bool fails(const char *call, const char *path)
     snprintf(failedPath, sizeof failedPath, "%s", path);
     failed = call;
     errno = settings().error;
-    return true;
+    return !isShort();
 }
 
 bool fdFails(const char *call, int fd)
@@ -82,9 +89,44 @@ bool atFails(const char *call, int folder, const char *name)
     return name[0] == '/' ? fails(call, name) : folder != AT_FDCWD && fdFails(call, folder);
 }
 
+/// How many bytes the call is to be passed on with.
+std::size_t lengthOf(std::size_t asked, long before)
+{
+    const bool isOne = isShort() && before != settings().at && calls == settings().at;
+    return isOne && asked > 1 ? asked / 2 : asked;
+}
+
+long countIn(const char *folder, bool onlyBelow)
+{
+    long count = 0;
+    DIR *const listed = opendir(folder);
+    if (!listed)
+        return -1;
+    while (const dirent *entry = readdir(listed)) {
+        char path[4096];
+        const long length =
+            syscall(SYS_readlinkat, dirfd(listed), entry->d_name, path, static_cast<long>(sizeof path - 1));
+        path[length > 0 ? length : 0] = '\0';
+        count += entry->d_name[0] != '.' && (!onlyBelow || isBelow(path));
+    }
+    closedir(listed);
+    return count;
+}
+
 template <typename Function> Function next(const char *name)
 {
     return reinterpret_cast<Function>(dlsym(RTLD_NEXT, name));
+}
+
+/// It is closed all the same, as the system does it.
+bool closeFails(int fd)
+{
+    const bool fails = fdFails("close", fd);
+    const int error = errno;
+    if (fails)
+        syscall(SYS_close, fd);
+    errno = error;
+    return fails;
 }
 
 __attribute__((destructor)) void report()
@@ -94,8 +136,8 @@ __attribute__((destructor)) void report()
         return;
     const long file = syscall(SYS_open, path, O_WRONLY | O_CREAT | O_TRUNC, 0600);
     char line[5000];
-    const int length =
-        snprintf(line, sizeof line, "%ld %s %s\n", calls.load(), failed ? failed.load() : "-", failedPath);
+    const int length = snprintf(line, sizeof line, "%ld %s %s\n%ld %ld\n", calls.load(), failed ? failed.load() : "-",
+                                failedPath, countIn("/proc/self/fd", true), countIn("/proc/self/task", false));
     syscall(SYS_write, file, line, length);
     syscall(SYS_close, file);
 }
@@ -114,6 +156,17 @@ __attribute__((destructor)) void report()
         return real words;                                                                                             \
     }
 
+// The same for calls that may do a part of what they were asked for.
+#define FAULT_LENGTH(result, name, parameters, words, test)                                                            \
+    extern "C" result name parameters                                                                                  \
+    {                                                                                                                  \
+        static const auto real = next<result(*) parameters>(#name);                                                    \
+        const long before = calls;                                                                                     \
+        if (test)                                                                                                      \
+            return -1;                                                                                                 \
+        return real words;                                                                                             \
+    }
+
 FAULT(int, mkdirat, (int d, const char *n, mode_t m), (d, n, m), atFails("mkdirat", d, n))
 FAULT(int, unlinkat, (int d, const char *n, int f), (d, n, f), atFails("unlinkat", d, n))
 FAULT(int, renameat, (int d, const char *n, int e, const char *o), (d, n, e, o), atFails("renameat", d, n))
@@ -127,10 +180,20 @@ FAULT(int, statx, (int d, const char *n, int f, unsigned m, struct statx *s), (d
 FAULT(int, fstat, (int d, struct stat *s), (d, s), fdFails("fstat", d))
 FAULT(int, fstat64, (int d, struct stat64 *s), (d, s), fdFails("fstat", d))
 FAULT(int, faccessat, (int d, const char *n, int m, int f), (d, n, m, f), atFails("faccessat", d, n))
-FAULT(ssize_t, read, (int d, void *b, size_t s), (d, b, s), fdFails("read", d))
-FAULT(ssize_t, write, (int d, const void *b, size_t s), (d, b, s), fdFails("write", d))
-FAULT(ssize_t, copy_file_range, (int d, off64_t *o, int e, off64_t *p, size_t s, unsigned f), (d, o, e, p, s, f),
-      fdFails("copy_file_range", e))
+FAULT_LENGTH(ssize_t, read, (int d, void *b, size_t s), (d, b, lengthOf(s, before)), fdFails("read", d))
+FAULT_LENGTH(ssize_t, write, (int d, const void *b, size_t s), (d, b, lengthOf(s, before)), fdFails("write", d))
+FAULT_LENGTH(ssize_t, copy_file_range, (int d, off64_t *o, int e, off64_t *p, size_t s, unsigned f),
+             (d, o, e, p, lengthOf(s, before), f), fdFails("copy_file_range", e))
+FAULT(int, sync_file_range, (int d, off64_t o, off64_t l, unsigned f), (d, o, l, f), fdFails("sync_file_range", d))
+FAULT(int, fchmodat, (int d, const char *n, mode_t m, int f), (d, n, m, f), atFails("fchmodat", d, n))
+FAULT(int, fchown, (int d, uid_t u, gid_t g), (d, u, g), fdFails("fchown", d))
+FAULT(int, ftruncate64, (int d, off64_t l), (d, l), fdFails("ftruncate", d))
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wshadow" // the constructor of the structure of that name
+FAULT(int, flock, (int d, int o), (d, o), fdFails("flock", d))
+#pragma GCC diagnostic pop
+FAULT(int, syncfs, (int d), (d), fdFails("syncfs", d))
+FAULT(int, close, (int d), (d), closeFails(d))
 FAULT(int, fsync, (int d), (d), fdFails("fsync", d))
 FAULT(int, fchmod, (int d, mode_t m), (d, m), fdFails("fchmod", d))
 FAULT(int, futimens, (int d, const struct timespec *t), (d, t), fdFails("futimens", d))
