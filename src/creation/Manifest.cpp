@@ -1,6 +1,7 @@
 #include "creation/Manifest.h"
 
 #include "platform/base/NativePath.h"
+#include "platform/base/PropertyList.h"
 #include "platform/files/FileTree.h"
 #include "platform/files/WholeFile.h"
 #include "support/VTLocalPaths.h"
@@ -19,7 +20,7 @@ namespace {
 
 /// "TsrH" and the format's number. What begins otherwise was written by another version, and is left alone.
 constexpr quint32 mark = 0x54737248;
-constexpr quint32 format = 1;
+constexpr quint32 format = 2;
 constexpr const char *headerEnding = ".project";
 constexpr auto streamVersion = QDataStream::Qt_6_0;
 /// Names and numbers shrink to a third with the least effort, and in a few milliseconds.
@@ -46,28 +47,40 @@ QString newFile()
                                                  .arg(QLatin1String(headerEnding)));
 }
 
+/// Paths as bytes: a name need not be UTF-8.
 QVariantMap headerOf(const Manifest &manifest)
 {
-    return {{"project", manifest.project},
-            {"template", manifest.templateName},
-            {"made", manifest.made},
-            {"device", manifest.identity.device},
-            {"inode", manifest.identity.inode},
-            {"parameters", variantFromParameters(manifest.parameters)},
-            {"levelsMade", manifest.levelsMade},
-            {"oldInTrash", manifest.oldInTrash}};
+    QVariantList levels;
+    for (const QString &level : manifest.levelsMade)
+        levels.append(platform::toNative(level));
+    QVariantMap header{{"project", platform::toNative(manifest.project)},
+                       {"template", platform::toNative(manifest.templateName)},
+                       {"made", manifest.made.toString(Qt::ISODateWithMs)},
+                       {"device", QString::number(manifest.identity.device)},
+                       {"inode", QString::number(manifest.identity.inode)},
+                       {"parameters", variantFromParameters(manifest.parameters)},
+                       {"levelsMade", levels}};
+    if (!manifest.oldInTrash.isNull())
+        header.insert("oldInTrash", platform::toNative(manifest.oldInTrash));
+    return header;
 }
 
 Manifest fromHeader(const QString &file, const QVariantMap &header)
 {
+    const auto path = [&](const char *key) {
+        return platform::fromNative(header[QLatin1String(key)].toByteArray());
+    };
+    QStringList levels;
+    for (const QVariant &level : header["levelsMade"].toList())
+        levels.append(platform::fromNative(level.toByteArray()));
     return {file,
-            header["project"].toString(),
-            header["template"].toString(),
-            header["made"].toDateTime(),
-            {header["device"].toULongLong(), header["inode"].toULongLong()},
+            path("project"),
+            path("template"),
+            QDateTime::fromString(header["made"].toString(), Qt::ISODateWithMs),
+            {header["device"].toString().toULongLong(), header["inode"].toString().toULongLong()},
             parametersFromVariant(header["parameters"]),
-            header["levelsMade"].toStringList(),
-            header["oldInTrash"].toString()};
+            levels,
+            header.contains("oldInTrash") ? path("oldInTrash") : QString()};
 }
 
 void writeFolder(QDataStream &stream, const platform::Tree &tree, std::uint32_t number, quint32 depth)
@@ -84,7 +97,7 @@ void writeFolder(QDataStream &stream, const platform::Tree &tree, std::uint32_t 
     }
 }
 
-template <typename Value> Outcome write(const QString &file, const Value &value)
+Outcome write(const QString &file, const QByteArray &value)
 {
     QByteArray bytes;
     QDataStream stream(&bytes, QIODevice::WriteOnly);
@@ -93,7 +106,7 @@ template <typename Value> Outcome write(const QString &file, const Value &value)
     return platform::replaceFile(file, bytes, platform::Waits::ForItsBytes);
 }
 
-template <typename Value> Result<Value> read(const QString &file)
+Result<QByteArray> read(const QString &file)
 {
     const Result<QByteArray> bytes = platform::readFile(file);
     if (!bytes)
@@ -102,10 +115,10 @@ template <typename Value> Result<Value> read(const QString &file)
     stream.setVersion(streamVersion);
     quint32 foundMark = 0;
     quint32 foundFormat = 0;
-    Value value;
+    QByteArray value;
     stream >> foundMark >> foundFormat >> value;
     const bool isWhole = stream.status() == QDataStream::Ok && foundMark == mark && foundFormat == format;
-    return isWhole ? Result<Value>(value) : Outcome::failure(Cause::Damaged, file);
+    return isWhole ? Result<QByteArray>(value) : Outcome::failure(Cause::Damaged, file);
 }
 
 /// The latest first.
@@ -149,7 +162,7 @@ Outcome remember(Manifest &manifest, const platform::Tree &tree)
     if (kept.ok()) // first, so that a header is never without its items
         kept = write(itemsFile(manifest.file), qCompress(items, leastEffort));
     if (kept.ok())
-        kept = write(manifest.file, headerOf(manifest));
+        kept = write(manifest.file, platform::writePropertyList(headerOf(manifest)));
     const QStringList files = headers();
     for (const QString &file : files.mid(rememberedProjects))
         static_cast<void>(forget(file)); // one that stays is one more that can be undone
@@ -160,8 +173,11 @@ QList<Manifest> recentProjects()
 {
     QList<Manifest> manifests;
     for (const QString &file : headers()) {
-        if (const auto header = read<QVariantMap>(file))
-            manifests.append(fromHeader(file, *header));
+        // A property list: a stream of variants may ask for any type that there is, pictures too.
+        const auto bytes = read(file);
+        const auto header = bytes ? platform::readPropertyList(*bytes) : std::nullopt;
+        if (header && !header->toMap().isEmpty())
+            manifests.append(fromHeader(file, header->toMap()));
     }
     return manifests;
 }
@@ -169,7 +185,7 @@ QList<Manifest> recentProjects()
 Result<std::vector<ManifestItem>> itemsOf(const Manifest &manifest)
 {
     const QString file = itemsFile(manifest.file);
-    const auto packed = read<QByteArray>(file);
+    const auto packed = read(file);
     if (!packed)
         return packed.outcome();
     const QByteArray items = qUncompress(*packed);

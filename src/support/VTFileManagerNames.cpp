@@ -61,6 +61,7 @@ QString VTFileManager::validateFilename(const QString &name)
     QString valid = (name.startsWith(u'.') ? name.mid(1) : name).trimmed();
     valid.remove(u'/');
     valid.remove(u':');
+    valid.remove(QChar(u'\0')); // pasted: to the system a name would end there
     return valid;
 }
 

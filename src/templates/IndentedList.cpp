@@ -45,7 +45,7 @@ platform::Result<QStringList> foldersIn(const QString &text)
             continue;
         const auto match = form.match(lines[i]);
         const QString name = VTFileManager::validateFilename(match.captured(2));
-        if (name.isEmpty() || name == u".." || platform::toNative(name).size() > platform::longestName)
+        if (name.isEmpty() || name == u"." || name == u".." || platform::toNative(name).size() > platform::longestName)
             return Outcome::failure(Cause::Invalid, {},
                                     Text::tr("Line %1 gives no name for a folder: %2")
                                         .arg(i + 1)

@@ -3,6 +3,9 @@
 namespace platform {
 namespace {
 
+/// A message is formatted twice, and then a name in it may look like a format: it must not fill the memory with zeros.
+constexpr int mostDecimals = 40;
+
 struct Directive
 {
     int precision = -1;
@@ -19,7 +22,7 @@ Directive directiveAt(QStringView format, qsizetype at)
     if (i < format.size() && format[i] == u'.') {
         directive.precision = 0;
         for (++i; i < format.size() && format[i].isDigit(); ++i)
-            directive.precision = directive.precision * 10 + format[i].digitValue();
+            directive.precision = qMin(directive.precision * 10 + format[i].digitValue(), mostDecimals);
     }
     while (i < format.size() && format[i] == u'l')
         ++i;

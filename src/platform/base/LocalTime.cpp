@@ -9,6 +9,10 @@
 namespace platform {
 namespace {
 
+constexpr qsizetype longestWidth = 2; // digits: no name is as long as a hundred
+
+constexpr std::size_t largestDate = std::size_t{1} << 20; // bytes: whatever is longer is no date
+
 locale_t english()
 {
     static const locale_t locale = newlocale(LC_ALL_MASK, "C", nullptr);
@@ -59,7 +63,7 @@ QString formatDate(const QString &format, std::time_t moment)
     const QByteArray marked = withUnpaddedDay(toNative(format)) + '|';
     std::vector<char> buffer(static_cast<std::size_t>(marked.size()) * 4 + 256);
     std::size_t length = 0;
-    for (int attempt = 0; length == 0 && attempt < 12; ++attempt, buffer.resize(buffer.size() * 2))
+    for (; length == 0 && buffer.size() < largestDate; buffer.resize(buffer.size() * 2))
         length = strftime_l(buffer.data(), buffer.size(), marked.constData(), &parts, english());
     return length == 0 ? QString() : fromNative(QByteArrayView(buffer.data(), static_cast<qsizetype>(length) - 1));
 }
@@ -75,8 +79,11 @@ DateFormatProblem problemOfDateFormat(const QString &format)
         ++i;
         while (i < format.size() && flags.contains(format[i]))
             ++i;
-        while (i < format.size() && format[i].isDigit()) // a width
+        const qsizetype width = i;
+        while (i < format.size() && format[i].isDigit())
             ++i;
+        if (i - width > longestWidth)
+            return DateFormatProblem::UnknownLetter;
         if (i < format.size() && (format[i] == u'E' || format[i] == u'O')) // another calendar's form
             ++i;
         if (i == format.size())

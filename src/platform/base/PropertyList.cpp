@@ -170,10 +170,11 @@ QVariant fromNode(plist_t node);
 
 QString stringOf(plist_t node)
 {
-    char *text = nullptr;
-    plist_get_string_val(node, &text);
-    const QString result = QString::fromUtf8(text);
-    free(text);
+    // Not its own copy: over one that holds U+0000 the library ends the program.
+    uint64_t length = 0;
+    const char *text = plist_get_string_ptr(node, &length);
+    QString result = text ? QString::fromUtf8(text, static_cast<qsizetype>(length)) : QString();
+    result.remove(QChar(u'\0')); // no name and no line of a file can hold it
     return result.isNull() ? QString(QLatin1String("")) : result;
 }
 
