@@ -4,7 +4,7 @@ build_packages="g++ cmake ninja-build ccache mold pkg-config qt6-base-dev qt6-sv
   libxcb1-dev libxkbcommon-x11-dev libfontconfig-dev"
 run_packages="fonts-dejavu-core libqt6svg6 qt6-qpa-plugins"
 test_packages="xvfb xauth openbox dbus dbus-daemon attr e2fsprogs util-linux
-  passwd polkitd pkexec x11-xkb-utils locales qt6-l10n-tools clang-format"
+  passwd polkitd pkexec x11-xkb-utils locales qt6-l10n-tools clang-format xfsprogs libfuse3-dev fuse3"
 tidy_packages="clang-tidy"
 
 # install_missing PACKAGE... : installs those that are not there, and says so on standard error.

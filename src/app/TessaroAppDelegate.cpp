@@ -243,7 +243,10 @@ void TessaroAppDelegate::populateTemplatePopUp()
 {
     VTLog::appendLog("Populating template popup list");
     auto &store = VTDataController::sharedController();
-    const platform::Outcome read = store.populateTemplates(); // said and logged where it failed
+    const platform::Outcome read = store.populateTemplatesInTime([window = QPointer(m_window.get()), this] {
+        if (window) // and with it this
+            populateTemplatePopUp();
+    }); // said and logged where it failed
     const bool isGone = read.is(platform::Cause::Unreachable);
     m_window->setLibraryProblem(
         isGone

@@ -36,9 +36,9 @@ constexpr Verb table[] = {
      .options = createOptions},
     {.words = "clean-up",
      .arguments = "",
-     .help = QT_TRANSLATE_NOOP("Commands",
-                               "Lists what creations that were cut off have left behind, and moves it to the Trash; names "
-                               "the projects that a power cut has damaged."),
+     .help = QT_TRANSLATE_NOOP(
+         "Commands", "Lists what creations that were cut off have left behind, and moves it to the Trash; names "
+                     "the projects that a power cut has damaged."),
      .run = commands::cleanUp,
      .options = yes},
     {.words = "history",

@@ -147,8 +147,8 @@ void removeEmptyPlace(const Leftover &leftover)
     QStringList folders = leftover.levels;
     folders.append(leftover.destination);
     for (qsizetype i = folders.size() - 1; i >= 0; --i) {
-        const bool isGone = folders[i].isEmpty() || platform::isMissing(folders[i]) ||
-                            platform::removeEmptyFolder(folders[i]).ok();
+        const bool isGone =
+            folders[i].isEmpty() || platform::isMissing(folders[i]) || platform::removeEmptyFolder(folders[i]).ok();
         if (!isGone)
             return;
     }
@@ -167,7 +167,11 @@ CreationNote::CreationNote(const QString &folder, const QString &destination, co
             m_lock.emplace(*std::move(lock));
     }
     if (noted.ok())
-        noted = write(m_file, {{folderKey, folder}, {destinationKey, destination}, {levelsKey, levels}, {runKey, platform::runOfSystem()}},
+        noted = write(m_file,
+                      {{folderKey, folder},
+                       {destinationKey, destination},
+                       {levelsKey, levels},
+                       {runKey, platform::runOfSystem()}},
                       waitsFor(folder, m_file));
     if (!noted.ok())
         VTLog::appendLog("Unable to note the creation: %@", noted.description());

@@ -9,14 +9,15 @@
 
 /**
  * Notes of the projects under way, in the application-support folder, so that what a kill or a power cut leaves behind
- * is found again. A note is locked for as long as its creation lives, however that ends. That of a project that stands is
- * kept until its bytes must have reached the drive: after a power cut it says which projects are to be looked at. Any thread.
+ * is found again. A note is locked for as long as its creation lives, however that ends. That of a project that stands
+ * is kept until its bytes must have reached the drive: after a power cut it says which projects are to be looked at.
+ * Any thread.
  */
 class CreationNote
 {
 public:
-    /** Before the destination, and whichever of its levels, are made. Where the note cannot be made the project is made all
-        the same. */
+    /** Before the destination, and whichever of its levels, are made. Where the note cannot be made the project is made
+       all the same. */
     CreationNote(const QString &folder, const QString &destination, const QStringList &levels = {});
     /** The creation has come to an end of its own: the note goes, unless something was left behind. */
     ~CreationNote();

@@ -77,7 +77,8 @@ void GeneralPane::modifyTemplatePath(const QString &typed)
     static_cast<void>(settings::templateLocation.store(*path)); // logged; the field shows what is stored
     if (answer == Move::Yes)
         moveTemplates(old, *path, names);
-    static_cast<void>(VTDataController::sharedController().populateTemplates()); // said and logged where it failed
+    static_cast<void>(
+        VTDataController::sharedController().populateTemplatesInTime()); // said and logged where it failed
     m_path->refresh();
     Q_EMIT templateLocationChanged();
 }

@@ -3,19 +3,14 @@
 #include "platform/base/MainThread.h"
 #include "support/VTFileManager.h"
 
-#include <QThreadPool>
-
 void ExistsQuestion::ask(const QString &path, std::function<void(bool exists)> answer)
 {
     forget();
-    QThreadPool::globalInstance()->start(
-        [path, answer = std::move(answer), number = *m_number, asker = std::weak_ptr(m_number)] {
-            const bool exists = VTFileManager::fileExistsAtPath(path);
-            const auto tell = [exists, answer, number, asker] {
-                const auto last = asker.lock();
-                if (last && *last == number)
-                    answer(exists);
-            };
-            platform::MainThread::perform(tell, platform::Waiting::No);
-        });
+    const auto exists = std::make_shared<bool>(false);
+    platform::performBeside([path, exists] { *exists = VTFileManager::fileExistsAtPath(path); },
+                            [exists, answer = std::move(answer), number = *m_number, asker = std::weak_ptr(m_number)] {
+                                const auto last = asker.lock();
+                                if (last && *last == number)
+                                    answer(*exists);
+                            });
 }

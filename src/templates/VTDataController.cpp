@@ -22,6 +22,8 @@ using platform::Outcome;
 namespace {
 
 constexpr std::chrono::seconds createPatience{20};
+/// A slow share takes less; one whose server is gone never ends.
+constexpr std::chrono::seconds answerPatience{2};
 
 struct Text
 {
@@ -176,6 +178,30 @@ platform::Result<QStringList> VTDataController::templateNames(const QString &loc
     for (const FolderEntry &entry : platform::inListingOrder(std::move(templates)))
         names.append(entry.name);
     return names;
+}
+
+Outcome VTDataController::populateTemplatesInTime(const std::function<void()> &late)
+{
+    const Outcome silence = Outcome::failure(Cause::Unreachable, templateLocation());
+    if (m_isWaitedFor) // one thread that hangs is enough
+        return silence;
+    m_isWaitedFor = true;
+    const auto read = std::make_shared<Outcome>();
+    const bool isInTime = platform::performWithin(
+        answerPatience,
+        [this, read] {
+            *read = populateTemplates();
+            m_isWaitedFor = false;
+        },
+        [late] {
+            VTLog::appendLog("The template library has answered");
+            if (late)
+                late();
+        });
+    if (isInTime)
+        return *read;
+    VTLog::appendLog("The template library %@ does not answer", templateLocation());
+    return silence;
 }
 
 Outcome VTDataController::populateTemplates()

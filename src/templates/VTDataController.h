@@ -4,6 +4,8 @@
 
 #include <QMutex>
 #include <QStringList>
+#include <atomic>
+#include <functional>
 
 /**
  * The template library: where it lies, the templates that ship with the program, and the list of names.
@@ -35,6 +37,9 @@ public:
     /** Makes sure that the library exists and builds the list. A library that cannot be read gives an empty list and
      * why; one whose drive has gone is Cause::Unreachable, and nothing is made in its place. */
     platform::Outcome populateTemplates();
+    /** The same for the window: Cause::Unreachable when the library does not answer in time; `late` comes on the main
+        thread when it does after all. Main thread. */
+    platform::Outcome populateTemplatesInTime(const std::function<void()> &late = {});
 
     /** Unpacks every shipped template into an existing folder; what stands there under the name goes to the Trash. Goes
        on after a failure and returns the first; the log names each. */
@@ -46,5 +51,6 @@ private:
     VTDataController() = default;
 
     mutable QMutex m_mutex;
+    std::atomic<bool> m_isWaitedFor = false; ///< a reading for the window that has not ended
     QStringList m_templates;
 };

@@ -268,6 +268,28 @@ private Q_SLOTS:
         QVERIFY(forget(left[0]).ok());
     }
 
+    /// TESSARO_EVERY_FAULT=1: a thousand of them.
+    void nothingStaysOpen()
+    {
+        writeFile(files("Sub/Template.txt"), "x");
+        storeSetting(settings::filenameTemplate,
+                     QVariantList{QVariantMap{{"title", "Job"}, {"type", 2}, {"val", "0001"}}});
+        const auto countIn = [](const char *folder) {
+            return platform::listFolder(QLatin1String(folder))->size();
+        };
+        QVERIFY(create().ok());
+        const auto descriptors = countIn("/proc/self/fd");
+        const auto threads = countIn("/proc/self/task");
+        for (int i = 0; i < (qEnvironmentVariableIsSet("TESSARO_EVERY_FAULT") ? 1000 : 60); ++i) {
+            ProjectRequest next = request();
+            next.parameters = storedParameters();
+            ProjectCreation creation(m_host);
+            QVERIFY(creation.createProject(next).ok());
+        }
+        QCOMPARE(countIn("/proc/self/fd"), descriptors);
+        QTRY_VERIFY(countIn("/proc/self/task") <= threads); // one that has just ended is still listed for a moment
+    }
+
     void leavesNothingWhenStopped()
     {
         storeSetting(settings::filenameTemplate,

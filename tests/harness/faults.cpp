@@ -4,6 +4,7 @@
 //   FAULT_BELOW   the folder
 //   FAULT_AT      the number of the call, from 1; 0 counts only
 //   FAULT_ERRNO   the error; 0: a read or a write does half of what it was asked for, and other calls succeed
+//   FAULT_NOW     the present, in seconds since 1970, for whoever asks for the time of day
 //   FAULT_REPORT  a file that receives the number of calls, the name of the one that failed and its path, then in a
 //   line of
 //                 their own the descriptors that are open below the folder and the threads that there are at the end
@@ -18,7 +19,9 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
+#include <sys/time.h>
 #include <sys/types.h>
+#include <time.h>
 #include <unistd.h>
 
 namespace {
@@ -199,6 +202,32 @@ FAULT(int, fchmod, (int d, mode_t m), (d, m), fdFails("fchmod", d))
 FAULT(int, futimens, (int d, const struct timespec *t), (d, t), fdFails("futimens", d))
 FAULT(int, utimensat, (int d, const char *n, const struct timespec *t, int f), (d, n, t, f), atFails("utimensat", d, n))
 FAULT(ssize_t, flistxattr, (int d, char *b, size_t s), (d, b, s), fdFails("flistxattr", d))
+
+extern "C" time_t time(time_t *answer)
+{
+    struct timespec now;
+    clock_gettime(CLOCK_REALTIME, &now);
+    if (answer)
+        *answer = now.tv_sec;
+    return now.tv_sec;
+}
+
+extern "C" int clock_gettime(clockid_t clock, struct timespec *now)
+{
+    const long result = syscall(SYS_clock_gettime, clock, now);
+    if (result == 0 && (clock == CLOCK_REALTIME || clock == CLOCK_REALTIME_COARSE) && getenv("FAULT_NOW"))
+        now->tv_sec = number("FAULT_NOW");
+    return static_cast<int>(result);
+}
+
+extern "C" int gettimeofday(struct timeval *now, void *)
+{
+    struct timespec exact;
+    clock_gettime(CLOCK_REALTIME, &exact);
+    now->tv_sec = exact.tv_sec;
+    now->tv_usec = exact.tv_nsec / 1000;
+    return 0;
+}
 
 #define FAULT_READDIR(name, entry)                                                                                     \
     extern "C" struct entry *name(DIR *folder)                                                                         \

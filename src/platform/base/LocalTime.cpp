@@ -80,7 +80,7 @@ DateFormatProblem problemOfDateFormat(const QString &format)
         while (i < format.size() && flags.contains(format[i]))
             ++i;
         const qsizetype width = i;
-        while (i < format.size() && format[i].isDigit())
+        while (i < format.size() && format[i] >= u'0' && format[i] <= u'9') // no other script's digits
             ++i;
         if (i - width > longestWidth)
             return DateFormatProblem::UnknownLetter;

@@ -9,10 +9,54 @@
 #include <QTimer>
 #include <atomic>
 #include <condition_variable>
+#include <deque>
 #include <memory>
 #include <mutex>
 
 namespace platform {
+
+/// Calls on their way to the main thread, in a list of our own: what a thread hands over is safe by our lock, and can
+/// be checked to be, whatever the toolkit does to wake the loop.
+class CallsToMake : public QObject
+{
+    Q_OBJECT
+
+public:
+    static CallsToMake &instance()
+    {
+        static auto *calls = [] {
+            auto *made = new CallsToMake; // never destroyed: threads may outlive the application
+            made->moveToThread(QCoreApplication::instance()->thread());
+            return made;
+        }();
+        return *calls;
+    }
+    void add(std::function<void()> call)
+    {
+        {
+            const std::scoped_lock lock(m_mutex);
+            m_calls.push_back(std::move(call));
+        }
+        // By name, so that the event is the toolkit's own from its making to its end.
+        QMetaObject::invokeMethod(this, "makeNext", Qt::QueuedConnection);
+    }
+
+private:
+    /// One call for one event, so that they come in their turn among all others.
+    Q_INVOKABLE void makeNext()
+    {
+        std::function<void()> call;
+        {
+            const std::scoped_lock lock(m_mutex);
+            call = std::move(m_calls.front());
+            m_calls.pop_front();
+        }
+        call();
+    }
+    std::mutex m_mutex;
+    std::deque<std::function<void()>> m_calls;
+};
+
 namespace {
 
 /// Opened once. Who waits for it goes on at once then, or within a second after the application has gone: nobody will
@@ -105,19 +149,13 @@ void MainThread::perform(std::function<void()> call, Waiting waiting)
 {
     if (isCurrent())
         return call();
-    auto *application = QCoreApplication::instance();
-    if (waiting == Waiting::No) {
-        QMetaObject::invokeMethod(application, std::move(call), Qt::QueuedConnection);
-        return;
-    }
+    if (waiting == Waiting::No)
+        return CallsToMake::instance().add(std::move(call));
     const auto done = std::make_shared<Gate>();
-    QMetaObject::invokeMethod(
-        application,
-        [done, call = std::move(call)] {
-            call();
-            done->open();
-        },
-        Qt::QueuedConnection);
+    CallsToMake::instance().add([done, call = std::move(call)] {
+        call();
+        done->open();
+    });
     done->wait();
 }
 
@@ -135,16 +173,19 @@ void performInBackground(const std::function<void()> &work)
     if (!MainThread::isCurrent() || !QCoreApplication::instance())
         return work();
     const InputClosed closed;
-    QEventLoop loop;
+    const auto loop = std::make_shared<QEventLoop>();
     std::atomic<bool> finished = false;
-    std::thread worker = startedThread([&] {
+    std::thread worker = startedThread([&, quit = std::weak_ptr(loop)] {
         work();
         finished = true; // before the loop is told to quit: who wakes up must find it so
-        QMetaObject::invokeMethod(&loop, &QEventLoop::quit, Qt::QueuedConnection);
+        CallsToMake::instance().add([quit] {
+            if (const auto waiting = quit.lock())
+                waiting->quit();
+        });
     });
     if (!worker.joinable()) // none is to be had: the window stands still rather than the work
         return work();
-    loop.exec();
+    loop->exec();
     // The loop ends early when the application was told to quit: the work is finished all the same, never abandoned.
     while (!finished)
         MainThread::turnLoop(std::chrono::milliseconds(10));
@@ -155,13 +196,43 @@ void performBeside(std::function<void()> work, std::function<void()> done)
 {
     const auto both = [work = std::move(work), done = std::move(done)] {
         work();
-        QMetaObject::invokeMethod(QCoreApplication::instance(), done, Qt::QueuedConnection);
+        if (QCoreApplication::instance())
+            CallsToMake::instance().add(done);
     };
     std::thread worker = startedThread(both);
     if (worker.joinable())
         worker.detach();
     else
-        QMetaObject::invokeMethod(QCoreApplication::instance(), both, Qt::QueuedConnection);
+        CallsToMake::instance().add(both);
+}
+
+bool performWithin(std::chrono::milliseconds patience, std::function<void()> work, std::function<void()> late)
+{
+    if (!MainThread::isCurrent() || !QCoreApplication::instance()) {
+        work();
+        return true;
+    }
+    enum class State { Waited, Ended, GivenUp };
+    const auto state = std::make_shared<State>(State::Waited); // of the main thread alone
+    const auto loop = std::make_shared<QEventLoop>();
+    performBeside(std::move(work), [state, quit = std::weak_ptr(loop), late = std::move(late)] {
+        if (*state == State::GivenUp)
+            return late();
+        *state = State::Ended;
+        if (const auto waiting = quit.lock())
+            waiting->quit();
+    });
+    const InputClosed closed;
+    QTimer end;
+    end.setSingleShot(true);
+    QObject::connect(&end, &QTimer::timeout, loop.get(), &QEventLoop::quit);
+    end.start(patience);
+    loop->exec();
+    while (*state == State::Waited && end.isActive()) // the application was told to quit
+        MainThread::turnLoop(std::chrono::milliseconds(10));
+    if (*state == State::Waited)
+        *state = State::GivenUp;
+    return *state == State::Ended;
 }
 
 void InputClosed::setException(Exception exception)
@@ -194,3 +265,5 @@ InputAllowed::~InputAllowed()
 }
 
 } // namespace platform
+
+#include "MainThread.moc"

@@ -45,6 +45,16 @@ template <typename Work> [[nodiscard]] auto resultInBackground(Work work)
 void performBeside(std::function<void()> work, std::function<void()> done);
 
 /**
+ * Main thread only. Begins work on a thread of its own and waits for it, the event loop turning and the windows closed
+ * to input as above, but no longer than the time says: a share whose server does not answer must not take the window
+ * with it. True when the work has ended by then; otherwise `late` comes on the main thread when it does, which may be
+ * never. What the work uses must live as long. Without an application, or on another thread, the work is done where it
+ * is called.
+ */
+[[nodiscard]] bool performWithin(std::chrono::milliseconds patience, std::function<void()> work,
+                                 std::function<void()> late);
+
+/**
  * While one exists and no InputAllowed does, the application's windows take no key, click, drop or close; they can be
  * moved and they repaint. Main thread only; nests.
  */

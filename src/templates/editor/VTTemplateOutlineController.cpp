@@ -47,6 +47,17 @@ QModelIndexList inRowOrder(QModelIndexList indexes)
     return indexes;
 }
 
+/// A folder that takes longer is shown when it comes, and the window goes on meanwhile.
+constexpr std::chrono::seconds patienceOfReading{3};
+
+template <typename Call> std::function<void()> onlyWhile(QObject *lives, Call call)
+{
+    return [lives = QPointer(lives), call] {
+        if (lives)
+            call();
+    };
+}
+
 bool expandsAll()
 {
     return settings::autoExpandFolders.isOn();
@@ -164,8 +175,19 @@ void VTTemplateOutlineController::populateTemplateStructure()
         return;
     VTLog::appendLog("Loading template data from %@", m_baseFilename);
     const quint64 generation = ++m_generation;
-    TemplateNodes nodes =
-        platform::resultInBackground([folder = filesFolder()] { return nodesInFolder(folder, nullptr); });
+    const auto read = std::make_shared<TemplateNodes>();
+    const auto reading = [folder = filesFolder(), read] {
+        *read = nodesInFolder(folder, nullptr);
+    };
+    const auto show = [this, generation, read] {
+        showTree(generation, std::move(*read));
+    };
+    if (platform::performWithin(patienceOfReading, reading, onlyWhile(this, show)))
+        show();
+}
+
+void VTTemplateOutlineController::showTree(quint64 generation, TemplateNodes nodes)
+{
     if (generation != m_generation || putsOffReading()) // another was chosen, or a later reading is on its way
         return;
     m_isBehind = false;
@@ -285,7 +307,19 @@ void VTTemplateOutlineController::rereadFolder(const QString &folder)
     if (!node || !node->isFolderItem())
         return populateTemplateStructure();
     const quint64 generation = m_generation;
-    TemplateNodes children = platform::resultInBackground([&] { return nodesInFolder(folder, nullptr); });
+    const auto read = std::make_shared<TemplateNodes>();
+    const auto reading = [folder, read] {
+        *read = nodesInFolder(folder, nullptr);
+    };
+    const auto show = [this, folder, generation, read] {
+        showFolder(folder, generation, std::move(*read));
+    };
+    if (platform::performWithin(patienceOfReading, reading, onlyWhile(this, show)))
+        show();
+}
+
+void VTTemplateOutlineController::showFolder(const QString &folder, quint64 generation, TemplateNodes children)
+{
     TemplateNode *target = nodeAtPath(folder); // the tree may have been read anew meanwhile
     if (generation != m_generation || !target || putsOffReading())
         return;

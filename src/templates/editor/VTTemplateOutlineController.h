@@ -119,6 +119,8 @@ private:
     [[nodiscard]] ViewState viewState() const;
     void restore(const ViewState &state, const QModelIndex &below);
     void rereadFolder(const QString &folder);
+    void showTree(quint64 generation, TemplateNodes nodes);
+    void showFolder(const QString &folder, quint64 generation, TemplateNodes children);
     void rereadParentOf(const QString &path);
     void insertInto(QList<Target> places, const QString &name,
                     const std::function<QString(const QString &folder)> &insert);

@@ -80,7 +80,7 @@ void VTTemplateTableController::switchedToView()
 
 void VTTemplateTableController::rebuild()
 {
-    static_cast<void>(store().populateTemplates()); // logged; the list shows what there is
+    static_cast<void>(store().populateTemplatesInTime()); // logged; the list shows what there is
     reload();
 }
 
@@ -161,7 +161,7 @@ bool VTTemplateTableController::addTemplateFromFile(const QString &path)
         return false;
     using platform::MainThread;
     const auto waiting = platform::Waiting::Yes;
-    MainThread::perform([] { static_cast<void>(store().populateTemplates()); }, waiting);
+    MainThread::perform([] { static_cast<void>(store().populateTemplatesInTime()); }, waiting);
     MainThread::perform([this] { Q_EMIT populateTemplatePopUp(); }, waiting);
     MainThread::perform(
         [&] {

@@ -2,7 +2,7 @@
 // runs for as long as TESSARO_FUZZ_SECONDS says. Inputs that broke something once lie in found/ and begin every run.
 #include "creation/Manifest.h"
 #include "creation/ProjectRequest.h"
-#include "fuzz/Fuzzer.h"
+#include "harness/Fuzzer.h"
 #include "harness/TemporaryHome.h"
 #include "helper/Plan.h"
 #include "helper/Protocol.h"
@@ -115,7 +115,7 @@ class TestFuzz : public QObject
     void fuzz(QList<QByteArray> seeds, const QList<QByteArray> &words,
               const std::function<void(const QByteArray &)> &takes)
     {
-        const QString found = QStringLiteral(TESSARO_SOURCE_DIR "/tests/fuzz/found/") + QTest::currentTestFunction();
+        const QString found = QStringLiteral(TESSARO_SOURCE_DIR "/tests/harness/found/") + QTest::currentTestFunction();
         for (const auto &entry : platform::listFolder(found).valueOr({}))
             seeds.append(readFile(platform::joined(found, entry.name)));
         Fuzzer fuzzer(seeds, words);
@@ -193,7 +193,8 @@ private Q_SLOTS:
                  const QString text = platform::fromNative(bytes);
                  const QString whole = platform::formatString(text, QStringLiteral("a"), 7, 2.5, QString());
                  must(!whole.isNull() || text.isEmpty(), "a format without a result");
-                 if (bytes.size() < 2000 && !bytes.contains('\0') && platform::problemOfDateFormat(text) == platform::DateFormatProblem::None)
+                 if (bytes.size() < 2000 && !bytes.contains('\0') &&
+                     platform::problemOfDateFormat(text) == platform::DateFormatProblem::None)
                      must(!platform::formatDate(text, 1'795'000'000).isNull(), "a good date format without a date");
              });
     }

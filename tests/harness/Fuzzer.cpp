@@ -1,4 +1,4 @@
-#include "fuzz/Fuzzer.h"
+#include "harness/Fuzzer.h"
 
 #include <QElapsedTimer>
 #include <QRandomGenerator>
