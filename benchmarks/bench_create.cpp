@@ -113,7 +113,10 @@ void prepareTurn(bool isCold)
 QByteArray countedCalls(const QString &folder)
 {
     static_cast<void>(getxattr(QFile::encodeName(folder).constData(), "user.counts", nullptr, 0));
-    QFile counts(qEnvironmentVariable("TESSARO_SHARE_COUNTS"));
+    const QString path = qEnvironmentVariable("TESSARO_SHARE_COUNTS");
+    if (path.isEmpty())
+        return {};
+    QFile counts(path);
     return counts.open(QIODevice::ReadOnly) ? counts.readAll() : QByteArray();
 }
 
@@ -141,7 +144,8 @@ void measure(const QString &work, const QString &library, const QString &what, c
         count == 0 ? makeLargeTemplate(files) : makeTemplate(files, count, perFolder, kibibytes);
     const QString program = platform::parentPath(QCoreApplication::applicationFilePath()) + QStringLiteral("/Tessaro");
     const bool hasRsync = QFile::exists(rsync);
-    const bool hasCookiecutter = count > 0 && QFile::exists(cookiecutter);
+    const bool hasCookiecutter =
+        count > 0 && count <= 10000 && QFile::exists(cookiecutter); // more takes minutes a turn
     const QString cookies = work + QStringLiteral("/cookies %1 %2").arg(count).arg(perFolder);
     if (hasCookiecutter)
         makeCookiecutter(files, cookies);

@@ -17,6 +17,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QTemporaryDir>
+#include <QTreeView>
 
 namespace {
 
@@ -31,7 +32,8 @@ void fillTemplate(const QString &files)
         if (!platform::makeFolders(folder).ok())
             qFatal("Cannot make the tree");
         for (int k = 0; k < 99; ++k) {
-            QFile file(folder + QStringLiteral("/Clip %1.mov").arg(k));
+            // One in a hundred takes its name from the project.
+            QFile file(folder + (k == 50 ? QStringLiteral("/Template %1.mov") : QStringLiteral("/Clip %1.mov")).arg(k));
             if (!file.open(QIODevice::WriteOnly))
                 qFatal("Cannot make the tree");
         }
@@ -116,6 +118,16 @@ int main(int argc, char **argv)
         redraws.push_back(timing::secondsOf([&] { window.repaint(); }));
     print("the window drawn anew", redraws);
     type("a value among 200 parameters", window);
+    window.setResultShown(true);
+    const auto *result = window.findChild<QTreeView *>(QStringLiteral("resultTree"));
+    for (int i = 0; i < 500 && result->model()->rowCount() == 0; ++i) {
+        timespec pause{0, 20'000'000};
+        nanosleep(&pause, nullptr);
+        QCoreApplication::processEvents();
+    }
+    settle(window);
+    type("the same with the result of 100,000 items beside it", window);
+    window.setResultShown(false);
     delegate.toolbarTemplateAction();
     settle(window);
     auto *filter = window.findChild<QLineEdit *>(QStringLiteral("filterLine"));

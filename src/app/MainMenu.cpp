@@ -46,6 +46,7 @@ const QList<Menu> &menus()
          {{QT_TRANSLATE_NOOP("MainMenu", "&New Project"), "Ctrl+1", &Delegate::toolbarNewProjectAction, true},
           {QT_TRANSLATE_NOOP("MainMenu", "&Templates"), "Ctrl+2", &Delegate::toolbarTemplateAction, true},
           {nullptr, nullptr, nullptr, false},
+          {QT_TRANSLATE_NOOP("MainMenu", "Show &Result"), "Ctrl+R", &Delegate::showResult, true},
           {QT_TRANSLATE_NOOP("MainMenu", "Show Template &Library"), "", &Delegate::showTemplateLibrary, true}}},
         {QT_TRANSLATE_NOOP("MainMenu", "&Template"),
          {{QT_TRANSLATE_NOOP("MainMenu", "&New Template"), "Ctrl+N", &Delegate::newTemplate, true},

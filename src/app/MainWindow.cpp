@@ -6,6 +6,7 @@
 #include "platform/base/NativePath.h"
 #include "support/Settings.h"
 #include "templates/TemplateLibrary.h"
+#include "templates/VTDataController.h"
 #include "templates/editor/TemplatePane.h"
 #include "ui/Icons.h"
 #include "ui/ProgressLine.h"
@@ -26,6 +27,7 @@ namespace {
 
 constexpr int toolbarIconSide = 24;
 constexpr int warningSide = 16;
+constexpr int besideFrom = 900;         // pixels: the result has room beside the parameters
 constexpr int longestCreatedName = 220; // pixels
 
 QStringList bundlesIn(const QMimeData &data)
@@ -90,6 +92,8 @@ void MainWindow::buildMenus()
     m_busyActions += {m_newProjectItem, m_templatesItem};
     m_undoAction = menuBar()->findChild<QAction *>(QStringLiteral("Undo"));
     m_redoAction = menuBar()->findChild<QAction *>(QStringLiteral("Redo"));
+    m_resultAction = menuBar()->findChild<QAction *>(QStringLiteral("Show Result"));
+    m_resultAction->setCheckable(true);
     setUndoable({}, {});
 }
 
@@ -103,6 +107,10 @@ void MainWindow::connectPanes()
         button->installEventFilter(this);
     }
     connect(m_ui->projectTemplatePopUp, &QComboBox::activated, &m_delegate, &TessaroAppDelegate::changeProjectTemplate);
+    connect(m_ui->projectTemplatePopUp, &QComboBox::currentIndexChanged, this, [this] {
+        const QString name = selectedTemplate();
+        m_ui->resultPane->setTemplate(name.isEmpty() ? QString() : VTDataController::filesFolder(name));
+    });
     connect(m_ui->emptyParameters, &EmptyState::activated, &m_delegate, &TessaroAppDelegate::editParameters);
     connect(m_ui->installTemplates, &QPushButton::clicked, &m_delegate, &TessaroAppDelegate::installStandardTemplates);
     connect(m_ui->retryLibrary, &QPushButton::clicked, &m_delegate, &TessaroAppDelegate::populateTemplatePopUp);
@@ -123,8 +131,26 @@ void MainWindow::connectTable(VTProjectTableController &controller)
 {
     controller.setViews(
         {m_ui->tableView, m_ui->namePreviewLabel, m_ui->previewPathControl, m_ui->spinner, m_ui->warningImage});
+    connect(&controller, &VTProjectTableController::levelsShown, m_ui->resultPane, &ResultPane::setLevels);
     connect(&controller, &VTProjectTableController::processingChanged, this, &MainWindow::setProcessing);
     connect(&controller, &VTProjectTableController::emptinessChanged, this, &MainWindow::setParametersEmpty);
+}
+
+void MainWindow::setResultShown(bool shown)
+{
+    m_ui->resultPane->setVisible(shown);
+    m_resultAction->setChecked(shown);
+}
+
+bool MainWindow::isResultShown() const
+{
+    return !m_ui->resultPane->isHidden();
+}
+
+void MainWindow::resizeEvent(QResizeEvent *event)
+{
+    QMainWindow::resizeEvent(event);
+    m_ui->projectSplitter->setOrientation(width() >= besideFrom ? Qt::Horizontal : Qt::Vertical);
 }
 
 TemplatePane &MainWindow::templatePane()
@@ -169,6 +195,9 @@ void MainWindow::showPane(Pane pane)
     m_ui->panes->setCurrentWidget(pane == Pane::Project ? m_ui->viewProject : &templatePane());
     for (QAction *action : std::as_const(m_paneActions))
         action->setVisible(pane == Pane::Templates);
+    if (pane == Pane::Project) // the template may have been changed
+        m_ui->resultPane->followDisk();
+    m_resultAction->setEnabled(pane == Pane::Project); // its keys are another command's over there
 }
 
 MainWindow::Pane MainWindow::shownPane() const
@@ -270,6 +299,7 @@ void MainWindow::setProcessing(bool processing)
         control->setEnabled(!processing);
     for (QAction *action : std::as_const(m_busyActions))
         action->setEnabled(!processing);
+    m_resultAction->setEnabled(!processing && shownPane() == Pane::Project);
     m_undoAction->setEnabled(!processing && m_isUndoable);
     m_redoAction->setEnabled(!processing && m_isRedoable);
     if (!processing && m_preferencesOpen)

@@ -51,6 +51,9 @@ public:
     /** A line in its place that says something else; until the next project. */
     void showMessage(const QString &text);
     void setProcessing(bool processing);
+    /** The second half of the project pane: what will be made. */
+    void setResultShown(bool shown);
+    [[nodiscard]] bool isResultShown() const;
     /** Their menu item is disabled while they are. */
     void setPreferencesOpen(bool open);
 
@@ -64,6 +67,7 @@ protected:
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dropEvent(QDropEvent *event) override;
     void changeEvent(QEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     void buildToolbar();
@@ -86,6 +90,7 @@ private:
     QString m_created;
     QAction *m_undoAction = nullptr;
     QAction *m_redoAction = nullptr;
+    QAction *m_resultAction = nullptr;
     bool m_isUndoable = false;
     bool m_isRedoable = false;
     bool m_painted = false;

@@ -78,6 +78,7 @@ bool TessaroAppDelegate::awakeFromNib()
     populateTemplatePopUp();
     if (!platform::registeredApplication(siblingApplication).isNull())
         m_window->removeProductFamilyItem();
+    m_window->setResultShown(settings::showResult.isOn());
     toolbarNewProjectAction();
     watchSettings();
     return true;
@@ -275,6 +276,13 @@ void TessaroAppDelegate::installStandardTemplates()
 void TessaroAppDelegate::showTemplateLibrary()
 {
     platform::openWithDefaultApplication(VTDataController::templateLocation());
+}
+
+void TessaroAppDelegate::showResult()
+{
+    const bool isWanted = !m_window->isResultShown();
+    static_cast<void>(settings::showResult.turn(isWanted)); // logged; it is shown all the same
+    m_window->setResultShown(isWanted);
 }
 
 void TessaroAppDelegate::showProject(const QString &project)

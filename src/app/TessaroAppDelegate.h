@@ -101,6 +101,8 @@ public Q_SLOTS:
     void pinPlace(const QString &folder, bool pinned);
     void installStandardTemplates();
     void showTemplateLibrary();
+    /** Beside the parameters what will be made, or no longer; remembered. */
+    void showResult();
     void showProject(const QString &project);
     /** A menu of the remembered projects, read when it opens. */
     void fillRecentProjects(QMenu *menu);

@@ -4,6 +4,7 @@
 #include "platform/base/NativePath.h"
 
 #include <algorithm>
+#include <cstring>
 #include <unordered_set>
 
 using Remark = PlanItem::Remark;
@@ -43,10 +44,22 @@ void nameItem(platform::TreeFolder &folder, platform::TreeItem &item, const QStr
     }
 }
 
+void forgetNames(platform::TreeFolder &folder)
+{
+    std::size_t end = 0;
+    for (platform::TreeItem &item : folder.items) {
+        item.newName = item.name;
+        item.remark = static_cast<unsigned char>(Remark::None);
+        end = std::max(end, item.name + std::strlen(folder.nameOf(item)) + 1);
+    }
+    folder.names.resize(std::min(folder.names.size(), end)); // new names stand behind those that were read
+}
+
 } // namespace
 
 void nameItems(platform::TreeFolder &folder, const QString &projectName)
 {
+    forgetNames(folder);
     if (!mentionsPlaceholder(folder.names)) // a name's end is a null byte: no word goes across two names
         return;
     std::unordered_set<std::string> taken;
@@ -93,13 +106,23 @@ qsizetype CreationPlan::renamed() const
     return count;
 }
 
+void planForLevels(CreationPlan &plan, const QStringList &levels)
+{
+    plan.levels = levels;
+    plan.tooLongLevels = naming::tooLongLevels(levels);
+    for (const std::uint32_t folder : plan.named)
+        nameItems(plan.tree.folders[folder], levels.isEmpty() ? QString() : levels.constLast());
+}
+
 CreationPlan planCreation(const QString &templateFiles, const QStringList &levels, const std::atomic<bool> &cancelled)
 {
-    CreationPlan plan{levels, naming::tooLongLevels(levels), {}, {}};
+    CreationPlan plan{levels, naming::tooLongLevels(levels), {}, {}, {}};
     const QString projectName = levels.isEmpty() ? QString() : levels.constLast();
     plan.tree = platform::readTree(
         templateFiles, [&](platform::TreeFolder &folder) { nameItems(folder, projectName); }, cancelled);
     plan.tree.forEachFolder([&](std::uint32_t number) {
+        if (mentionsPlaceholder(plan.tree.folders[number].names))
+            plan.named.push_back(number);
         if (const int error = plan.tree.folders[number].error; error != 0)
             plan.unreadable.append(
                 platform::Outcome::fromNumber(error, platform::joined(templateFiles, plan.tree.pathOf(number))));

@@ -32,6 +32,7 @@ struct CreationPlan
     QStringList tooLongLevels;           ///< levels whose names have more than 255 bytes: the folder cannot be made
     platform::Tree tree;                 ///< each item with its name in the project; its remark is PlanItem's
     QList<platform::Outcome> unreadable; ///< folders of the template, or all of it, in listing order
+    std::vector<std::uint32_t> named{};  ///< the tree's folders with an item whose name mentions the word template
 
     /** In listing order, a folder before what lies in it. */
     void forEachItem(const std::function<void(const PlanItem &)> &visit) const;
@@ -45,8 +46,14 @@ struct CreationPlan
                                         const std::atomic<bool> &cancelled);
 
 /**
+ * The same plan for other levels: of the tree only the items that take their names from the project are looked at, so
+ * that it can be asked for with every key. Pure.
+ */
+void planForLevels(CreationPlan &plan, const QStringList &levels);
+
+/**
  * Gives each item of one folder its name in the project, one after the other in listing order: a name that is taken at
- * that moment, or too long, is not given, and the item keeps its own. Pure.
+ * that moment, or too long, is not given, and the item keeps its own. What was given before is forgotten. Pure.
  */
 void nameItems(platform::TreeFolder &folder, const QString &projectName);
 

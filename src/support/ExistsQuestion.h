@@ -6,7 +6,8 @@
 
 /**
  * Asks again and again, for what changes as somebody types, whether something exists: on a worker, because it may lie
- * on a share that takes its time or has gone. Main thread.
+ * on a share that takes its time or has gone. One question is under way at a time, so that a server that does not
+ * answer holds one thread and not one for each key. Main thread.
  */
 class ExistsQuestion
 {
@@ -14,8 +15,17 @@ public:
     /** The answer comes later, by the event loop, unless another question was asked or this object has gone by then. */
     void ask(const QString &path, std::function<void(bool exists)> answer);
     /** The last question is not to be answered any more. */
-    void forget() { ++*m_number; }
+    void forget() { m_state->answer = {}; }
 
 private:
-    std::shared_ptr<quint64> m_number = std::make_shared<quint64>(0); ///< of the last question
+    struct State
+    {
+        QString path;                     ///< of the last question
+        std::function<void(bool)> answer; ///< null: nobody waits for it any more
+        quint64 number = 0;
+        bool isUnderWay = false;
+    };
+    static void begin(const std::shared_ptr<State> &state);
+
+    std::shared_ptr<State> m_state = std::make_shared<State>();
 };

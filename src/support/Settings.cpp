@@ -171,6 +171,7 @@ const Setting recentLocations{"recentLocations", Type::Value};
 const Setting pinnedLocations{"pinnedLocations", Type::Value};
 const Setting mainWindowPlace{"mainWindowPlace", Type::Value};
 const Setting preferencesPlace{"preferencesPlace", Type::Value};
+const SwitchSetting showResult{{"showResult", Type::Boolean}};
 const NumberSetting templateListWidth{{"templateListWidth", Type::Number}};
 const Setting webAddresses{"webAddresses", Type::Value};
 const Setting launch{"launch", Type::Value};
@@ -198,6 +199,7 @@ const QList<const Setting *> &all()
                                              &pinnedLocations,
                                              &mainWindowPlace,
                                              &preferencesPlace,
+                                             &showResult,
                                              &templateListWidth,
                                              &webAddresses,
                                              &launch,

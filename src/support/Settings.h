@@ -87,6 +87,7 @@ extern const Setting recentLocations;         ///< where projects were created: 
 extern const Setting pinnedLocations;         ///< the ones that somebody wants to keep at hand
 extern const Setting mainWindowPlace;         ///< where it was and how large, in the toolkit's own form
 extern const Setting preferencesPlace;        ///< the same
+extern const SwitchSetting showResult;        ///< beside the parameters, what will be made
 extern const NumberSetting templateListWidth; ///< pixels: the list beside the tree
 extern const Setting webAddresses;            ///< dictionary: page name to address, see HelpPages
 extern const Setting launch;                  ///< date of the last launch

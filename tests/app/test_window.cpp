@@ -33,11 +33,14 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QMenu>
+#include <QMenuBar>
 #include <QPointer>
 #include <QPushButton>
 #include <QSignalSpy>
+#include <QSplitter>
 #include <QTest>
 #include <QTimer>
+#include <QTreeView>
 #include <sys/syscall.h>
 #include <unistd.h>
 
@@ -521,6 +524,39 @@ private Q_SLOTS:
         QVERIFY(platform::targetExists(fixed("009/P-R1/Sub/two P-R1.txt")));
         QCOMPARE(value(1), QString("010"));
         QCOMPARE(other.value(settings::filenameTemplate).toList()[1].toMap()["val"].toString(), "010");
+    }
+
+    /// Seen while one types, before it is made; remembered; and its keys belong to another command in the other pane.
+    void theResultIsSeen()
+    {
+        open();
+        auto *result = part<QTreeView>("resultTree");
+        QVERIFY(!result->isVisible());
+        QTest::keyClick(&window(), Qt::Key_R, Qt::ControlModifier);
+        QVERIFY(result->isVisible());
+        typeInto("Acme");
+        const auto row = [&](std::initializer_list<int> rows) {
+            QModelIndex index;
+            for (const int one : rows)
+                index = result->model()->index(one, 0, index);
+            return index.data().toString();
+        };
+        QTRY_COMPARE(row({0}), QString("Acme_007"));
+        press(Qt::Key_Tab);
+        press(Qt::Key_Return);
+        typeInto("Promo");
+        QTRY_COMPARE(row({0, 0, 0}), QString("Promo.txt"));
+        window().resize(1000, 600);
+        QCOMPARE(part<QSplitter>("projectSplitter")->orientation(), Qt::Horizontal);
+        window().resize(640, 600);
+        QCOMPARE(part<QSplitter>("projectSplitter")->orientation(), Qt::Vertical);
+        m_delegate->toolbarTemplateAction();
+        QVERIFY(!window().menuBar()->findChild<QAction *>("Show Result")->isEnabled());
+        m_delegate.reset();
+        open();
+        QVERIFY(part<QTreeView>("resultTree")->isVisible());
+        QTest::keyClick(&window(), Qt::Key_R, Qt::ControlModifier);
+        QVERIFY(!part<QTreeView>("resultTree")->isVisible());
     }
 
     void offersToPutAwayWhatAKillHasLeft()

@@ -183,7 +183,9 @@ void VTProjectTableController::updateFilenamePreview()
     const FilenameParameters shown = withTyped();
     const QString separator = settings::separatorChar.text();
     showProblems(shown, separator);
-    const QString path = naming::pathName(naming::pathComponents(shown, separator));
+    const QStringList levels = naming::pathComponents(shown, separator);
+    Q_EMIT levelsShown(levels, nextPlace());
+    const QString path = naming::pathName(levels);
     if (path.isNull()) {
         VTLog::appendLog("Error: null filename for path display");
         return;

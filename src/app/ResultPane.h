@@ -1,0 +1,57 @@
+#pragma once
+
+#include "app/ResultModel.h"
+
+#include <QWidget>
+#include <atomic>
+#include <memory>
+
+class QLabel;
+class QTreeView;
+
+/**
+ * The second half of the project pane: the tree that will be made, with every key. The template is read on a thread of
+ * its own, and once; names follow from what was read. Hidden it does nothing. Main thread only.
+ */
+class ResultPane : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit ResultPane(QWidget *parent = nullptr);
+    ~ResultPane() override;
+
+    /** The folder whose contents the project gets; null for none. */
+    void setTemplate(const QString &files);
+    void setLevels(const QStringList &levels, const QString &location);
+    /** Reads the template anew: it may have been changed. */
+    void followDisk();
+
+protected:
+    void showEvent(QShowEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    void read();
+    void showPlan(CreationPlan plan);
+    void openFolders();
+    void shareWidth();
+    void showNumbers();
+    void lookAtPlace();
+    void showNextProblem();
+
+    ResultModel m_model;
+    QTreeView *m_view;
+    QLabel *m_place;    ///< what stands at the project's place already
+    QLabel *m_problems; ///< how many, as a link to the next
+    QLabel *m_numbers;
+    QString m_files;
+    QString m_readFiles; ///< whose tree is shown
+    QStringList m_levels;
+    QString m_location;
+    quint64 m_bytes = 0;
+    std::shared_ptr<std::atomic<bool>> m_reading; ///< set: what is being read is not wanted any more
+    std::shared_ptr<std::atomic<bool>> m_looking; ///< the same for the place
+    bool m_isLooking = false;                     ///< one look at a time: a share that hangs holds one thread
+    bool m_looksAgain = false;
+};
