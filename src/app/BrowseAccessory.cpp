@@ -51,5 +51,5 @@ void BrowseAccessory::setFolder(const QString &folder)
 {
     const QString whole = platform::joined(folder, m_relativePath);
     m_path->setText(tr("Makes: %1").arg(platform::forDisplay(whole)));
-    m_exists.ask(whole, [this](bool exists) { m_sign->setVisible(exists); });
+    m_exists.ask(folder, m_relativePath, [this](bool exists) { m_sign->setVisible(exists); });
 }

@@ -68,10 +68,7 @@ ResultPane::ResultPane(QWidget *parent)
 
 ResultPane::~ResultPane()
 {
-    for (const auto &work : {m_reading, m_looking}) {
-        if (work)
-            *work = true;
-    }
+    *m_isOver = true;
 }
 
 void ResultPane::setTemplate(const QString &files)
@@ -88,6 +85,7 @@ void ResultPane::setLevels(const QStringList &levels, const QString &location)
     if (!isVisible() || !isOther)
         return;
     m_model.setLevels(levels);
+    m_view->viewport()->update(); // the view itself draws only the rows that are named
     showNumbers();
     lookAtPlace();
 }
@@ -120,19 +118,27 @@ void ResultPane::shareWidth()
 
 void ResultPane::read()
 {
-    if (m_reading)
-        *m_reading = true;
-    m_reading = std::make_shared<std::atomic<bool>>(false);
+    if (m_readFiles != m_files) // another template's tree is no answer
+        m_model.setPlan({});
+    if (m_readings.contains(m_files)) // one at a time: a share that hangs holds one thread
+        return m_readsAgain.insert(m_files), void();
+    m_readings.insert(m_files);
     const auto result = std::make_shared<Read>();
-    const auto work = [files = m_files, levels = m_levels, result, cancelled = m_reading] {
+    const auto work = [files = m_files, levels = m_levels, result, cancelled = m_isOver] {
         if (files.isNull())
             return;
         result->plan = planCreation(files, levels, *cancelled);
         result->bytes = platform::measureTree(files, *cancelled).bytes;
     };
-    platform::performBeside(work, [pane = QPointer(this), files = m_files, result, cancelled = m_reading] {
-        if (!pane || *cancelled)
+    platform::performBeside(work, [pane = QPointer(this), files = m_files, result] {
+        if (!pane)
             return;
+        pane->m_readings.remove(files);
+        const bool isOld = pane->m_readsAgain.remove(files);
+        if (files != pane->m_files)
+            return;
+        if (isOld)
+            return pane->read();
         pane->m_bytes = result->bytes;
         pane->m_readFiles = files;
         pane->showPlan(std::move(result->plan));
@@ -179,27 +185,24 @@ void ResultPane::showNumbers()
 /// On a thread: it may be a share that takes its time.
 void ResultPane::lookAtPlace()
 {
-    if (m_looking)
-        *m_looking = true;
-    m_looking = std::make_shared<std::atomic<bool>>(false);
     m_place->hide();
-    m_looksAgain = m_isLooking;
-    if (m_isLooking || m_levels.isEmpty() || m_location.isEmpty())
+    m_looksAgain = m_looks.contains(m_location);
+    if (m_looksAgain || m_levels.isEmpty() || m_location.isEmpty())
         return;
-    m_isLooking = true;
+    m_looks.insert(m_location);
     const QString project = platform::joined(m_location, m_levels.join(u'/'));
     const auto found = std::make_shared<std::optional<platform::TreeSize>>();
-    const auto work = [project, found, cancelled = m_looking] {
+    const auto work = [project, found, cancelled = m_isOver] {
         if (platform::kindOf(project) != platform::FileKind::Missing)
             *found = platform::measureTree(project, *cancelled);
     };
-    platform::performBeside(work, [pane = QPointer(this), found, cancelled = m_looking] {
+    platform::performBeside(work, [pane = QPointer(this), project, location = m_location, found] {
         if (!pane)
             return;
-        pane->m_isLooking = false;
-        if (std::exchange(pane->m_looksAgain, false))
+        pane->m_looks.remove(location);
+        if (location == pane->m_location && std::exchange(pane->m_looksAgain, false))
             return pane->lookAtPlace();
-        if (*cancelled || !*found)
+        if (!*found || project != platform::joined(pane->m_location, pane->m_levels.join(u'/')))
             return;
         pane->m_place->setText(
             tr("A project of this name is there already. It goes to the Trash when this one is created. Items: %1")

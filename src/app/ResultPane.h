@@ -2,6 +2,7 @@
 
 #include "app/ResultModel.h"
 
+#include <QSet>
 #include <QWidget>
 #include <atomic>
 #include <memory>
@@ -50,8 +51,9 @@ private:
     QStringList m_levels;
     QString m_location;
     quint64 m_bytes = 0;
-    std::shared_ptr<std::atomic<bool>> m_reading; ///< set: what is being read is not wanted any more
-    std::shared_ptr<std::atomic<bool>> m_looking; ///< the same for the place
-    bool m_isLooking = false;                     ///< one look at a time: a share that hangs holds one thread
+    QSet<QString> m_readings; ///< templates that are being read
+    QSet<QString> m_readsAgain;
+    QSet<QString> m_looks; ///< places that are being looked at
     bool m_looksAgain = false;
+    std::shared_ptr<std::atomic<bool>> m_isOver = std::make_shared<std::atomic<bool>>(false); ///< nobody waits any more
 };

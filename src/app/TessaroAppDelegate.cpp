@@ -32,6 +32,7 @@ namespace {
 
 /// A sibling application of the same maker: who has it needs no advertisement for it.
 constexpr std::chrono::seconds libraryPatience{5};
+constexpr qsizetype mostDoubtfulNamed = 3; // in one sheet; the log names all
 const QString siblingApplication = QStringLiteral("com.vantrel.Clipwell");
 
 } // namespace
@@ -137,8 +138,7 @@ void TessaroAppDelegate::applicationDidFinishLaunching()
         static_cast<void>(settings::firstRun.turn(false)); // who cannot store it is greeted again
     }
     tellOfCrash();
-    offerToPutAwayLeftovers();
-    tellOfDoubtfulProjects();
+    lookForLeftovers();
     Q_EMIT Notifications::hub().VTTessaroEditFirstParameter();
 }
 
@@ -160,44 +160,70 @@ void TessaroAppDelegate::tellOfCrash()
         platform::revealInFileBrowser(report);
 }
 
-void TessaroAppDelegate::offerToPutAwayLeftovers()
+/// On a thread: they may lie on a share whose server does not answer.
+void TessaroAppDelegate::lookForLeftovers()
 {
-    for (const Leftover &leftover : leftovers()) {
-        VTLog::appendLog("A creation of %@ was cut off; %@ is left of it", leftover.destination, leftover.folder);
-        const int answer = VTAlert::show(
-            {tr("A project was not finished"),
-             tr("Tessaro or the computer stopped while ‘%1’ was being made. What had been copied is here:\n\n%2")
-                 .arg(platform::lastComponent(leftover.destination), leftover.folder),
-             tr("Move to Trash"),
-             tr("Keep"),
-             {},
-             VTAlert::alternateReturn});
-        const platform::Outcome ended = answer == VTAlert::defaultReturn ? putAway(leftover) : forget(leftover);
-        if (!ended.ok())
-            VTAlert::show({tr("The unfinished project could not be put away"), ended.description()});
-    }
+    struct Found
+    {
+        QList<Leftover> leftovers;
+        QList<DoubtfulProject> doubtful;
+    };
+    const auto found = std::make_shared<Found>();
+    platform::performBeside(
+        [found] {
+            found->leftovers = leftovers();
+            found->doubtful = doubtfulProjects();
+        },
+        [found, window = QPointer(m_window.get()), this] {
+            if (!window) // and with it this
+                return;
+            for (const Leftover &leftover : std::as_const(found->leftovers))
+                offerToPutAway(leftover);
+            tellOfDoubtfulProjects(found->doubtful);
+        });
 }
 
-void TessaroAppDelegate::tellOfDoubtfulProjects()
+void TessaroAppDelegate::offerToPutAway(const Leftover &leftover)
 {
-    for (const DoubtfulProject &doubtful : platform::resultInBackground(doubtfulProjects)) {
-        const QString name = platform::lastComponent(doubtful.project);
-        VTLog::appendLog("After the computer went down %@ is not as it was made: %@", doubtful.project,
-                         doubtful.isThere ? doubtful.cutOff.join(QStringLiteral(", "))
-                                          : QStringLiteral("it is not there"));
-        const int answer =
-            VTAlert::show({doubtful.isThere ? tr("‘%1’ is not whole").arg(name) : tr("‘%1’ is not there").arg(name),
-                           descriptionOf(doubtful) + QStringLiteral("\n\n") +
-                               (doubtful.isThere ? tr("Create it once more, or take these files from the template.")
-                                                 : tr("Please create it once more.")),
-                           tr("OK"),
-                           tr("Show"),
-                           {},
-                           VTAlert::defaultReturn});
-        if (answer == VTAlert::alternateReturn)
-            showProject(doubtful.project);
-        static_cast<void>(forget(doubtful)); // one that stays is said again
+    VTLog::appendLog("A creation of %@ was cut off; %@ is left of it", leftover.destination, leftover.folder);
+    const int answer = VTAlert::show(
+        {tr("A project was not finished"),
+         tr("Tessaro or the computer stopped while ‘%1’ was being made. What had been copied is here:\n\n%2")
+             .arg(platform::lastComponent(leftover.destination), leftover.folder),
+         tr("Move to Trash"),
+         tr("Keep"),
+         {},
+         VTAlert::alternateReturn});
+    const platform::Outcome ended = answer == VTAlert::defaultReturn ? putAway(leftover) : forget(leftover);
+    if (!ended.ok())
+        VTAlert::show({tr("The unfinished project could not be put away"), ended.description()});
+}
+
+/// One sheet for all of them.
+void TessaroAppDelegate::tellOfDoubtfulProjects(const QList<DoubtfulProject> &doubtful)
+{
+    if (doubtful.isEmpty())
+        return;
+    QStringList sentences;
+    for (const DoubtfulProject &project : doubtful) {
+        VTLog::appendLog("After the computer went down %@ is not as it was made: %@", project.project,
+                         descriptionOf(project));
+        if (sentences.size() < mostDoubtfulNamed)
+            sentences.append(platform::forDisplay(project.project) + u'\n' + descriptionOf(project));
     }
+    const int answer =
+        VTAlert::show({doubtful.size() == 1 ? tr("‘%1’ is not whole").arg(platform::lastComponent(doubtful[0].project))
+                                            : tr("Projects that are not whole: %1").arg(doubtful.size()),
+                       sentences.join(QStringLiteral("\n\n")) + QStringLiteral("\n\n") +
+                           tr("Create it once more, or take these files from the template."),
+                       tr("OK"),
+                       tr("Show"),
+                       {},
+                       VTAlert::defaultReturn});
+    if (answer == VTAlert::alternateReturn)
+        showProject(doubtful.constFirst().project);
+    for (const DoubtfulProject &project : doubtful)
+        static_cast<void>(forget(project)); // one that stays is said again
 }
 
 QStringList TessaroAppDelegate::toolbarSelectableItemIdentifiers() const
@@ -243,11 +269,15 @@ void TessaroAppDelegate::changeProjectTemplate()
 void TessaroAppDelegate::populateTemplatePopUp()
 {
     VTLog::appendLog("Populating template popup list");
-    auto &store = VTDataController::sharedController();
-    const platform::Outcome read = store.populateTemplatesInTime([window = QPointer(m_window.get()), this] {
+    const auto late = [window = QPointer(m_window.get()), this](const platform::Outcome &read) {
         if (window) // and with it this
-            populateTemplatePopUp();
-    }); // said and logged where it failed
+            showLibrary(read);
+    };
+    showLibrary(VTDataController::sharedController().populateTemplatesInTime(late)); // said and logged where it failed
+}
+
+void TessaroAppDelegate::showLibrary(const platform::Outcome &read)
+{
     const bool isGone = read.is(platform::Cause::Unreachable);
     m_window->setLibraryProblem(
         isGone
@@ -260,7 +290,7 @@ void TessaroAppDelegate::populateTemplatePopUp()
             if (m_templatesShown)
                 m_window->templatePane().followDisk();
         });
-    const QStringList names = store.templates();
+    const QStringList names = VTDataController::sharedController().templates();
     const QString selected = chosenTemplate(names);
     m_window->setTemplates(names, selected);
     if (!names.isEmpty())

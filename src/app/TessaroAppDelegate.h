@@ -3,6 +3,7 @@
 #include "app/HelpPages.h"
 #include "creation/ProjectCreation.h"
 #include "creation/Undo.h"
+#include "creation/Unfinished.h"
 
 #include <QElapsedTimer>
 #include <QHash>
@@ -131,8 +132,10 @@ private:
 
     void importOldTessaroTemplate();
     void restoreShippedTemplates();
-    void offerToPutAwayLeftovers();
-    void tellOfDoubtfulProjects();
+    void showLibrary(const platform::Outcome &read);
+    void lookForLeftovers();
+    void offerToPutAway(const Leftover &leftover);
+    void tellOfDoubtfulProjects(const QList<DoubtfulProject> &doubtful);
     void tellOfCrash();
     [[nodiscard]] bool isImporting() const;
     void showUndo();

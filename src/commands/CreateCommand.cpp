@@ -9,6 +9,7 @@
 #include "parameters/ProjectNaming.h"
 #include "parameters/ValueRules.h"
 #include "platform/base/Interruption.h"
+#include "platform/base/MainThread.h"
 #include "platform/base/NativePath.h"
 #include "support/Settings.h"
 #include "support/VTFileManager.h"
@@ -62,18 +63,37 @@ QString drawn(const CreationPlan &plan, const QString &destination)
 
 } // namespace
 
-int commands::create(const Invocation &invocation)
+/// As far as it is known in time: they may lie on a share whose server does not answer, and this project need not.
+constexpr static std::chrono::seconds patienceForLeftovers{2};
+static void tellOfLeftovers()
 {
-    const auto left = leftovers();
+    struct Found
+    {
+        QList<Leftover> leftovers;
+        QList<DoubtfulProject> doubtful;
+    };
+    const auto found = std::make_shared<Found>();
+    const auto look = [found] {
+        found->leftovers = leftovers();
+        found->doubtful = doubtfulProjects();
+    };
+    if (!platform::performWithin(patienceForLeftovers, look, [] {}))
+        return;
+    const auto &left = found->leftovers;
+    const auto &doubtful = found->doubtful;
     for (const Leftover &leftover : left)
         complain(ExitStatus::done, Text::tr("A creation was cut off. This is left of it: %1").arg(leftover.folder));
     if (!left.isEmpty())
         complain(ExitStatus::done, Text::tr("Tessaro clean-up --yes moves it to the Trash."));
-    const auto doubtful = doubtfulProjects();
     for (const DoubtfulProject &project : doubtful)
         complain(ExitStatus::done, project.project + QStringLiteral(": ") + descriptionOf(project));
     if (!doubtful.isEmpty())
         complain(ExitStatus::done, Text::tr("Tessaro clean-up --yes takes note of it."));
+}
+
+int commands::create(const Invocation &invocation)
+{
+    tellOfLeftovers();
     return CreateCommand(invocation).run();
 }
 

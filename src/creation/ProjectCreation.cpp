@@ -77,6 +77,8 @@ bool ProjectCreation::build()
 {
     const QString destination = m_result.request.destination();
     m_place.emplace(destination, m_hiddenFolder);
+    if (m_place->isHidden() && !m_note) // the folder was made at a second try
+        m_note.emplace(m_place->folder(), destination, m_result.request.templateFiles, m_levelsMade);
     m_place->make();
     if (!m_place->isHidden())
         m_note.reset();
@@ -200,7 +202,7 @@ Outcome ProjectCreation::claimOnce()
                 return made = Outcome::failure(Cause::Busy, destination);
             m_levelsMade = missingLevels(platform::parentPath(destination));
             m_hiddenFolder = Workplace::hiddenFolderFor(destination);
-            m_note.emplace(m_hiddenFolder, destination, m_levelsMade);
+            m_note.emplace(m_hiddenFolder, destination, m_result.request.templateFiles, m_levelsMade);
             made = platform::makeFolders(platform::parentPath(destination));
             if (made.ok())
                 made = platform::makeNewFolder(destination);

@@ -30,6 +30,7 @@ constexpr qsizetype mostNamed = 10;
 const QString folderKey = QStringLiteral("folder");
 const QString destinationKey = QStringLiteral("destination");
 const QString levelsKey = QStringLiteral("levels");
+const QString templateKey = QStringLiteral("template");
 const QString runKey = QStringLiteral("run");
 
 QString notesFolder()
@@ -48,9 +49,26 @@ QString placedFolder()
 /// The system writes within half a minute; an hour is what a laptop that saves power may take, and more.
 constexpr qint64 secondsUntilWritten = 3600;
 
+/// A drive that was not there for so long: nobody remembers what was to be on it.
+constexpr qint64 hoursUntilForgotten = 24 * 30;
+
 qint64 hourNow()
 {
     return QDateTime::currentSecsSinceEpoch() / secondsUntilWritten;
+}
+
+/// Paths as bytes: a name need not be UTF-8.
+QVariantMap noteOf(const QString &folder, const QString &destination, const QString &templateFiles,
+                   const QStringList &levels)
+{
+    QVariantList levelPaths;
+    for (const QString &level : levels)
+        levelPaths.append(platform::toNative(level));
+    return {{folderKey, platform::toNative(folder)},
+            {destinationKey, platform::toNative(destination)},
+            {templateKey, platform::toNative(templateFiles)},
+            {levelsKey, levelPaths},
+            {runKey, platform::runOfSystem()}};
 }
 
 Outcome keepAsPlaced(const QString &note, const QString &runOfSystem)
@@ -102,43 +120,60 @@ QStringList cutOffOf(const Manifest &manifest, const std::vector<ManifestItem> &
     return found;
 }
 
-/// Where nothing says what was made: a file without contents is what a power cut leaves.
-QStringList emptyFilesIn(const QString &project)
+QStringList emptyFilesIn(const QString &folder)
 {
     QStringList found;
     const std::atomic<bool> never = false;
     const platform::Tree tree = platform::readTree(
-        project, [](platform::TreeFolder &) {}, never);
+        folder, [](platform::TreeFolder &) {}, never);
     tree.forEachFolder([&](std::uint32_t number) {
-        const platform::TreeFolder &folder = tree.folders[number];
-        for (const platform::TreeItem &item : folder.items) {
-            const QString below = platform::joined(tree.pathOf(number), platform::fromNative(folder.nameOf(item)));
+        const platform::TreeFolder &own = tree.folders[number];
+        for (const platform::TreeItem &item : own.items) {
+            const QString below = platform::joined(tree.pathOf(number), platform::fromNative(own.nameOf(item)));
             if (platform::kindOfType(item.type) == platform::FileKind::File &&
-                platform::fileSizeOf(platform::joined(project, below)) == 0)
+                platform::fileSizeOf(platform::joined(folder, below)) == 0)
                 found.append(below);
         }
     });
     return found;
 }
 
-/// Nothing for a project that is as it was made.
-std::optional<DoubtfulProject> judged(const QString &note, const QString &project, const QList<Manifest> &manifests)
+/// Where nothing says what was made, a file without contents is what a power cut leaves; a template may have some.
+QStringList emptiedFilesIn(const QString &project, const QString &templateFiles)
 {
-    DoubtfulProject doubtful{note, project, platform::kindOf(project) == platform::FileKind::Folder, {}};
+    const QStringList found = emptyFilesIn(project);
+    return found.size() > emptyFilesIn(templateFiles).size() ? found : QStringList();
+}
+
+QString pathIn(const QVariantMap &note, const QString &key)
+{
+    return platform::fromNative(note.value(key).toByteArray());
+}
+
+enum class Judgement { Good, Doubtful, Unknown };
+
+/// A project that is not there was moved or removed: its name had reached the drive before the note was put here.
+Judgement judge(DoubtfulProject &doubtful, const QString &templateFiles, const QList<Manifest> &manifests)
+{
+    const QString &project = doubtful.project;
+    if (project.isEmpty() || platform::isMissing(project))
+        return Judgement::Good;
+    const auto entries = platform::listFolder(project);
     const auto identity = platform::identityOf(project);
-    if (!doubtful.isThere || platform::listFolder(project).valueOr({}).isEmpty()) {
-        doubtful.isThere = false;
-        return doubtful;
-    }
+    if (!entries || !identity)
+        return Judgement::Unknown; // a drive that is not there today, a server that does not answer
+    // Not by the device: its number is another one after each start of many computers.
     const auto known = std::find_if(manifests.begin(), manifests.end(), [&](const Manifest &manifest) {
-        return manifest.project == project && identity == manifest.identity;
+        return manifest.project == project && manifest.identity.inode == identity->inode;
     });
     const auto items =
         known == manifests.end()
             ? platform::Result<std::vector<ManifestItem>>(Outcome::failure(platform::Cause::Missing, project))
             : itemsOf(*known);
-    doubtful.cutOff = items ? cutOffOf(*known, *items) : emptyFilesIn(project);
-    return doubtful.cutOff.isEmpty() ? std::nullopt : std::optional(doubtful);
+    doubtful.isThere =
+        !entries->isEmpty() || (items && items->empty()) || platform::listFolder(templateFiles).valueOr({}).isEmpty();
+    doubtful.cutOff = items ? cutOffOf(*known, *items) : emptiedFilesIn(project, templateFiles);
+    return doubtful.isThere && doubtful.cutOff.isEmpty() ? Judgement::Good : Judgement::Doubtful;
 }
 
 /// The place that was claimed, and the levels above it that came with it; one that is in use by now stays.
@@ -156,7 +191,8 @@ void removeEmptyPlace(const Leftover &leftover)
 
 } // namespace
 
-CreationNote::CreationNote(const QString &folder, const QString &destination, const QStringList &levels)
+CreationNote::CreationNote(const QString &folder, const QString &destination, const QString &templateFiles,
+                           const QStringList &levels)
     : m_file(platform::joined(notesFolder(), QString::number(QRandomGenerator::global()->generate64(), 36)))
 {
     Outcome noted = platform::makeFolders(notesFolder());
@@ -167,12 +203,7 @@ CreationNote::CreationNote(const QString &folder, const QString &destination, co
             m_lock.emplace(*std::move(lock));
     }
     if (noted.ok())
-        noted = write(m_file,
-                      {{folderKey, folder},
-                       {destinationKey, destination},
-                       {levelsKey, levels},
-                       {runKey, platform::runOfSystem()}},
-                      waitsFor(folder, m_file));
+        noted = write(m_file, noteOf(folder, destination, templateFiles, levels), waitsFor(folder, m_file));
     if (!noted.ok())
         VTLog::appendLog("Unable to note the creation: %@", noted.description());
 }
@@ -198,8 +229,9 @@ QList<Leftover> leftovers()
         if (platform::FileLock::acquire(file, {}).outcome().is(platform::Cause::Busy))
             continue; // under way
         const QVariantMap note = platform::readPropertyListFile(file).valueOr(QVariant()).toMap();
-        const Leftover leftover{file, note.value(folderKey).toString(), note.value(destinationKey).toString(),
-                                note.value(levelsKey).toStringList()};
+        Leftover leftover{file, pathIn(note, folderKey), pathIn(note, destinationKey), {}};
+        for (const QVariant &level : note.value(levelsKey).toList())
+            leftover.levels.append(platform::fromNative(level.toByteArray()));
         if (platform::kindOf(leftover.folder) == platform::FileKind::Folder) {
             found.append(leftover);
             continue;
@@ -233,18 +265,21 @@ QList<DoubtfulProject> doubtfulProjects()
     for (const platform::FolderEntry &hour : platform::listFolder(placedFolder()).valueOr({})) {
         const QString folder = platform::joined(placedFolder(), hour.name);
         const bool isOfThisRun = hour.name.section(u'.', 0, 0) == platform::runOfSystem();
-        if (isOfThisRun && hour.name.section(u'.', 1).toLongLong() >= hourNow() - 1)
+        const qint64 age = hourNow() - hour.name.section(u'.', 1).toLongLong();
+        const bool isTooOld = age > hoursUntilForgotten;
+        if (isOfThisRun && age <= 1)
             continue;
         for (const platform::FolderEntry &entry : platform::listFolder(folder).valueOr({})) {
             const QString file = platform::joined(folder, entry.name);
             const QVariantMap note = platform::readPropertyListFile(file).valueOr(QVariant()).toMap();
             if (!isOfThisRun && !manifests)
                 manifests = recentProjects();
-            const auto doubtful =
-                isOfThisRun ? std::nullopt : judged(file, note.value(destinationKey).toString(), *manifests);
-            if (doubtful && !doubtful->project.isEmpty())
-                found.append(*doubtful);
-            else
+            DoubtfulProject doubtful{file, pathIn(note, destinationKey), true, {}};
+            const Judgement judgement =
+                isOfThisRun ? Judgement::Good : judge(doubtful, pathIn(note, templateKey), *manifests);
+            if (judgement == Judgement::Doubtful)
+                found.append(doubtful);
+            else if (judgement == Judgement::Good || isTooOld)
                 static_cast<void>(platform::removeTree(file)); // one that stays is looked at again
         }
         static_cast<void>(platform::removeEmptyFolder(folder)); // else it holds what is not yet told

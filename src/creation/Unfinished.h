@@ -18,7 +18,8 @@ class CreationNote
 public:
     /** Before the destination, and whichever of its levels, are made. Where the note cannot be made the project is made
        all the same. */
-    CreationNote(const QString &folder, const QString &destination, const QStringList &levels = {});
+    CreationNote(const QString &folder, const QString &destination, const QString &templateFiles = {},
+                 const QStringList &levels = {});
     /** The creation has come to an end of its own: the note goes, unless something was left behind. */
     ~CreationNote();
     void leaveSomethingBehind() { m_isToStay = true; }
@@ -54,8 +55,8 @@ struct DoubtfulProject
 {
     QString note;
     QString project;
-    bool isThere = false;
-    QStringList cutOff; ///< files whose contents are missing, or a part of them; by path below the project
+    bool isThere = true; ///< false: its folder is, and nothing in it
+    QStringList cutOff;  ///< files whose contents are missing, or a part of them; by path below the project
 };
 
 /** Looks at the projects that were made shortly before the computer went down; those that are as they were made are

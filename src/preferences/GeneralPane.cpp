@@ -1,6 +1,7 @@
 #include "preferences/GeneralPane.h"
 
 #include "platform/base/FormatString.h"
+#include "platform/base/MainThread.h"
 #include "platform/base/NativePath.h"
 #include "platform/files/FileTree.h"
 #include "platform/plain/CopyMonitor.h"
@@ -20,6 +21,8 @@ namespace {
 
 constexpr std::chrono::seconds movePatience{10};
 constexpr qsizetype mostNamed = 5;
+
+constexpr std::chrono::seconds patienceForOld{2};
 
 QStringList bundlesIn(const QString &folder)
 {
@@ -67,8 +70,20 @@ void GeneralPane::modifyTemplatePath(const QString &typed)
         return m_path->refresh();
     VTLog::appendLog("User changed template path from %@ to %@. Asking user to confirm moving over old files.", old,
                      *path);
-    const QStringList names = bundlesIn(old);
-    const Move answer = VTFileManager::isFolderEmpty(old) ? Move::No : askToMove(old, *path, names.size());
+    struct Old
+    {
+        QStringList names;
+        bool isEmpty = true;
+    };
+    const auto found = std::make_shared<Old>();
+    const auto look = [old, found] {
+        found->names = bundlesIn(old);
+        found->isEmpty = VTFileManager::isFolderEmpty(old);
+    };
+    // From a library whose server is gone there is nothing to be moved.
+    const bool isKnown = platform::performWithin(patienceForOld, look, [] {});
+    const QStringList names = isKnown ? found->names : QStringList();
+    const Move answer = !isKnown || found->isEmpty ? Move::No : askToMove(old, *path, names.size());
     if (answer == Move::Cancelled) {
         if (isNew)
             static_cast<void>(platform::removeEmptyFolder(*path)); // it was made for nothing

@@ -180,27 +180,32 @@ platform::Result<QStringList> VTDataController::templateNames(const QString &loc
     return names;
 }
 
-Outcome VTDataController::populateTemplatesInTime(const std::function<void()> &late)
+Outcome VTDataController::populateTemplatesInTime(const std::function<void(const Outcome &)> &late)
 {
-    const Outcome silence = Outcome::failure(Cause::Unreachable, templateLocation());
-    if (m_isWaitedFor) // one thread that hangs is enough
-        return silence;
-    m_isWaitedFor = true;
+    const QString location = templateLocation();
+    const Outcome silence = Outcome::failure(Cause::Unreachable, location);
+    {
+        const QMutexLocker lock(&m_mutex);
+        if (m_waitedFor == location) // one thread that hangs is enough
+            return silence;
+        m_waitedFor = location;
+    }
     const auto read = std::make_shared<Outcome>();
-    const bool isInTime = platform::performWithin(
-        answerPatience,
-        [this, read] {
-            *read = populateTemplates();
-            m_isWaitedFor = false;
-        },
-        [late] {
-            VTLog::appendLog("The template library has answered");
-            if (late)
-                late();
-        });
-    if (isInTime)
+    const auto reading = [this, location, read] {
+        *read = populateTemplates();
+        const QMutexLocker lock(&m_mutex);
+        if (m_waitedFor == location)
+            m_waitedFor.clear();
+    };
+    // What has been read is shown, not read once more: a library that always takes longer would never be seen.
+    const auto shown = [location, read, late] {
+        VTLog::appendLog("The template library has answered");
+        if (late && location == templateLocation())
+            late(*read);
+    };
+    if (platform::performWithin(answerPatience, reading, shown))
         return *read;
-    VTLog::appendLog("The template library %@ does not answer", templateLocation());
+    VTLog::appendLog("The template library %@ does not answer", location);
     return silence;
 }
 

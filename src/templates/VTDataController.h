@@ -4,7 +4,6 @@
 
 #include <QMutex>
 #include <QStringList>
-#include <atomic>
 #include <functional>
 
 /**
@@ -37,9 +36,9 @@ public:
     /** Makes sure that the library exists and builds the list. A library that cannot be read gives an empty list and
      * why; one whose drive has gone is Cause::Unreachable, and nothing is made in its place. */
     platform::Outcome populateTemplates();
-    /** The same for the window: Cause::Unreachable when the library does not answer in time; `late` comes on the main
-        thread when it does after all. Main thread. */
-    platform::Outcome populateTemplatesInTime(const std::function<void()> &late = {});
+    /** The same for the window: Cause::Unreachable when the library does not answer in time; `late` gets on
+        the main thread how it was read after all. Main thread. */
+    platform::Outcome populateTemplatesInTime(const std::function<void(const platform::Outcome &)> &late = {});
 
     /** Unpacks every shipped template into an existing folder; what stands there under the name goes to the Trash. Goes
        on after a failure and returns the first; the log names each. */
@@ -51,6 +50,6 @@ private:
     VTDataController() = default;
 
     mutable QMutex m_mutex;
-    std::atomic<bool> m_isWaitedFor = false; ///< a reading for the window that has not ended
+    QString m_waitedFor; ///< the library whose reading for the window has not ended; null for none
     QStringList m_templates;
 };

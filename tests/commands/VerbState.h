@@ -91,19 +91,24 @@ inline bool isOldOrNew(const State &found, const State &before, const State &aft
     });
 }
 
-inline QStringList leftBehind(const QString &folder)
+inline QStringList hiddenBelow(const QString &folder)
 {
     QStringList found;
     for (const auto &entry : platform::listFolder(folder).valueOr({})) {
         if (entry.name.contains(u".tessaro-"))
             found << platform::joined(folder, entry.name);
         else if (entry.kind == platform::FileKind::Folder)
-            found << leftBehind(platform::joined(folder, entry.name));
+            found << hiddenBelow(platform::joined(folder, entry.name));
     }
-    if (folder.endsWith(u"/tmp") || folder.contains(u"/tmp/"))
-        return found;
-    for (const auto &entry : platform::listFolder(folder + "/tmp").valueOr({}))
-        found << platform::joined(folder + "/tmp", entry.name);
+    return found;
+}
+
+/// What no verb may leave: hidden items anywhere, and anything in the place for temporary files.
+inline QStringList leftBehind(const QString &home)
+{
+    QStringList found = hiddenBelow(home);
+    for (const auto &entry : platform::listFolder(home + "/tmp").valueOr({}))
+        found << platform::joined(home + "/tmp", entry.name);
     return found;
 }
 

@@ -196,7 +196,7 @@ void VTProjectTableController::updateFilenamePreview()
     m_exists.forget();
     if (location.isEmpty() || path.isEmpty())
         return showWarning(false);
-    m_exists.ask(platform::joined(location, path), [this](bool exists) { showWarning(exists); });
+    m_exists.ask(location, path, [this](bool exists) { showWarning(exists); });
 }
 
 void VTProjectTableController::showWarning(bool exists)

@@ -190,7 +190,12 @@ ZipWriter::ZipWriter(const QString &path)
     archive_write_set_options(m_archive.get(), "hdrcharset=UTF-8");
     archive_write_set_bytes_per_block(m_archive.get(), static_cast<int>(pieceSize));
     archive_write_set_bytes_in_last_block(m_archive.get(), 1);
-    check(archive_write_open_filename(m_archive.get(), toNative(path).constData()) == ARCHIVE_OK);
+    const PathAt at(path);
+    m_file.reset(openat(at.folder(), at.name(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666));
+    if (!m_file.isOpen())
+        m_outcome = Outcome::fromErrno(path);
+    else
+        check(archive_write_open_fd(m_archive.get(), m_file.get()) == ARCHIVE_OK);
 }
 
 ZipWriter::~ZipWriter() = default;
@@ -302,6 +307,8 @@ Outcome ZipWriter::finish()
 {
     if (m_outcome.ok())
         check(archive_write_close(m_archive.get()) == ARCHIVE_OK);
+    if (m_file.isOpen() && m_file.closeChecked() != 0 && m_outcome.ok()) // a share or a quota may report the failed write only now
+        m_outcome = Outcome::fromErrno({});
     return m_outcome;
 }
 

@@ -2,6 +2,8 @@
 
 #include "platform/archive/ZipArchive.h"
 
+#include "platform/plain/UniqueDescriptor.h"
+
 #include <QByteArray>
 #include <memory>
 #include <sys/stat.h>
@@ -50,6 +52,7 @@ private:
     void pumpFile(int file, const QByteArray &name, qint64 size);
     void check(bool good);
 
+    UniqueDescriptor m_file; ///< ours: the library leaves its own open when it cannot look at it
     std::unique_ptr<archive, Closer> m_archive;
     QByteArray m_piece;
     CopyMonitor *m_monitor = nullptr;

@@ -175,15 +175,29 @@ void VTTemplateOutlineController::populateTemplateStructure()
         return;
     VTLog::appendLog("Loading template data from %@", m_baseFilename);
     const quint64 generation = ++m_generation;
+    readInTime(filesFolder(), [this, generation](TemplateNodes nodes) { showTree(generation, std::move(nodes)); });
+}
+
+/// One reading of a folder at a time: where a server does not answer, it holds one thread. What comes late is shown if
+/// nothing has been read or renamed since; else it is read once more.
+void VTTemplateOutlineController::readInTime(const QString &folder, const std::function<void(TemplateNodes)> &show)
+{
+    const quint64 reading = ++m_readings;
+    if (m_beingRead.contains(folder))
+        return;
+    m_beingRead.insert(folder);
     const auto read = std::make_shared<TemplateNodes>();
-    const auto reading = [folder = filesFolder(), read] {
+    const auto work = [folder, read] {
         *read = nodesInFolder(folder, nullptr);
     };
-    const auto show = [this, generation, read] {
-        showTree(generation, std::move(*read));
+    const auto late = [this, folder, read, reading, show] {
+        m_beingRead.remove(folder);
+        reading == m_readings ? show(std::move(*read)) : populateTemplateStructure();
     };
-    if (platform::performWithin(patienceOfReading, reading, onlyWhile(this, show)))
-        show();
+    if (!platform::performWithin(patienceOfReading, work, onlyWhile(this, late)))
+        return;
+    m_beingRead.remove(folder);
+    reading == m_readings ? show(std::move(*read)) : populateTemplateStructure();
 }
 
 void VTTemplateOutlineController::showTree(quint64 generation, TemplateNodes nodes)
@@ -307,15 +321,8 @@ void VTTemplateOutlineController::rereadFolder(const QString &folder)
     if (!node || !node->isFolderItem())
         return populateTemplateStructure();
     const quint64 generation = m_generation;
-    const auto read = std::make_shared<TemplateNodes>();
-    const auto reading = [folder, read] {
-        *read = nodesInFolder(folder, nullptr);
-    };
-    const auto show = [this, folder, generation, read] {
-        showFolder(folder, generation, std::move(*read));
-    };
-    if (platform::performWithin(patienceOfReading, reading, onlyWhile(this, show)))
-        show();
+    readInTime(folder,
+               [this, folder, generation](TemplateNodes nodes) { showFolder(folder, generation, std::move(nodes)); });
 }
 
 void VTTemplateOutlineController::showFolder(const QString &folder, quint64 generation, TemplateNodes children)

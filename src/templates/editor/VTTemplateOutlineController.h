@@ -119,6 +119,7 @@ private:
     [[nodiscard]] ViewState viewState() const;
     void restore(const ViewState &state, const QModelIndex &below);
     void rereadFolder(const QString &folder);
+    void readInTime(const QString &folder, const std::function<void(TemplateNodes)> &show);
     void showTree(quint64 generation, TemplateNodes nodes);
     void showFolder(const QString &folder, quint64 generation, TemplateNodes children);
     void rereadParentOf(const QString &path);
@@ -142,9 +143,11 @@ private:
     Views m_views;
     QString m_baseFilename;
     TemplateTreeModel m_model;
-    quint64 m_generation = 0; ///< counts loads: one that was overtaken while it read is thrown away
-    bool m_isBehind = false;  ///< the tree is to be read anew when the open editor has been left
-    bool m_hasMoved = false;  ///< whether the last drop inside did anything
+    quint64 m_readings = 0;    ///< raised by whatever makes an earlier reading old
+    QSet<QString> m_beingRead; ///< folders whose reading has not ended
+    quint64 m_generation = 0;  ///< counts loads: one that was overtaken while it read is thrown away
+    bool m_isBehind = false;   ///< the tree is to be read anew when the open editor has been left
+    bool m_hasMoved = false;   ///< whether the last drop inside did anything
     int m_spinning = 0;
     int m_jobs = 0;
 };

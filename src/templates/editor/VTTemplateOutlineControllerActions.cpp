@@ -284,6 +284,7 @@ void VTTemplateOutlineController::rename(const QString &path, const QString &typ
     m_history.add({tr("Rename"), {{DiskStep::Kind::Moved, path, renamed}}});
     if (node) {
         node->rename(renamed);
+        ++m_readings; // what is being read has the old name
         reloadOutlineViewItem(node);
     }
 }
