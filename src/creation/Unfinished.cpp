@@ -50,7 +50,7 @@ QString placedFolder()
 constexpr qint64 secondsUntilWritten = 3600;
 
 /// A drive that was not there for so long: nobody remembers what was to be on it.
-constexpr qint64 hoursUntilForgotten = 24 * 30;
+constexpr qint64 hoursUntilForgotten = qint64{24} * 30;
 
 qint64 hourNow()
 {

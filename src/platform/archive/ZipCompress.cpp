@@ -307,7 +307,8 @@ Outcome ZipWriter::finish()
 {
     if (m_outcome.ok())
         check(archive_write_close(m_archive.get()) == ARCHIVE_OK);
-    if (m_file.isOpen() && m_file.closeChecked() != 0 && m_outcome.ok()) // a share or a quota may report the failed write only now
+    if (m_file.isOpen() && m_file.closeChecked() != 0 &&
+        m_outcome.ok()) // a share or a quota may report the failed write only now
         m_outcome = Outcome::fromErrno({});
     return m_outcome;
 }
