@@ -103,7 +103,7 @@ Outcome write(const QString &file, const QByteArray &value)
     QDataStream stream(&bytes, QIODevice::WriteOnly);
     stream.setVersion(streamVersion);
     stream << mark << format << value;
-    return platform::replaceFile(file, bytes, platform::Waits::ForItsBytes);
+    return platform::replaceFile(file, bytes, platform::Waits::ForNothing);
 }
 
 Result<QByteArray> read(const QString &file)

@@ -92,6 +92,8 @@ bool ProjectCreation::build()
     updateDates();
     if (m_monitor.cancelled)
         return false;
+    if (m_note)
+        m_note->reachDisk();
     const Outcome placed = m_place->putInPlace();
     if (m_note)
         placed.ok() ? m_note->placed() : m_note->leaveSomethingBehind();

@@ -96,7 +96,7 @@ platform::Waits waitsFor(const QString &folder, const QString &note)
     const auto ofFolder = platform::identityOf(above);
     const auto ofNote = platform::identityOf(note);
     const bool isSameDrive = ofFolder && ofNote && ofFolder->device == ofNote->device;
-    return isSameDrive ? platform::Waits::ForItsBytes : platform::Waits::ForTheDisk;
+    return isSameDrive ? platform::Waits::ForNothing : platform::Waits::ForTheDisk;
 }
 
 /// A file that was cut off has the date of its making, or no contents at all; what a user has changed has neither.
@@ -206,6 +206,14 @@ CreationNote::CreationNote(const QString &folder, const QString &destination, co
         noted = write(m_file, noteOf(folder, destination, templateFiles, levels), waitsFor(folder, m_file));
     if (!noted.ok())
         VTLog::appendLog("Unable to note the creation: %@", noted.description());
+}
+
+void CreationNote::reachDisk() const
+{
+    platform::AppendFile note;
+    if (note.open(m_file).ok())
+        static_cast<void>(
+            note.waitFor(platform::Waits::ForItsBytes)); // a note that is lost is no reason to make nothing
 }
 
 void CreationNote::placed()

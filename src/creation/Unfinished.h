@@ -23,6 +23,9 @@ public:
     /** The creation has come to an end of its own: the note goes, unless something was left behind. */
     ~CreationNote();
     void leaveSomethingBehind() { m_isToStay = true; }
+    /** To be called before the project takes its place: by then the note has mostly arrived, and nothing is waited for.
+     */
+    void reachDisk() const;
     /** The project stands at its destination. */
     void placed();
     CreationNote(const CreationNote &) = delete;

@@ -147,7 +147,11 @@ bool isTemplateFile(const QString &path)
 
 QString exportFile(const QString &name, const QString &given)
 {
-    if (given.endsWith(u'/') || VTFileManager::isDirectoryAtPath(given))
+    // What cannot be looked at, and is no file for certain, is taken for the folder that was meant: it says what is
+    // wrong.
+    const bool isThere = !platform::isMissing(given);
+    const bool isFile = isThere && platform::kindOf(platform::realPath(given)) == platform::FileKind::File;
+    if (given.endsWith(u'/') || VTFileManager::isDirectoryAtPath(given) || (isThere && !isFile))
         return joined(given, name + archiveEnding);
     if (isArchive(given))
         return given;

@@ -57,6 +57,7 @@ Outcome AppendFile::waitFor(Waits waits)
 {
     const bool isWritten = waits == Waits::ForTheDisk    ? fsync(m_file.get()) == 0
                            : waits == Waits::ForItsBytes ? writeOut(m_file.get(), WritesOut::Ends)
+                           : waits == Waits::ForNothing  ? writeOut(m_file.get(), WritesOut::Begins)
                                                          : true;
     return isWritten ? Outcome() : Outcome::fromErrno(m_path);
 }

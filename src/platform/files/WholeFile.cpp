@@ -48,6 +48,8 @@ bool hasGone(int file, Waits waits)
         return fsync(file) == 0 || errno == EINVAL;
     case Waits::ForItsBytes:
         return writeOut(file, WritesOut::Ends);
+    case Waits::ForNothing:
+        return writeOut(file, WritesOut::Begins);
     case Waits::ForTheSystem:
         break;
     }
