@@ -2,11 +2,11 @@
 // and the longest time for which the window did not react while it loaded.
 //
 //   bench_tree [ENTRIES]...        default: 1000 100000, in a hundredth as many folders
+#include "LargeTree.h"
 #include "Timing.h"
 #include "platform/base/NativePath.h"
 #include "platform/base/System.h"
 #include "platform/desktop/Desktop.h"
-#include "platform/files/FileSystem.h"
 #include "support/Settings.h"
 #include "support/VTLog.h"
 #include "templates/editor/TemplatePane.h"
@@ -14,7 +14,6 @@
 
 #include <QApplication>
 #include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
 #include <QTimer>
 
@@ -22,24 +21,9 @@ namespace {
 
 constexpr int rounds = 9;
 
-void makeTree(const QString &files, int entries)
-{
-    const int folders = entries / 100;
-    for (int i = 0; i < folders; ++i) {
-        const QString folder = files + QStringLiteral("/Group %1/Folder %2").arg(i % 20).arg(i);
-        if (!platform::makeFolders(folder).ok())
-            qFatal("Cannot make the tree");
-        for (int k = 0; k < 99; ++k) {
-            QFile file(folder + QStringLiteral("/Clip %1.mov").arg(k));
-            if (!file.open(QIODevice::WriteOnly))
-                qFatal("Cannot make the tree");
-        }
-    }
-}
-
 void measure(TemplatePane &pane, const QString &bundle, int entries)
 {
-    makeTree(bundle + "/Files", entries);
+    makeLargeTree(bundle + "/Files", entries);
     std::vector<double> finds;
     std::vector<double> loads;
     std::vector<double> redraws;

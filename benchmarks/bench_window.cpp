@@ -2,18 +2,17 @@
 // two hundred parameters, the filter of a template of 100,000 entries, and the whole window drawn anew.
 //
 //   bench_window
+#include "LargeTree.h"
 #include "Timing.h"
 #include "app/MainWindow.h"
 #include "app/TessaroAppDelegate.h"
 #include "parameters/FilenameParameter.h"
 #include "platform/base/System.h"
-#include "platform/files/FileSystem.h"
 #include "support/Settings.h"
 #include "support/VTLocalPaths.h"
 #include "templates/editor/TemplatePane.h"
 
 #include <QApplication>
-#include <QFile>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QTemporaryDir>
@@ -24,21 +23,6 @@ namespace {
 constexpr int keys = 400;
 constexpr int parameters = 200;
 constexpr int entries = 100'000;
-
-void fillTemplate(const QString &files)
-{
-    for (int i = 0; i < entries / 100; ++i) {
-        const QString folder = files + QStringLiteral("/Group %1/Folder %2").arg(i % 20).arg(i);
-        if (!platform::makeFolders(folder).ok())
-            qFatal("Cannot make the tree");
-        for (int k = 0; k < 99; ++k) {
-            // One in a hundred takes its name from the project.
-            QFile file(folder + (k == 50 ? QStringLiteral("/Template %1.mov") : QStringLiteral("/Clip %1.mov")).arg(k));
-            if (!file.open(QIODevice::WriteOnly))
-                qFatal("Cannot make the tree");
-        }
-    }
-}
 
 /// Everything that has been asked for is drawn.
 void settle(QWidget &window)
@@ -97,7 +81,7 @@ int main(int argc, char **argv)
                           settings::templateLocation.store(home + "/Library/Templates").ok();
     if (!isStored)
         qFatal("The settings cannot be written");
-    fillTemplate(home + "/Library/Templates/Large.tzt/Files");
+    makeLargeTree(home + "/Library/Templates/Large.tzt/Files", entries);
     TessaroAppDelegate delegate;
     if (!delegate.awakeFromNib())
         return 1;

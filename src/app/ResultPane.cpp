@@ -118,10 +118,14 @@ void ResultPane::shareWidth()
 
 void ResultPane::read()
 {
-    if (m_readFiles != m_files) // another template's tree is no answer
+    if (m_readFiles != m_files) { // another template's tree is no answer, and neither are its numbers
         m_model.setPlan({});
-    if (m_readings.contains(m_files)) // one at a time: a share that hangs holds one thread
-        return m_readsAgain.insert(m_files), void();
+        showNumbers();
+    }
+    if (m_readings.contains(m_files)) { // one at a time: a share that hangs holds one thread
+        m_readsAgain.insert(m_files);
+        return;
+    }
     m_readings.insert(m_files);
     const auto result = std::make_shared<Read>();
     const auto work = [files = m_files, levels = m_levels, result, cancelled = m_isOver] {
