@@ -224,7 +224,7 @@ void measureGrowth(const QString &work, const QString &library, int many)
     const double before = bytesInUse();
     const std::atomic<bool> cancelled = false;
     const auto plan =
-        planCreation(VTDataController::filesFolder(QStringLiteral("Growth %1").arg(many)), {"Bench"}, cancelled);
+        planCreation(VTDataController::filesFolder(QStringLiteral("Growth %1").arg(many)), {{"Bench"}}, cancelled);
     const double each = (bytesInUse() - before) / static_cast<double>(plan.tree.itemCount());
     const auto [least, most] = std::minmax_element(ratios.begin(), ratios.end());
     QTextStream(stdout) << "from " << few << " to " << many << " files: the time for one is " << timing::median(ratios)

@@ -131,7 +131,7 @@ void MainWindow::connectTable(VTProjectTableController &controller)
 {
     controller.setViews(
         {m_ui->tableView, m_ui->namePreviewLabel, m_ui->previewPathControl, m_ui->spinner, m_ui->warningImage});
-    connect(&controller, &VTProjectTableController::levelsShown, m_ui->resultPane, &ResultPane::setLevels);
+    connect(&controller, &VTProjectTableController::levelsShown, m_ui->resultPane, &ResultPane::setValues);
     connect(&controller, &VTProjectTableController::processingChanged, this, &MainWindow::setProcessing);
     connect(&controller, &VTProjectTableController::emptinessChanged, this, &MainWindow::setParametersEmpty);
 }

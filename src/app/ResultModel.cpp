@@ -9,6 +9,8 @@
 #include <QApplication>
 #include <QPalette>
 
+#include <algorithm>
+
 using platform::TreeFolder;
 using platform::TreeItem;
 using Remark = PlanItem::Remark;
@@ -35,7 +37,13 @@ QColor secondary()
 
 bool isProblem(const TreeItem &item)
 {
-    return static_cast<Remark>(item.remark) != Remark::None;
+    const auto remark = static_cast<Remark>(item.remark);
+    return remark != Remark::None && remark != Remark::LeftOut;
+}
+
+bool isLeftOut(const TreeItem &item)
+{
+    return static_cast<Remark>(item.remark) == Remark::LeftOut;
 }
 
 } // namespace
@@ -66,17 +74,34 @@ void ResultModel::setPlan(CreationPlan plan)
     findProblems();
 }
 
-void ResultModel::setLevels(const QStringList &levels)
+void ResultModel::setInput(const PlanInput &input)
 {
-    const bool hasSameRows = levels.size() == m_plan.levels.size();
+    CreationPlan next; // of a template with rules; any other is changed in its place
+    if (m_plan.ruled) {
+        next.ruled = m_plan.ruled;
+        next.unreadable = m_plan.unreadable;
+        planFor(next, input);
+    }
+    const bool hasSameRows = input.levels.size() == m_plan.levels.size() && next.shape == m_plan.shape;
     if (!hasSameRows)
         beginResetModel();
-    planForLevels(m_plan, levels);
+    if (m_plan.ruled)
+        m_plan = std::move(next);
+    else
+        planFor(m_plan, input);
     if (!hasSameRows)
         endResetModel();
     findProblems();
     if (hasSameRows && rowCount() > 0) // the view draws what is in sight
         Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, columnCount_ - 1));
+}
+
+QModelIndex ResultModel::indexOfFolder(std::uint32_t folder) const
+{
+    if (folder == 0)
+        return {};
+    const TreeFolder &own = m_plan.tree.folders[folder];
+    return createIndex(static_cast<int>(own.itemInOwn), 0, quintptr{own.parent});
 }
 
 void ResultModel::findProblems()
@@ -86,7 +111,14 @@ void ResultModel::findProblems()
         if (m_plan.tooLongLevels.contains(m_plan.levels[level]))
             m_problems.append(levelIndex(level));
     }
-    for (const std::uint32_t number : m_plan.named) {
+    std::vector<std::uint32_t> folders = m_plan.named;
+    for (const Flaw &flaw : m_plan.flaws)
+        folders.push_back(flaw.folder);
+    if (!m_plan.flaws.empty()) { // a tree from rules has its folders' numbers in the order of the rows
+        std::sort(folders.begin(), folders.end());
+        folders.erase(std::unique(folders.begin(), folders.end()), folders.end());
+    }
+    for (const std::uint32_t number : folders) {
         const TreeFolder &folder = m_plan.tree.folders[number];
         for (std::size_t i = 0; i < folder.items.size(); ++i) {
             if (isProblem(folder.items[i]))
@@ -183,16 +215,22 @@ QVariant ResultModel::levelData(int level, int column, int role) const
     }
 }
 
-QString ResultModel::remarkOf(const TreeFolder &folder, const TreeItem &item) const
+QString ResultModel::remarkOf(const QModelIndex &index) const
 {
-    const std::uint32_t own = item.folder;
-    if (own != 0 && m_plan.tree.folders[own].error != 0)
+    const std::uint32_t number = placeOf(index).folder;
+    const TreeFolder &folder = m_plan.tree.folders[number];
+    const TreeItem &item = folder.items[static_cast<std::size_t>(index.row())];
+    if (item.folder != 0 && m_plan.tree.folders[item.folder].error != 0)
         return tr("cannot be read");
     switch (static_cast<Remark>(item.remark)) {
     case Remark::NameTaken:
         return tr("the new name is taken");
     case Remark::NameTooLong:
         return tr("the new name is too long");
+    case Remark::LeftOut:
+        return tr("left out");
+    case Remark::Flawed:
+        return m_plan.flawOf(number, static_cast<std::uint32_t>(index.row()));
     case Remark::None:
         break;
     }
@@ -211,21 +249,22 @@ QVariant ResultModel::itemData(const QModelIndex &index, int role) const
     };
     switch (role) {
     case Qt::DisplayRole:
-        return isName ? name() : remarkOf(folder, item);
+        return isName ? name() : remarkOf(index);
     case Qt::DecorationRole:
         if (!isName)
             return {};
-        return isProblem(item)
-                   ? icons::named("warning")
-                   : fileicons::forName(name(), item.folder != 0 ? fileicons::Kind::Folder : fileicons::Kind::File);
+        return isProblem(item) ? icons::named("warning")
+                               : fileicons::forName(name(), platform::kindOfType(item.type) == platform::FileKind::Folder
+                                                                ? fileicons::Kind::Folder
+                                                                : fileicons::Kind::File);
     case Qt::ForegroundRole:
-        return !isName ? QVariant(secondary()) : item.newName != item.name ? QVariant(accent()) : QVariant();
+        return !isName || isLeftOut(item) ? QVariant(secondary()) : item.newName != item.name ? QVariant(accent()) : QVariant();
     case Qt::ToolTipRole: {
-        const QString remark = remarkOf(folder, item);
+        const QString remark = remarkOf(index);
         return remark.isEmpty() ? name() : name() + QStringLiteral(" (%1)").arg(remark);
     }
     case Qt::AccessibleTextRole:
-        return !isName ? remarkOf(folder, item) : item.folder != 0 ? tr("%1, folder").arg(name()) : name();
+        return !isName ? remarkOf(index) : item.folder != 0 ? tr("%1, folder").arg(name()) : name();
     default:
         return {};
     }

@@ -17,10 +17,13 @@ public:
     using QAbstractItemModel::QAbstractItemModel;
 
     void setPlan(CreationPlan plan);
-    /** Other levels for the same tree. As long as there are as many of them, nothing but names changes. */
-    void setLevels(const QStringList &levels);
+    /** Other values for the same template. As long as levels and rules give as many rows, nothing but names changes.
+     */
+    void setInput(const PlanInput &input);
     [[nodiscard]] const CreationPlan &plan() const { return m_plan; }
 
+    /** The row of a folder of the plan's tree, none for the project's own. */
+    [[nodiscard]] QModelIndex indexOfFolder(std::uint32_t folder) const;
     [[nodiscard]] int problemCount() const { return static_cast<int>(m_problems.size()); }
     /** The problem after the one given, in the order of the rows, and after the last the first; none without problems.
      */
@@ -45,7 +48,7 @@ private:
     [[nodiscard]] const platform::TreeItem *itemAt(const QModelIndex &index) const;
     [[nodiscard]] QVariant levelData(int level, int column, int role) const;
     [[nodiscard]] QVariant itemData(const QModelIndex &index, int role) const;
-    [[nodiscard]] QString remarkOf(const platform::TreeFolder &folder, const platform::TreeItem &item) const;
+    [[nodiscard]] QString remarkOf(const QModelIndex &index) const;
     void findProblems();
 
     CreationPlan m_plan;

@@ -2,7 +2,9 @@
 
 #include "platform/base/MainThread.h"
 #include "platform/base/NativePath.h"
+#include "creation/ProjectRequest.h"
 #include "platform/files/FileTree.h"
+#include "support/Settings.h"
 
 #include <QHeaderView>
 #include <QLabel>
@@ -33,6 +35,7 @@ struct Read
 {
     CreationPlan plan;
     quint64 bytes = 0;
+    QString problem; ///< of the template's rules
 };
 
 } // namespace
@@ -48,6 +51,7 @@ ResultPane::ResultPane(QWidget *parent)
     m_problems = lineIn(*layout, *this, "resultProblems");
     m_problems->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
     connect(m_problems, &QLabel::linkActivated, this, &ResultPane::showNextProblem);
+    m_remark = lineIn(*layout, *this, "resultRemark");
     m_view->setObjectName(QStringLiteral("resultTree"));
     m_view->setAccessibleName(tr("The project as it will be"));
     m_view->setModel(&m_model);
@@ -77,17 +81,27 @@ void ResultPane::setTemplate(const QString &files)
         read();
 }
 
-void ResultPane::setLevels(const QStringList &levels, const QString &location)
+void ResultPane::setValues(const QStringList &levels, const QString &location, const FilenameParameters &parameters)
 {
-    const bool isOther = levels != m_levels || location != m_location;
+    const bool isOther = levels != m_levels || location != m_location || parameters != m_parameters;
     m_levels = levels;
     m_location = location;
+    m_parameters = parameters;
     if (!isVisible() || !isOther)
         return;
-    m_model.setLevels(levels);
+    const int scrolled = m_view->verticalScrollBar()->value();
+    m_model.setInput(input());
+    m_view->verticalScrollBar()->setValue(scrolled);
     m_view->viewport()->update(); // the view itself draws only the rows that are named
     showNumbers();
     lookAtPlace();
+}
+
+PlanInput ResultPane::input() const
+{
+    PlanInput input{m_levels};
+    input.values = valuesOfProject(m_parameters, m_levels, settings::dateFormat.text(), std::time(nullptr));
+    return input;
 }
 
 void ResultPane::followDisk()
@@ -111,7 +125,7 @@ void ResultPane::resizeEvent(QResizeEvent *event)
 /// Names come first: a remark has a third at most, and the whole of it stands in the tool tip.
 void ResultPane::shareWidth()
 {
-    const bool hasRemarks = !m_model.plan().named.empty();
+    const bool hasRemarks = !m_model.plan().named.empty() || m_model.plan().ruled;
     const int most = hasRemarks ? static_cast<int>(m_view->viewport()->width() * mostForRemarks) : 0;
     m_view->header()->resizeSection(ResultModel::RemarkColumn, most);
 }
@@ -128,10 +142,13 @@ void ResultPane::read()
     }
     m_readings.insert(m_files);
     const auto result = std::make_shared<Read>();
-    const auto work = [files = m_files, levels = m_levels, result, cancelled = m_isOver] {
+    const auto work = [files = m_files, input = input(), result, cancelled = m_isOver]() mutable {
         if (files.isNull())
             return;
-        result->plan = planCreation(files, levels, *cancelled);
+        const auto rules = readRules(platform::parentPath(files));
+        result->problem = rules.outcome().description();
+        input.rules = std::make_shared<const TemplateRules>(rules.valueOr({}));
+        result->plan = planCreation(files, input, *cancelled);
         result->bytes = platform::measureTree(files, *cancelled).bytes;
     };
     platform::performBeside(work, [pane = QPointer(this), files = m_files, result] {
@@ -144,6 +161,7 @@ void ResultPane::read()
         if (isOld)
             return pane->read();
         pane->m_bytes = result->bytes;
+        pane->m_ruleProblem = result->problem;
         pane->m_readFiles = files;
         pane->showPlan(std::move(result->plan));
     });
@@ -152,7 +170,7 @@ void ResultPane::read()
 void ResultPane::showPlan(CreationPlan plan)
 {
     const int scrolled = m_view->verticalScrollBar()->value();
-    planForLevels(plan, m_levels); // somebody has typed meanwhile
+    planFor(plan, input()); // somebody has typed meanwhile
     m_model.setPlan(std::move(plan));
     m_view->verticalScrollBar()->setValue(scrolled);
     shareWidth();
@@ -162,8 +180,12 @@ void ResultPane::showPlan(CreationPlan plan)
 
 void ResultPane::openFolders()
 {
-    if (m_model.plan().tree.itemCount() <= mostOpened)
-        return m_view->expandAll();
+    if (m_model.plan().tree.itemCount() <= mostOpened) {
+        m_view->expandAll();
+        for (const std::uint32_t folder : m_model.plan().repeated) // one is like the other
+            m_view->collapse(m_model.indexOfFolder(folder));
+        return;
+    }
     QModelIndex level = m_model.index(0, 0);
     for (qsizetype i = 0; i < m_model.plan().levels.size(); ++i, level = m_model.index(0, 0, level))
         m_view->expand(level);
@@ -183,7 +205,15 @@ void ResultPane::showNumbers()
     const int problems = m_model.problemCount();
     m_problems->setVisible(problems > 0);
     m_problems->setText(
-        QStringLiteral("<a href=\"next\">%1</a>").arg(tr("Names that cannot be given: %1").arg(problems)));
+        QStringLiteral("<a href=\"next\">%1</a>")
+            .arg((plan.ruled ? tr("Problems: %1") : tr("Names that cannot be given: %1")).arg(problems)));
+    QString remark;
+    if (!m_ruleProblem.isEmpty())
+        remark = tr("The template’s rules cannot be read: %1").arg(platform::forDisplay(m_ruleProblem));
+    else if (plan.isCutOff)
+        remark = tr("Repeats make more than %L1 items. These are the first.").arg(mostRepeatedUnasked);
+    m_remark->setText(remark);
+    m_remark->setVisible(!remark.isEmpty());
 }
 
 /// On a thread: it may be a share that takes its time.

@@ -24,7 +24,8 @@ public:
 
     /** The folder whose contents the project gets; null for none. */
     void setTemplate(const QString &files);
-    void setLevels(const QStringList &levels, const QString &location);
+    /** What the table shows, and the folder in which the project will lie. */
+    void setValues(const QStringList &levels, const QString &location, const FilenameParameters &parameters);
     /** Reads the template anew: it may have been changed. */
     void followDisk();
 
@@ -33,6 +34,7 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
+    [[nodiscard]] PlanInput input() const;
     void read();
     void showPlan(CreationPlan plan);
     void openFolders();
@@ -45,12 +47,15 @@ private:
     QTreeView *m_view;
     QLabel *m_place;    ///< what stands at the project's place already
     QLabel *m_problems; ///< how many, as a link to the next
+    QLabel *m_remark;   ///< what is to be said of the whole
     QLabel *m_numbers;
     QString m_files;
     QString m_readFiles; ///< whose tree is shown
     QStringList m_levels;
+    FilenameParameters m_parameters;
     QString m_location;
     quint64 m_bytes = 0;
+    QString m_ruleProblem; ///< why the template's rules could not be read; empty: they could
     QSet<QString> m_readings; ///< templates that are being read
     QSet<QString> m_readsAgain;
     QSet<QString> m_looks; ///< places that are being looked at

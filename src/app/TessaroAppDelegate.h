@@ -147,6 +147,7 @@ private:
     void tellWhatStays(const Manifest &manifest, const QList<KeptItem> &kept) const;
     [[nodiscard]] bool isRepeated() const;
     [[nodiscard]] bool isComplete(const ProjectRequest &request);
+    [[nodiscard]] bool takeRules(ProjectRequest &request);
     [[nodiscard]] bool mayOverwriteAtFixedLocation(const ProjectRequest &request);
     void askForDestination();
     [[nodiscard]] VTSavePanel *placePanel();

@@ -2,12 +2,12 @@
 #include "app/TessaroAppDelegate.h"
 
 #include "app/MainWindow.h"
-#include "parameters/ProjectNaming.h"
-#include "parameters/ValueRules.h"
+#include "creation/RequestCheck.h"
 #include "parameters/table/VTProjectTableController.h"
 #include "platform/base/MainThread.h"
 #include "platform/base/NativePath.h"
 #include "platform/desktop/Desktop.h"
+#include "support/FileOperations.h"
 #include "support/RecentPlaces.h"
 #include "support/Settings.h"
 #include "support/VTAlert.h"
@@ -36,7 +36,7 @@ void TessaroAppDelegate::createNewProject()
         return VTLog::appendLog("A project was created a moment ago; another one needs a change, or a moment's pause");
     VTLog::appendLog("Creating new project");
     ProjectRequest request = shownRequest();
-    if (!isComplete(request))
+    if (!isComplete(request) || !takeRules(request))
         return;
     VTLog::appendLog("Validated folder name: %@", request.relativePath());
 
@@ -67,38 +67,32 @@ ProjectRequest TessaroAppDelegate::shownRequest() const
     const QString selected = m_window->selectedTemplate();
     request.templateName = selected.isEmpty() ? settings::selectedProjectTemplate.text() : selected;
     request.templateFiles = VTDataController::filesFolder(request.templateName);
+    request.dateFormat = settings::dateFormat.text();
+    request.moment = std::time(nullptr);
     return request;
+}
+
+/// Those of the template as they are now. What cannot be read is not taken for none.
+bool TessaroAppDelegate::takeRules(ProjectRequest &request)
+{
+    const auto rules = platform::resultInBackground(
+        [&] { return std::optional(readRules(VTDataController::bundlePath(request.templateName))); });
+    if (*rules) {
+        request.rules = std::make_shared<const TemplateRules>(**rules);
+        return true;
+    }
+    VTAlert::show({tr("The template’s rules cannot be read"),
+                   withCause(tr("Nothing was created. The template pane shows what can be done."), rules->outcome())});
+    return false;
 }
 
 bool TessaroAppDelegate::isComplete(const ProjectRequest &request)
 {
-    if (const auto blank = naming::firstBlankRequired(request.parameters)) {
-        VTAlert::show({platform::formatString(tr("'%@' cannot be left blank"), request.parameters[*blank].title()),
-                       tr("Please fill in this parameter before creating a project.")});
-        m_tableController->editItem(static_cast<int>(*blank));
-        return false;
-    }
-    if (const auto counter = rules::firstCounterAtItsEnd(request.parameters)) {
-        VTAlert::show(
-            {platform::formatString(tr("'%@' cannot count any further"), request.parameters[*counter].title()),
-             tr("Its number has too many digits: counters end at 2147483646. A date in front of a number is "
-                "better a parameter of its own.")});
-        m_tableController->editItem(static_cast<int>(*counter));
-        return false;
-    }
-    QString problem;
-    if (request.relativePath().isEmpty())
-        problem = tr("You must specify at least one parameter.");
-    else if (naming::hasUnusableLevel(request.levels()))
-        problem =
-            tr("The values give a folder level without a usable name (nothing, or dots only). Please change them.");
-    else if (const QStringList tooLong = naming::tooLongLevels(request.levels()); !tooLong.isEmpty())
-        problem = tr("The name of a folder can have 255 bytes, and this one has %1. Please shorten a value.")
-                      .arg(platform::toNative(tooLong.constFirst()).size());
-    if (problem.isNull())
+    const auto problem = problemOf(request);
+    if (!problem)
         return true;
-    VTAlert::show({tr("Unable to create folder"), problem});
-    m_tableController->editFirstItem();
+    VTAlert::show({problem->message, problem->informativeText});
+    m_tableController->editItem(static_cast<int>(qMax(qsizetype{0}, problem->parameter)));
     return false;
 }
 

@@ -18,6 +18,7 @@ int renameTemplate(const Invocation &invocation);
 int removeTemplate(const Invocation &invocation);
 int defaultTemplate(const Invocation &invocation);
 int showTemplate(const Invocation &invocation);
+int templateRules(const Invocation &invocation);
 int importTemplates(const Invocation &invocation);
 int exportTemplate(const Invocation &invocation);
 int importStructure(const Invocation &invocation);

@@ -2,12 +2,11 @@
 
 #include "commands/CommandLine.h"
 #include "commands/Commands.h"
+#include "commands/PlanOutput.h"
 #include "commands/TerminalOutput.h"
-#include "commands/TreeDrawing.h"
+#include "creation/RequestCheck.h"
 #include "creation/Unfinished.h"
 #include "parameters/ParameterStore.h"
-#include "parameters/ProjectNaming.h"
-#include "parameters/ValueRules.h"
 #include "platform/base/Interruption.h"
 #include "platform/base/MainThread.h"
 #include "platform/base/NativePath.h"
@@ -19,7 +18,6 @@
 #include "templates/VTDataController.h"
 
 #include <QCoreApplication>
-#include <QJsonArray>
 #include <QJsonObject>
 
 using platform::joined;
@@ -31,34 +29,10 @@ struct Text
     Q_DECLARE_TR_FUNCTIONS(CreateCommand)
 };
 
-QString listed(const QStringList &names)
+QString tooMany()
 {
-    return names.isEmpty() ? Text::tr("There are none.")
-                           : Text::tr("There are: %1.").arg(names.join(QStringLiteral(", ")));
-}
-
-QString remarkText(const PlanItem &item)
-{
-    switch (item.remark) {
-    case PlanItem::Remark::NameTaken:
-        return Text::tr("  (keeps this name: its new one is taken)");
-    case PlanItem::Remark::NameTooLong:
-        return Text::tr("  (keeps this name: its new one is too long)");
-    case PlanItem::Remark::None:
-        break;
-    }
-    return item.isRenamed() ? Text::tr("  (was %1)").arg(platform::forOneLine(item.oldName)) : QString();
-}
-
-QString drawn(const CreationPlan &plan, const QString &destination)
-{
-    QList<DrawnItem> items;
-    plan.forEachItem([&](const PlanItem &item) {
-        const auto depth = item.folder.isEmpty() ? 0 : static_cast<int>(item.folder.count(u'/')) + 1;
-        const QString slash = item.kind == platform::FileKind::Folder ? QStringLiteral("/") : QString();
-        items.append({depth, platform::forOneLine(item.newName) + slash + remarkText(item)});
-    });
-    return drawnTree(platform::forOneLine(destination), items);
+    return Text::tr("Repeats would make more than %1 items. Say --many if that is what you want.")
+        .arg(mostRepeatedUnasked);
 }
 
 } // namespace
@@ -201,7 +175,12 @@ bool CreateCommand::findTemplate()
     if (!names.contains(m_request.templateName))
         return fail(ExitStatus::wrongUsage,
                     Text::tr("There is no template “%1”. %2").arg(m_request.templateName, listed(names)));
-    m_request.templateFiles = location + platform::formatString("/%@.tzt/Files", m_request.templateName);
+    const QString bundle = location + platform::formatString("/%@.tzt", m_request.templateName);
+    m_request.templateFiles = joined(bundle, QStringLiteral("Files"));
+    const auto rules = readRules(bundle);
+    if (!rules)
+        return fail(rules.outcome(), Text::tr("The template’s rules cannot be read. Mend them, or remove the file."));
+    m_request.rules = std::make_shared<const TemplateRules>(*rules);
     return true;
 }
 
@@ -211,6 +190,8 @@ bool CreateCommand::readParameters()
         keepDamagedParameters();
     m_request.parameters = currentParameters();
     m_request.separator = settings::separatorChar.text();
+    m_request.dateFormat = settings::dateFormat.text();
+    m_request.moment = std::time(nullptr);
     for (const QString &setting : m_invocation.values("--set")) {
         if (!applyValue(setting))
             return false;
@@ -221,53 +202,24 @@ bool CreateCommand::readParameters()
 bool CreateCommand::applyValue(const QString &setting)
 {
     const qsizetype equals = setting.indexOf(u'=');
-    const QString title = setting.first(equals);
-    const QString value = setting.mid(equals + 1);
-    QStringList titles;
-    for (const FilenameParameter &parameter : m_request.parameters)
-        titles.append(parameter.title());
-    const qsizetype row = titles.indexOf(title);
-    QString problem;
-    if (row < 0)
-        problem = Text::tr("There is no parameter “%1”. %2").arg(title, listed(titles));
-    else if (m_request.parameters[row].isLocked())
-        problem = Text::tr("The parameter “%1” is locked.").arg(title);
-    else if (m_request.parameters[row].kind() == FilenameParameter::Kind::Choice &&
-             !m_request.parameters[row].choices().contains(value))
-        problem = Text::tr("“%1” is not among the choices of “%2”. %3")
-                      .arg(value, title, listed(m_request.parameters[row].choices()));
-    if (!problem.isNull())
-        return fail(ExitStatus::wrongUsage, problem);
-    m_request = withTypedValue(m_request, row, value, settings::strictNaming.isOn());
+    const auto changed =
+        withNamedValue(m_request, setting.first(equals), setting.mid(equals + 1), settings::strictNaming.isOn());
+    if (!changed)
+        return fail(ExitStatus::wrongUsage, changed.outcome().sentence());
+    m_request = *changed;
     return true;
 }
 
 bool CreateCommand::parametersAreComplete()
 {
-    QString problem;
-    if (const auto blank = naming::firstBlankRequired(m_request.parameters))
-        problem = platform::formatString(Text::tr("'%@' cannot be left blank"), m_request.parameters[*blank].title()) +
-                  u'\n' + Text::tr("Please fill in this parameter before creating a project.") + u' ' +
-                  Text::tr("(--set \"%1=…\")").arg(m_request.parameters[*blank].title());
-    else if (const auto counter = rules::firstCounterAtItsEnd(m_request.parameters))
-        problem =
-            platform::formatString(Text::tr("'%@' cannot count any further"), m_request.parameters[*counter].title()) +
-            u'\n' +
-            Text::tr("Its number has too many digits: counters end at 2147483646. A date in front of a number is "
-                     "better a parameter of its own.");
-    else if (m_request.relativePath().isEmpty())
-        problem = Text::tr("Unable to create folder") + u'\n' + Text::tr("You must specify at least one parameter.");
-    else if (naming::hasUnusableLevel(m_request.levels()))
-        problem =
-            Text::tr("Unable to create folder") + u'\n' +
-            Text::tr(
-                "The values give a folder level without a usable name (nothing, or dots only). Please change them.");
-    else if (const QStringList tooLong = naming::tooLongLevels(m_request.levels());
-             !tooLong.isEmpty() && !m_invocation.has("--dry-run")) // which names them itself
-        problem = Text::tr("Unable to create folder") + u'\n' +
-                  Text::tr("The name of a folder can have 255 bytes, and this one has %1. Please shorten a value.")
-                      .arg(platform::toNative(tooLong.constFirst()).size());
-    return problem.isNull() || fail(ExitStatus::failed, problem);
+    const auto tooLong = m_isDryRun ? TooLongLevels::AreNamedElsewhere : TooLongLevels::AreProblems;
+    const auto problem = problemOf(m_request, tooLong);
+    if (!problem)
+        return true;
+    const bool isBlank = problem->parameter >= 0 && m_request.parameters[problem->parameter].isBlank();
+    const QString hint =
+        isBlank ? u' ' + Text::tr("(--set \"%1=…\")").arg(m_request.parameters[problem->parameter].title()) : QString();
+    return fail(ExitStatus::failed, problem->message + u'\n' + problem->informativeText + hint);
 }
 
 bool CreateCommand::findDestination()
@@ -297,7 +249,10 @@ int CreateCommand::printPlan()
 {
     std::atomic<bool> stopped = false;
     const platform::Interruption interruption(stopped);
-    const CreationPlan plan = planCreation(m_request.templateFiles, m_request.levels(), stopped);
+    PlanInput input = m_request.planInput();
+    if (m_invocation.has("--many"))
+        input.mostRepeated = mostRepeated;
+    const CreationPlan plan = planCreation(m_request.templateFiles, input, stopped);
     if (stopped)
         return complain(ExitStatus::stopped, Text::tr("Stopped."));
     for (const QString &level : plan.tooLongLevels)
@@ -305,8 +260,12 @@ int CreateCommand::printPlan()
     for (const platform::Outcome &unreadable : plan.unreadable)
         fail(ExitStatus::failed,
              Text::tr("This folder of the template cannot be read: %1").arg(unreadable.description()));
+    for (const Flaw &flaw : plan.flaws)
+        fail(ExitStatus::failed, plan.pathOf(flaw) + QStringLiteral(": ") + flaw.sentence);
+    if (plan.isCutOff && !m_invocation.has("--many"))
+        fail(ExitStatus::notOverwritten, tooMany());
     plan.forEachItem([&](const PlanItem &item) {
-        if (item.remark != PlanItem::Remark::None)
+        if (item.remark == PlanItem::Remark::NameTaken || item.remark == PlanItem::Remark::NameTooLong)
             m_status = ExitStatus::failed;
     });
     if (m_invocation.has("--json"))
@@ -320,6 +279,8 @@ int CreateCommand::create()
 {
     ProjectCreation creation(*this);
     const platform::Interruption interruption(creation.stop());
+    if (m_invocation.has("--many"))
+        creation.allowMany();
     const CreationResult result = creation.createProject(m_request);
     m_request = result.request;
     m_problems += result.errors;
@@ -328,13 +289,15 @@ int CreateCommand::create()
     const bool isThere = VTFileManager::fileExistsAtPath(m_request.destination());
     if (result.stopped)
         fail(ExitStatus::stopped, Text::tr("Stopped. Nothing of the project was kept."));
+    else if (result.cancelled && result.isTooMany)
+        fail(ExitStatus::notOverwritten, tooMany());
     else if (result.cancelled)
         m_status = ExitStatus::notOverwritten;
     else if (!result.ok())
         m_status = ExitStatus::failed;
     else if (!isThere)
         fail(ExitStatus::failed, Text::tr("The project was made, and is gone: %1").arg(m_request.destination()));
-    if (m_status == ExitStatus::failed)
+    if (m_status == ExitStatus::failed && !result.refused)
         complain(m_status,
                  Text::tr("The log names each item and the cause: %1").arg(VTLog::sharedController().currentLogPath()));
     return report(result, isThere);
@@ -344,40 +307,12 @@ int CreateCommand::report(const CreationResult &result, bool isThere) const
 {
     if (m_invocation.has("--json"))
         printObject(result, nullptr);
-    else if (isThere && !result.cancelled && !result.stopped)
+    else if (isThere && !result.cancelled && !result.stopped && !result.refused)
         print(m_request.destination() + u'\n');
     return m_status;
 }
 
 void CreateCommand::printObject(const CreationResult &result, const CreationPlan *plan) const
 {
-    const auto shown = [](const QString &name) {
-        return platform::forDisplay(name);
-    };
-    QJsonObject object{
-        {"project", shown(m_request.relativePath())},
-        {"name", shown(m_request.name())},
-        {"path", shown(m_request.destination())},
-        {"template", shown(m_request.templateName)},
-        {"folders", plan ? plan->folders() : result.folders},
-        {"files", plan ? plan->files() : result.files},
-        {"renamed", plan ? plan->renamed() : result.renamed},
-        {"errors", QJsonArray::fromStringList(m_problems)},
-        {"notes", QJsonArray::fromStringList(result.notes)},
-    };
-    if (plan) {
-        static const QHash<PlanItem::Remark, QString> remarks{{PlanItem::Remark::NameTaken, "name taken"},
-                                                              {PlanItem::Remark::NameTooLong, "name too long"}};
-        QJsonArray items;
-        plan->forEachItem([&](const PlanItem &item) {
-            QJsonObject entry{{"path", shown(item.folder.isEmpty() ? item.newName : joined(item.folder, item.newName))},
-                              {"was", shown(item.oldName)},
-                              {"folder", item.kind == platform::FileKind::Folder}};
-            if (const QString remark = remarks.value(item.remark); !remark.isNull())
-                entry.insert("remark", remark);
-            items.append(entry);
-        });
-        object.insert("items", items);
-    }
-    print(object);
+    print(objectOf({m_request, m_problems, result, plan}));
 }

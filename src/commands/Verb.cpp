@@ -14,12 +14,17 @@ constexpr Option createOptions[] = {
     {"--set", "TITLE=VALUE",
      QT_TRANSLATE_NOOP("Commands", "a parameter's value, as if typed into its row; may be repeated"), true},
     {"--overwrite", nullptr, QT_TRANSLATE_NOOP("Commands", "move an existing project of the name to the Trash first")},
+    {"--many", nullptr, QT_TRANSLATE_NOOP("Commands", "make more than 10,000 items of repeats without a question")},
     {"--dry-run", nullptr, QT_TRANSLATE_NOOP("Commands", "print what would be made and change nothing")},
     {"--json", nullptr, QT_TRANSLATE_NOOP("Commands", "print one JSON object in place of the path")}};
 constexpr Option defaultOptions[] = {{"--unset", nullptr, QT_TRANSLATE_NOOP("Commands", "take the mark away")}};
 constexpr Option structureOptions[] = {{"--from", "FOLDER",
                                         QT_TRANSLATE_NOOP("Commands", "the folder whose folders are made"), false,
                                         Completes::Folder, true}};
+constexpr Option rulesOptions[] = {
+    {"--set", "FILE", QT_TRANSLATE_NOOP("Commands", "the rules as JSON; - is standard input, {} takes them away"),
+     false, Completes::File},
+    {"--gone", nullptr, QT_TRANSLATE_NOOP("Commands", "remove rules whose item is gone")}};
 constexpr Option logOptions[] = {
     {"--task", nullptr, QT_TRANSLATE_NOOP("Commands", "the log of commands in place of the window's")},
     {"--path", nullptr, QT_TRANSLATE_NOOP("Commands", "print only where it is")}};
@@ -105,6 +110,15 @@ constexpr Verb table[] = {
      .run = commands::showTemplate,
      .options = json,
      .logged = Logged::No},
+    {.words = "template rules",
+     .arguments = "NAME",
+     .least = 1,
+     .most = 1,
+     .help = QT_TRANSLATE_NOOP("Commands",
+                               "Prints a template's rules as JSON, or takes them from a file; --gone removes those "
+                               "whose item is not there any more."),
+     .run = commands::templateRules,
+     .options = rulesOptions},
     {.words = "template import",
      .arguments = "PATH...",
      .least = 1,

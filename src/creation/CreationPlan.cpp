@@ -4,91 +4,109 @@
 #include "platform/base/NativePath.h"
 
 #include <algorithm>
-#include <cstring>
-#include <unordered_set>
 
 using Remark = PlanItem::Remark;
 
 namespace {
 
-const QString placeholder = QStringLiteral("template");
-constexpr std::string_view placeholderBytes = "template";
-
-/// Most names do not: no texts are made of them.
-bool mentionsPlaceholder(std::string_view name)
+QString projectNameOf(const PlanInput &input)
 {
-    const auto isSame = [](char inName, char wanted) {
-        return (inName | 0x20) == wanted; // the word is of small ASCII letters, and no other byte becomes one of these
-    };
-    return std::search(name.begin(), name.end(), placeholderBytes.begin(), placeholderBytes.end(), isSame) !=
-           name.end();
+    return input.levels.isEmpty() ? QString() : input.levels.constLast();
 }
 
-void nameItem(platform::TreeFolder &folder, platform::TreeItem &item, const QString &projectName,
-              std::unordered_set<std::string> &taken)
+QString pathOf(const platform::Tree &tree, std::uint32_t folder, std::uint32_t item)
 {
-    const std::string own = folder.nameOf(item);
-    const QString name = platform::fromNative(own);
-    const QString inProject = nameInProject(name, projectName);
-    const QByteArray wanted = platform::toNative(inProject);
-    if (inProject == name)
-        return;
-    if (wanted.size() > platform::longestName) {
-        item.remark = static_cast<unsigned char>(Remark::NameTooLong);
-    } else if (taken.contains(wanted.toStdString())) {
-        item.remark = static_cast<unsigned char>(Remark::NameTaken);
-    } else {
-        taken.erase(own);
-        taken.insert(wanted.toStdString());
-        folder.rename(item, wanted.toStdString());
+    const platform::TreeFolder &own = tree.folders[folder];
+    return platform::joined(tree.pathOf(folder), platform::fromNative(own.nameOf(own.items[item])));
+}
+
+QString newPathOf(const platform::Tree &tree, std::uint32_t folder, std::uint32_t item)
+{
+    const platform::TreeFolder &own = tree.folders[folder];
+    return platform::joined(tree.newPathOf(folder), platform::fromNative(own.newNameOf(own.items[item])));
+}
+
+/// A flaw of the contents is one of the item.
+void lookAtTexts(CreationPlan &plan)
+{
+    for (const RuledText &text : plan.texts) {
+        const auto tokens = plan.ruled->texts.constFind(pathOf(plan.tree, text.folder, text.item));
+        const QString problem =
+            tokens == plan.ruled->texts.cend() ? QString() : textvalues::problemOf(*tokens, *text.values);
+        platform::TreeItem &item = plan.tree.folders[text.folder].items[text.item];
+        if (problem.isNull() || item.remark == static_cast<unsigned char>(Remark::Flawed))
+            continue;
+        item.remark = static_cast<unsigned char>(Remark::Flawed);
+        plan.flaws.push_back({text.folder, text.item, problem});
     }
 }
 
-void forgetNames(platform::TreeFolder &folder)
+void expand(CreationPlan &plan, const PlanInput &input, const std::atomic<bool> &cancelled)
 {
-    std::size_t end = 0;
-    for (platform::TreeItem &item : folder.items) {
-        item.newName = item.name;
-        item.remark = static_cast<unsigned char>(Remark::None);
-        end = std::max(end, item.name + std::strlen(folder.nameOf(item)) + 1);
+    Expansion expansion = expanded(plan.ruled->tree, *plan.ruled->rules, plan.ruled->items,
+                                   {projectNameOf(input), input.values, input.mostRepeated}, cancelled);
+    plan.tree = std::move(expansion.tree);
+    plan.named = std::move(expansion.named);
+    plan.flaws = std::move(expansion.flaws);
+    plan.texts = std::move(expansion.texts);
+    plan.repeated = std::move(expansion.repeated);
+    plan.values = std::move(expansion.values);
+    plan.gone = expansion.gone;
+    plan.leftOut = expansion.leftOut;
+    plan.isCutOff = expansion.isCutOff;
+    plan.shape = expansion.shape;
+}
+
+void readTexts(CreationPlan &plan, const QString &templateFiles, RuledTemplate &ruled,
+               const std::atomic<bool> &cancelled)
+{
+    for (const RuledText &text : plan.texts) {
+        const QString path = pathOf(plan.tree, text.folder, text.item);
+        if (cancelled)
+            return;
+        if (!ruled.texts.contains(path))
+            ruled.texts.insert(path, textvalues::readTextTokens(platform::joined(templateFiles, path), *text.values));
     }
-    folder.names.resize(std::min(folder.names.size(), end)); // new names stand behind those that were read
+}
+
+void findUnreadable(CreationPlan &plan, const QString &templateFiles)
+{
+    plan.tree.forEachFolder([&](std::uint32_t number) {
+        if (const int error = plan.tree.folders[number].error; error != 0)
+            plan.unreadable.append(
+                platform::Outcome::fromNumber(error, platform::joined(templateFiles, plan.tree.pathOf(number))));
+    });
+}
+
+CreationPlan planWithRules(const QString &templateFiles, const PlanInput &input, const std::atomic<bool> &cancelled)
+{
+    CreationPlan plan{input.levels, naming::tooLongLevels(input.levels), {}, {}};
+    platform::Tree tree = platform::readTree(
+        templateFiles, [](platform::TreeFolder &) {}, cancelled);
+    RuledItems items(tree, *input.rules);
+    const auto ruled = std::make_shared<RuledTemplate>(RuledTemplate{std::move(tree), input.rules, std::move(items)});
+    plan.ruled = ruled;
+    expand(plan, input, cancelled);
+    readTexts(plan, templateFiles, *ruled, cancelled);
+    lookAtTexts(plan);
+    findUnreadable(plan, templateFiles);
+    return plan;
 }
 
 } // namespace
-
-void nameItems(platform::TreeFolder &folder, const QString &projectName)
-{
-    forgetNames(folder);
-    if (!mentionsPlaceholder(folder.names)) // a name's end is a null byte: no word goes across two names
-        return;
-    std::unordered_set<std::string> taken;
-    for (const platform::TreeItem &item : folder.items)
-        taken.insert(folder.nameOf(item));
-    for (platform::TreeItem &item : folder.items) {
-        if (mentionsPlaceholder(folder.nameOf(item)))
-            nameItem(folder, item, projectName, taken);
-    }
-}
-
-QString nameInProject(const QString &name, const QString &projectName)
-{
-    // "01. Template" has no extension: a blank is in none.
-    const bool hasExtension = !platform::extensionOf(name).contains(u' ');
-    if (!(hasExtension ? platform::withoutExtension(name) : name).toLower().contains(placeholder))
-        return name;
-    return QString(name).replace(placeholder, projectName, Qt::CaseInsensitive);
-}
 
 void CreationPlan::forEachItem(const std::function<void(const PlanItem &)> &visit) const
 {
     const std::function<void(std::uint32_t, const QString &)> visitFolder = [&](std::uint32_t number,
                                                                                 const QString &path) {
         const platform::TreeFolder &folder = tree.folders[number];
-        for (const platform::TreeItem &item : folder.items) {
-            const PlanItem shown{path, platform::fromNative(folder.nameOf(item)),
-                                 platform::fromNative(folder.newNameOf(item)), platform::kindOfType(item.type),
-                                 static_cast<Remark>(item.remark)};
+        for (std::uint32_t i = 0; i < folder.items.size(); ++i) {
+            const platform::TreeItem &item = folder.items[i];
+            PlanItem shown{path, platform::fromNative(folder.nameOf(item)),
+                           platform::fromNative(folder.newNameOf(item)), platform::kindOfType(item.type),
+                           static_cast<Remark>(item.remark)};
+            if (shown.remark == Remark::Flawed)
+                shown.flaw = flawOf(number, i);
             visit(shown);
             if (item.folder != 0)
                 visitFolder(item.folder, path.isEmpty() ? shown.newName : path + u'/' + shown.newName);
@@ -106,26 +124,70 @@ qsizetype CreationPlan::renamed() const
     return count;
 }
 
-void planForLevels(CreationPlan &plan, const QStringList &levels)
+QString CreationPlan::flawOf(std::uint32_t folder, std::uint32_t item) const
 {
-    plan.levels = levels;
-    plan.tooLongLevels = naming::tooLongLevels(levels);
-    for (const std::uint32_t folder : plan.named)
-        nameItems(plan.tree.folders[folder], levels.isEmpty() ? QString() : levels.constLast());
+    const auto flaw = std::find_if(flaws.begin(), flaws.end(), [&](const Flaw &other) {
+        return other.folder == folder && other.item == item;
+    });
+    return flaw == flaws.end() ? QString() : flaw->sentence;
 }
 
-CreationPlan planCreation(const QString &templateFiles, const QStringList &levels, const std::atomic<bool> &cancelled)
+QString CreationPlan::pathOf(const Flaw &flaw) const
 {
-    CreationPlan plan{levels, naming::tooLongLevels(levels), {}, {}, {}};
-    const QString projectName = levels.isEmpty() ? QString() : levels.constLast();
+    return newPathOf(tree, flaw.folder, flaw.item);
+}
+
+QString CreationPlan::firstFlaw() const
+{
+    return flaws.empty() ? QString() : pathOf(flaws.front()) + QStringLiteral(": ") + flaws.front().sentence;
+}
+
+void planFor(CreationPlan &plan, const PlanInput &input)
+{
+    static const std::atomic<bool> never = false;
+    plan.levels = input.levels;
+    plan.tooLongLevels = naming::tooLongLevels(input.levels);
+    if (plan.ruled) {
+        expand(plan, input, never);
+        return lookAtTexts(plan);
+    }
+    for (const std::uint32_t folder : plan.named)
+        nameItems(plan.tree.folders[folder], projectNameOf(input));
+}
+
+CreationPlan planCreation(const QString &templateFiles, const PlanInput &input, const std::atomic<bool> &cancelled)
+{
+    if (input.rules && !input.rules->isEmpty())
+        return planWithRules(templateFiles, input, cancelled);
+    CreationPlan plan{input.levels, naming::tooLongLevels(input.levels), {}, {}};
+    const QString projectName = projectNameOf(input);
     plan.tree = platform::readTree(
         templateFiles, [&](platform::TreeFolder &folder) { nameItems(folder, projectName); }, cancelled);
     plan.tree.forEachFolder([&](std::uint32_t number) {
-        if (mentionsPlaceholder(plan.tree.folders[number].names))
+        if (mentionsTemplate(plan.tree.folders[number].names))
             plan.named.push_back(number);
-        if (const int error = plan.tree.folders[number].error; error != 0)
-            plan.unreadable.append(
-                platform::Outcome::fromNumber(error, platform::joined(templateFiles, plan.tree.pathOf(number))));
     });
+    findUnreadable(plan, templateFiles);
     return plan;
+}
+
+void dropLeftOut(CreationPlan &plan)
+{
+    if (plan.leftOut == 0)
+        return;
+    const auto isLeftOut = [](const platform::TreeItem &item) {
+        return item.remark == static_cast<unsigned char>(Remark::LeftOut);
+    };
+    for (RuledText &text : plan.texts) {
+        const auto first = plan.tree.folders[text.folder].items.begin();
+        text.item -= static_cast<std::uint32_t>(std::count_if(first, first + text.item, isLeftOut));
+    }
+    for (platform::TreeFolder &folder : plan.tree.folders) {
+        std::erase_if(folder.items, isLeftOut);
+        for (std::uint32_t i = 0; i < folder.items.size(); ++i) {
+            if (folder.items[i].folder != 0)
+                plan.tree.folders[folder.items[i].folder].itemInOwn = i;
+        }
+    }
+    plan.leftOut = 0;
 }

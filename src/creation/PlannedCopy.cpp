@@ -1,6 +1,8 @@
 #include "creation/PlannedCopy.h"
 
 #include "platform/base/NativePath.h"
+#include "platform/files/FileTree.h"
+#include "platform/files/WholeFile.h"
 #include "platform/plain/CopyMonitor.h"
 #include "support/FileOperations.h"
 
@@ -22,6 +24,7 @@ class SecondTry
 public:
     SecondTry(CreationPlan &plan, const QString &templateFiles, const QString &folder, PlannedCopy &result)
         : m_tree(plan.tree)
+        , m_isRuled(plan.ruled != nullptr)
         , m_templateFiles(templateFiles)
         , m_folder(folder)
         , m_result(result)
@@ -32,7 +35,9 @@ public:
     {
         TreeFolder &folder = m_tree.folders[failure.folder];
         TreeItem &item = folder.items[failure.item];
-        const bool isPointless = m_rightsWereRefused && failure.outcome.needsRights();
+        // What the tool copies as a whole comes without the template's rules.
+        const bool isRuledFolder = m_isRuled && platform::kindOfType(item.type) == platform::FileKind::Folder;
+        const bool isPointless = isRuledFolder || (m_rightsWereRefused && failure.outcome.needsRights());
         const Outcome copied = isPointless ? failure.outcome : copy(failure, folder, item);
         if (copied.ok())
             return;
@@ -63,6 +68,7 @@ private:
     }
 
     platform::Tree &m_tree;
+    const bool m_isRuled;
     const QString m_templateFiles;
     const QString m_folder;
     PlannedCopy &m_result;
@@ -82,7 +88,44 @@ std::vector<TreeFailure> unreadableFolders(const CreationPlan &plan, const QStri
     return failures;
 }
 
+/// What cannot have its values is not left there without them.
+void fillText(CreationPlan &plan, const RuledText &text, const QString &templateFiles, const QString &folder,
+              PlannedCopy &result)
+{
+    TreeFolder &own = plan.tree.folders[text.folder];
+    const TreeItem &item = own.items[text.item];
+    if (own.made.empty() || own.made[text.item].inode == 0)
+        return;
+    const QString name = platform::fromNative(own.nameOf(item));
+    const QString from = joined(joined(templateFiles, plan.tree.pathOf(text.folder)), name);
+    const QString to =
+        joined(joined(folder, plan.tree.newPathOf(text.folder)), platform::fromNative(own.newNameOf(item)));
+    const auto contents = platform::readFile(from, textvalues::largestText);
+    const auto filled =
+        contents ? textvalues::filled(*contents, name, *text.values) : platform::Result<QByteArray>(contents.outcome());
+    Outcome outcome = filled.outcome();
+    if (filled && *filled != *contents)
+        outcome = platform::overwriteFile(to, *filled);
+    if (outcome.ok()) {
+        own.made[text.item] = platform::madeItemAt(to);
+        return;
+    }
+    static_cast<void>(platform::removeTree(to)); // said as missing; what is left is the whole text of the template
+    own.made[text.item] = platform::madeItemAt(to);
+    result.failures.append(Outcome::failure(outcome.cause(), from, outcome.sentence()));
+}
+
 } // namespace
+
+void fillTexts(CreationPlan &plan, const QString &templateFiles, const QString &folder,
+               const std::atomic<bool> &cancelled, PlannedCopy &result)
+{
+    for (const RuledText &text : plan.texts) {
+        if (cancelled)
+            return;
+        fillText(plan, text, templateFiles, folder, result);
+    }
+}
 
 PlannedCopy carryOut(CreationPlan &plan, const QString &templateFiles, const QString &folder,
                      platform::CopyMonitor &monitor)

@@ -24,3 +24,7 @@ struct PlannedCopy
  */
 [[nodiscard]] PlannedCopy carryOut(CreationPlan &plan, const QString &templateFiles, const QString &folder,
                                    platform::CopyMonitor &monitor);
+/** The texts of a plan that was carried out get their values; one that cannot is taken away and is a failure. Blocks;
+ * not on the main thread. */
+void fillTexts(CreationPlan &plan, const QString &templateFiles, const QString &folder,
+               const std::atomic<bool> &cancelled, PlannedCopy &result);

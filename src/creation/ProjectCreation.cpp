@@ -45,9 +45,11 @@ CreationResult ProjectCreation::createProject(const ProjectRequest &request)
     takeNextNumbers(storedParameters());
     VTLog::appendLog("Creating template %@ at %@...", request.templateName, m_result.request.destination());
 
-    const Outcome claimed = claimDestination();
+    const bool isAllowed = isAllowedByRules();
+    const Outcome claimed =
+        isAllowed ? claimDestination() : Outcome::failure(Cause::Declined, m_result.request.destination());
     if (claimed.is(Cause::Declined)) {
-        m_result.cancelled = true;
+        m_result.cancelled = !m_result.refused;
         m_host.finishProcessing();
         return m_result;
     }

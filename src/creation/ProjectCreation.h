@@ -31,6 +31,8 @@ struct CreationResult
 {
     bool cancelled = false; ///< the user did not want the existing project overwritten, or it could not be put away
     bool stopped = false;   ///< it was stopped on the way, and taken back
+    bool isTooMany = false; ///< and repeats would have made more items than the user wanted
+    bool refused = false;   ///< the template's rules do not allow it; nothing was made
     QStringList errors;     ///< one sentence for each message shown
     QStringList notes;      ///< what is worth a word, and no failure; not shown yet
     ProjectRequest request; ///< what was made: with other numbers than asked for where those had been taken
@@ -57,6 +59,9 @@ public:
      */
     [[nodiscard]] CreationResult createProject(const ProjectRequest &request);
 
+    /** Repeats may make as many items as they want without a question. */
+    void allowMany() { m_mostRepeated = mostRepeated; }
+
     /** Set by anyone, a signal's handler too: the creation stops at its next look, and nothing of it is left. */
     [[nodiscard]] std::atomic<bool> &stop() { return m_monitor.cancelled; }
 
@@ -67,6 +72,9 @@ public:
     void updateTimestamps(const QString &folder);
 
 private:
+    [[nodiscard]] bool isAllowedByRules();
+    [[nodiscard]] bool hasFlaws();
+    void plan();
     platform::Outcome claimDestination();
     platform::Outcome claimOnce();
     void takeNextNumbers(const FilenameParameters &stored);
@@ -92,6 +100,8 @@ private:
     QString m_hiddenFolder; ///< where it will be built, if it can be; null without a claim
     std::optional<CreationNote> m_note;
     CreationPlan m_plan;
+    std::optional<FilenameParameters> m_plannedWith; ///< what the plan was made with; null before there is one
+    std::size_t m_mostRepeated = mostRepeatedUnasked;
     QStringList m_copiedByTool; ///< folders in the workplace
     QString m_oldInTrash;       ///< where an existing project lies that was put away; null where there was none
     bool m_hasPutAway = false;  ///< an existing project is in the Trash

@@ -50,17 +50,72 @@ QString whyNotCopied(const QList<Outcome> &failures)
 
 } // namespace
 
+void ProjectCreation::plan()
+{
+    PlanInput input = m_result.request.planInput();
+    input.mostRepeated = m_mostRepeated;
+    m_plan = planCreation(m_result.request.templateFiles, input, m_monitor.cancelled);
+    m_plannedWith = m_result.request.parameters;
+}
+
+/// Of a template with rules nothing is begun that they do not allow to be finished.
+bool ProjectCreation::isAllowedByRules()
+{
+    const ProjectRequest &request = m_result.request;
+    if (!request.rules || request.rules->isEmpty())
+        return true;
+    platform::performInBackground([this] { plan(); });
+    if (m_plan.isCutOff) {
+        const int answer = VTAlert::show({formatString(Text::tr("%@ would get more than %ld items from repeats"),
+                                                       request.relativePath(), qlonglong{mostRepeatedUnasked}),
+                                          Text::tr("Is that what you want?"),
+                                          Text::tr("Create Them"),
+                                          Text::tr("Cancel"),
+                                          {},
+                                          VTAlert::alternateReturn});
+        m_result.isTooMany = answer != VTAlert::defaultReturn;
+        if (m_result.isTooMany)
+            return false;
+        m_mostRepeated = mostRepeated;
+        platform::performInBackground([this] { plan(); });
+    }
+    m_result.refused = hasFlaws();
+    return !m_result.refused;
+}
+
+/// Says them.
+bool ProjectCreation::hasFlaws()
+{
+    QString why = m_plan.firstFlaw();
+    if (m_plan.isCutOff)
+        why = formatString(Text::tr("Its repeats would make more than %ld items."), qlonglong{mostRepeated});
+    if (why.isNull())
+        return false;
+    if (const auto others = m_plan.flaws.size(); others > 1)
+        why += u'\n' + Text::tr("Others like this: %1").arg(others - 1);
+    tell(Text::tr("The template’s rules and the values do not fit; nothing was created"), why);
+    return true;
+}
+
 void ProjectCreation::copyTemplate()
 {
     const ProjectRequest &request = m_result.request;
+    if (m_plannedWith != request.parameters) {
+        platform::performInBackground([this] { plan(); });
+        if (hasFlaws()) // another program has taken the number that was planned with
+            m_monitor.cancelled = true;
+    }
     PlannedCopy copy;
     platform::performInBackground([&] {
-        m_plan = planCreation(request.templateFiles, request.levels(), m_monitor.cancelled);
+        dropLeftOut(m_plan);
         m_monitor.itemsTotal = m_plan.tree.itemCount();
+        if (m_monitor.cancelled)
+            return;
         if (VTFileManager::isDirectoryAtPath(m_place->folder()))
             copy = carryOut(m_plan, request.templateFiles, m_place->folder(), m_monitor);
         else
             copy.failures.append(Outcome::failure(Cause::Missing, request.destination()));
+        fillTexts(m_plan, request.templateFiles, m_place->folder(), m_monitor.cancelled, copy);
     });
     m_copiedByTool = copy.copiedByTool;
     noteLosses(copy.losses);

@@ -40,6 +40,23 @@ QString ProjectRequest::destination() const
     return platform::joined(location, relativePath());
 }
 
+PlanInput ProjectRequest::planInput() const
+{
+    const QStringList all = levels();
+    return {all, rules ? valuesOfProject(parameters, all, dateFormat, moment) : tokens::Values(), rules};
+}
+
+tokens::Values valuesOfProject(const FilenameParameters &parameters, const QStringList &levels,
+                               const QString &dateFormat, std::time_t moment)
+{
+    tokens::Values values;
+    values.add(QStringLiteral("Project"), {naming::projectName(levels)});
+    for (qsizetype i = 0; i < levels.size(); ++i)
+        values.add(QStringLiteral("Level:%1").arg(i + 1), {levels[i]});
+    tokens::addTo(values, parameters, dateFormat, moment);
+    return values;
+}
+
 ProjectRequest withTypedValue(ProjectRequest request, qsizetype row, const QString &typed, bool strictNaming)
 {
     FilenameParameter &parameter = request.parameters[row];

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "creation/CreationPlan.h"
 #include "parameters/FilenameParameter.h"
 
 #include <QMap>
@@ -18,6 +19,10 @@ struct ProjectRequest
     QString templateName;
     QString templateFiles; ///< the folder whose contents the project gets
     QString location;      ///< the folder in which the outermost level lies
+    TemplateRulesPtr rules{};   ///< of the template; null: none
+    QString dateFormat{};       ///< in which the values' dates are
+    std::time_t moment = 0;     ///< when it was asked for
+
 
     /** The folder levels, outermost first; empty when no parameter has a value. */
     [[nodiscard]] QStringList levels() const;
@@ -27,7 +32,12 @@ struct ProjectRequest
     [[nodiscard]] QString name() const;
     /** The project's own folder. */
     [[nodiscard]] QString destination() const;
+    [[nodiscard]] PlanInput planInput() const;
 };
+
+/** What tokens stand for in a project: its name, its levels, its parameters. */
+[[nodiscard]] tokens::Values valuesOfProject(const FilenameParameters &parameters, const QStringList &levels,
+                                             const QString &dateFormat, std::time_t moment);
 
 /** The request with the values typed into its rows, by the rules of the form. */
 [[nodiscard]] ProjectRequest withTypedValue(ProjectRequest request, qsizetype row, const QString &typed,

@@ -38,7 +38,7 @@ QStringList namesOf(const CreationPlan &plan)
 CreationPlan planOf(const QString &files, const QStringList &levels)
 {
     const std::atomic<bool> never = false;
-    return planCreation(files, levels, never);
+    return planCreation(files, {levels}, never);
 }
 
 } // namespace
@@ -121,7 +121,7 @@ private Q_SLOTS:
             for (const QLatin1String name : {QLatin1String("a"), QLatin1String("B"), QLatin1String("template"),
                                              QLatin1String(), QLatin1String("x")}) {
                 const QStringList levels = name.isEmpty() ? QStringList() : QStringList{"L", QString(name)};
-                planForLevels(corrected, levels);
+                planFor(corrected, {levels});
                 QCOMPARE(namesOf(corrected), namesOf(planOf(folder.path(), levels)));
             }
         }

@@ -114,12 +114,12 @@ private Q_SLOTS:
         makeOld(files("Empty"));
         makeOld(files("one\ntwo"));
 
-        const CreationPlan plan = planCreation(files(), {"Acme", "Promo"}, never);
+        const CreationPlan plan = planCreation(files(), {{"Acme", "Promo"}}, never);
         const CreationResult result = create();
 
         QCOMPARE(result.errors, QStringList());
         QCOMPARE(m_host.calls, QStringList({"start", "reveal", "count", "quit", "finish"}));
-        const CreationPlan made = planCreation(project(), {}, never);
+        const CreationPlan made = planCreation(project(), {{}}, never);
         QStringList planned;
         QStringList found;
         plan.forEachItem([&](const PlanItem &item) { planned << platform::joined(item.folder, item.newName); });

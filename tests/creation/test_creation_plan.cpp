@@ -54,12 +54,12 @@ private Q_SLOTS:
         writeFile(home.file("tree/Template/Sub template/template.txt"));
         writeFile(home.file("tree/x.txt"));
         QCOMPARE(symlink("Template", (home.path() + "/tree/link").toUtf8().constData()), 0);
-        const CreationPlan plan = planCreation(home.file("tree"), {"Acme", "Promo"}, never);
+        const CreationPlan plan = planCreation(home.file("tree"), {{"Acme", "Promo"}}, never);
         QStringList items;
         plan.forEachItem([&](const PlanItem &item) { items << item.folder + '|' + item.newName; });
         QCOMPARE(items, QStringList({"|link", "|Promo", "Promo|Sub Promo", "Promo/Sub Promo|Promo.txt", "|x.txt"}));
         QVERIFY(plan.renamed() == 3 && plan.folders() == 2 && plan.files() == 3 && plan.unreadable.isEmpty());
-        const auto missing = planCreation(home.path() + "/none", {"Promo"}, never).unreadable;
+        const auto missing = planCreation(home.path() + "/none", {{"Promo"}}, never).unreadable;
         QVERIFY(missing.size() == 1 && missing[0].is(platform::Cause::Missing));
     }
 
@@ -80,8 +80,8 @@ private Q_SLOTS:
         const QString longName(128, QChar(u'ä')); // 256 bytes in 128 characters
         QCOMPARE(newNames(named({"Template", "Template.a"}, QString(255, 'x'))),
                  QStringList({QString(255, 'x'), "Template.a (2)"}));
-        QCOMPARE(planCreation(home.path(), {longName}, never).tooLongLevels, QStringList{longName});
-        QVERIFY(planCreation(home.path(), {QString(255, 'x')}, never).tooLongLevels.isEmpty());
+        QCOMPARE(planCreation(home.path(), {{longName}}, never).tooLongLevels, QStringList{longName});
+        QVERIFY(planCreation(home.path(), {{QString(255, 'x')}}, never).tooLongLevels.isEmpty());
     }
 };
 

@@ -82,8 +82,8 @@ public Q_SLOTS:
 Q_SIGNALS:
     /** Between startProcessing() and finishProcessing(). */
     void processingChanged(bool processing);
-    /** The folder levels that the values make, and the folder in which they will lie; with every key. */
-    void levelsShown(const QStringList &levels, const QString &location);
+    /** The folder levels that the values make, the folder in which they will lie, and the values; with every key. */
+    void levelsShown(const QStringList &levels, const QString &location, const FilenameParameters &parameters);
     /** Whether there is any parameter at all. */
     void emptinessChanged(bool empty);
 

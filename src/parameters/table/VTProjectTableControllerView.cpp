@@ -184,7 +184,7 @@ void VTProjectTableController::updateFilenamePreview()
     const QString separator = settings::separatorChar.text();
     showProblems(shown, separator);
     const QStringList levels = naming::pathComponents(shown, separator);
-    Q_EMIT levelsShown(levels, nextPlace());
+    Q_EMIT levelsShown(levels, nextPlace(), shown);
     const QString path = naming::pathName(levels);
     if (path.isNull()) {
         VTLog::appendLog("Error: null filename for path display");

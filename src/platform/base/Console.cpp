@@ -5,6 +5,8 @@
 #include "platform/base/System.h"
 #include "platform/plain/WholeWrite.h"
 
+#include <array>
+#include <cerrno>
 #include <sys/ioctl.h>
 #include <unistd.h>
 
@@ -37,6 +39,24 @@ Outcome writeToStandardOutput(const QString &text)
 void writeToStandardError(const QString &text)
 {
     static_cast<void>(writeTo(STDERR_FILENO, forDisplay(text).toUtf8(), "stderr"));
+}
+
+Result<QByteArray> readStandardInput(qint64 atMost)
+{
+    QByteArray bytes;
+    std::array<char, 65536> buffer{};
+    for (;;) {
+        const ssize_t count = read(STDIN_FILENO, buffer.data(), buffer.size());
+        if (count == 0)
+            return bytes;
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count < 0)
+            return Outcome::fromErrno(QStringLiteral("standard input"));
+        bytes.append(buffer.data(), count);
+        if (bytes.size() > atMost)
+            return Outcome::fromNumber(EFBIG, QStringLiteral("standard input"));
+    }
 }
 
 int columnsOfStandardError()

@@ -2,6 +2,7 @@
 
 #include "platform/base/Outcome.h"
 
+#include <QByteArray>
 #include <QString>
 
 namespace platform {
@@ -12,6 +13,8 @@ void printToConsole(const QString &text);
 /** Text exactly as it is, in one write where the system takes it whole. What cannot be printed (a full disk behind a
     redirection) is a failure of the command. */
 Outcome writeToStandardOutput(const QString &text);
+/** All that comes, until its end; at most so many bytes, beyond which it is a failure. Blocks. */
+[[nodiscard]] Result<QByteArray> readStandardInput(qint64 atMost);
 void writeToStandardError(const QString &text);
 /** Columns of the terminal that standard error is; 0 when it is none. */
 [[nodiscard]] int columnsOfStandardError();

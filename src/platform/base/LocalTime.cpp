@@ -68,6 +68,23 @@ QString formatDate(const QString &format, std::time_t moment)
     return length == 0 ? QString() : fromNative(QByteArrayView(buffer.data(), static_cast<qsizetype>(length) - 1));
 }
 
+std::optional<std::time_t> dayOf(const QString &text, const QString &format)
+{
+    std::tm parts{};
+    parts.tm_mday = 1; // for a month alone
+    const QByteArray bytes = toNative(text);
+    const char *end = strptime_l(bytes.constData(), toNative(format).constData(), &parts, english());
+    if (!end || *end != '\0')
+        return std::nullopt;
+    parts.tm_hour = parts.tm_min = parts.tm_sec = 0;
+    parts.tm_isdst = -1;
+    const std::tm read = parts;
+    const std::time_t moment = std::mktime(&parts);
+    // mktime takes the 31st of April for the 1st of May.
+    const bool isDay = parts.tm_mday == read.tm_mday && parts.tm_mon == read.tm_mon && parts.tm_year == read.tm_year;
+    return moment == -1 || !isDay ? std::nullopt : std::optional(moment);
+}
+
 DateFormatProblem problemOfDateFormat(const QString &format)
 {
     static const QLatin1String letters("aAbBcCdDeFgGhHIjklmMnpPrRsStTuUVwWxXyYzZ+");

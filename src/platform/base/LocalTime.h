@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <ctime>
+#include <optional>
 
 namespace platform {
 
@@ -14,6 +15,9 @@ namespace platform {
  * works, with GNU's flags; %e is the day of the month with neither a leading zero nor a leading blank.
  */
 [[nodiscard]] QString formatDate(const QString &format, std::time_t moment);
+
+/** The first second of the day that the text names by the format, with English names; nothing where it names none. */
+[[nodiscard]] std::optional<std::time_t> dayOf(const QString &text, const QString &format);
 
 /** What is wrong with a format that a person typed. */
 enum class DateFormatProblem { None, NoDate, CutOff, UnknownLetter };

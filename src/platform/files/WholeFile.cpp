@@ -128,6 +128,24 @@ Outcome replaceFile(const QString &given, const QByteArray &bytes, Waits waits)
     return {};
 }
 
+Outcome overwriteFile(const QString &path, const QByteArray &bytes)
+{
+    const PathAt at(path);
+    struct stat info;
+    if (fstatat(at.folder(), at.name(), &info, AT_SYMLINK_NOFOLLOW) != 0)
+        return Outcome::fromErrno(path);
+    constexpr int flags = O_WRONLY | O_TRUNC | O_NOFOLLOW | O_CLOEXEC;
+    UniqueDescriptor file(openat(at.folder(), at.name(), flags));
+    const bool isProtected = !file.isOpen() && errno == EACCES && S_ISREG(info.st_mode);
+    if (isProtected && fchmodat(at.folder(), at.name(), (info.st_mode & 07777U) | S_IWUSR, 0) == 0)
+        file.reset(openat(at.folder(), at.name(), flags));
+    const bool isWritten = file.isOpen() &&
+                           writeWhole(file.get(), bytes.constData(), static_cast<std::size_t>(bytes.size())) &&
+                           (!isProtected || fchmod(file.get(), info.st_mode & 07777U) == 0) &&
+                           hasGone(file.get(), Waits::ForNothing) && file.closeChecked() == 0;
+    return isWritten ? Outcome() : Outcome::fromErrno(path);
+}
+
 Result<QVariant> readPropertyListFile(const QString &path)
 {
     const Result<QByteArray> bytes = readFile(path);

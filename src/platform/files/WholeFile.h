@@ -26,6 +26,12 @@ inline constexpr qint64 largestWholeFile = qint64{64} * 1024 * 1024;
  */
 Outcome replaceFile(const QString &path, const QByteArray &bytes, Waits waits = Waits::ForTheDisk);
 
+/**
+ * Writes the bytes over what the file holds: all else that it has, labels and mode among it, stays. For files that
+ * nobody else knows of yet: on failure half of them may be there. A link is refused.
+ */
+Outcome overwriteFile(const QString &path, const QByteArray &bytes);
+
 /** A property list. Cause::Damaged when the file was read whole and is none. */
 [[nodiscard]] Result<QVariant> readPropertyListFile(const QString &path);
 /** Cause::NotSupported for a value that the format cannot hold. */

@@ -1,0 +1,132 @@
+#include "templates/RuleFile.h"
+
+#include "platform/base/NativePath.h"
+#include "platform/files/FileLock.h"
+#include "platform/files/FileSystem.h"
+#include "platform/files/FileTree.h"
+#include "platform/files/WholeFile.h"
+#include "support/VTFileManager.h"
+#include "support/VTLocalPaths.h"
+
+#include <QCryptographicHash>
+
+using platform::Cause;
+using platform::Outcome;
+using platform::Result;
+
+namespace rulefile {
+namespace {
+
+constexpr std::chrono::seconds patience{5};
+
+/// Not beside the file: a bundle travels, and is packed with all that is in it. Each user's programs wait for each
+/// other; who shares a library with others still finds one whole file or the other.
+QString lockFile(const QString &bundle)
+{
+    const QByteArray name = QCryptographicHash::hash(platform::toNative(bundle), QCryptographicHash::Sha1).toHex();
+    return platform::joined(VTLocalPaths::tempDirectory(),
+                            QStringLiteral("tessaro-%1-%2.lock").arg(VTLocalPaths::username(), name.constData()));
+}
+
+bool isAtOrBelow(const QString &entry, const QString &item)
+{
+    return entry == item || platform::isInside(entry, item);
+}
+
+/// Each entry's path by the function; null: the entry goes.
+QVariantMap withPaths(QVariantMap rules, const std::function<QString(const QString &)> &newPath)
+{
+    if (!rules.contains(QLatin1String(items)))
+        return rules;
+    QVariantList entries;
+    for (const QVariant &entry : rules.value(QLatin1String(items)).toList()) {
+        const QString now = newPath(pathOf(entry.toMap()));
+        if (!now.isNull())
+            entries.append(withPath(entry.toMap(), now));
+    }
+    rules.insert(QLatin1String(items), entries);
+    return rules;
+}
+
+} // namespace
+
+QString pathIn(const QString &bundle)
+{
+    return platform::joined(bundle, QStringLiteral("Rules.plist"));
+}
+
+Result<QVariantMap> read(const QString &bundle)
+{
+    const Result<QVariant> found = platform::readPropertyListFile(pathIn(bundle));
+    if (!found)
+        return found.outcome().is(Cause::Missing) ? Result<QVariantMap>(QVariantMap()) : found.outcome();
+    return found->typeId() == QMetaType::QVariantMap ? Result<QVariantMap>(found->toMap())
+                                                     : Outcome::failure(Cause::Damaged, pathIn(bundle));
+}
+
+Outcome change(const QString &bundle, const Change &change)
+{
+    const Result<platform::FileLock> lock = platform::FileLock::acquire(lockFile(bundle), patience);
+    if (!lock && !lock.outcome().is(Cause::NotSupported))
+        return lock.outcome();
+    const Result<QVariantMap> current = read(bundle);
+    if (!current)
+        return current.outcome();
+    const Result<QVariantMap> wanted = change(*current);
+    if (!wanted)
+        return wanted.outcome();
+    if (*wanted == *current)
+        return {};
+    return wanted->isEmpty() ? platform::removeTree(pathIn(bundle))
+                             : platform::writePropertyListFile(pathIn(bundle), *wanted);
+}
+
+Result<QString> setAside(const QString &bundle)
+{
+    const QString aside =
+        VTFileManager::uniqueFilename(platform::joined(bundle, QStringLiteral("Rules (damaged).plist")));
+    const Outcome moved = platform::moveItem(pathIn(bundle), aside);
+    return moved.ok() ? Result<QString>(aside) : moved;
+}
+
+QString pathOf(const QVariantMap &entry)
+{
+    const QVariant stored = entry.value(QLatin1String(path));
+    return stored.typeId() == QMetaType::QByteArray ? platform::fromNative(stored.toByteArray()) : stored.toString();
+}
+
+QVariantMap withPath(QVariantMap entry, const QString &item)
+{
+    const bool isText = platform::forDisplay(item) == item;
+    entry.insert(QLatin1String(path), isText ? QVariant(item) : QVariant(platform::toNative(item)));
+    return entry;
+}
+
+QVariantMap afterMove(QVariantMap rules, const QString &from, const QString &to)
+{
+    return withPaths(std::move(rules), [&](const QString &entry) {
+        return isAtOrBelow(entry, from) ? to + entry.mid(from.size()) : entry;
+    });
+}
+
+QVariantMap afterRemoval(QVariantMap rules, const QString &item)
+{
+    return withPaths(std::move(rules),
+                     [&](const QString &entry) { return isAtOrBelow(entry, item) ? QString() : entry; });
+}
+
+QVariantMap afterCopy(QVariantMap rules, const QString &from, const QString &to)
+{
+    QVariantList entries = rules.value(QLatin1String(items)).toList();
+    const qsizetype count = entries.size();
+    for (qsizetype i = 0; i < count; ++i) {
+        const QVariantMap entry = entries[i].toMap();
+        if (isAtOrBelow(pathOf(entry), from))
+            entries.append(withPath(entry, to + pathOf(entry).mid(from.size())));
+    }
+    if (entries.size() > count)
+        rules.insert(QLatin1String(items), entries);
+    return rules;
+}
+
+} // namespace rulefile
