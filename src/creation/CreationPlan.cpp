@@ -14,16 +14,21 @@ QString projectNameOf(const PlanInput &input)
     return input.levels.isEmpty() ? QString() : input.levels.constLast();
 }
 
+QString below(const QString &folder, const QString &name)
+{
+    return folder.isEmpty() ? name : folder + u'/' + name;
+}
+
 QString pathOf(const platform::Tree &tree, std::uint32_t folder, std::uint32_t item)
 {
     const platform::TreeFolder &own = tree.folders[folder];
-    return platform::joined(tree.pathOf(folder), platform::fromNative(own.nameOf(own.items[item])));
+    return below(tree.pathOf(folder), platform::fromNative(own.nameOf(own.items[item])));
 }
 
 QString newPathOf(const platform::Tree &tree, std::uint32_t folder, std::uint32_t item)
 {
     const platform::TreeFolder &own = tree.folders[folder];
-    return platform::joined(tree.newPathOf(folder), platform::fromNative(own.newNameOf(own.items[item])));
+    return below(tree.newPathOf(folder), platform::fromNative(own.newNameOf(own.items[item])));
 }
 
 /// A flaw of the contents is one of the item.
@@ -109,7 +114,7 @@ void CreationPlan::forEachItem(const std::function<void(const PlanItem &)> &visi
                 shown.flaw = flawOf(number, i);
             visit(shown);
             if (item.folder != 0)
-                visitFolder(item.folder, path.isEmpty() ? shown.newName : path + u'/' + shown.newName);
+                visitFolder(item.folder, below(path, shown.newName));
         }
     };
     visitFolder(0, QLatin1String(""));

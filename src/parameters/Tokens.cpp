@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <array>
+#include <functional>
 
 namespace tokens {
 namespace {
@@ -17,50 +18,38 @@ struct Text
     Q_DECLARE_TR_FUNCTIONS(Tokens)
 };
 
-QStringList wordsOf(const QString &text)
+/// Each character with whether a word begins with it, and whether it belongs to one.
+void forEachCharacter(const QString &text, const std::function<void(char32_t, bool begins)> &visit)
 {
-    QStringList words;
     bool isInside = false;
-    for (const QChar character : text) {
-        // An apostrophe ends no word, and neither does the second half of a character.
-        const bool belongs = character.isLetterOrNumber() || character.isSurrogate() || character.isMark() ||
-                             (isInside && (character == u'\'' || character == u'’'));
-        if (belongs && !isInside)
-            words.append(QString());
-        if (belongs)
-            words.last().append(character);
+    for (const char32_t character : text.toUcs4()) {
+        const bool isApostrophe = character == U'\'' || character == U'’'; // ends no word
+        const bool belongs =
+            QChar::isLetterOrNumber(character) || (isInside && (isApostrophe || QChar::isMark(character)));
+        visit(character, belongs && !isInside);
         isInside = belongs;
     }
-    return words;
-}
-
-/// One character, whatever it is made of.
-qsizetype firstLength(const QString &word)
-{
-    qsizetype length = word.size() > 1 && word[0].isHighSurrogate() ? 2 : 1;
-    while (length < word.size() && word[length].isMark())
-        ++length;
-    return length;
 }
 
 QString initials(const QString &text)
 {
     QString letters;
-    for (const QString &word : wordsOf(text))
-        letters += word.first(firstLength(word)).toUpper();
+    bool isFirst = false; // or a mark of it
+    forEachCharacter(text, [&](char32_t character, bool begins) {
+        isFirst = begins || (isFirst && QChar::isMark(character));
+        if (isFirst)
+            letters += QString::fromUcs4(&character, 1).toUpper();
+    });
     return letters;
 }
 
 QString titled(const QString &text)
 {
-    QString result = text;
-    bool isInside = false;
-    for (QChar &character : result) {
-        const bool belongs = character.isLetterOrNumber() || character.isSurrogate() || character.isMark() ||
-                             (isInside && (character == u'\'' || character == u'’'));
-        character = belongs && !isInside ? character.toUpper() : character;
-        isInside = belongs;
-    }
+    QString result;
+    forEachCharacter(text, [&](char32_t character, bool begins) {
+        const QString letter = QString::fromUcs4(&character, 1);
+        result += begins ? letter.toUpper() : letter;
+    });
     return result;
 }
 

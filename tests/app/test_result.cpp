@@ -68,13 +68,13 @@ private Q_SLOTS:
                  QStringList({"Acme", " Promo", "  01 Footage", "   plain", "   Promo A.mov | was Template A.mov",
                               "  Promo 2 | was template 2", "   x", "  Promo.txt | was Template.txt"}));
         const QPersistentModelIndex kept = model.index(0, 0, model.index(0, 0));
-        model.setLevels({"Acme", "Film"});
+        model.setInput({{"Acme", "Film"}});
         QVERIFY(kept.isValid()); // nothing was built anew
         QCOMPARE(drawn(model).value(4), "   Film A.mov | was Template A.mov");
-        model.setLevels({"Film"});
+        model.setInput({{"Film"}});
         QCOMPARE(drawn(model).value(0), "Film");
         QCOMPARE(drawn(model).value(1), " 01 Footage");
-        model.setLevels({});
+        model.setInput({});
         QCOMPARE(drawn(model).value(0), "01 Footage");
         QCOMPARE(model.problemCount(), 0);
     }
@@ -90,10 +90,10 @@ private Q_SLOTS:
         QCOMPARE(problem.data().toString(), "Template A.mov");
         QCOMPARE(problem.siblingAtColumn(1).data().toString(), "the new name is taken");
         QCOMPARE(model.problemAfter(problem), problem);
-        model.setLevels({QString(300, u'x')});
+        model.setInput({{QString(300, u'x')}});
         QCOMPARE(model.problemCount(), 4); // the level, and three names
         QCOMPARE(model.problemAfter({}).siblingAtColumn(1).data().toString(), "too long for a folder");
-        model.setLevels({"Promo"});
+        model.setInput({{"Promo"}});
         QCOMPARE(model.problemCount(), 0);
     }
 
@@ -132,7 +132,7 @@ private Q_SLOTS:
         ResultPane pane;
         pane.resize(400, 400);
         pane.setTemplate(files());
-        pane.setLevels({"Acme", "Promo"}, m_work->path());
+        pane.setValues({"Acme", "Promo"}, m_work->path(), {});
         pane.show();
         auto *view = pane.findChild<QTreeView *>("resultTree");
         const auto text = [&](const char *label) {
@@ -143,9 +143,9 @@ private Q_SLOTS:
         QCOMPARE(text("resultNumbers"), QString("Folders: 2, files: 4, 20 bytes"));
         QVERIFY(!view->visualRect(view->model()->index(0, 0)).isEmpty());
         writeFile(m_work->filePath("Acme/Film/a"));
-        pane.setLevels({"Acme", "Film"}, m_work->path());
+        pane.setValues({"Acme", "Film"}, m_work->path(), {});
         QTRY_VERIFY(text("resultPlace").contains("Trash"));
-        pane.setLevels({"Acme", "Fil"}, m_work->path());
+        pane.setValues({"Acme", "Fil"}, m_work->path(), {});
         QTRY_VERIFY(text("resultPlace").isEmpty());
         writeFile(files("new"));
         pane.followDisk();
