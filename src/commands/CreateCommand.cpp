@@ -101,8 +101,11 @@ CreateCommand::CreateCommand(const Invocation &invocation)
 int CreateCommand::run()
 {
     VTLog::appendLog("Creating new project");
-    if (!findTemplate() || !readParameters() || !parametersAreComplete() || !findDestination())
+    if (m_invocation.has("--from"))
+        return runTable();
+    if (!findTemplate() || !makeRequest() || !parametersAreComplete() || !findDestination())
         return refused();
+    m_request.location = m_location;
     VTLog::appendLog("Validated folder name: %@", m_request.relativePath());
     if (platform::kindOf(m_request.destination()) != platform::FileKind::Missing && !m_invocation.has("--overwrite")) {
         fail(ExitStatus::notOverwritten,
@@ -164,49 +167,55 @@ bool CreateCommand::findLibrary(QString &location, QStringList &names)
 
 bool CreateCommand::findTemplate()
 {
-    QString location;
-    QStringList names;
-    if (!findLibrary(location, names))
+    if (!findLibrary(m_library, m_templates))
         return false;
     const QString wanted = m_invocation.value("--template");
-    m_request.templateName = wanted.isNull() ? chosenTemplate(names) : wanted;
-    if (wanted.isNull() && m_request.templateName.isNull())
-        return fail(ExitStatus::failed, Text::tr("There is no template in %1.").arg(location));
-    if (!names.contains(m_request.templateName))
-        return fail(ExitStatus::wrongUsage,
-                    Text::tr("There is no template “%1”. %2").arg(m_request.templateName, listed(names)));
-    const QString bundle = location + platform::formatString("/%@.tzt", m_request.templateName);
-    m_request.templateFiles = joined(bundle, QStringLiteral("Files"));
-    const auto rules = readRules(bundle);
-    if (!rules)
-        return fail(rules.outcome(), Text::tr("The template’s rules cannot be read. Mend them, or remove the file."));
-    m_request.rules = std::make_shared<const TemplateRules>(*rules);
-    return true;
+    m_templateName = wanted.isNull() ? chosenTemplate(m_templates) : wanted;
+    return !m_templateName.isNull() || fail(ExitStatus::failed, Text::tr("There is no template in %1.").arg(m_library));
 }
 
-bool CreateCommand::readParameters()
+/// Everything but the folder it goes to.
+platform::Result<ProjectRequest> CreateCommand::requestFor(const QString &templateName) const
+{
+    if (!m_templates.contains(templateName))
+        return platform::Outcome::failure(
+            platform::Cause::Invalid, {},
+            Text::tr("There is no template “%1”. %2").arg(templateName, listed(m_templates)));
+    ProjectRequest request;
+    request.templateName = templateName;
+    const QString bundle = m_library + platform::formatString("/%@.tzt", templateName);
+    request.templateFiles = joined(bundle, QStringLiteral("Files"));
+    const auto rules = readRules(bundle);
+    if (!rules)
+        return platform::Outcome::failure(
+            rules.outcome().cause(), {},
+            Text::tr("The template’s rules cannot be read. Mend them, or remove the file.") + u'\n' +
+                rules.outcome().description());
+    request.rules = std::make_shared<const TemplateRules>(*rules);
+    request.parameters = currentParameters();
+    request.separator = settings::separatorChar.text();
+    request.dateFormat = settings::dateFormat.text();
+    request.moment = std::time(nullptr);
+    request.location = m_location;
+    for (const QString &setting : m_invocation.values("--set")) {
+        const qsizetype equals = setting.indexOf(u'=');
+        const auto changed =
+            withNamedValue(request, setting.first(equals), setting.mid(equals + 1), settings::strictNaming.isOn());
+        if (!changed)
+            return changed.outcome();
+        request = *changed;
+    }
+    return request;
+}
+
+bool CreateCommand::makeRequest()
 {
     if (!m_isDryRun)
         keepDamagedParameters();
-    m_request.parameters = currentParameters();
-    m_request.separator = settings::separatorChar.text();
-    m_request.dateFormat = settings::dateFormat.text();
-    m_request.moment = std::time(nullptr);
-    for (const QString &setting : m_invocation.values("--set")) {
-        if (!applyValue(setting))
-            return false;
-    }
-    return true;
-}
-
-bool CreateCommand::applyValue(const QString &setting)
-{
-    const qsizetype equals = setting.indexOf(u'=');
-    const auto changed =
-        withNamedValue(m_request, setting.first(equals), setting.mid(equals + 1), settings::strictNaming.isOn());
-    if (!changed)
-        return fail(ExitStatus::wrongUsage, changed.outcome().sentence());
-    m_request = *changed;
+    const auto request = requestFor(m_templateName);
+    if (!request)
+        return fail(exitStatusOf(request.outcome()), request.outcome().sentence());
+    m_request = *request;
     return true;
 }
 
@@ -241,7 +250,7 @@ bool CreateCommand::findDestination()
                 (exists ? Text::tr("%1 is not a folder.") : Text::tr("The folder %1 does not exist.")).arg(folder));
         }
     }
-    m_request.location = folder;
+    m_location = folder;
     return true;
 }
 

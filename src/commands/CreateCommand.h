@@ -1,6 +1,7 @@
 #pragma once
 
 #include "commands/Verb.h"
+#include "creation/BatchCreation.h"
 #include "creation/CreationPlan.h"
 #include "creation/ProjectCreation.h"
 #include "creation/ProjectRequest.h"
@@ -24,13 +25,19 @@ private:
     void reveal(const QString &) override {}
     void quitIfWanted() override {}
 
-    [[nodiscard]] bool readParameters();
     [[nodiscard]] bool findLibrary(QString &location, QStringList &names);
-    [[nodiscard]] bool applyValue(const QString &setting);
+    [[nodiscard]] platform::Result<ProjectRequest> requestFor(const QString &templateName) const;
+    [[nodiscard]] bool makeRequest();
     [[nodiscard]] bool parametersAreComplete();
     [[nodiscard]] bool findDestination();
     [[nodiscard]] bool findTemplate();
     [[nodiscard]] int printPlan();
+    // Many at once:
+    [[nodiscard]] int runTable();
+    [[nodiscard]] bool readBatch(ProjectBatch &batch);
+    void complainAbout(const ProjectBatch &batch);
+    void printPlans(const ProjectBatch &batch);
+    void createAll(const ProjectBatch &batch);
     [[nodiscard]] int create();
     /** Prints what was made. */
     [[nodiscard]] int report(const CreationResult &result, bool isThere) const;
@@ -45,6 +52,10 @@ private:
     const bool m_isDryRun;
     std::optional<platform::TemporaryFolder>
         m_unpacked; ///< the shipped templates, for a dry run before the first start
+    QString m_library;
+    QStringList m_templates;
+    QString m_templateName;
+    QString m_location;
     ProjectRequest m_request;
     QStringList m_problems;
     int m_status = 0;

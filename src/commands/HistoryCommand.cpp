@@ -2,6 +2,7 @@
 #include "commands/CommandLine.h"
 #include "commands/Commands.h"
 #include "commands/TerminalOutput.h"
+#include "creation/BatchCreation.h"
 #include "creation/Undo.h"
 #include "platform/base/Interruption.h"
 #include "platform/base/MainThread.h"
@@ -61,6 +62,21 @@ int report(const Manifest &manifest, const UndoResult &result)
     return result.oldProject.ok() ? ExitStatus::done : ExitStatus::failed;
 }
 
+/// The latest first.
+int undoAll(const QList<Manifest> &batch, platform::CopyMonitor &monitor)
+{
+    const LongWork work(Text::tr("Undoing projects: %L1").arg(batch.size()), monitor);
+    int status = ExitStatus::done;
+    const auto results = platform::resultInBackground([&] { return undoBatch(batch, monitor); });
+    for (qsizetype i = 0; i < results.size(); ++i) {
+        if (const int one = report(batch[batch.size() - 1 - i], results[i]); one != ExitStatus::done)
+            status = one;
+    }
+    if (results.size() < batch.size())
+        return complain(ExitStatus::stopped, Text::tr("Stopped. Projects that stay: %L1").arg(batch.size() - results.size()));
+    return status;
+}
+
 } // namespace
 
 int commands::history(const Invocation &invocation)
@@ -92,6 +108,9 @@ int commands::undo(const Invocation &invocation)
                         Text::tr("“%1” is no project that is remembered. Tessaro history lists them.").arg(word));
     platform::CopyMonitor monitor;
     const platform::Interruption interruption(monitor.cancelled);
+    const QList<Manifest> batch = word.isNull() ? batchOf(*manifest, projects) : QList<Manifest>();
+    if (batch.size() > 1)
+        return undoAll(batch, monitor);
     const LongWork work(Text::tr("Undoing %1").arg(platform::forOneLine(manifest->name())), monitor);
     return report(*manifest, platform::resultInBackground([&] { return undoCreation(*manifest, monitor); }));
 }

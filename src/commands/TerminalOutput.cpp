@@ -40,6 +40,11 @@ void print(const QJsonArray &list)
     printDocument(QJsonDocument(list));
 }
 
+void printLine(const QJsonObject &object)
+{
+    print(QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact)) + u'\n');
+}
+
 int complain(int status, const QString &sentence)
 {
     platform::writeToStandardError(sentence + u'\n');

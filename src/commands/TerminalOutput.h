@@ -12,6 +12,8 @@ class QJsonObject;
 void print(const QString &text);
 void print(const QJsonObject &object);
 void print(const QJsonArray &list);
+/** In one line. */
+void printLine(const QJsonObject &object);
 
 /** One sentence on standard error; returns the status. */
 int complain(int status, const QString &sentence);

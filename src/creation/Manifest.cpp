@@ -9,6 +9,7 @@
 #include <QDataStream>
 #include <QIODevice>
 #include <QRandomGenerator>
+#include <QSet>
 
 #include <chrono>
 
@@ -22,6 +23,8 @@ namespace {
 constexpr quint32 mark = 0x54737248;
 constexpr quint32 format = 2;
 constexpr const char *headerEnding = ".project";
+/// In the file's name, so that no header is read to count what was made together.
+constexpr QChar batchMark(u'+');
 constexpr auto streamVersion = QDataStream::Qt_6_0;
 /// Names and numbers shrink to a third with the least effort, and in a few milliseconds.
 constexpr int leastEffort = 1;
@@ -32,7 +35,7 @@ QString historyFolder()
 }
 
 /// In the order of time, by name: to the nanosecond, for a batch makes several projects within a millisecond.
-QString newFile()
+QString newFile(const QString &batch)
 {
     using namespace std::chrono;
     const auto now = system_clock::now().time_since_epoch();
@@ -40,10 +43,11 @@ QString newFile()
     const QString time =
         QDateTime::fromMSecsSinceEpoch(passed.count(), Qt::UTC).toString(QStringLiteral("yyyyMMdd-HHmmss-zzz"));
     const qint64 nanoseconds = duration_cast<std::chrono::nanoseconds>(now - passed).count();
-    return platform::joined(historyFolder(), QStringLiteral("%1-%2-%3%4")
+    return platform::joined(historyFolder(), QStringLiteral("%1-%2-%3%4%5")
                                                  .arg(time)
                                                  .arg(nanoseconds, 6, 10, QLatin1Char('0'))
                                                  .arg(QRandomGenerator::global()->generate(), 0, 36)
+                                                 .arg(batch.isEmpty() ? QString() : batchMark + batch)
                                                  .arg(QLatin1String(headerEnding)));
 }
 
@@ -60,6 +64,8 @@ QVariantMap headerOf(const Manifest &manifest)
                        {"inode", QString::number(manifest.identity.inode)},
                        {"parameters", variantFromParameters(manifest.parameters)},
                        {"levelsMade", levels}};
+    if (!manifest.batch.isEmpty())
+        header.insert("batch", manifest.batch);
     if (!manifest.oldInTrash.isNull())
         header.insert("oldInTrash", platform::toNative(manifest.oldInTrash));
     return header;
@@ -80,7 +86,8 @@ Manifest fromHeader(const QString &file, const QVariantMap &header)
             {header["device"].toString().toULongLong(), header["inode"].toString().toULongLong()},
             parametersFromVariant(header["parameters"]),
             levels,
-            header.contains("oldInTrash") ? path("oldInTrash") : QString()};
+            header.contains("oldInTrash") ? path("oldInTrash") : QString(),
+            header["batch"].toString()};
 }
 
 void writeFolder(QDataStream &stream, const platform::Tree &tree, std::uint32_t number, quint32 depth)
@@ -153,7 +160,7 @@ QString Manifest::name() const
 
 Outcome remember(Manifest &manifest, const platform::Tree &tree)
 {
-    manifest.file = newFile();
+    manifest.file = newFile(manifest.batch);
     QByteArray items;
     QDataStream stream(&items, QIODevice::WriteOnly);
     stream.setVersion(streamVersion);
@@ -163,10 +170,20 @@ Outcome remember(Manifest &manifest, const platform::Tree &tree)
         kept = write(itemsFile(manifest.file), qCompress(items, leastEffort));
     if (kept.ok())
         kept = write(manifest.file, platform::writePropertyList(headerOf(manifest)));
-    const QStringList files = headers();
-    for (const QString &file : files.mid(rememberedProjects))
-        static_cast<void>(forget(file)); // one that stays is one more that can be undone
+    if (manifest.batch.isEmpty())
+        pruneHistory();
     return kept;
+}
+
+void pruneHistory()
+{
+    QSet<QString> creations;
+    for (const QString &file : headers()) {
+        const qsizetype mark = file.lastIndexOf(batchMark);
+        creations.insert(mark < 0 ? file : file.mid(mark));
+        if (creations.size() > rememberedProjects)
+            static_cast<void>(forget(file)); // one that stays is one more that can be undone
+    }
 }
 
 QList<Manifest> recentProjects()

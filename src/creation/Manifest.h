@@ -29,15 +29,19 @@ struct Manifest
     FilenameParameters parameters;   ///< with the numbers that the project took
     QStringList levelsMade;          ///< the folders above it that came with it, outermost first
     QString oldInTrash;              ///< where the project lies that had its place; null where there was none
+    QString batch{};                 ///< what was made together has one name; empty for what was made alone
 
     [[nodiscard]] QString name() const;
 };
 
-/** How many are kept. */
+/** How many are kept; what was made together counts as one. */
 inline constexpr qsizetype rememberedProjects = 100;
 
-/** Keeps it, with what the tree says was made; the oldest goes. Gives it its file. Blocks; any thread. */
+/** Keeps it, with what the tree says was made; the oldest goes, unless it is of a batch. Gives it its file. Blocks; any
+    thread. */
 platform::Outcome remember(Manifest &manifest, const platform::Tree &tree);
+/** The oldest go: after a batch. Blocks; any thread. */
+void pruneHistory();
 /** The latest first; one that cannot be read is left out. Blocks; any thread. */
 [[nodiscard]] QList<Manifest> recentProjects();
 [[nodiscard]] platform::Result<std::vector<ManifestItem>> itemsOf(const Manifest &manifest);

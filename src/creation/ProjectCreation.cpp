@@ -85,14 +85,14 @@ bool ProjectCreation::build()
     if (!m_place->isHidden())
         m_note.reset();
     const LongWork work(Text::tr("Creating %1").arg(platform::forOneLine(m_result.request.name())), m_monitor,
-                        [this](const std::atomic<bool> &over) {
+                        [this](const std::atomic<bool> &over) { // part of a batch, this is never asked
                             const quint64 bytes = platform::measureTree(m_result.request.templateFiles, over).bytes;
                             m_monitor.bytesTotal = over ? 0 : bytes;
                         });
     copyTemplate();
     finishNames();
     updateDates();
-    if (m_monitor.cancelled)
+    if (m_monitor.cancelled || m_isGivenUp)
         return false;
     if (m_note)
         m_note->reachDisk();
@@ -157,7 +157,7 @@ void ProjectCreation::remember()
     if (!identity)
         return;
     m_result.manifest = {{},        request.destination(), request.templateName, QDateTime::currentDateTime(),
-                         *identity, request.parameters,    m_levelsMade,         m_oldInTrash};
+                         *identity, request.parameters,    m_levelsMade,         m_oldInTrash, m_batch};
     const Outcome kept = platform::resultInBackground([&] { return ::remember(m_result.manifest, m_plan.tree); });
     if (kept.ok())
         return;
@@ -223,6 +223,10 @@ Outcome ProjectCreation::claimOnce()
 /// Asks, and moves the existing project to the Trash. False: it stays, and so nothing may be created.
 bool ProjectCreation::putAwayExisting(const QString &destination)
 {
+    if (!isAlone()) { // it has come since the batch was looked at
+        tell(Text::tr("A project with this name already exists: %1").arg(destination), {});
+        return false;
+    }
     VTLog::appendLog("Project already exists; asking the user what to do...");
     const int answer =
         VTAlert::show({Text::tr("A project with this name already exists. Are you sure you wish to overwrite it?"),
@@ -255,6 +259,10 @@ bool ProjectCreation::putAwayExisting(const QString &destination)
 
 void ProjectCreation::tell(const QString &message, const QString &informativeText)
 {
-    m_result.errors.append(message);
-    VTAlert::show({message, informativeText});
+    if (isAlone()) {
+        m_result.errors.append(message);
+        VTAlert::show({message, informativeText});
+    } else {
+        m_result.errors.append(informativeText.isEmpty() ? message : message + QStringLiteral(". ") + informativeText);
+    }
 }

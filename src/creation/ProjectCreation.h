@@ -50,8 +50,22 @@ struct CreationResult
 class ProjectCreation
 {
 public:
+    /** One of several that were asked for together. */
+    struct Part
+    {
+        QString batch;                             ///< its name
+        platform::CopyMonitor *monitor = nullptr; ///< of all of them
+    };
+
     explicit ProjectCreation(CreationHost &host)
         : m_host(host)
+    {
+    }
+    /** One that asks nothing and says nothing: what would be asked is an error of the result. */
+    ProjectCreation(CreationHost &host, const Part &part)
+        : m_host(host)
+        , m_batch(part.batch)
+        , m_monitor(*part.monitor)
     {
     }
 
@@ -72,7 +86,9 @@ public:
     void updateTimestamps(const QString &folder);
 
 private:
+    [[nodiscard]] bool isAlone() const { return m_batch.isNull(); }
     [[nodiscard]] bool isAllowedByRules();
+    [[nodiscard]] bool wantsMany();
     [[nodiscard]] bool hasFlaws();
     void plan();
     platform::Outcome claimDestination();
@@ -95,7 +111,10 @@ private:
 
     CreationHost &m_host;
     CreationResult m_result;
-    platform::CopyMonitor m_monitor;
+    const QString m_batch; ///< null: it was asked for alone
+    platform::CopyMonitor m_ownMonitor;
+    platform::CopyMonitor &m_monitor = m_ownMonitor;
+    bool m_isGivenUp = false; ///< what is begun is not to be finished
     std::optional<Workplace> m_place;
     QString m_hiddenFolder; ///< where it will be built, if it can be; null without a claim
     std::optional<CreationNote> m_note;

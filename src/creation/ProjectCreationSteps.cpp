@@ -65,15 +65,8 @@ bool ProjectCreation::isAllowedByRules()
     if (!request.rules || request.rules->isEmpty())
         return true;
     platform::performInBackground([this] { plan(); });
-    if (m_plan.isCutOff) {
-        const int answer = VTAlert::show({formatString(Text::tr("%@ would get more than %ld items from repeats"),
-                                                       request.relativePath(), qlonglong{mostRepeatedUnasked}),
-                                          Text::tr("Is that what you want?"),
-                                          Text::tr("Create Them"),
-                                          Text::tr("Cancel"),
-                                          {},
-                                          VTAlert::alternateReturn});
-        m_result.isTooMany = answer != VTAlert::defaultReturn;
+    if (m_plan.isCutOff && m_mostRepeated < mostRepeated) {
+        m_result.isTooMany = !wantsMany();
         if (m_result.isTooMany)
             return false;
         m_mostRepeated = mostRepeated;
@@ -81,6 +74,22 @@ bool ProjectCreation::isAllowedByRules()
     }
     m_result.refused = hasFlaws();
     return !m_result.refused;
+}
+
+bool ProjectCreation::wantsMany()
+{
+    const QString question = formatString(Text::tr("%@ would get more than %ld items from repeats"),
+                                          m_result.request.relativePath(), qlonglong{mostRepeatedUnasked});
+    if (!isAlone()) {
+        tell(question, {});
+        return false;
+    }
+    return VTAlert::show({question,
+                          Text::tr("Is that what you want?"),
+                          Text::tr("Create Them"),
+                          Text::tr("Cancel"),
+                          {},
+                          VTAlert::alternateReturn}) == VTAlert::defaultReturn;
 }
 
 /// Says them.
@@ -103,13 +112,14 @@ void ProjectCreation::copyTemplate()
     if (m_plannedWith != request.parameters) {
         platform::performInBackground([this] { plan(); });
         if (hasFlaws()) // another program has taken the number that was planned with
-            m_monitor.cancelled = true;
+            m_isGivenUp = true;
     }
     PlannedCopy copy;
     platform::performInBackground([&] {
         dropLeftOut(m_plan);
-        m_monitor.itemsTotal = m_plan.tree.itemCount();
-        if (m_monitor.cancelled)
+        if (isAlone())
+            m_monitor.itemsTotal = m_plan.tree.itemCount();
+        if (m_monitor.cancelled || m_isGivenUp)
             return;
         if (VTFileManager::isDirectoryAtPath(m_place->folder()))
             copy = carryOut(m_plan, request.templateFiles, m_place->folder(), m_monitor);
@@ -119,7 +129,7 @@ void ProjectCreation::copyTemplate()
     });
     m_copiedByTool = copy.copiedByTool;
     noteLosses(copy.losses);
-    if (copy.failures.isEmpty() || m_monitor.cancelled)
+    if (copy.failures.isEmpty() || m_monitor.cancelled || m_isGivenUp)
         return;
     for (Outcome &failure : copy.failures) {
         failure = m_place->shown(failure);
