@@ -192,7 +192,7 @@ platform::Result<ProjectRequest> CreateCommand::requestFor(const QString &templa
             Text::tr("The template’s rules cannot be read. Mend them, or remove the file.") + u'\n' +
                 rules.outcome().description());
     request.rules = std::make_shared<const TemplateRules>(*rules);
-    request.parameters = currentParameters();
+    request.parameters = currentParameters(scopeOf(request));
     request.separator = settings::separatorChar.text();
     request.dateFormat = settings::dateFormat.text();
     request.moment = std::time(nullptr);

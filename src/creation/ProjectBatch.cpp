@@ -1,6 +1,7 @@
 #include "creation/ProjectBatch.h"
 
 #include "creation/RequestCheck.h"
+#include "parameters/ValueForms.h"
 #include "parameters/ValueRules.h"
 #include "platform/base/NativePath.h"
 #include "platform/files/FileSystem.h"
@@ -120,6 +121,9 @@ ProjectRequest ProjectBatch::requestOf(qsizetype row) const
         if (isCounter(parameter) && counter < m_rows[row].numbers.size())
             parameter.setValue(m_rows[row].numbers[counter++]);
     }
+    const FilenameParameters &before = baseOf(m_rows[row].templateName).base.parameters;
+    request.parameters =
+        forms::withComputedValues(request.parameters, before, {request.dateFormat, request.moment});
     QList<CellProblem> known;
     takeCells(row, request, known);
     return request;

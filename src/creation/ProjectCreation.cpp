@@ -42,7 +42,7 @@ CreationResult ProjectCreation::createProject(const ProjectRequest &request)
 {
     m_result.request = request;
     m_host.startProcessing();
-    takeNextNumbers(storedParameters());
+    takeNextNumbers(storedParameters(scopeOf(m_result.request)));
     VTLog::appendLog("Creating template %@ at %@...", request.templateName, m_result.request.destination());
 
     const bool isAllowed = isAllowedByRules();
@@ -120,9 +120,10 @@ void ProjectCreation::takeBack()
         m_note->leaveSomethingBehind();
     m_note.reset();
     if (taken.ok()) { // what is left of a project keeps its number
-        const Outcome returned = changeParameters([&](FilenameParameters list) -> platform::Result<FilenameParameters> {
+        const auto giveBack = [&](FilenameParameters list) -> platform::Result<FilenameParameters> {
             return withNumbersReturned(std::move(list), m_result.request);
-        });
+        };
+        const Outcome returned = changeParameters(scopeOf(m_result.request), giveBack);
         static_cast<void>(returned); // the log says what the settings could not take
     }
     for (; taken.ok() && !m_levelsMade.isEmpty(); m_levelsMade.removeLast()) {
@@ -184,7 +185,7 @@ Outcome ProjectCreation::claimDestination()
             return Outcome::failure(Cause::Declined, destination);
         const Outcome made = claimOnce();
         if (made.is(Cause::Busy)) // the numbers are another's by now
-            takeNextNumbers(storedParameters());
+            takeNextNumbers(storedParameters(scopeOf(m_result.request)));
         else if (made.ok())
             return made;
         // Something that stands there and cannot be looked at (a mount that is gone) would be asked about for ever.
@@ -201,7 +202,7 @@ Outcome ProjectCreation::claimOnce()
     const QString destination = m_result.request.destination();
     Outcome made;
     const Outcome stored =
-        changeParameters([&](const FilenameParameters &list) -> platform::Result<FilenameParameters> {
+        changeParameters(scopeOf(m_result.request), [&](const FilenameParameters &list) -> platform::Result<FilenameParameters> {
             if (withNextNumbers(m_result.request, list).parameters != m_result.request.parameters)
                 return made = Outcome::failure(Cause::Busy, destination);
             m_levelsMade = missingLevels(platform::parentPath(destination));

@@ -2,6 +2,7 @@
 
 #include "parameters/ParameterList.h"
 #include "parameters/ProjectNaming.h"
+#include "parameters/ValueForms.h"
 #include "parameters/ValueRules.h"
 #include "platform/base/NativePath.h"
 
@@ -16,6 +17,11 @@ bool isCounter(const FilenameParameter &parameter)
 bool isKept(const FilenameParameter &parameter)
 {
     return rules::asLoaded({parameter}).constFirst() == parameter;
+}
+
+forms::Moment momentOf(const ProjectRequest &request)
+{
+    return {request.dateFormat, request.moment == 0 ? std::time(nullptr) : request.moment};
 }
 
 } // namespace
@@ -46,6 +52,16 @@ PlanInput ProjectRequest::planInput() const
     return {all, rules ? valuesOfProject(parameters, all, dateFormat, moment) : tokens::Values(), rules};
 }
 
+ParameterScope scopeOf(const QString &templateName, const TemplateRules &rules)
+{
+    return {templateName, parametersFromVariant(rules.parameters), rules.fixed, rules.hidden};
+}
+
+ParameterScope scopeOf(const ProjectRequest &request)
+{
+    return request.rules ? scopeOf(request.templateName, *request.rules) : ParameterScope();
+}
+
 tokens::Values valuesOfProject(const FilenameParameters &parameters, const QStringList &levels,
                                const QString &dateFormat, std::time_t moment)
 {
@@ -59,24 +75,29 @@ tokens::Values valuesOfProject(const FilenameParameters &parameters, const QStri
 
 ProjectRequest withTypedValue(ProjectRequest request, qsizetype row, const QString &typed, bool strictNaming)
 {
+    const FilenameParameters before = request.parameters;
     FilenameParameter &parameter = request.parameters[row];
     parameter = rules::withTypedValue(parameter, typed, strictNaming);
     request.typed.insert(row, parameter.value());
+    request.parameters = forms::withComputedValues(request.parameters, before, momentOf(request), row);
     return request;
 }
 
 ProjectRequest withNextNumbers(ProjectRequest request, const FilenameParameters &stored)
 {
+    const FilenameParameters before = request.parameters;
     for (qsizetype row = 0; row < request.parameters.size(); ++row) {
         const auto there = parameterlist::rowOfSame(request.parameters, row, stored);
         if (isCounter(request.parameters[row]) && !request.typed.contains(row) && there && isCounter(stored[*there]))
             request.parameters[row].setValue(stored[*there].value());
     }
+    request.parameters = forms::withComputedValues(request.parameters, before, momentOf(request));
     return request;
 }
 
 FilenameParameters withNumbersTaken(FilenameParameters stored, const ProjectRequest &request)
 {
+    const FilenameParameters before = stored;
     for (qsizetype row = 0; row < request.parameters.size(); ++row) {
         const auto there = parameterlist::rowOfSame(request.parameters, row, stored);
         if (!there)
@@ -90,11 +111,12 @@ FilenameParameters withNumbersTaken(FilenameParameters stored, const ProjectRequ
         if (isCounter(request.parameters[row]) && isCounter(parameter) && parameter.value() == number)
             parameter.setValue(rules::incrementNumber(number));
     }
-    return stored;
+    return forms::withComputedValues(stored, before, momentOf(request));
 }
 
 FilenameParameters withNumbersReturned(FilenameParameters stored, const ProjectRequest &request)
 {
+    const FilenameParameters before = stored;
     for (qsizetype row = 0; row < request.parameters.size(); ++row) {
         const auto there = parameterlist::rowOfSame(request.parameters, row, stored);
         const QString number = request.parameters[row].value();
@@ -102,5 +124,5 @@ FilenameParameters withNumbersReturned(FilenameParameters stored, const ProjectR
             stored[*there].value() == rules::incrementNumber(number))
             stored[*there].setValue(number);
     }
-    return stored;
+    return forms::withComputedValues(stored, before, momentOf(request));
 }

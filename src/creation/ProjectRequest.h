@@ -1,7 +1,7 @@
 #pragma once
 
 #include "creation/CreationPlan.h"
-#include "parameters/FilenameParameter.h"
+#include "parameters/ParameterScope.h"
 
 #include <QMap>
 #include <QString>
@@ -34,6 +34,11 @@ struct ProjectRequest
     [[nodiscard]] QString destination() const;
     [[nodiscard]] PlanInput planInput() const;
 };
+
+/** What the rules make of the common parameters. */
+[[nodiscard]] ParameterScope scopeOf(const QString &templateName, const TemplateRules &rules);
+/** The same of a request: with it numbers are taken and given back. */
+[[nodiscard]] ParameterScope scopeOf(const ProjectRequest &request);
 
 /** What tokens stand for in a project: its name, its levels, its parameters. */
 [[nodiscard]] tokens::Values valuesOfProject(const FilenameParameters &parameters, const QStringList &levels,

@@ -1,6 +1,7 @@
 #include "creation/RequestCheck.h"
 
 #include "parameters/ProjectNaming.h"
+#include "parameters/ValueForms.h"
 #include "parameters/ValueRules.h"
 #include "platform/base/FormatString.h"
 #include "platform/base/NativePath.h"
@@ -48,6 +49,14 @@ std::optional<RequestProblem> problemOf(const ProjectRequest &request, TooLongLe
             Text::tr("Its number has too many digits: counters end at 2147483646. A date in front of a number is "
                      "better a parameter of its own."),
             *counter};
+    for (qsizetype row = 0; row < request.parameters.size(); ++row) {
+        const FilenameParameter &parameter = request.parameters[row];
+        QString why = forms::problemOf(parameter);
+        if (why.isNull())
+            why = forms::problemOfComputed(request.parameters, row, {request.dateFormat, request.moment});
+        if (!why.isNull())
+            return RequestProblem{formatString(Text::tr("'%@' has to be changed"), parameter.title()), why, row};
+    }
     return problemOfNames(request, tooLong);
 }
 
@@ -69,7 +78,7 @@ platform::Result<ProjectRequest> withNamedValue(const ProjectRequest &request, c
     else if (request.parameters[row].isLocked())
         problem = Text::tr("The parameter “%1” is locked.").arg(title);
     else if (request.parameters[row].kind() == FilenameParameter::Kind::Choice &&
-             !request.parameters[row].choices().contains(value))
+             !request.parameters[row].takesSeveral() && !request.parameters[row].choices().contains(value))
         problem = Text::tr("“%1” is not among the choices of “%2”. %3")
                       .arg(value, title, listed(request.parameters[row].choices()));
     if (!problem.isNull())

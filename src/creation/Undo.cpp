@@ -174,8 +174,13 @@ bool returnNumbers(const Manifest &manifest)
     ProjectRequest request;
     request.parameters = manifest.parameters;
     bool isReturned = false;
+    ParameterScope scope{manifest.templateName}; // as far as it concerns numbers: those of the template's own
+    for (const FilenameParameter &parameter : manifest.parameters) {
+        if (parameter.isOwnOfTemplate())
+            scope.own.append(parameter);
+    }
     const Outcome changed =
-        changeParameters([&](const FilenameParameters &list) -> platform::Result<FilenameParameters> {
+        changeParameters(scope, [&](const FilenameParameters &list) -> platform::Result<FilenameParameters> {
             FilenameParameters returned = withNumbersReturned(list, request);
             isReturned = returned != list;
             return returned;

@@ -58,6 +58,17 @@ bool FilenameParameter::isLocked() const
     return integerOf(m_record.value(QLatin1String(recordkey::locked))) == 1;
 }
 
+QString FilenameParameter::computed() const
+{
+    const bool isFree = kind() == Kind::Text || kind() == Kind::OtherText;
+    return isFree ? text(recordkey::computed) : QString();
+}
+
+qsizetype FilenameParameter::maxLength() const
+{
+    return static_cast<qsizetype>(qBound(0LL, integerOf(m_record.value(QLatin1String(recordkey::maxLength))), 255LL));
+}
+
 QStringList FilenameParameter::history() const
 {
     QStringList history;

@@ -15,6 +15,17 @@ inline constexpr const char *savesHistory = "saveHistory";
 inline constexpr const char *history = "history";
 inline constexpr const char *required = "disallowEmpty";
 inline constexpr const char *locked = "locked";
+// Of what a value must be; earlier versions leave them alone.
+inline constexpr const char *form = "form";                     ///< "number", "date" or "folder"
+inline constexpr const char *pattern = "pattern";               ///< a regular expression for the whole value
+inline constexpr const char *patternMessage = "patternMessage"; ///< what is said where it does not fit
+inline constexpr const char *computed = "computed";             ///< the value's default, with tokens of others in it
+inline constexpr const char *letterCase = "letterCase";         ///< "upper", "lower" or "title"
+inline constexpr const char *maxLength = "maxLength";           ///< in characters
+inline constexpr const char *several = "several";               ///< several of the choices
+// Of a list as one template has it; never stored.
+inline constexpr const char *ownOfTemplate = "ownOfTemplate";
+inline constexpr const char *fixedByTemplate = "fixedByTemplate";
 } // namespace recordkey
 
 /**
@@ -53,6 +64,17 @@ public:
     [[nodiscard]] bool isRequired() const { return flag(recordkey::required); }
     [[nodiscard]] bool isLocked() const;
     [[nodiscard]] QStringList history() const;
+    [[nodiscard]] QString form() const { return text(recordkey::form); }
+    [[nodiscard]] QString pattern() const { return text(recordkey::pattern); }
+    [[nodiscard]] QString patternMessage() const { return text(recordkey::patternMessage); }
+    /** Never in effect where the program fills in the value by itself, or choices are there. */
+    [[nodiscard]] QString computed() const;
+    [[nodiscard]] QString letterCase() const { return text(recordkey::letterCase); }
+    /** 0: any. */
+    [[nodiscard]] qsizetype maxLength() const;
+    [[nodiscard]] bool takesSeveral() const { return kind() == Kind::Choice && flag(recordkey::several); }
+    [[nodiscard]] bool isFixedByTemplate() const { return flag(recordkey::fixedByTemplate); }
+    [[nodiscard]] bool isOwnOfTemplate() const { return flag(recordkey::ownOfTemplate); }
     /** Date and user name are filled in by the program at every refresh. */
     [[nodiscard]] bool isAutomatic() const { return kind() == Kind::Date || kind() == Kind::UserName; }
     /** Counters and choice lists keep their last value across launches; so does what has a history. */

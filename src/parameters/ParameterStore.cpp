@@ -12,9 +12,23 @@ FilenameParameters storedParameters()
     return parametersFromVariant(settings::filenameTemplate.value());
 }
 
-FilenameParameters currentParameters()
+FilenameParameters storedParameters(const ParameterScope &scope)
 {
-    return withDynamicValues(rules::asLoaded(storedParameters()));
+    if (scope.isEmpty())
+        return storedParameters();
+    return effectiveParameters(storedParameters(), scope,
+                               settings::ownParameterValues.value().toMap().value(scope.templateName).toMap());
+}
+
+FilenameParameters currentParameters(const ParameterScope &scope)
+{
+    const FilenameParameters list = withDynamicValues(rules::asLoaded(storedParameters(scope)));
+    return forms::withComputedValues(list, list, computingMoment());
+}
+
+forms::Moment computingMoment()
+{
+    return {settings::dateFormat.text(), std::time(nullptr)};
 }
 
 rules::AutomaticValues automaticValues()
@@ -35,6 +49,39 @@ Outcome changeParameters(const ListChange &change)
             return list.outcome();
         return QVariant(variantFromParameters(*list));
     });
+}
+
+Outcome changeParameters(const ParameterScope &scope, const ListChange &change)
+{
+    if (scope.isEmpty())
+        return changeParameters(change);
+    return settings::standard().changeValues(
+        {settings::filenameTemplate, settings::ownParameterValues},
+        [&](const QVariantList &stored) -> platform::Result<QVariantList> {
+            const FilenameParameters common = parametersFromVariant(stored[0]);
+            QVariantMap all = stored[1].toMap();
+            const auto list =
+                change(effectiveParameters(common, scope, all.value(scope.templateName).toMap()));
+            if (!list)
+                return list.outcome();
+            const KeptParameters kept = keptParameters(*list, common, scope);
+            if (!scope.own.isEmpty())
+                all.insert(scope.templateName, kept.ownValues);
+            return QVariantList{variantFromParameters(kept.common), all.isEmpty() ? stored[1] : QVariant(all)};
+        });
+}
+
+void renameOwnValues(const QString &oldTemplate, const QString &newTemplate)
+{
+    const Outcome changed =
+        settings::ownParameterValues.change([&](const QVariant &stored) -> platform::Result<QVariant> {
+            QVariantMap all = stored.toMap();
+            if (!all.contains(oldTemplate))
+                return stored;
+            all.insert(newTemplate, all.take(oldTemplate));
+            return QVariant(all);
+        });
+    static_cast<void>(changed); // the log says what the settings could not take: the defaults are there then
 }
 
 Outcome restoreShippedParameters()

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "parameters/FilenameParameter.h"
+#include "parameters/ParameterScope.h"
+#include "parameters/ValueForms.h"
 #include "parameters/ValueRules.h"
 #include "platform/base/Outcome.h"
 
@@ -12,8 +13,12 @@
  */
 
 [[nodiscard]] FilenameParameters storedParameters();
+/** As a template has it. */
+[[nodiscard]] FilenameParameters storedParameters(const ParameterScope &scope);
 /** As the list is when the program starts: defaults in place of values that nobody keeps, today's date, the user. */
-[[nodiscard]] FilenameParameters currentParameters();
+[[nodiscard]] FilenameParameters currentParameters(const ParameterScope &scope = {});
+/** What values are computed with: today, and the format of the settings. */
+[[nodiscard]] forms::Moment computingMoment();
 /** Today's date in the format of the settings, and the user's name. */
 [[nodiscard]] rules::AutomaticValues automaticValues();
 /** The list with these. */
@@ -25,6 +30,10 @@ using ListChange = std::function<platform::Result<FilenameParameters>(FilenamePa
  * the lock of the settings: of several programs at once each builds on what the others made.
  */
 platform::Outcome changeParameters(const ListChange &change);
+/** The same with the list as a template has it, of which only values and histories may change. */
+platform::Outcome changeParameters(const ParameterScope &scope, const ListChange &change);
+/** A template's own values under its new name. */
+void renameOwnValues(const QString &oldTemplate, const QString &newTemplate);
 /** The shipped list applies again. */
 platform::Outcome restoreShippedParameters();
 /** What stands in place of the list and is none, or records in it that are none, is put away under another key and said

@@ -1,5 +1,6 @@
 #include "parameters/ProjectNaming.h"
 
+#include "parameters/ValueForms.h"
 #include "parameters/ValueRules.h"
 #include "platform/base/NativePath.h"
 #include "support/VTFileManager.h"
@@ -22,7 +23,7 @@ Composed composed(const FilenameParameters &parameters, const QString &separator
     QString current;
     bool breakPending = false;
     for (const FilenameParameter &parameter : parameters) {
-        const QString value = parameter.value();
+        const QString value = forms::nameValue(parameter);
         if (value.isEmpty()) {
             breakPending = breakPending || parameter.beginsFolder();
             result.levelOf.append(-1);
@@ -95,6 +96,8 @@ QList<Problem> problems(const FilenameParameters &parameters, const QString &sep
             found[i] = Problem::Blank;
         else if (rules::isAtItsEnd(parameters[i]))
             found[i] = Problem::CountsNoFurther;
+        else if (!forms::problemOf(parameters[i]).isNull())
+            found[i] = Problem::Form;
         if (level >= 0 &&
             (longest[level] < 0 || parameters[i].value().size() > parameters[longest[level]].value().size()))
             longest[level] = i;

@@ -30,6 +30,7 @@ enum class Problem {
     None,
     Blank,           ///< a required one
     CountsNoFurther, ///< a counter whose next number would be negative
+    Form,            ///< it is not what the parameter wants: forms::problemOf() says what
     TooLong,         ///< the longest of a level whose folder cannot be made
     NoName,          ///< of a level that no folder can be named
 };

@@ -1,5 +1,6 @@
 #include "parameters/ValueRules.h"
 
+#include "parameters/ValueForms.h"
 #include "platform/base/LocalTime.h"
 
 namespace rules {
@@ -53,7 +54,9 @@ QStringList historyWith(QStringList history, const QString &value)
 
 FilenameParameter withTypedValue(FilenameParameter parameter, const QString &typed, bool strictNaming, bool *keptTyped)
 {
-    const QString value = strictNaming ? strictlyNamed(typed, keptTyped) : typed;
+    const bool isPath = parameter.form() == forms::folder; // its blanks and slashes are its own
+    const QString shaped = forms::inLetterCase(parameter, typed);
+    const QString value = strictNaming && !isPath ? strictlyNamed(shaped, keptTyped) : shaped;
     parameter.setValue(value);
     if (parameter.savesHistory() && !value.isEmpty())
         parameter.setHistory(historyWith(parameter.history(), value));
@@ -170,6 +173,8 @@ FilenameParameters asLoaded(FilenameParameters parameters)
     for (FilenameParameter &parameter : parameters) {
         if (!parameter.savesHistory() && !parameter.keepsValue() && parameter.hasDefaultValue())
             parameter.setValue(parameter.defaultValue());
+        else if (!parameter.savesHistory() && !parameter.computed().isEmpty())
+            parameter.setValue(QString()); // computed anew
     }
     return parameters;
 }

@@ -167,6 +167,7 @@ const SwitchSetting requireAdminPasswordForPrefs{{"requireAdminPasswordForPrefs"
 const Setting filenameTemplate{"filenameTemplate", Type::Value, nullptr, shippedParameters};
 const TextSetting selectedProjectTemplate{{"selectedProjectTemplate", Type::Text, nullptr, editingTemplate}};
 const SwitchSetting firstRun{{"firstRun", Type::Boolean, nullptr, yes}};
+const Setting ownParameterValues{"ownParameterValues", Type::Value};
 const Setting recentLocations{"recentLocations", Type::Value};
 const Setting pinnedLocations{"pinnedLocations", Type::Value};
 const Setting mainWindowPlace{"mainWindowPlace", Type::Value};

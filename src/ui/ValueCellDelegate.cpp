@@ -3,6 +3,7 @@
 #include "platform/base/NativePath.h"
 #include "ui/EditorFocus.h"
 #include "ui/Icons.h"
+#include "ui/PickEditor.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
@@ -36,6 +37,20 @@ CellEditor editorOf(const QModelIndex &index)
 {
     const QVariant editor = index.data(CellRole::Editor);
     return editor.isValid() ? editor.value<CellEditor>() : CellEditor::Text;
+}
+
+std::optional<PickEditor::From> pickedFrom(CellEditor kind)
+{
+    switch (kind) {
+    case CellEditor::Date:
+        return PickEditor::From::Calendar;
+    case CellEditor::Folder:
+        return PickEditor::From::Folders;
+    case CellEditor::Several:
+        return PickEditor::From::Several;
+    default:
+        return std::nullopt;
+    }
 }
 
 QColor faint(QColor colour, float opacity)
@@ -234,6 +249,10 @@ QWidget *ValueCellDelegate::createEditor(QWidget *parent, const QStyleOptionView
         lines->setTabChangesFocus(true);
         lines->setLineWrapMode(QPlainTextEdit::NoWrap);
         editor = lines;
+    } else if (const auto picks = pickedFrom(kind)) {
+        auto *line = new PickEditor(*picks, index.data(CellRole::Items).toStringList(), parent);
+        line->setFrame(false);
+        editor = line;
     } else if (kind == CellEditor::Text) {
         auto *line = new QLineEdit(parent);
         line->setFrame(false);

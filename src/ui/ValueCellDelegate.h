@@ -7,6 +7,9 @@ enum class CellEditor {
     Text,
     History,
     Choices,
+    Date,    ///< picked from a calendar
+    Folder,  ///< chosen with a panel
+    Several, ///< some of the items, with commas between them
     Lines, ///< several values with commas between them, each on a line of its own while they are edited
 };
 Q_DECLARE_METATYPE(CellEditor)

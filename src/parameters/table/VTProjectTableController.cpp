@@ -146,8 +146,8 @@ void VTProjectTableController::revertToDefaultValue()
 void VTProjectTableController::clearHistory()
 {
     VTLog::appendLog("Clearing history");
-    m_beforeClearing = storedParameters();
-    change(rules::withHistoryCleared);
+    m_beforeClearing = storedParameters(m_scope);
+    changeList(rules::withHistoryCleared);
     VTLog::appendLog("History successfully cleared");
 }
 
@@ -155,7 +155,7 @@ void VTProjectTableController::restoreHistory()
 {
     VTLog::appendLog("Bringing back the history");
     const FilenameParameters before = std::exchange(m_beforeClearing, {});
-    change([&](FilenameParameters list) { return rules::withHistoryOf(std::move(list), before); });
+    changeList([&](FilenameParameters list) { return rules::withHistoryOf(std::move(list), before); });
     updateFilenamePreview();
 }
 
@@ -168,7 +168,7 @@ void VTProjectTableController::updateDynamicValues()
 {
     VTLog::appendLog("Updating dynamic values");
     m_automatic = automaticValues();
-    change([this](FilenameParameters list) { return rules::withDynamicValues(std::move(list), m_automatic); });
+    changeList([this](FilenameParameters list) { return rules::withDynamicValues(std::move(list), m_automatic); });
     updateFilenamePreview();
 }
 
@@ -183,7 +183,7 @@ void VTProjectTableController::bringUpToDate()
     if (refreshed(m_dataArray) == m_dataArray)
         return;
     VTLog::appendLog("Updating dynamic values");
-    change(refreshed);
+    changeList(refreshed);
     updateFilenamePreview();
 }
 
@@ -191,23 +191,43 @@ void VTProjectTableController::loadFilenameData()
 {
     VTLog::appendLog("Loading filename parameter data");
     keepDamagedParameters();
-    VTLog::appendLog("Params: %@", described(storedParameters()));
-    change(rules::asLoaded);
+    VTLog::appendLog("Params: %@", described(storedParameters(m_scope)));
+    changeList(rules::asLoaded);
     updateFilenamePreview();
     VTLog::appendLog("Filename parameter data loaded successfully");
 }
 
 void VTProjectTableController::follow()
 {
-    show(storedParameters());
+    show(storedParameters(m_scope));
     updateFilenamePreview();
 }
 
-void VTProjectTableController::change(const std::function<FilenameParameters(FilenameParameters)> &change)
+void VTProjectTableController::setScope(const ParameterScope &scope)
+{
+    if (scope == m_scope)
+        return;
+    finishEditing();
+    m_scope = scope;
+    VTLog::appendLog("Showing the parameters of %@", scope.templateName);
+    m_automatic = automaticValues();
+    changeList([this](FilenameParameters list) { return rules::withDynamicValues(std::move(list), m_automatic); });
+    updateFilenamePreview();
+}
+
+/// Other values may be computed from those that change.
+void VTProjectTableController::changeList(const std::function<FilenameParameters(FilenameParameters)> &change,
+                                          std::optional<QString> typedTitle)
 {
     FilenameParameters changed;
-    const platform::Outcome stored = changeParameters([&](FilenameParameters list) {
-        changed = change(std::move(list));
+    const platform::Outcome stored = changeParameters(m_scope, [&](const FilenameParameters &list) {
+        changed = change(list);
+        std::optional<qsizetype> typedRow;
+        for (qsizetype row = 0; typedTitle && row < changed.size(); ++row) {
+            if (changed[row].title() == *typedTitle)
+                typedRow = row;
+        }
+        changed = forms::withComputedValues(changed, list, computingMoment(), typedRow);
         return platform::Result<FilenameParameters>(changed);
     });
     static_cast<void>(stored); // the log says what the settings could not take
@@ -217,11 +237,12 @@ void VTProjectTableController::change(const std::function<FilenameParameters(Fil
 /// A parameter that another program has taken out of the list is changed no more.
 void VTProjectTableController::changeRow(int row, const std::function<FilenameParameter(FilenameParameter)> &change)
 {
-    this->change([&](FilenameParameters list) {
+    const auto changed = [&](FilenameParameters list) {
         if (const auto there = parameterlist::rowOfSame(m_dataArray, row, list))
             list[*there] = change(list[*there]);
         return list;
-    });
+    };
+    changeList(changed, m_dataArray[row].title());
 }
 
 bool VTProjectTableController::isEdited(int row) const

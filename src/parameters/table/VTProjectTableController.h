@@ -1,5 +1,6 @@
 #pragma once
 
+#include "parameters/ParameterScope.h"
 #include "parameters/ProjectNaming.h"
 #include "parameters/ValueRules.h"
 #include "support/ExistsQuestion.h"
@@ -39,6 +40,10 @@ public:
     void setViews(const Views &views);
     /** Loads the list and starts to listen to the notifications. Once. */
     void awakeFromNib();
+
+    /** The parameters as a template has them; what was typed stays where both have it. */
+    void setScope(const ParameterScope &scope);
+    [[nodiscard]] const ParameterScope &scope() const { return m_scope; }
 
     [[nodiscard]] const FilenameParameters &dataArray() const { return m_dataArray; }
 
@@ -88,8 +93,9 @@ Q_SIGNALS:
     void emptinessChanged(bool empty);
 
 private:
-    void change(const std::function<FilenameParameters(FilenameParameters)> &change);
     void changeRow(int row, const std::function<FilenameParameter(FilenameParameter)> &change);
+    void changeList(const std::function<FilenameParameters(FilenameParameters)> &change,
+                    std::optional<QString> typedTitle = {});
     void show(FilenameParameters parameters);
     [[nodiscard]] bool isEdited(int row) const;
     [[nodiscard]] bool replaceRows(const FilenameParameters &parameters);
@@ -98,12 +104,14 @@ private:
     [[nodiscard]] QVariant valueData(qsizetype row, int role) const;
     [[nodiscard]] QVariant sayingsOf(qsizetype row, int role) const;
     [[nodiscard]] FilenameParameters withTyped() const;
+    [[nodiscard]] FilenameParameter shown(qsizetype row) const;
     void showTyped(const QModelIndex &index, const QString &text);
     void forgetTyped();
     void forgetRemembered(const QModelIndex &index, const QString &value);
     void showProblems(const FilenameParameters &parameters, const QString &separator);
     void showWarning(bool exists);
 
+    ParameterScope m_scope;
     FilenameParameters m_dataArray;
     QList<naming::Problem> m_problems;  ///< of each row, with what is being typed
     rules::AutomaticValues m_automatic; ///< as they were filled in

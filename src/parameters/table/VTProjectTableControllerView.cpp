@@ -1,6 +1,7 @@
 // What the table and the line below it show of the values, the one being typed included.
 #include "parameters/table/VTProjectTableController.h"
 
+#include "parameters/ParameterStore.h"
 #include "platform/base/NativePath.h"
 #include "support/RecentPlaces.h"
 #include "support/Settings.h"
@@ -32,7 +33,11 @@ const char *iconOf(FilenameParameter::Kind kind)
 CellEditor editorOf(const FilenameParameter &parameter)
 {
     if (parameter.kind() == FilenameParameter::Kind::Choice)
-        return CellEditor::Choices;
+        return parameter.takesSeveral() ? CellEditor::Several : CellEditor::Choices;
+    if (parameter.form() == forms::date)
+        return CellEditor::Date;
+    if (parameter.form() == forms::folder)
+        return CellEditor::Folder;
     return parameter.savesHistory() ? CellEditor::History : CellEditor::Text;
 }
 
@@ -83,7 +88,8 @@ QVariant VTProjectTableController::valueData(qsizetype row, int role) const
     case CellRole::Items:
         return parameter.kind() == FilenameParameter::Kind::Choice ? parameter.choices() : parameter.history();
     case CellRole::Secondary:
-        return parameter.isAutomatic() && !rules::isTypedOver(parameter, m_automatic);
+        return (parameter.isAutomatic() && !rules::isTypedOver(parameter, m_automatic)) ||
+               forms::isComputed(m_dataArray, row, computingMoment());
     case CellRole::AccessibleName:
         return parameter.title();
     default:
@@ -108,6 +114,8 @@ QVariant VTProjectTableController::sayingsOf(qsizetype row, int role) const
         return isSentence
                    ? tr("Counters end at 2147483646. A date in front of a number is better a parameter of its own.")
                    : tr("counts no further");
+    case naming::Problem::Form:
+        return isSentence ? forms::problemOf(shown(row)) : tr("does not fit");
     case naming::Problem::TooLong:
         return isSentence ? tr("The name of a folder can have 255 bytes, and this one gets more.") : tr("too long");
     case naming::Problem::NoName:
@@ -115,6 +123,10 @@ QVariant VTProjectTableController::sayingsOf(qsizetype row, int role) const
     case naming::Problem::None:
         break;
     }
+    if (parameter.isFixedByTemplate())
+        return isSentence ? tr("The template says this value.") : tr("by the template");
+    if (const QString why = forms::problemOfComputed(m_dataArray, row, computingMoment()); !why.isNull())
+        return isSentence ? why : tr("not computed");
     if (!rules::isTypedOver(parameter, m_automatic))
         return {};
     return isSentence
@@ -134,10 +146,17 @@ QVariant VTProjectTableController::headerData(int section, Qt::Orientation orien
 FilenameParameters VTProjectTableController::withTyped() const
 {
     FilenameParameters parameters = m_dataArray;
-    if (m_typedCell.isValid())
-        parameters[m_typedCell.row()] =
-            rules::withTypedValue(parameters[m_typedCell.row()], m_typed, settings::strictNaming.isOn());
-    return parameters;
+    if (!m_typedCell.isValid())
+        return parameters;
+    const qsizetype row = m_typedCell.row();
+    parameters[row] = rules::withTypedValue(parameters[row], m_typed, settings::strictNaming.isOn());
+    return forms::withComputedValues(parameters, m_dataArray, computingMoment(), row);
+}
+
+/// As it is being typed.
+FilenameParameter VTProjectTableController::shown(qsizetype row) const
+{
+    return m_typedCell.isValid() && m_typedCell.row() == row ? withTyped()[row] : m_dataArray[row];
 }
 
 void VTProjectTableController::showTyped(const QModelIndex &index, const QString &text)

@@ -177,7 +177,7 @@ bool UserDefaults::holds(const Domain &domain, const QString &key, const QVarian
 }
 
 /// Of the machine's file the caller tells, who knows what it does instead; of a refused change, too.
-Outcome UserDefaults::store(Domain &domain, const QString &key, const Change &change)
+Outcome UserDefaults::store(Domain &domain, const QStringList &keys, const ManyChange &change)
 {
     const Outcome folderMade = makeFolders(parentPath(domain.file));
     Outcome lockFailure;
@@ -192,16 +192,24 @@ Outcome UserDefaults::store(Domain &domain, const QString &key, const Change &ch
         m_onProblem(QStringLiteral("Settings %1 are locked by another program; writing all the same").arg(domain.file));
     domain.stamp = "?"; // re-read whatever the stamp says: two writes may fall into one tick of the file system's clock
     refresh(domain);
-    const Result<QVariant> value = change(lookUp(key));
-    if (!value)
-        return value.outcome();
-    if (holds(domain, key, *value))
+    QVariantList current;
+    for (const QString &key : keys)
+        current.append(lookUp(key));
+    const Result<QVariantList> wanted = change(current);
+    if (!wanted)
+        return wanted.outcome();
+    bool holdsAll = true;
+    for (qsizetype i = 0; i < keys.size(); ++i)
+        holdsAll = holdsAll && holds(domain, keys[i], wanted->value(i));
+    if (holdsAll)
         return {};
     const QByteArray before = writePropertyList(domain.values);
-    if (value->isValid())
-        domain.values.insert(key, *value);
-    else
-        domain.values.remove(key);
+    for (qsizetype i = 0; i < keys.size(); ++i) {
+        if (wanted->value(i).isValid())
+            domain.values.insert(keys[i], wanted->value(i));
+        else
+            domain.values.remove(keys[i]);
+    }
     // Numbers of another type are the same in the file; writing costs some milliseconds until the disk has it.
     if (domain.problem.ok() && !before.isEmpty() && writePropertyList(domain.values) == before)
         return {};
@@ -214,19 +222,32 @@ Outcome UserDefaults::store(Domain &domain, const QString &key, const Change &ch
     return written;
 }
 
+Outcome UserDefaults::store(Domain &domain, const QString &key, const QVariant &value)
+{
+    return store(domain, QStringList{key}, [&](const QVariantList &) { return QVariantList{value}; });
+}
+
 Outcome UserDefaults::setValue(const QString &key, const QVariant &value)
 {
     const std::scoped_lock lock(m_mutex);
     refresh(m_user);
     if (holds(m_user, key, value))
         return {};
-    return store(m_user, key, [&](const QVariant &) { return value; });
+    return store(m_user, key, value);
 }
 
 Outcome UserDefaults::changeValue(const QString &key, const Change &change)
 {
+    return changeValues({key}, [&](const QVariantList &current) -> Result<QVariantList> {
+        const Result<QVariant> value = change(current.constFirst());
+        return value ? Result<QVariantList>(QVariantList{*value}) : value.outcome();
+    });
+}
+
+Outcome UserDefaults::changeValues(const QStringList &keys, const ManyChange &change)
+{
     const std::scoped_lock lock(m_mutex);
-    return store(m_user, key, change);
+    return store(m_user, keys, change);
 }
 
 Outcome UserDefaults::removeValue(const QString &key)
@@ -240,7 +261,7 @@ Outcome UserDefaults::setMachineWideValue(const QString &key, const QVariant &va
     refresh(m_machine);
     const QVariantMap before = m_machine.values;
     const Outcome stored =
-        holds(m_machine, key, value) ? Outcome() : store(m_machine, key, [&](const QVariant &) { return value; });
+        holds(m_machine, key, value) ? Outcome() : store(m_machine, key, value);
     if (stored.ok()) // a value of the user's own would come back with the machine's gone
         return m_machineDecides.contains(key) ? removeValue(key) : stored;
     m_machine.values = before;

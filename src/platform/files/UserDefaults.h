@@ -56,6 +56,9 @@ public:
      * that do so at once each builds on the other's. It may read settings, not write them. Its failure comes back.
      */
     Outcome changeValue(const QString &key, const Change &change);
+    /** The same for several values that change together: both or none. */
+    using ManyChange = std::function<Result<QVariantList>(const QVariantList &current)>;
+    Outcome changeValues(const QStringList &keys, const ManyChange &change);
     /** What the machine-wide domain or the registered defaults hold shows again. */
     Outcome removeValue(const QString &key);
     /** Into the machine-wide domain, and away from the user's; into the user's when this process may not write that
@@ -73,7 +76,8 @@ private:
     };
     void refresh(Domain &domain) const;
     [[nodiscard]] static bool holds(const Domain &domain, const QString &key, const QVariant &value);
-    Outcome store(Domain &domain, const QString &key, const Change &change);
+    Outcome store(Domain &domain, const QStringList &keys, const ManyChange &change);
+    Outcome store(Domain &domain, const QString &key, const QVariant &value);
     [[nodiscard]] QVariant lookUp(const QString &key) const;
 
     mutable std::recursive_mutex m_mutex;
