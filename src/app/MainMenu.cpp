@@ -50,7 +50,7 @@ const QList<Menu> &menus()
           {QT_TRANSLATE_NOOP("MainMenu", "Show Template &Library"), "", &Delegate::showTemplateLibrary, true}}},
         {QT_TRANSLATE_NOOP("MainMenu", "&Template"),
          {{QT_TRANSLATE_NOOP("MainMenu", "&New Template"), "Ctrl+N", &Delegate::newTemplate, true},
-          {QT_TRANSLATE_NOOP("MainMenu", "&Import Template…"), "Ctrl+I", &Delegate::importTemplate, true},
+          {QT_TRANSLATE_NOOP("MainMenu", "&Import Template…"), "Ctrl+Shift+I", &Delegate::importTemplate, true},
           {QT_TRANSLATE_NOOP("MainMenu", "&Export Template…"), "Ctrl+E", &Delegate::exportTemplate, true},
           {nullptr, nullptr, nullptr, false},
           {QT_TRANSLATE_NOOP("MainMenu", "&Restore Default Templates…"), "", &Delegate::restoreDefaultTemplates,

@@ -110,6 +110,7 @@ void MainWindow::connectPanes()
     connect(m_ui->projectTemplatePopUp, &QComboBox::currentIndexChanged, this, [this] {
         const QString name = selectedTemplate();
         m_ui->resultPane->setTemplate(name.isEmpty() ? QString() : VTDataController::filesFolder(name));
+        m_delegate.followRules();
     });
     connect(m_ui->emptyParameters, &EmptyState::activated, &m_delegate, &TessaroAppDelegate::editParameters);
     connect(m_ui->installTemplates, &QPushButton::clicked, &m_delegate, &TessaroAppDelegate::installStandardTemplates);

@@ -237,6 +237,7 @@ void TessaroAppDelegate::toolbarNewProjectAction()
     if (m_templatesShown)
         m_window->templatePane().finishEditing();
     m_window->showPane(MainWindow::Pane::Project);
+    followRules();
     showUndo();
 }
 

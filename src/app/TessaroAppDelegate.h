@@ -9,6 +9,7 @@
 #include <QHash>
 #include <QObject>
 #include <QPointer>
+#include <QSet>
 #include <memory>
 #include <optional>
 
@@ -102,6 +103,8 @@ public Q_SLOTS:
     void pinPlace(const QString &folder, bool pinned);
     void installStandardTemplates();
     void showTemplateLibrary();
+    /** The table gets the parameters of the chosen template. */
+    void followRules();
     /** Beside the parameters what will be made, or no longer; remembered. */
     void showResult();
     void showProject(const QString &project);
@@ -160,6 +163,7 @@ private:
     bool m_closesLater = false;
     bool m_awaitsLibrary = false;
     QString m_crashReport;  ///< of the last run; null when it ended well
+    QSet<QString> m_rulesBeingRead; ///< of these templates
     int m_imports = 0;      ///< bundles that are being taken in
     QString m_seenTemplate; ///< "selectedProjectTemplate" and "defaultTemplate" when they were last looked at
     QString m_seenDefault;

@@ -7,7 +7,6 @@
 #include "platform/base/MainThread.h"
 #include "platform/base/NativePath.h"
 #include "platform/desktop/Desktop.h"
-#include "support/FileOperations.h"
 #include "support/RecentPlaces.h"
 #include "support/Settings.h"
 #include "support/VTAlert.h"
@@ -36,7 +35,7 @@ void TessaroAppDelegate::createNewProject()
         return VTLog::appendLog("A project was created a moment ago; another one needs a change, or a moment's pause");
     VTLog::appendLog("Creating new project");
     ProjectRequest request = shownRequest();
-    if (!isComplete(request) || !takeRules(request))
+    if (!takeRules(request) || !isComplete(request))
         return;
     VTLog::appendLog("Validated folder name: %@", request.relativePath());
 
@@ -70,20 +69,6 @@ ProjectRequest TessaroAppDelegate::shownRequest() const
     request.dateFormat = settings::dateFormat.text();
     request.moment = std::time(nullptr);
     return request;
-}
-
-/// Those of the template as they are now. What cannot be read is not taken for none.
-bool TessaroAppDelegate::takeRules(ProjectRequest &request)
-{
-    const auto rules = platform::resultInBackground(
-        [&] { return std::optional(readRules(VTDataController::bundlePath(request.templateName))); });
-    if (*rules) {
-        request.rules = std::make_shared<const TemplateRules>(**rules);
-        return true;
-    }
-    VTAlert::show({tr("The template’s rules cannot be read"),
-                   withCause(tr("Nothing was created. The template pane shows what can be done."), rules->outcome())});
-    return false;
 }
 
 bool TessaroAppDelegate::isComplete(const ProjectRequest &request)

@@ -83,6 +83,7 @@ public:
     void setEntry(const QString &key, const QVariant &value) { m_record.insert(key, value); }
     void setValue(const QString &value) { setEntry(QLatin1String(recordkey::value), value); }
     void setHistory(const QStringList &history);
+    void removeEntry(const QString &key) { m_record.remove(key); }
     void removeHistory() { m_record.remove(QLatin1String(recordkey::history)); }
 
     bool operator==(const FilenameParameter &) const = default;

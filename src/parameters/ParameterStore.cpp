@@ -71,19 +71,6 @@ Outcome changeParameters(const ParameterScope &scope, const ListChange &change)
         });
 }
 
-void renameOwnValues(const QString &oldTemplate, const QString &newTemplate)
-{
-    const Outcome changed =
-        settings::ownParameterValues.change([&](const QVariant &stored) -> platform::Result<QVariant> {
-            QVariantMap all = stored.toMap();
-            if (!all.contains(oldTemplate))
-                return stored;
-            all.insert(newTemplate, all.take(oldTemplate));
-            return QVariant(all);
-        });
-    static_cast<void>(changed); // the log says what the settings could not take: the defaults are there then
-}
-
 Outcome restoreShippedParameters()
 {
     return settings::filenameTemplate.reset();

@@ -32,8 +32,6 @@ using ListChange = std::function<platform::Result<FilenameParameters>(FilenamePa
 platform::Outcome changeParameters(const ListChange &change);
 /** The same with the list as a template has it, of which only values and histories may change. */
 platform::Outcome changeParameters(const ParameterScope &scope, const ListChange &change);
-/** A template's own values under its new name. */
-void renameOwnValues(const QString &oldTemplate, const QString &newTemplate);
 /** The shipped list applies again. */
 platform::Outcome restoreShippedParameters();
 /** What stands in place of the list and is none, or records in it that are none, is put away under another key and said

@@ -172,6 +172,7 @@ const Setting recentLocations{"recentLocations", Type::Value};
 const Setting pinnedLocations{"pinnedLocations", Type::Value};
 const Setting mainWindowPlace{"mainWindowPlace", Type::Value};
 const Setting preferencesPlace{"preferencesPlace", Type::Value};
+const SwitchSetting showRules{{"showRules", Type::Boolean}};
 const SwitchSetting showResult{{"showResult", Type::Boolean}};
 const NumberSetting templateListWidth{{"templateListWidth", Type::Number}};
 const Setting webAddresses{"webAddresses", Type::Value};
@@ -201,6 +202,7 @@ const QList<const Setting *> &all()
                                              &mainWindowPlace,
                                              &preferencesPlace,
                                              &showResult,
+                                             &showRules,
                                              &templateListWidth,
                                              &webAddresses,
                                              &launch,

@@ -88,6 +88,7 @@ extern const Setting recentLocations;         ///< where projects were created: 
 extern const Setting pinnedLocations;         ///< the ones that somebody wants to keep at hand
 extern const Setting mainWindowPlace;         ///< where it was and how large, in the toolkit's own form
 extern const Setting preferencesPlace;        ///< the same
+extern const SwitchSetting showRules;         ///< beside a template's tree, the rules of its items
 extern const SwitchSetting showResult;        ///< beside the parameters, what will be made
 extern const NumberSetting templateListWidth; ///< pixels: the list beside the tree
 extern const Setting webAddresses;            ///< dictionary: page name to address, see HelpPages

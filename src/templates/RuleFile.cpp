@@ -48,6 +48,34 @@ QVariantMap withPaths(QVariantMap rules, const std::function<QString(const QStri
     return rules;
 }
 
+QMap<QString, QVariantMap> byPath(const QVariantMap &rules)
+{
+    QMap<QString, QVariantMap> entries;
+    for (const QVariant &entry : rules.value(QLatin1String(items)).toList())
+        entries.insert(pathOf(entry.toMap()), entry.toMap());
+    return entries;
+}
+
+QVariantList mergedItems(const QVariantMap &current, const QVariantMap &from, const QVariantMap &to)
+{
+    const auto before = byPath(from);
+    auto after = byPath(to);
+    QVariantList entries;
+    for (const QVariant &entry : current.value(QLatin1String(items)).toList()) {
+        const QString path = pathOf(entry.toMap());
+        if (before.value(path) == after.value(path))
+            entries.append(entry);
+        else if (after.contains(path))
+            entries.append(after.value(path));
+        after.remove(path);
+    }
+    for (auto entry = after.begin(); entry != after.end(); ++entry) {
+        if (before.value(entry.key()) != entry.value())
+            entries.append(entry.value());
+    }
+    return entries;
+}
+
 } // namespace
 
 QString pathIn(const QString &bundle)
@@ -127,6 +155,23 @@ QVariantMap afterCopy(QVariantMap rules, const QString &from, const QString &to)
     if (entries.size() > count)
         rules.insert(QLatin1String(items), entries);
     return rules;
+}
+
+QVariantMap merged(QVariantMap current, const QVariantMap &from, const QVariantMap &to)
+{
+    const QVariantList entries = mergedItems(current, from, to);
+    for (const QString &key : (from.keys() + to.keys())) {
+        if (from.value(key) == to.value(key))
+            continue;
+        if (to.contains(key))
+            current.insert(key, to.value(key));
+        else
+            current.remove(key);
+    }
+    current.remove(QLatin1String(items));
+    if (!entries.isEmpty())
+        current.insert(QLatin1String(items), entries);
+    return current;
 }
 
 } // namespace rulefile

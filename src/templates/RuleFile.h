@@ -38,4 +38,7 @@ platform::Outcome change(const QString &bundle, const Change &change);
 [[nodiscard]] QVariantMap afterRemoval(QVariantMap rules, const QString &item);
 [[nodiscard]] QVariantMap afterCopy(QVariantMap rules, const QString &from, const QString &to);
 
+/** The current rules with what is different between two others; what is the same in both stays as it is. */
+[[nodiscard]] QVariantMap merged(QVariantMap current, const QVariantMap &from, const QVariantMap &to);
+
 } // namespace rulefile

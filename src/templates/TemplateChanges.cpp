@@ -46,6 +46,14 @@ Outcome label(const QString &path, int index)
                                                                  : Outcome::failure(Cause::NotSupported, path);
 }
 
+/// Only what the step has changed: what another program has said of other items since stays.
+Outcome rule(const QString &bundle, const QVariantMap &from, const QVariantMap &to)
+{
+    return rulefile::change(bundle, [&](const QVariantMap &current) {
+        return platform::Result<QVariantMap>(rulefile::merged(current, from, to));
+    });
+}
+
 Outcome carryOut(DiskStep &step, bool isUndo)
 {
     switch (step.kind) {
@@ -57,6 +65,12 @@ Outcome carryOut(DiskStep &step, bool isUndo)
         return isUndo ? bringBack(step) : takeAway(step);
     case DiskStep::Kind::Labelled:
         return label(step.path, isUndo ? step.before : step.after);
+    case DiskStep::Kind::Renamed:
+        return isUndo ? changes::renameOwnValues(step.other, step.path)
+                      : changes::renameOwnValues(step.path, step.other);
+    case DiskStep::Kind::Ruled:
+        return isUndo ? rule(step.path, step.rulesAfter, step.rulesBefore)
+                      : rule(step.path, step.rulesBefore, step.rulesAfter);
     case DiskStep::Kind::Defaulted:
         return settings::defaultTemplate.store(isUndo ? step.path : step.other);
     }
@@ -68,6 +82,62 @@ Outcome carryOut(DiskStep &step, bool isUndo)
 Outcome changes::putInTrash(const QString &path, DiskSteps &steps)
 {
     return puttingInTrash(steps)(path, path);
+}
+
+Outcome changes::renameOwnValues(const QString &oldName, const QString &newName)
+{
+    return settings::ownParameterValues.change([&](const QVariant &stored) -> platform::Result<QVariant> {
+        QVariantMap all = stored.toMap();
+        if (!all.contains(oldName))
+            return stored;
+        all.insert(newName, all.take(oldName));
+        return QVariant(all);
+    });
+}
+
+Outcome changes::changeRules(const QString &bundle, const rulefile::Change &change, DiskSteps &steps)
+{
+    DiskStep step{DiskStep::Kind::Ruled, bundle};
+    const Outcome changed = rulefile::change(bundle, [&](const QVariantMap &current) {
+        step.rulesBefore = current;
+        platform::Result<QVariantMap> wanted = change(current);
+        step.rulesAfter = wanted.valueOr(current);
+        return wanted;
+    });
+    if (changed.ok() && step.rulesAfter != step.rulesBefore)
+        steps.append(step);
+    return changed;
+}
+
+Outcome changes::takeRulesAlong(DiskSteps &steps, const Copies &copies)
+{
+    const QString some = !steps.isEmpty() ? steps.constFirst().path : copies.isEmpty() ? QString() : copies[0].first;
+    const qsizetype end = some.indexOf(QLatin1String(".tzt/Files/"));
+    if (end < 0)
+        return {};
+    const QString bundle = some.first(end + 4);
+    const QString files = bundle + QStringLiteral("/Files/");
+    const auto inFiles = [&](const QString &path) {
+        return path.startsWith(files) ? path.mid(files.size()) : QString();
+    };
+    const DiskSteps done = steps;
+    return changeRules(
+        bundle,
+        [&](QVariantMap rules) {
+            for (const DiskStep &step : done) {
+                const QString path = inFiles(step.path);
+                if (step.kind == DiskStep::Kind::Moved && !path.isNull())
+                    rules = rulefile::afterMove(rules, path, inFiles(step.other));
+                else if (step.kind == DiskStep::Kind::PutAway && !path.isNull())
+                    rules = rulefile::afterRemoval(rules, path);
+            }
+            for (const auto &[from, to] : copies) {
+                if (!inFiles(from).isNull() && !inFiles(to).isNull())
+                    rules = rulefile::afterCopy(rules, inFiles(from), inFiles(to));
+            }
+            return platform::Result<QVariantMap>(rules);
+        },
+        steps);
 }
 
 fileoperations::PutAway changes::puttingInTrash(DiskSteps &steps)

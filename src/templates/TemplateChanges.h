@@ -2,6 +2,7 @@
 
 #include "platform/base/Outcome.h"
 #include "support/InPlace.h"
+#include "templates/RuleFile.h"
 
 #include <QList>
 #include <QObject>
@@ -19,12 +20,16 @@ struct DiskStep
         PutAway,   ///< what stood at path lies at other, in the Trash
         Labelled,  ///< path; its label index was before, and is after
         Defaulted, ///< the default template's name was path, and is other
+        Renamed,   ///< what the settings keep for the template called path is kept for the one called other
+        Ruled,     ///< of the bundle at path: the rules were rulesBefore, and are rulesAfter
     };
     Kind kind = Kind::Moved;
     QString path;
     QString other = {};
     int before = 0;
     int after = 0;
+    QVariantMap rulesBefore = {};
+    QVariantMap rulesAfter = {};
 };
 using DiskSteps = QList<DiskStep>;
 
@@ -43,6 +48,16 @@ namespace changes {
 platform::Outcome putInTrash(const QString &path, DiskSteps &steps);
 /** For makeInPlace(): what has to make room goes to the Trash and is noted under the name that it was known by. */
 [[nodiscard]] fileoperations::PutAway puttingInTrash(DiskSteps &steps);
+
+/** What the settings keep for a template, the values of its own parameters, under its new name. */
+platform::Outcome renameOwnValues(const QString &oldName, const QString &newName);
+
+/** Changes the rules of a bundle, and notes it. */
+platform::Outcome changeRules(const QString &bundle, const rulefile::Change &change, DiskSteps &steps);
+/** Where an item was copied from, and to. */
+using Copies = QList<std::pair<QString, QString>>;
+/** The rules of the template follow what the steps, and the copying, have done to its items; that is noted, too. */
+platform::Outcome takeRulesAlong(DiskSteps &steps, const Copies &copies = {});
 
 } // namespace changes
 

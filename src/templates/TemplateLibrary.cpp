@@ -132,6 +132,8 @@ Change renameTemplate(const QString &name, const QString &typed)
         return failed(moved, name, formatString(Text::tr("Unable to move file %@ to %@"), source, destination),
                       checkDestination(moved));
     DiskSteps steps{{DiskStep::Kind::Moved, source, destination}};
+    static_cast<void>(changes::renameOwnValues(name, cleaned)); // the log says what the settings could not take
+    steps.append({DiskStep::Kind::Renamed, name, cleaned});
     if (isDefaultTemplate(name)) {
         static_cast<void>(settings::defaultTemplate.store(cleaned)); // the log says what the settings could not take
         steps.append({DiskStep::Kind::Defaulted, name, cleaned});

@@ -38,6 +38,21 @@ QColor textColor(const QStyleOptionViewItem &option, const QModelIndex &index)
     return option.palette.color(group, isSelected ? QPalette::HighlightedText : QPalette::Text);
 }
 
+void drawTinted(QPainter &painter, const QRect &place, const QIcon &icon, const QColor &color,
+                QIcon::Mode mode = QIcon::Normal)
+{
+    const qreal ratio = painter.device()->devicePixelRatioF();
+    QPixmap pixmap(place.size() * ratio);
+    pixmap.setDevicePixelRatio(ratio);
+    pixmap.fill(Qt::transparent);
+    QPainter tinting(&pixmap);
+    icon.paint(&tinting, QRect(QPoint(), place.size()), Qt::AlignCenter, mode);
+    tinting.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    tinting.fillRect(QRect(QPoint(), place.size()), color);
+    tinting.end();
+    painter.drawPixmap(place, pixmap);
+}
+
 /// An icon of the program's own takes the text's colour on the highlight, and on a label, which is the same in every
 /// palette.
 void drawIcon(QPainter &painter, const QRect &place, const QStyleOptionViewItem &option, const QModelIndex &index)
@@ -47,16 +62,7 @@ void drawIcon(QPainter &painter, const QRect &place, const QStyleOptionViewItem 
     const auto mode = option.state.testFlag(QStyle::State_Enabled) ? QIcon::Normal : QIcon::Disabled;
     if (isPlain || !icon.isMask())
         return icon.paint(&painter, place, Qt::AlignCenter, mode);
-    const qreal ratio = painter.device()->devicePixelRatioF();
-    QPixmap pixmap(place.size() * ratio);
-    pixmap.setDevicePixelRatio(ratio);
-    pixmap.fill(Qt::transparent);
-    QPainter tinting(&pixmap);
-    icon.paint(&tinting, QRect(QPoint(), place.size()), Qt::AlignCenter, mode);
-    tinting.setCompositionMode(QPainter::CompositionMode_SourceIn);
-    tinting.fillRect(QRect(QPoint(), place.size()), textColor(option, index));
-    tinting.end();
-    painter.drawPixmap(place, pixmap);
+    drawTinted(painter, place, icon, textColor(option, index), mode);
 }
 
 /// In the corner of the icon, on a spot of its own, so that it can be told on every icon.
@@ -71,6 +77,20 @@ void drawLinkBadge(QPainter &painter, const QRect &place, const QStyleOptionView
     painter.drawRoundedRect(corner, 2, 2);
     painter.restore();
     icons::named("link").paint(&painter, corner.adjusted(1, 1, -1, -1));
+}
+
+/// From the right; what is left of the row ends where they begin.
+int drawBadges(QPainter &painter, const QRect &frame, const QStyleOptionViewItem &option, const QModelIndex &index)
+{
+    int right = frame.right();
+    const QStringList badges = index.data(CellRole::Badges).toStringList();
+    for (auto name = badges.crbegin(); name != badges.crend(); ++name) {
+        right -= VTImageTextCell::iconSide + gap;
+        const QRect place(right, frame.center().y() - VTImageTextCell::iconSide / 2 + 1, VTImageTextCell::iconSide,
+                          VTImageTextCell::iconSide);
+        drawTinted(painter, place, icons::named(name->toLatin1().constData()), textColor(option, index));
+    }
+    return right;
 }
 
 void drawSubtitle(QPainter &painter, const QRect &frame, const QStyleOptionViewItem &option, const QModelIndex &index)
@@ -160,6 +180,7 @@ void VTImageTextCell::paint(QPainter *painter, const QStyleOptionViewItem &optio
             drawLinkBadge(*painter, place, row);
     }
     frame = textFrame(frame, image);
+    frame.setRight(drawBadges(*painter, frame, row, index));
     painter->setFont(row.font);
     painter->setPen(textColor(row, index));
     const QString title = index.data(Qt::DisplayRole).toString().replace(u'\n', u' ').replace(u'\r', u' ');

@@ -27,6 +27,7 @@ enum : int {
     StemLength,                ///< int: how much of a name is selected when it is edited; invalid for all
     Subtitle,                  ///< QString: a second, smaller line
     SubtitleColor,             ///< QColor of that line
+    Badges,                    ///< QStringList: icons at the right end of the row; invalid without any
     IsLink,                    ///< bool: the icon gets a badge
 };
 }

@@ -205,14 +205,24 @@ void VTProjectTableController::follow()
 
 void VTProjectTableController::setScope(const ParameterScope &scope)
 {
-    if (scope == m_scope)
+    if (scope == m_scope || (scope.isEmpty() && m_scope.isEmpty())) {
+        m_scope = scope;
         return;
+    }
+    int edited = 0;
+    while (edited < rowCount() && !isEdited(edited))
+        ++edited;
+    const QString title = m_dataArray.value(edited).title();
     finishEditing();
     m_scope = scope;
     VTLog::appendLog("Showing the parameters of %@", scope.templateName);
     m_automatic = automaticValues();
     changeList([this](FilenameParameters list) { return rules::withDynamicValues(std::move(list), m_automatic); });
     updateFilenamePreview();
+    for (int row = 0; row < rowCount() && !title.isNull(); ++row) { // whoever is typing goes on
+        if (m_dataArray[row].title() == title)
+            return editItem(row);
+    }
 }
 
 /// Other values may be computed from those that change.

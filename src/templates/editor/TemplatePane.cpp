@@ -1,10 +1,12 @@
 #include "templates/editor/TemplatePane.h"
 
+#include "parameters/ParameterStore.h"
 #include "support/Settings.h"
 #include "support/VTAlert.h"
 #include "support/VTFileManager.h"
 #include "templates/EditingGuard.h"
 #include "templates/VTDataController.h"
+#include "templates/editor/RuleInspector.h"
 #include "templates/editor/TreeFilter.h"
 #include "ui/Icons.h"
 #include "ui/VTImageTextCell.h"
@@ -91,6 +93,7 @@ TemplatePane::TemplatePane(QWidget *parent)
     buildLabels();
     buildTable();
     buildOutline();
+    buildInspector();
 }
 
 TemplatePane::~TemplatePane()
@@ -204,6 +207,70 @@ void TemplatePane::buildOutline()
             action->setEnabled(isLoaded);
         setTreeSelection(count, isLoaded);
     });
+}
+
+void TemplatePane::buildInspector()
+{
+    m_rules = addTo(*this, tr("&Rules"), {Qt::CTRL | Qt::Key_I});
+    m_rules->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    m_rules->setCheckable(true);
+    m_rules->setIcon(icons::named("rules"));
+    m_rules->setToolTip(tr("Rules of the template and its items (Ctrl+I)"));
+    m_treeActions.append(m_rules);
+    auto *button = new QToolButton(this);
+    button->setDefaultAction(m_rules);
+    button->setAutoRaise(true);
+    button->setFocusPolicy(Qt::TabFocus);
+    button->setAccessibleName(tr("Rules"));
+    m_ui->treeBarLayout->addWidget(button);
+    connect(m_rules, &QAction::triggered, this, [this](bool shown) {
+        showInspector(shown);
+        static_cast<void>(settings::showRules.turn(shown)); // logged; it is shown all the same
+    });
+    using Outline = VTTemplateOutlineController;
+    auto *inspector = m_ui->inspector;
+    connect(&m_outline, &Outline::rulesChanged, this, &TemplatePane::updateInspector);
+    connect(&m_outline, &Outline::selectionChanged, this, &TemplatePane::updateInspector);
+    connect(inspector, &RuleInspector::ruleEdited, this, [this](const ItemRule &rule) {
+        m_outline.changeRules(tr("Rule"), [&](TemplateRules &rules) { rules.setRule(rule); });
+    });
+    connect(inspector, &RuleInspector::templateEdited, this, [this](bool fillsNames, const QStringList &patterns) {
+        m_outline.changeRules(tr("Rule"), [&](TemplateRules &rules) {
+            rules.fillsNames = fillsNames;
+            rules.textPatterns = patterns;
+        });
+    });
+    connect(inspector, &RuleInspector::goneRemoved, this, [this](const QString &path) {
+        m_outline.changeRules(tr("Rule"), [&](TemplateRules &rules) { rules.setRule({path}); });
+    });
+    connect(inspector, &RuleInspector::setAsideWanted, &m_outline, &Outline::setRulesAside);
+    connect(inspector, &RuleInspector::parametersWanted, this, &TemplatePane::parametersWanted);
+    showInspector(settings::showRules.isOn());
+}
+
+void TemplatePane::showInspector(bool shown)
+{
+    m_rules->setChecked(shown);
+    m_ui->inspector->setVisible(shown);
+    updateInspector();
+}
+
+void TemplatePane::updateInspector()
+{
+    if (m_ui->inspector->isHidden())
+        return;
+    RuleInspector::State state{m_outline.rules()};
+    state.isLoaded = !m_outline.baseFilename().isNull();
+    if (!m_outline.rulesProblem().ok())
+        state.problem = tr("The rules cannot be read: %1").arg(m_outline.rulesProblem().description());
+    state.item = m_outline.selectedItem();
+    const TemplateNode *node = TemplateTreeModel::nodeAt(m_ui->outlineView->currentIndex());
+    state.isFolder = node && node->isFolderItem();
+    state.gone = m_outline.goneItems();
+    for (const FilenameParameter &parameter :
+         storedParameters({{}, parametersFromVariant(state.rules.parameters), {}, state.rules.hidden}))
+        state.titles.append(parameter.title());
+    m_ui->inspector->show(state);
 }
 
 void TemplatePane::setTreeSelection(qsizetype count, bool isLoaded)

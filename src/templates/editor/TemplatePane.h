@@ -43,6 +43,10 @@ public:
     void undo();
     void redo();
 
+Q_SIGNALS:
+    /** The parameters of the template are to be shown. */
+    void parametersWanted();
+
 protected:
     void changeEvent(QEvent *event) override;
 
@@ -50,6 +54,9 @@ private:
     void buildTable();
     void buildOutline();
     void buildLabels();
+    void buildInspector();
+    void showInspector(bool shown);
+    void updateInspector();
     void drawLabels();
     void showAfter(const platform::Outcome &outcome, const QString &sentence);
     void setTreeSelection(qsizetype count, bool isLoaded);
@@ -64,6 +71,7 @@ private:
     QList<QAction *> m_treeActions;
     QList<QAction *> m_editActions;
     QAction *m_paste = nullptr;
+    QAction *m_rules = nullptr; ///< shows the inspector
     TreeFilter *m_filter = nullptr;
     QList<QAction *> m_labels;      ///< none, then the seven
     QList<QAction *> m_forTemplate; ///< need a selected template

@@ -72,6 +72,44 @@ void TemplateTreeModel::setNodes(TemplateNodes nodes)
     endResetModel();
 }
 
+void TemplateTreeModel::setRules(const QHash<QString, ItemRule> &rules, bool fillsNames)
+{
+    if (rules == m_rules && fillsNames == m_fillsNames)
+        return;
+    m_rules = rules;
+    m_fillsNames = fillsNames;
+    if (!m_nodes.empty()) // the view draws what is in sight
+        Q_EMIT dataChanged(index(0, 0, {}), index(rowCount() - 1, 0, {}));
+}
+
+QVariant TemplateTreeModel::badgesOf(const TemplateNode &node) const
+{
+    QStringList icons;
+    const ItemRule rule = m_rules.isEmpty() ? ItemRule() : m_rules.value(node.filename());
+    if (!rule.when.tests.isEmpty())
+        icons.append(QStringLiteral("rule-condition"));
+    if (rule.repeat.over != Repeat::Over::Nothing)
+        icons.append(QStringLiteral("rule-repeat"));
+    if (rule.fillsText)
+        icons.append(QStringLiteral("rule-text"));
+    return icons.isEmpty() ? QVariant() : icons;
+}
+
+QString TemplateTreeModel::sentenceOfRules(const TemplateNode &node) const
+{
+    const ItemRule rule = m_rules.isEmpty() ? ItemRule() : m_rules.value(node.filename());
+    QStringList sentences;
+    for (const Condition &condition : rule.when.tests)
+        sentences.append(tr("only when %1 %2 %3").arg(condition.parameter, nameOf(condition.is), condition.value));
+    if (rule.repeat.over == Repeat::Over::Numbers)
+        sentences.append(tr("once for each number up to %1").arg(rule.repeat.parameter));
+    if (rule.repeat.over == Repeat::Over::Values)
+        sentences.append(tr("once for each value of %1").arg(rule.repeat.parameter));
+    if (rule.fillsText)
+        sentences.append(tr("values in its text"));
+    return sentences.join(QStringLiteral("; "));
+}
+
 void TemplateTreeModel::setChildren(VTFolderItem &folder, TemplateNodes children)
 {
     const QModelIndex index = indexOf(&folder);
@@ -164,10 +202,17 @@ QVariant TemplateTreeModel::data(const QModelIndex &index, int role) const
         return platform::forDisplay(node.name());
     case Qt::DecorationRole:
         return iconOf(node);
-    case Qt::AccessibleTextRole:
-        return spokenName(node);
-    case Qt::ToolTipRole:
-        return toolTipOf(node);
+    case Qt::AccessibleTextRole: {
+        const QString rules = sentenceOfRules(node);
+        return rules.isEmpty() ? spokenName(node) : spokenName(node) + QStringLiteral(", ") + rules;
+    }
+    case Qt::ToolTipRole: {
+        const QVariant toolTip = toolTipOf(node);
+        const QString rules = sentenceOfRules(node);
+        return toolTip.isValid() || rules.isEmpty() ? toolTip : rules;
+    }
+    case CellRole::Badges:
+        return badgesOf(node);
     case CellRole::LabelColor:
         return node.isLink() ? QVariant() : colorOf(node); // the colour would be the target's
     case CellRole::StemLength:

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "creation/TemplateRules.h"
 #include "templates/TemplateNode.h"
 
 #include <QAbstractItemModel>
@@ -44,6 +45,8 @@ public:
 
     [[nodiscard]] const TemplateNodes &nodes() const { return m_nodes; }
     void setNodes(TemplateNodes nodes);
+    /** What is said of items by their rules, by path; and whether names have values in them. */
+    void setRules(const QHash<QString, ItemRule> &rules, bool fillsNames);
     void setChildren(VTFolderItem &folder, TemplateNodes children);
     /** Its row, and the names below it, have changed. */
     void itemChanged(const TemplateNode &node);
@@ -77,7 +80,12 @@ public:
 private:
     [[nodiscard]] const TemplateNodes &childrenOf(const QModelIndex &parent) const;
 
+    [[nodiscard]] QVariant badgesOf(const TemplateNode &node) const;
+    [[nodiscard]] QString sentenceOfRules(const TemplateNode &node) const;
+
     Handlers m_handlers;
+    QHash<QString, ItemRule> m_rules;
+    bool m_fillsNames = false;
     TemplateNodes m_nodes;
     QList<std::pair<QString, QString>> m_typed; ///< path and name
     bool m_isTakingNames = false;

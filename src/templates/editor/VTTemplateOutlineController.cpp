@@ -174,6 +174,7 @@ void VTTemplateOutlineController::populateTemplateStructure()
     if (m_baseFilename.isNull())
         return;
     VTLog::appendLog("Loading template data from %@", m_baseFilename);
+    rereadRules();
     const quint64 generation = ++m_generation;
     readInTime(filesFolder(), [this, generation](TemplateNodes nodes) { showTree(generation, std::move(nodes)); });
 }

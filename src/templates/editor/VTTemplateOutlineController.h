@@ -1,5 +1,6 @@
 #pragma once
 
+#include "creation/TemplateRules.h"
 #include "templates/ImportJobs.h"
 #include "templates/editor/TemplateTreeModel.h"
 
@@ -62,6 +63,17 @@ public:
     void waitForImports();
     [[nodiscard]] bool isImporting() const { return m_jobs > 0; }
 
+    /** What the template says beside its files; the outcome says why that cannot be read. */
+    [[nodiscard]] const TemplateRules &rules() const { return m_rules; }
+    [[nodiscard]] const platform::Outcome &rulesProblem() const { return m_rulesProblem; }
+    /** As one change that can be undone; the name is what the menu says. */
+    void changeRules(const QString &name, const std::function<void(TemplateRules &)> &edit);
+    void setRulesAside();
+    /** The path below Files of the one item that is selected; null for none or several. */
+    [[nodiscard]] QString selectedItem() const;
+    /** Paths of rules whose item is not there. */
+    [[nodiscard]] QStringList goneItems() const;
+
 public Q_SLOTS:
     void showAddPopUp();
     /** In the selected folder, and beside the selected item. */
@@ -92,6 +104,8 @@ Q_SIGNALS:
     void needsWholeTree();
     /** None runs any more. */
     void importsEnded();
+    /** They have been read anew. */
+    void rulesChanged();
 
 private:
     struct ViewState;
@@ -131,6 +145,9 @@ private:
     void selectOnly(const QString &path);
     void selectNear(const QString &folder, int row);
     void rename(const QString &path, const QString &typed);
+    void record(DiskChange change, const changes::Copies &copies = {});
+    void rereadRules();
+    void showRules(const TemplateRules &rules, const platform::Outcome &problem);
     void fillAddMenu();
     void showImportPanel(bool foldersOnly);
     [[nodiscard]] QString importDestination() const;
@@ -143,6 +160,9 @@ private:
     Views m_views;
     QString m_baseFilename;
     TemplateTreeModel m_model;
+    TemplateRules m_rules;
+    platform::Outcome m_rulesProblem;
+    quint64 m_ruleReadings = 0;
     quint64 m_readings = 0;    ///< raised by whatever makes an earlier reading old
     QSet<QString> m_beingRead; ///< folders whose reading has not ended
     quint64 m_generation = 0;  ///< counts loads: one that was overtaken while it read is thrown away

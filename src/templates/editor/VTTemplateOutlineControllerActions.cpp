@@ -2,6 +2,7 @@
 #include "templates/editor/VTTemplateOutlineController.h"
 
 #include "platform/base/FormatString.h"
+#include "platform/base/MainThread.h"
 #include "platform/base/NativePath.h"
 #include "platform/desktop/Desktop.h"
 #include "platform/files/FileSystem.h"
@@ -31,6 +32,92 @@ QString withExtensionOf(const QString &stem, const QString &path)
 }
 
 } // namespace
+
+/// Rules that cannot follow are listed as those of items that are gone, and the log says why.
+void VTTemplateOutlineController::record(DiskChange change, const changes::Copies &copies)
+{
+    const platform::Outcome followed = changes::takeRulesAlong(change.steps, copies);
+    if (!followed.ok())
+        VTLog::appendLog("The rules do not follow: %@", followed.description());
+    m_history.add(change);
+    rereadRules();
+}
+
+void VTTemplateOutlineController::changeRules(const QString &name,
+                                              const std::function<void(TemplateRules &)> &edit)
+{
+    if (m_baseFilename.isNull() || !editingIsAllowed())
+        return rereadRules(); // shows what they are
+    DiskChange change{name, {}};
+    const platform::Outcome changed = changes::changeRules(
+        m_baseFilename,
+        [&](const QVariantMap &current) -> platform::Result<QVariantMap> {
+            auto rules = rulesFromVariant(current);
+            if (!rules)
+                return rules.outcome();
+            TemplateRules wanted = *rules;
+            edit(wanted);
+            return variantFromRules(wanted);
+        },
+        change.steps);
+    if (!changed.ok())
+        VTAlert::show({tr("The rules cannot be changed"), changed.description()});
+    m_history.add(change);
+    rereadRules();
+}
+
+void VTTemplateOutlineController::setRulesAside()
+{
+    if (m_baseFilename.isNull() || !editingIsAllowed())
+        return;
+    const auto aside = rulefile::setAside(m_baseFilename);
+    VTAlert::show(aside ? VTAlert::Texts{tr("The rules were put aside"), *aside}
+                        : VTAlert::Texts{tr("The rules cannot be put aside"), aside.outcome().description()});
+    rereadRules();
+}
+
+/// On a thread, as the tree is.
+void VTTemplateOutlineController::rereadRules()
+{
+    const auto read = std::make_shared<std::optional<platform::Result<TemplateRules>>>();
+    const quint64 reading = ++m_ruleReadings;
+    const QString bundle = m_baseFilename;
+    if (bundle.isNull())
+        return showRules({}, {});
+    platform::performBeside([read, bundle] { *read = readRules(bundle); },
+                            [this, lives = QPointer(this), read, reading] {
+                                if (lives && reading == m_ruleReadings)
+                                    showRules((*read)->valueOr({}), (*read)->outcome());
+                            });
+}
+
+void VTTemplateOutlineController::showRules(const TemplateRules &rules, const platform::Outcome &problem)
+{
+    m_rules = rules;
+    m_rulesProblem = problem;
+    QHash<QString, ItemRule> byPath;
+    for (const ItemRule &rule : rules.items)
+        byPath.insert(joined(filesFolder(), rule.path), rule);
+    m_model.setRules(byPath, rules.fillsNames);
+    Q_EMIT rulesChanged();
+}
+
+QString VTTemplateOutlineController::selectedItem() const
+{
+    const QStringList paths = selectedPaths();
+    const QString files = filesFolder() + u'/';
+    return paths.size() == 1 && paths.constFirst().startsWith(files) ? paths.constFirst().mid(files.size()) : QString();
+}
+
+QStringList VTTemplateOutlineController::goneItems() const
+{
+    QStringList gone;
+    for (const ItemRule &rule : m_rules.items) {
+        if (!nodeAtPath(joined(filesFolder(), rule.path)) && platform::isMissing(joined(filesFolder(), rule.path)))
+            gone.append(rule.path);
+    }
+    return gone;
+}
 
 void VTTemplateOutlineController::showAddPopUp()
 {
@@ -71,7 +158,7 @@ void VTTemplateOutlineController::insertInto(QList<Target> places, const QString
         else
             rereadFolder(place.path);
     }
-    m_history.add(change);
+    record(change);
     reloadOutlineView();
     if (!first.isNull())
         editItem(first);
@@ -200,7 +287,7 @@ void VTTemplateOutlineController::removeFiles()
         if (!removed.ok() && !removed.is(platform::Cause::Declined))
             VTAlert::show({formatString(tr("Unable to remove file %@"), path), checkDestination(removed)});
     }
-    m_history.add(change);
+    record(change);
     if (paths.size() == 1)
         rereadParentOf(paths.first());
     else
@@ -226,6 +313,7 @@ void VTTemplateOutlineController::duplicateFiles()
     if (paths.isEmpty() || !editingIsAllowed())
         return;
     DiskChange change{tr("Duplicate"), {}};
+    changes::Copies copies;
     for (const QString &path : paths) {
         const QString copy = VTFileManager::uniqueFilename(
             withExtensionOf(platform::withoutExtension(path) + QStringLiteral(" Duplicate"), path));
@@ -236,12 +324,14 @@ void VTTemplateOutlineController::duplicateFiles()
             });
         if (copied.is(platform::Cause::Cancelled))
             break;
-        if (copied.ok())
+        if (copied.ok()) {
             change.steps.append({DiskStep::Kind::Made, copy});
-        else
+            copies.append({path, copy});
+        } else {
             VTAlert::show({formatString(tr("Unable to copy file %@ to %@"), path, copy), checkDestination(copied)});
+        }
     }
-    m_history.add(change);
+    record(change, copies);
     if (paths.size() == 1) // one reading at the end, however many there are
         rereadParentOf(paths.first());
     else
@@ -281,7 +371,7 @@ void VTTemplateOutlineController::rename(const QString &path, const QString &typ
              withCause(tr("Please check your have write permissions for this item and its parent directory."), moved)});
         return;
     }
-    m_history.add({tr("Rename"), {{DiskStep::Kind::Moved, path, renamed}}});
+    record({tr("Rename"), {{DiskStep::Kind::Moved, path, renamed}}});
     if (node) {
         node->rename(renamed);
         ++m_readings; // what is being read has the old name
@@ -316,7 +406,7 @@ void VTTemplateOutlineController::colorCodeFiles(int tag)
         if (before != index)
             change.steps.append({DiskStep::Kind::Labelled, path, {}, before, index});
     }
-    m_history.add(change);
+    record(change);
     m_views.outlineView->clearSelection();
     m_views.outlineView->viewport()->update();
 }

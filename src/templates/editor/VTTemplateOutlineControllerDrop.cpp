@@ -95,7 +95,7 @@ bool VTTemplateOutlineController::acceptDrop(const TemplateDrop &drop, const QSt
         if (moveInside(*node, folder, moved, change.steps) && !parent.isNull())
             toReread.append(parent);
     }
-    m_history.add(change);
+    record(change);
     m_hasMoved = !change.steps.isEmpty();
     const bool knowsAll = static_cast<std::size_t>(toReread.size()) == dragged.size() && !target.isNull();
     if (!knowsAll) {

@@ -119,6 +119,7 @@ void VTTemplateOutlineController::pasteCopies(const QByteArray &archive, QString
         folder = parentPath(folder);
     Q_EMIT needsWholeTree();
     DiskChange change{tr("Paste"), {}};
+    changes::Copies copies;
     for (const auto &node : nodes) {
         const QString copy = VTFileManager::uniqueFilename(joined(folder, lastComponent(node->filename())));
         VTLog::appendLog("Copying template file %@ to %@", node->filename(), copy);
@@ -128,13 +129,15 @@ void VTTemplateOutlineController::pasteCopies(const QByteArray &archive, QString
             });
         if (copied.is(platform::Cause::Cancelled))
             break;
-        if (copied.ok())
+        if (copied.ok()) {
             change.steps.append({DiskStep::Kind::Made, copy});
-        else
+            copies.append({node->filename(), copy});
+        } else {
             VTAlert::show(
                 {formatString(tr("Unable to copy file %@ to %@"), node->filename(), copy), checkDestination(copied)});
+        }
     }
-    m_history.add(change);
+    record(change, copies);
     showPasted(change, folder);
 }
 
@@ -164,7 +167,7 @@ void VTTemplateOutlineController::pasteFolders(const QString &text, const QStrin
         if (!goesAlong)
             change.steps.append({DiskStep::Kind::Made, path});
     }
-    m_history.add(change);
+    record(change);
     showPasted(change, folder);
 }
 
@@ -262,6 +265,6 @@ void VTTemplateOutlineController::renameAll(const QStringList &paths, const QStr
         change.steps.clear();
         VTAlert::show({tr("Unable to rename the items"), checkDestination(outcome)});
     }
-    m_history.add(change);
+    record(change);
     populateTemplateStructure();
 }
