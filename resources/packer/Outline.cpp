@@ -16,7 +16,7 @@ const QHash<QString, quint16> labels{
 std::optional<QList<OutlineEntry>> readOutline(const QString &text, QString &problem)
 {
     static const QRegularExpression form(
-        R"(^((?:  )*)([^ <\[\]/:][^<\[\]/:]*?)(?:(/)| < ([^<\[\]]+?))(?: \[(\w+)\])?$)");
+        R"(^((?:  )*)((?:[^ <\[\]/:{]|\{[^<\[\]/}]*\})(?:[^<\[\]/:{]|\{[^<\[\]/}]*\})*?)(?:(/)| < ([^<\[\]]+?))(?: \[(\w+)\])?$)");
     QList<OutlineEntry> entries;
     QStringList folders;
     int number = 0;

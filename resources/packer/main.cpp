@@ -1,11 +1,15 @@
-// Builds one shipped template: template_packer OUTLINE PROJECTS_FOLDER ARCHIVE
+// Builds one shipped template: template_packer OUTLINE PROJECTS_FOLDER ARCHIVE. Its rules stand beside the outline, as
+// JSON, in NAME.rules.json.
 #include "Outline.h"
 
 #include "platform/archive/ZipFormat.h"
+#include "platform/base/PropertyList.h"
 #include "platform/base/System.h"
 
 #include <QFile>
 #include <QFileInfo>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QTextStream>
 
 namespace {
@@ -14,6 +18,19 @@ int fail(const QString &problem)
 {
     QTextStream(stderr) << problem << '\n';
     return 1;
+}
+
+/// What the library keeps as Rules.plist; nothing without a file.
+std::optional<QByteArray> rulesBeside(const QFileInfo &outline, QString &problem)
+{
+    QFile file(outline.path() + '/' + outline.completeBaseName() + ".rules.json");
+    if (!file.open(QIODevice::ReadOnly))
+        return std::nullopt;
+    QJsonParseError error{};
+    const QJsonDocument document = QJsonDocument::fromJson(file.readAll(), &error);
+    if (error.error != QJsonParseError::NoError)
+        problem = file.fileName() + ": " + error.errorString();
+    return platform::writePropertyList(document.object().toVariantMap());
 }
 
 } // namespace
@@ -36,6 +53,10 @@ int main(int argc, char **argv)
     platform::ZipWriter archive(QString::fromUtf8(argv[3]));
     archive.addFolder(bundle, 0);
     archive.addFolder(bundle + "/Files", 0);
+    if (const auto rules = rulesBeside(QFileInfo(outlinePath), problem))
+        archive.addFile(bundle + "/Rules.plist", *rules, 0);
+    if (!problem.isNull())
+        return fail(problem);
     for (const OutlineEntry &entry : *entries) {
         const QString name = bundle + "/Files/" + entry.path;
         if (entry.source.isNull()) {

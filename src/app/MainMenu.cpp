@@ -33,6 +33,7 @@ const QList<Menu> &menus()
     static const QList<Menu> table{
         {QT_TRANSLATE_NOOP("MainMenu", "&Project"),
          {{QT_TRANSLATE_NOOP("MainMenu", "&Create Project"), "Ctrl+Return", &Delegate::createNewProject, true},
+          {QT_TRANSLATE_NOOP("MainMenu", "Create From &Table…"), "Ctrl+T", &Delegate::createFromTable, true},
           {QT_TRANSLATE_NOOP("MainMenu", "&Recent Projects"), "", nullptr, true},
           {nullptr, nullptr, nullptr, false},
           {QT_TRANSLATE_NOOP("MainMenu", "&Preferences…"), "Ctrl+,", &Delegate::showPreferences, true},

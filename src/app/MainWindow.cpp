@@ -260,6 +260,15 @@ void MainWindow::showCreated(const QString &project, const QString &location)
     m_ui->undoButton->setVisible(!project.isNull());
 }
 
+void MainWindow::showCreatedMany(qsizetype projects, const QString &location)
+{
+    showCreated({});
+    tell(tr("Created in %1: %L2 projects.")
+             .arg(platform::forOneLine(platform::lastComponent(location)))
+             .arg(projects));
+    m_ui->undoButton->setVisible(projects > 0);
+}
+
 void MainWindow::setUndoable(const QString &undoName, const QString &redoName)
 {
     const auto forMenu = [this](const QString &name) {

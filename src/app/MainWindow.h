@@ -48,6 +48,8 @@ public:
     void showCreated(const QString &project, const QString &location = {});
     /** What the menu's Undo takes back, and its Redo does again; a null name: nothing. */
     void setUndoable(const QString &undoName, const QString &redoName);
+    /** The same for several; without "Show". */
+    void showCreatedMany(qsizetype projects, const QString &location);
     /** A line in its place that says something else; until the next project. */
     void showMessage(const QString &text);
     void setProcessing(bool processing);

@@ -256,6 +256,7 @@ void TessaroAppDelegate::toolbarTemplateAction()
             &TessaroAppDelegate::populateTemplatePopUp);
     connect(&pane.outlineController(), &VTTemplateOutlineController::importsEnded, this,
             &TessaroAppDelegate::closeIfWanted);
+    connect(&pane, &TemplatePane::parametersWanted, this, &TessaroAppDelegate::editTemplateParameters);
     pane.awakeFromNib();
 }
 

@@ -1,13 +1,11 @@
 #pragma once
 
 #include "app/HelpPages.h"
-#include "creation/ProjectCreation.h"
-#include "creation/Undo.h"
+#include "creation/BatchCreation.h"
 #include "creation/Unfinished.h"
 
 #include <QElapsedTimer>
 #include <QHash>
-#include <QObject>
 #include <QPointer>
 #include <QSet>
 #include <memory>
@@ -73,6 +71,8 @@ public Q_SLOTS:
     void changeProjectTemplate();
     /** The create action: checks the parameters, finds the destination, creates. */
     void createNewProject();
+    /** The same for many: asks for a table. */
+    void createFromTable();
     /** Takes the last creation of this window back. */
     void undoCreation();
     /** Of the pane that is shown: the last creation, or the last change to the templates. */
@@ -94,8 +94,8 @@ public Q_SLOTS:
     void performCommand(const QString &identifier);
     void beginNewProject();
 
-    /** In the preferences. */
-    void editParameters();
+    void editParameters(); ///< in the preferences
+    void editTemplateParameters();
     /** The next project goes there. */
     void takePlace(const QString &folder);
     /** The same, asked for by a panel. */
@@ -146,7 +146,9 @@ private:
     void watchSettings();
     void followSettings();
     void followTemplate(const QString &name, QString &seen);
+    void createBatch(const ProjectBatch &batch, BatchManner manner, const QString &location);
     void undoProject(const Manifest &manifest);
+    void undoProjects(const QList<Manifest> &given);
     void tellWhatStays(const Manifest &manifest, const QList<KeptItem> &kept) const;
     [[nodiscard]] bool isRepeated() const;
     [[nodiscard]] bool isComplete(const ProjectRequest &request);
@@ -171,7 +173,7 @@ private:
     std::unique_ptr<MainWindow> m_window;
     std::unique_ptr<VTProjectTableController> m_tableController;
     QPointer<VTSavePanel> m_savePanel;
-    std::optional<Manifest> m_undoable; ///< the last creation of this window, until it is undone
+    QList<Manifest> m_undoable; ///< the last creation of this window, until it is undone
     ProjectRequest m_request;           ///< the project for which the panel asks
     QPointer<VTPreferenceController> m_preferences;
 };

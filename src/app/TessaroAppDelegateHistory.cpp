@@ -37,8 +37,9 @@ QString forMenu(const Manifest &manifest, const QFontMetrics &letters)
 
 void TessaroAppDelegate::undoCreation()
 {
-    if (m_undoable && !m_creating)
-        undoProject(*m_undoable);
+    if (m_creating || m_undoable.isEmpty())
+        return;
+    m_undoable.size() == 1 ? undoProject(m_undoable.constFirst()) : undoProjects(m_undoable);
 }
 
 void TessaroAppDelegate::undo()
@@ -62,7 +63,11 @@ void TessaroAppDelegate::redo()
 void TessaroAppDelegate::showUndo()
 {
     const bool inTemplates = m_window->shownPane() == MainWindow::Pane::Templates;
-    QString undone = !inTemplates && m_undoable ? tr("Creation of ‘%1’").arg(shownName(*m_undoable)) : QString();
+    QString undone;
+    if (!inTemplates && m_undoable.size() == 1)
+        undone = tr("Creation of ‘%1’").arg(shownName(m_undoable.constFirst()));
+    else if (!inTemplates && !m_undoable.isEmpty())
+        undone = tr("Creation From Table");
     if (!inTemplates && m_tableController->hasClearedHistory()) // later than any creation
         undone = tr("Clear History");
     QString redone;
@@ -88,8 +93,8 @@ void TessaroAppDelegate::undoProject(const Manifest &given)
     m_creating = false;
     m_tableController->follow();
     const bool isOver = result.outcome.ok() || result.outcome.is(platform::Cause::Missing);
-    if (isOver && m_undoable && m_undoable->file == manifest.file) {
-        m_undoable.reset();
+    if (isOver) {
+        m_undoable.removeIf([&](const Manifest &other) { return other.file == manifest.file; });
         showUndo();
     }
     if (result.outcome.is(platform::Cause::Cancelled))

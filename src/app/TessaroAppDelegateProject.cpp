@@ -117,7 +117,7 @@ void TessaroAppDelegate::createTemplate(const ProjectRequest &request)
     if (result.ok())
         rememberPlace(result.request.location);
     if (!result.manifest.file.isEmpty())
-        m_undoable = result.manifest;
+        m_undoable = {result.manifest};
     showUndo();
     if (result.stopped)
         m_window->showMessage(tr("Stopped; nothing of the project was kept."));

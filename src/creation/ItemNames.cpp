@@ -1,8 +1,10 @@
 #include "creation/ItemNames.h"
 
 #include "platform/base/NativePath.h"
+#include "support/VTFileManager.h"
 
 #include <QCoreApplication>
+#include <QRegularExpression>
 
 #include <algorithm>
 #include <cstring>
@@ -94,6 +96,22 @@ QString nameInProject(const QString &name, const QString &projectName)
     if (!(hasExtension ? platform::withoutExtension(name) : name).toLower().contains(placeholder))
         return name;
     return QString(name).replace(placeholder, projectName, Qt::CaseInsensitive);
+}
+
+QString cleanedItemName(const QString &typed)
+{
+    static const QRegularExpression braces(QStringLiteral("\\{[^{}/]*\\}"));
+    QStringList kept;
+    QString marked = typed;
+    for (auto match = braces.match(marked); match.hasMatch(); match = braces.match(marked)) {
+        kept.append(match.captured());
+        marked.replace(match.capturedStart(), match.capturedLength(), tokenMark);
+    }
+    QString cleaned;
+    qsizetype next = 0;
+    for (const QChar character : VTFileManager::validateFilename(marked))
+        cleaned += character == tokenMark && next < kept.size() ? kept[next++] : QString(character);
+    return cleaned;
 }
 
 tokens::Filled filledName(const QString &name, const QString &projectName, const tokens::Values &values)

@@ -40,3 +40,7 @@ void nameItem(platform::TreeFolder &folder, platform::TreeItem &item, const QStr
 /** The same for a name with values in it: what a value brings along is left as it is. A sentence where a value, or the
  * whole, makes no name. Pure. */
 [[nodiscard]] tokens::Filled filledName(const QString &name, const QString &projectName, const tokens::Values &values);
+
+/** A name for an item of a template, from what was typed: clean, as every name is, but for what stands between braces,
+ * where a colon has its meaning. Empty where nothing remains. */
+[[nodiscard]] QString cleanedItemName(const QString &typed);

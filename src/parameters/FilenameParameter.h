@@ -23,6 +23,7 @@ inline constexpr const char *computed = "computed";             ///< the value's
 inline constexpr const char *letterCase = "letterCase";         ///< "upper", "lower" or "title"
 inline constexpr const char *maxLength = "maxLength";           ///< in characters
 inline constexpr const char *several = "several";               ///< several of the choices
+inline constexpr const char *outsideName = "outsideName";       ///< it does not enter the project's name
 // Of a list as one template has it; never stored.
 inline constexpr const char *ownOfTemplate = "ownOfTemplate";
 inline constexpr const char *fixedByTemplate = "fixedByTemplate";
@@ -73,6 +74,7 @@ public:
     /** 0: any. */
     [[nodiscard]] qsizetype maxLength() const;
     [[nodiscard]] bool takesSeveral() const { return kind() == Kind::Choice && flag(recordkey::several); }
+    [[nodiscard]] bool isOutsideName() const { return flag(recordkey::outsideName); }
     [[nodiscard]] bool isFixedByTemplate() const { return flag(recordkey::fixedByTemplate); }
     [[nodiscard]] bool isOwnOfTemplate() const { return flag(recordkey::ownOfTemplate); }
     /** Date and user name are filled in by the program at every refresh. */

@@ -23,6 +23,10 @@ Composed composed(const FilenameParameters &parameters, const QString &separator
     QString current;
     bool breakPending = false;
     for (const FilenameParameter &parameter : parameters) {
+        if (parameter.isOutsideName()) {
+            result.levelOf.append(-1);
+            continue;
+        }
         const QString value = forms::nameValue(parameter);
         if (value.isEmpty()) {
             breakPending = breakPending || parameter.beginsFolder();

@@ -37,6 +37,7 @@ ParameterDetails::ParameterDetails(FilenameParameter parameter, QWidget *parent)
     , m_message(lineWith(m_parameter.patternMessage(), tr("Three letters, a dash, three digits"), this))
     , m_computed(lineWith(m_parameter.computed(), QStringLiteral("{Client|initials}-{Number:000}"), this))
     , m_several(new QCheckBox(tr("Several &choices at once"), this))
+    , m_inName(new QCheckBox(tr("Part of the project’s &name"), this))
     , m_problem(new QLabel(this))
 {
     setWindowTitle(tr("Values of “%1”").arg(m_parameter.title()));
@@ -66,6 +67,8 @@ ParameterDetails::ParameterDetails(FilenameParameter parameter, QWidget *parent)
     form->addRow(tr("&Said when it does not fit:"), m_message);
     form->addRow(tr("Computed &from others:"), m_computed);
     form->addRow(QString(), m_several);
+    form->addRow(QString(), m_inName);
+    m_inName->setChecked(!m_parameter.isOutsideName());
     const bool isChoice = m_parameter.kind() == FilenameParameter::Kind::Choice;
     const bool isText = m_parameter.kind() == FilenameParameter::Kind::Text ||
                         m_parameter.kind() == FilenameParameter::Kind::OtherText;
@@ -110,6 +113,7 @@ FilenameParameter ParameterDetails::parameter() const
     takeText(recordkey::patternMessage, m_message->text());
     takeText(recordkey::computed, m_computed->text());
     take(recordkey::several, true, m_several->isChecked());
+    take(recordkey::outsideName, true, !m_inName->isChecked());
     return wanted;
 }
 

@@ -34,6 +34,7 @@ private:
     QLineEdit *m_message;
     QLineEdit *m_computed;
     QCheckBox *m_several;
+    QCheckBox *m_inName;
     QLabel *m_problem;
     QPushButton *m_take;
 };

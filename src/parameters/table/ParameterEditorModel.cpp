@@ -35,9 +35,25 @@ CellEditor editorOf(const FilenameParameters &list, int row, Column column)
 
 } // namespace
 
+ParameterEditorModel::ParameterEditorModel(QObject *parent)
+    : QAbstractTableModel(parent)
+    , m_list({[] { return storedParameters(); }, [](const ListChange &change) { return changeParameters(change); }})
+    , m_isStored(true)
+    , m_rowsSeen(rowCount())
+{
+}
+
+ParameterEditorModel::ParameterEditorModel(List list, QObject *parent)
+    : QAbstractTableModel(parent)
+    , m_list(std::move(list))
+    , m_isStored(false)
+    , m_rowsSeen(rowCount())
+{
+}
+
 int ParameterEditorModel::rowCount(const QModelIndex &parent) const
 {
-    return parent.isValid() ? 0 : static_cast<int>(storedParameters().size());
+    return parent.isValid() ? 0 : static_cast<int>(list().size());
 }
 
 int ParameterEditorModel::columnCount(const QModelIndex &parent) const
@@ -48,7 +64,7 @@ int ParameterEditorModel::columnCount(const QModelIndex &parent) const
 QVariant ParameterEditorModel::data(const QModelIndex &index, int role) const
 {
     const auto column = static_cast<Column>(index.column());
-    const FilenameParameters list = storedParameters();
+    const FilenameParameters list = this->list();
     const QVariant value = parameterlist::shownValue(list, index.row(), column);
     switch (role) {
     case Qt::DisplayRole:
@@ -106,7 +122,7 @@ bool ParameterEditorModel::setData(const QModelIndex &index, const QVariant &val
         stored = value.toString();
     else
         return false;
-    const FilenameParameters list = storedParameters();
+    const FilenameParameters list = this->list();
     bool isShown = !isFlag(column) && value == parameterlist::shownValue(list, index.row(), column);
     if (editorOf(list, index.row(), column) == CellEditor::Lines)
         isShown = parameterlist::tidyChoices(value.toString()) ==
@@ -128,7 +144,7 @@ Qt::ItemFlags ParameterEditorModel::flags(const QModelIndex &index) const
     const auto column = static_cast<Column>(index.column());
     // What cannot be changed is part of its row all the same: a disabled cell would be a hole in a selected one.
     Qt::ItemFlags flags = Qt::ItemIsSelectable | Qt::ItemIsDragEnabled | Qt::ItemIsEnabled;
-    if (parameterlist::isEditable(storedParameters(), index.row(), column))
+    if (parameterlist::isEditable(list(), index.row(), column))
         flags |= isFlag(column) ? Qt::ItemIsUserCheckable : Qt::ItemIsEditable;
     return flags;
 }
@@ -197,12 +213,12 @@ void ParameterEditorModel::remove(const QList<int> &rows)
 void ParameterEditorModel::restoreDefaultParams()
 {
     beginResetModel();
-    const FilenameParameters before = storedParameters();
+    const FilenameParameters before = list();
     static_cast<void>(restoreShippedParameters()); // the table shows what is stored
-    remember({before, storedParameters()});
+    remember({before, list()});
     m_rowsSeen = rowCount();
     endResetModel();
-    notify();
+    tellOthers();
     Q_EMIT listChanged();
 }
 
@@ -221,7 +237,7 @@ void ParameterEditorModel::reload()
 void ParameterEditorModel::change(const std::function<FilenameParameters(FilenameParameters)> &change)
 {
     Edit edit;
-    const platform::Outcome stored = changeParameters([&](FilenameParameters list) {
+    const platform::Outcome stored = m_list.change([&](FilenameParameters list) {
         edit.before = list;
         edit.after = change(std::move(list));
         return platform::Result<FilenameParameters>(edit.after);
@@ -229,7 +245,7 @@ void ParameterEditorModel::change(const std::function<FilenameParameters(Filenam
     if (stored.ok()) // the table shows what is stored
         remember(edit);
     m_rowsSeen = rowCount();
-    notify();
+    tellOthers();
     Q_EMIT listChanged();
 }
 
@@ -260,14 +276,31 @@ void ParameterEditorModel::redo()
 void ParameterEditorModel::goTo(const FilenameParameters &wanted)
 {
     beginResetModel();
-    const platform::Outcome stored = changeParameters([&](const FilenameParameters &now) {
+    const platform::Outcome stored = m_list.change([&](const FilenameParameters &now) {
         return platform::Result<FilenameParameters>(parameterlist::withValuesOf(wanted, now));
     });
     static_cast<void>(stored); // the table shows what is stored
     m_rowsSeen = rowCount();
     endResetModel();
-    notify();
+    tellOthers();
     Q_EMIT listChanged();
+}
+
+void ParameterEditorModel::replace(int row, const FilenameParameter &parameter)
+{
+    const FilenameParameters shown = list();
+    change([&](FilenameParameters now) {
+        if (const auto there = parameterlist::rowOfSame(shown, row, now))
+            now[*there] = parameter;
+        return now;
+    });
+    Q_EMIT dataChanged(index(row, 0), index(row, columnCount() - 1));
+}
+
+void ParameterEditorModel::tellOthers() const
+{
+    if (m_isStored)
+        notify();
 }
 
 void ParameterEditorModel::notify()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "parameters/ParameterList.h"
+#include "parameters/ParameterStore.h"
 
 #include <QAbstractTableModel>
 #include <functional>
@@ -17,7 +18,19 @@ public:
     /** The type under which dragged rows travel. */
     inline static const QString VTPboardType = QStringLiteral("application/x-tessaro-parameter-rows");
 
-    using QAbstractTableModel::QAbstractTableModel;
+    /** The stored list. */
+    explicit ParameterEditorModel(QObject *parent = nullptr);
+    /** A list that is kept elsewhere, in place of the stored one; its own shipped one there is not. */
+    struct List
+    {
+        std::function<FilenameParameters()> read;
+        std::function<platform::Outcome(const ListChange &)> change;
+    };
+    explicit ParameterEditorModel(List list, QObject *parent = nullptr);
+
+    [[nodiscard]] FilenameParameters list() const { return m_list.read(); }
+    /** In place of the row's parameter. */
+    void replace(int row, const FilenameParameter &parameter);
 
     [[nodiscard]] int rowCount(const QModelIndex &parent = {}) const override;
     [[nodiscard]] int columnCount(const QModelIndex &parent = {}) const override;
@@ -62,11 +75,14 @@ private:
         FilenameParameters after;
     };
     void change(const std::function<FilenameParameters(FilenameParameters)> &change);
+    void tellOthers() const;
     void remember(const Edit &edit);
     void goTo(const FilenameParameters &wanted);
 
+    const List m_list;
+    const bool m_isStored; ///< others show it, too
     QList<Edit> m_done; ///< the last ones last
     QList<Edit> m_undone;
 
-    int m_rowsSeen = rowCount(); ///< when the views were last told
+    int m_rowsSeen = 0; ///< when the views were last told
 };

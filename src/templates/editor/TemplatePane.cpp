@@ -259,7 +259,8 @@ void TemplatePane::updateInspector()
 {
     if (m_ui->inspector->isHidden())
         return;
-    RuleInspector::State state{m_outline.rules()};
+    RuleInspector::State state;
+    state.rules = m_outline.rules();
     state.isLoaded = !m_outline.baseFilename().isNull();
     if (!m_outline.rulesProblem().ok())
         state.problem = tr("The rules cannot be read: %1").arg(m_outline.rulesProblem().description());

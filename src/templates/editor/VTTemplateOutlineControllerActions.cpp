@@ -1,6 +1,7 @@
 // The structure editor's actions: add, import, remove, duplicate, rename, reveal, open, colour.
 #include "templates/editor/VTTemplateOutlineController.h"
 
+#include "creation/ItemNames.h"
 #include "platform/base/FormatString.h"
 #include "platform/base/MainThread.h"
 #include "platform/base/NativePath.h"
@@ -342,7 +343,7 @@ void VTTemplateOutlineController::rename(const QString &path, const QString &typ
 {
     if (typed.isEmpty()) // the item may be of a template that is not shown any more, and is renamed all the same
         return;
-    const QString cleaned = VTFileManager::validateFilename(typed);
+    const QString cleaned = cleanedItemName(typed);
     if (cleaned.isEmpty()) {
         VTAlert::show({tr("Invalid filename"), tr("You must enter a filename without invalid characters.")});
         return;

@@ -1,6 +1,7 @@
 // The structure editor's clipboard, lists of folders as text, and names given to several items at once.
 #include "templates/editor/VTTemplateOutlineController.h"
 
+#include "creation/ItemNames.h"
 #include "platform/base/FormatString.h"
 #include "platform/base/NativePath.h"
 #include "platform/files/FileSystem.h"
@@ -214,7 +215,7 @@ QString VTTemplateOutlineController::problemOfNames(const QStringList &paths, co
         const QString &name = names[i];
         const QString target = joined(parentPath(paths[i]), name);
         const bool changes = target != paths[i];
-        if (changes && (name.isEmpty() || VTFileManager::validateFilename(name) != name ||
+        if (changes && (name.isEmpty() || cleanedItemName(name) != name ||
                         platform::toNative(name).size() > platform::longestName))
             return tr("“%1” cannot be a name.").arg(platform::forOneLine(name));
         if (targets.contains(target, changes ? Qt::CaseInsensitive : Qt::CaseSensitive))
