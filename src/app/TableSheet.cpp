@@ -59,8 +59,8 @@ int BatchModel::columnCount(const QModelIndex &parent) const
 QString BatchModel::problemAt(const QModelIndex &index) const
 {
     QStringList sentences;
-    for (const CellProblem &problem : m_batch.rows()[index.row()].problems) {
-        if (problem.column + 1 == index.column())
+    for (const CellProblem &problem : m_batch.rows()[index.row()].problems) { // in front all of the row, in sight
+        if (index.column() == 0 || problem.column + 1 == index.column())
             sentences.append(problem.sentence);
     }
     return sentences.join(u'\n');
@@ -175,6 +175,7 @@ void TableSheet::build()
     m_treeView->setUniformRowHeights(true);
     m_treeView->header()->setStretchLastSection(false);
     m_treeView->header()->setSectionResizeMode(ResultModel::NameColumn, QHeaderView::Stretch);
+    m_treeView->hideColumn(ResultModel::RemarkColumn); // there is no room; the tool tips say it
     auto *splitter = new QSplitter;
     splitter->addWidget(m_view);
     splitter->addWidget(m_treeView);

@@ -5,7 +5,7 @@
 #include <QCoreApplication>
 #include <QRegularExpression>
 
-#include <dirent.h>
+
 
 using platform::Tree;
 using platform::TreeFolder;
@@ -155,7 +155,7 @@ private:
         const bool isRepeated = rule && rule->repeat.over != Repeat::Over::Nothing;
         if (m_rules.fillsNames || isRepeated)
             fillName(to, values);
-        if (added.type == DT_REG && ((rule && rule->fillsText) || hasPattern(m_result.tree.folders[to].nameOf(added))))
+        if (platform::kindOfType(added.type) == platform::FileKind::File && ((rule && rule->fillsText) || hasPattern(m_result.tree.folders[to].nameOf(added))))
             m_result.texts.push_back({to, place, &values});
         if (below == 0)
             return;

@@ -1,5 +1,7 @@
 #include "preferences/ParametersPane.h"
 
+#include "parameters/table/ParameterDetails.h"
+
 #include "parameters/ParameterList.h"
 #include "parameters/ParameterStore.h"
 #include "parameters/ValueRules.h"
@@ -8,6 +10,7 @@
 #include "support/Settings.h"
 #include "support/VTAlert.h"
 #include "ui/Icons.h"
+#include "ui/FilePanels.h"
 #include "ui/ValueCellDelegate.h"
 #include "ui_Prefs_Dialog.h"
 
@@ -51,6 +54,7 @@ ParametersPane::ParametersPane(Ui::Prefs_Dialog &ui, QWidget &window)
     m_ui.removeParameter->setIcon(icons::named("remove"));
     connect(m_ui.addParameter, &QToolButton::clicked, this, &ParametersPane::addNewFilenameParam);
     connect(m_ui.removeParameter, &QToolButton::clicked, this, &ParametersPane::removeFilenameParam);
+    connect(m_ui.parameterDetails, &QPushButton::clicked, this, &ParametersPane::showDetails);
     connect(m_ui.restoreParameters, &QPushButton::clicked, &m_parameters, &ParameterEditorModel::restoreDefaultParams);
 
     auto *separator = m_ui.separator;
@@ -178,6 +182,22 @@ void ParametersPane::removeFilenameParam()
                                      &m_window);
     if (answer == VTAlert::defaultReturn)
         m_parameters.remove(rows);
+}
+
+void ParametersPane::showDetails()
+{
+    finishEditing();
+    const auto row = m_ui.parameterTable->firstSelectedRow();
+    if (!row)
+        return;
+    const FilenameParameter shown = m_parameters.list().value(*row);
+    auto *details = new ParameterDetails(shown, &m_window);
+    whenLeft<ParameterDetails>(*details, *this, [this, shown, row](const ParameterDetails &left, bool accepted) {
+        const FilenameParameters now = m_parameters.list();
+        if (accepted && *row < now.size() && now[*row].title() == shown.title())
+            m_parameters.replace(*row, left.parameter());
+    });
+    details->open();
 }
 
 void ParametersPane::changeSeparator(const QString &typed)

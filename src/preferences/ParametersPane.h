@@ -25,6 +25,8 @@ public:
 public Q_SLOTS:
     void addNewFilenameParam();
     void removeFilenameParam();
+    /** What the values of the selected parameter must be. */
+    void showDetails();
 
 private:
     void setUpTable();

@@ -14,6 +14,7 @@
 namespace {
 
 constexpr int mostRows = 10;
+constexpr int rowPadding = 8;
 
 bool opens(const QKeyEvent &key)
 {
@@ -76,8 +77,7 @@ QWidget *PickEditor::popUp(QWidget &contents)
     auto *layout = new QVBoxLayout(frame);
     layout->setContentsMargins(1, 1, 1, 1);
     layout->addWidget(&contents);
-    frame->setMinimumWidth(width());
-    frame->adjustSize();
+    frame->setFixedSize(qMax(width(), contents.sizeHint().width() + 2), layout->sizeHint().height());
     QPoint place = mapToGlobal(QPoint(0, height()));
     const QRect room = screen()->availableGeometry();
     if (place.y() + frame->height() > room.bottom())
@@ -124,6 +124,7 @@ void PickEditor::showItems()
         now.append(part.trimmed());
     for (const QString &text : m_items) {
         auto *item = new QListWidgetItem(text, list);
+        item->setSizeHint(QSize(0, fontMetrics().height() + rowPadding));
         item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
         item->setCheckState(now.contains(text) ? Qt::Checked : Qt::Unchecked);
     }

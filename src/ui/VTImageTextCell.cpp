@@ -3,6 +3,7 @@
 #include "ui/Colours.h"
 #include "ui/EditorFocus.h"
 #include "ui/Icons.h"
+#include "ui/TokenCompleter.h"
 #include "ui/ValueCellDelegate.h"
 
 #include <QApplication>
@@ -203,6 +204,8 @@ QWidget *VTImageTextCell::createEditor(QWidget *parent, const QStyleOptionViewIt
     editor->setFrame(false);
     editor->setAutoFillBackground(true);
     editor->setAccessibleName(tr("Name of %1").arg(index.data(Qt::DisplayRole).toString()));
+    if (const QStringList titles = index.data(CellRole::Items).toStringList(); !titles.isEmpty())
+        new TokenCompleter(*editor, titles);
     return editor;
 }
 

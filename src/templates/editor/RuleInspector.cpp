@@ -112,10 +112,11 @@ void RuleInspector::buildItem(QVBoxLayout &column)
     part->setContentsMargins({});
     part->setSpacing(gap);
     m_join = new QComboBox;
-    m_join->addItems({tr("if all of these are true"), tr("if any of these is true")});
+    m_join->addItems({tr("all of these are true"), tr("any of these is true")});
     m_join->setAccessibleName(tr("When it is made"));
     connect(m_join, &QComboBox::activated, this, &RuleInspector::tellItem);
-    part->addWidget(captionFor(*m_join, tr("&Made:")));
+    m_made = captionFor(*m_join, {});
+    part->addWidget(m_made);
     part->addWidget(m_join);
     m_conditions = new QVBoxLayout;
     m_conditions->setSpacing(gap / 2);
@@ -172,9 +173,9 @@ void RuleInspector::buildTemplate(QVBoxLayout &column)
     m_patterns = new QLineEdit;
     m_patterns->setPlaceholderText(QStringLiteral("*.csv, *.txt, *.kdenlive"));
     connect(m_patterns, &QLineEdit::editingFinished, this, &RuleInspector::tellTemplate);
-    part->addWidget(captionFor(*m_patterns, tr("Values in the &text of:")));
+    part->addWidget(captionFor(*m_patterns, tr("Va&lues in the text of:")));
     part->addWidget(m_patterns);
-    auto *parameters = new QPushButton(tr("Its &Parameters…"));
+    auto *parameters = new QPushButton(tr("Its Pa&rameters…"));
     parameters->setObjectName(QStringLiteral("ownParameters"));
     connect(parameters, &QPushButton::clicked, this, &RuleInspector::parametersWanted);
     part->addWidget(parameters, 0, Qt::AlignLeft);
@@ -234,6 +235,14 @@ void RuleInspector::showConditions()
     m_join->setCurrentIndex(static_cast<int>(m_rule.when.join));
     for (const Condition &condition : std::as_const(m_rule.when.tests))
         addConditionRow(condition);
+    showJoin();
+}
+
+/// How conditions go together is a question from the second one on.
+void RuleInspector::showJoin()
+{
+    m_made->setText(m_rows.isEmpty() ? tr("Made always.") : tr("&Made if:"));
+    m_join->setVisible(m_rows.size() > 1);
 }
 
 void RuleInspector::addConditionRow(const Condition &condition)
@@ -278,6 +287,7 @@ void RuleInspector::addConditionRow(const Condition &condition)
     });
     m_conditions->addWidget(row);
     m_rows.append(parts);
+    showJoin();
 }
 
 void RuleInspector::showRepeat()

@@ -54,6 +54,7 @@ private:
     void buildTemplate(QVBoxLayout &column);
     [[nodiscard]] QComboBox *titleBox(QWidget *parent, const QString &title) const;
     void showConditions();
+    void showJoin();
     void addConditionRow(const Condition &condition);
     void showRepeat();
     void showGone();
@@ -66,6 +67,7 @@ private:
     bool m_isShowing = false; ///< what changes is not typed
     QLabel *m_name = nullptr;
     QWidget *m_itemPart = nullptr;
+    QLabel *m_made = nullptr;
     QComboBox *m_join = nullptr;
     QVBoxLayout *m_conditions = nullptr;
     QList<ConditionRow> m_rows;

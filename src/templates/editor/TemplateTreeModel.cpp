@@ -82,6 +82,18 @@ void TemplateTreeModel::setRules(const QHash<QString, ItemRule> &rules, bool fil
         Q_EMIT dataChanged(index(0, 0, {}), index(rowCount() - 1, 0, {}));
 }
 
+/// Repeats of the item and of the folders above have names of their own.
+QStringList TemplateTreeModel::titlesFor(const TemplateNode &node) const
+{
+    QStringList repeats;
+    for (const TemplateNode *above = &node; above && !m_rules.isEmpty(); above = above->parent()) {
+        const Repeat repeat = m_rules.value(above->filename()).repeat;
+        if (repeat.over != Repeat::Over::Nothing)
+            repeats.append(repeat.name);
+    }
+    return m_fillsNames ? repeats + m_titles : repeats;
+}
+
 QVariant TemplateTreeModel::badgesOf(const TemplateNode &node) const
 {
     QStringList icons;
@@ -211,6 +223,8 @@ QVariant TemplateTreeModel::data(const QModelIndex &index, int role) const
         const QString rules = sentenceOfRules(node);
         return toolTip.isValid() || rules.isEmpty() ? toolTip : rules;
     }
+    case CellRole::Items:
+        return titlesFor(node);
     case CellRole::Badges:
         return badgesOf(node);
     case CellRole::LabelColor:

@@ -47,6 +47,8 @@ public:
     void setNodes(TemplateNodes nodes);
     /** What is said of items by their rules, by path; and whether names have values in them. */
     void setRules(const QHash<QString, ItemRule> &rules, bool fillsNames);
+    /** What names may have in braces, where they have values. */
+    void setTitles(const QStringList &titles) { m_titles = titles; }
     void setChildren(VTFolderItem &folder, TemplateNodes children);
     /** Its row, and the names below it, have changed. */
     void itemChanged(const TemplateNode &node);
@@ -80,12 +82,14 @@ public:
 private:
     [[nodiscard]] const TemplateNodes &childrenOf(const QModelIndex &parent) const;
 
+    [[nodiscard]] QStringList titlesFor(const TemplateNode &node) const;
     [[nodiscard]] QVariant badgesOf(const TemplateNode &node) const;
     [[nodiscard]] QString sentenceOfRules(const TemplateNode &node) const;
 
     Handlers m_handlers;
     QHash<QString, ItemRule> m_rules;
     bool m_fillsNames = false;
+    QStringList m_titles;
     TemplateNodes m_nodes;
     QList<std::pair<QString, QString>> m_typed; ///< path and name
     bool m_isTakingNames = false;

@@ -2,6 +2,7 @@
 #include "templates/editor/VTTemplateOutlineController.h"
 
 #include "creation/ItemNames.h"
+#include "parameters/ParameterStore.h"
 #include "platform/base/FormatString.h"
 #include "platform/base/MainThread.h"
 #include "platform/base/NativePath.h"
@@ -100,6 +101,11 @@ void VTTemplateOutlineController::showRules(const TemplateRules &rules, const pl
     for (const ItemRule &rule : rules.items)
         byPath.insert(joined(filesFolder(), rule.path), rule);
     m_model.setRules(byPath, rules.fillsNames);
+    QStringList titles;
+    for (const FilenameParameter &parameter :
+         storedParameters({{}, parametersFromVariant(rules.parameters), {}, rules.hidden}))
+        titles.append(parameter.title());
+    m_model.setTitles(titles + QStringList{QStringLiteral("Project"), QStringLiteral("Level:1")});
     Q_EMIT rulesChanged();
 }
 
