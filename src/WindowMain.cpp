@@ -12,6 +12,7 @@
 #include "support/VTAlert.h"
 #include "support/VTLog.h"
 #include "ui/Icons.h"
+#include "ui/Placeholders.h"
 #include "ui/SheetPresenter.h"
 
 #include <QApplication>
@@ -40,6 +41,7 @@ int runWindow(int &argc, char **argv, const QStringList &files)
         return ExitStatus::done;
     platform::SingleInstance instance;
     fonts.finish();
+    keepPlaceholdersReadable();
     SheetPresenter sheets;
     VTAlert::setPresenter(&sheets);
     int status = ExitStatus::done;

@@ -4,6 +4,8 @@
 #include "commands/TerminalOutput.h"
 #include "parameters/ParameterList.h"
 #include "parameters/ParameterStore.h"
+#include "parameters/Tokens.h"
+#include "parameters/ValueForms.h"
 #include "parameters/ValueRules.h"
 #include "platform/base/NativePath.h"
 #include "platform/files/WholeFile.h"
@@ -162,6 +164,46 @@ int commands::moveParameter(const Invocation &invocation)
     });
 }
 
+/// What values must be, by the same words as in the record, but for those that say it the other way round.
+static platform::Result<FilenameParameters> withForm(FilenameParameters list, int row, const QString &word,
+                                                     const QString &value)
+{
+    static const QMap<QString, QString> keys{{"form", recordkey::form},
+                                             {"pattern", recordkey::pattern},
+                                             {"message", recordkey::patternMessage},
+                                             {"computed", recordkey::computed},
+                                             {"case", recordkey::letterCase},
+                                             {"length", recordkey::maxLength},
+                                             {"several", recordkey::several},
+                                             {"in-name", recordkey::outsideName}};
+    static const QMap<QString, QStringList> allowed{{"form", {"", "number", "date", "folder"}},
+                                                    {"case", {"", "upper", "lower", "title"}},
+                                                    {"several", {"yes", "no"}},
+                                                    {"in-name", {"yes", "no"}}};
+    if (!keys.contains(word))
+        return invalid(Text::tr("A parameter has no “%1”. It has: %2.")
+                           .arg(word, (parameterlist::columnWords() + keys.keys()).join(QStringLiteral(", "))));
+    if (allowed.contains(word) && !allowed[word].contains(value))
+        return invalid(Text::tr("“%1” cannot be that. It can be: %2.")
+                           .arg(value, allowed[word].join(QStringLiteral(", "))));
+    const qlonglong length = word == u"length" ? value.toLongLong() : 0;
+    if (word == u"length" && (length < 0 || length > platform::longestName || value != QString::number(length)))
+        return invalid(Text::tr("The length is a number from 0 (any) to 255."));
+    if (const QString why = word == u"pattern" ? forms::problemOfPattern(value) : QString(); !why.isNull())
+        return invalid(Text::tr("The pattern is no regular expression: %1").arg(why));
+    if (const QString why = word == u"computed" ? tokens::piecesOf(value).problem : QString(); !why.isNull())
+        return invalid(why);
+    const bool isFlag = word == u"several" || word == u"in-name";
+    const bool isSet = isFlag ? value == (word == u"several" ? u"yes" : u"no") : !value.isEmpty() && value != u"0";
+    if (!isSet)
+        list[row].removeEntry(keys[word]);
+    else if (isFlag)
+        list[row].setEntry(keys[word], true);
+    else
+        list[row].setEntry(keys[word], word == u"length" ? QVariant(length) : QVariant(value));
+    return list;
+}
+
 int commands::setParameter(const Invocation &invocation)
 {
     return change([&](const FilenameParameters &list) -> platform::Result<FilenameParameters> {
@@ -170,8 +212,7 @@ int commands::setParameter(const Invocation &invocation)
             return row.outcome();
         const auto column = parameterlist::columnOfWord(invocation.argument(1));
         if (!column)
-            return invalid(Text::tr("A parameter has no “%1”. It has: %2.")
-                               .arg(invocation.argument(1), parameterlist::columnWords().join(QStringLiteral(", "))));
+            return withForm(list, *row, invocation.argument(1), invocation.argument(2));
         const auto value = entryFromWord(*column, invocation.argument(2));
         if (!value)
             return value.outcome();

@@ -56,10 +56,8 @@ ProjectBatch::ProjectBatch(ProjectTable table, const BatchBase &base)
         if (column != m_templateColumn && !titles.contains(title))
             m_unknownColumns.append(title.isEmpty() ? Text::tr("column %1").arg(column + 1) : title);
     }
-    QHash<QString, QString> next;
-    for (qsizetype row = 0; row < m_rows.size(); ++row)
-        fill(row, next);
-    findTwins();
+    static const std::atomic<bool> never = false;
+    goThrough({}, never);
 }
 
 const ProjectBatch::Known &ProjectBatch::baseOf(const QString &templateName) const
@@ -67,39 +65,74 @@ const ProjectBatch::Known &ProjectBatch::baseOf(const QString &templateName) con
     return *m_bases.constFind(templateName);
 }
 
-/// Another row's project has taken the number before it; one that was typed is where counting goes on from.
-void ProjectBatch::fill(qsizetype row, QHash<QString, QString> &next)
+/// In the order in which they will be made: another row's project has taken the number before it, and its place; one
+/// that was typed is where counting goes on from.
+void ProjectBatch::goThrough(const DiskLook &look, const std::atomic<bool> &cancelled)
 {
-    BatchRow &own = m_rows[row];
-    const Known &known = baseOf(own.templateName);
-    if (!known.outcome.ok()) {
-        own.problems.append({m_templateColumn, known.outcome.sentence()});
-        return;
-    }
-    for (const FilenameParameter &parameter : known.base.parameters) {
-        if (isCounter(parameter))
-            own.numbers.append(next.value(parameter.title(), parameter.value()));
-    }
-    ProjectRequest request = requestOf(row);
-    takeCells(row, request, own.problems);
-    if (m_table.rows[row].cells.size() > m_table.columns.size())
-        own.problems.append({-1, Text::tr("This row has more cells than there are columns.")});
-    if (own.problems.isEmpty()) {
-        if (const auto problem = problemOf(request)) {
-            const QString title = problem->parameter < 0 ? QString() : request.parameters[problem->parameter].title();
-            own.problems.append({static_cast<int>(m_table.columns.indexOf(title)),
-                                 problem->message + QStringLiteral(". ") + problem->informativeText});
+    QHash<QString, QString> next;
+    QHash<QString, qsizetype> places; // in letters that some drives do not tell apart
+    for (qsizetype row = 0; row < m_rows.size() && !cancelled; ++row) {
+        BatchRow &own = m_rows[row];
+        const Known &known = baseOf(own.templateName);
+        own = {own.templateName};
+        if (!known.outcome.ok()) {
+            own.problems.append({m_templateColumn, known.outcome.sentence()});
+            continue;
         }
-    }
-    own.project = request.relativePath();
-    for (const FilenameParameter &parameter : std::as_const(request.parameters)) {
-        if (isCounter(parameter))
-            next.insert(parameter.title(), rules::incrementNumber(parameter.value()));
+        for (const FilenameParameter &parameter : known.base.parameters) {
+            if (isCounter(parameter))
+                own.numbers.append(next.value(parameter.title(), parameter.value()));
+        }
+        const ProjectRequest request = requestOf(row, own.problems);
+        own.project = request.relativePath();
+        findProblems(row, request);
+        const auto twin = places.constFind(own.project.toCaseFolded());
+        if (twin != places.cend())
+            own.problems.append({-1, Text::tr("Line %1 makes the same project: %2")
+                                         .arg(m_table.rows[*twin].line)
+                                         .arg(own.project)});
+        if (own.problems.isEmpty() && look)
+            look(row, request);
+        if (!own.problems.isEmpty())
+            continue;
+        places.insert(own.project.toCaseFolded(), row);
+        for (const FilenameParameter &parameter : request.parameters) {
+            if (isCounter(parameter))
+                next.insert(parameter.title(), rules::incrementNumber(parameter.value()));
+        }
     }
 }
 
-void ProjectBatch::takeCells(qsizetype row, ProjectRequest &request, QList<CellProblem> &problems) const
+void ProjectBatch::findProblems(qsizetype row, const ProjectRequest &request)
 {
+    BatchRow &own = m_rows[row];
+    if (m_table.rows[row].cells.size() > m_table.columns.size())
+        own.problems.append({-1, Text::tr("This row has more cells than there are columns.")});
+    const auto problem = own.problems.isEmpty() ? problemOf(request) : std::nullopt;
+    if (!problem)
+        return;
+    const QString title = problem->parameter < 0 ? QString() : request.parameters[problem->parameter].title();
+    own.problems.append({static_cast<int>(m_table.columns.indexOf(title)),
+                         problem->message + QStringLiteral(". ") + problem->informativeText});
+}
+
+ProjectRequest ProjectBatch::requestOf(qsizetype row) const
+{
+    QList<CellProblem> known;
+    return requestOf(row, known);
+}
+
+ProjectRequest ProjectBatch::requestOf(qsizetype row, QList<CellProblem> &problems) const
+{
+    ProjectRequest request = baseOf(m_rows[row].templateName).base;
+    const FilenameParameters before = request.parameters;
+    qsizetype counter = 0;
+    for (FilenameParameter &parameter : request.parameters) {
+        if (isCounter(parameter) && counter < m_rows[row].numbers.size())
+            parameter.setValue(m_rows[row].numbers[counter++]);
+    }
+    request.parameters =
+        forms::withComputedValues(request.parameters, before, {request.dateFormat, request.moment});
     const QStringList &cells = m_table.rows[row].cells;
     for (int column = 0; column < m_table.columns.size(); ++column) {
         const QString &title = m_table.columns[column];
@@ -111,40 +144,7 @@ void ProjectBatch::takeCells(qsizetype row, ProjectRequest &request, QList<CellP
         else
             problems.append({column, changed.outcome().sentence()});
     }
-}
-
-ProjectRequest ProjectBatch::requestOf(qsizetype row) const
-{
-    ProjectRequest request = baseOf(m_rows[row].templateName).base;
-    qsizetype counter = 0;
-    for (FilenameParameter &parameter : request.parameters) {
-        if (isCounter(parameter) && counter < m_rows[row].numbers.size())
-            parameter.setValue(m_rows[row].numbers[counter++]);
-    }
-    const FilenameParameters &before = baseOf(m_rows[row].templateName).base.parameters;
-    request.parameters =
-        forms::withComputedValues(request.parameters, before, {request.dateFormat, request.moment});
-    QList<CellProblem> known;
-    takeCells(row, request, known);
     return request;
-}
-
-/// On a drive that does not tell letters apart two of them would meet, too.
-void ProjectBatch::findTwins()
-{
-    QHash<QString, qsizetype> first;
-    for (qsizetype row = 0; row < m_rows.size(); ++row) {
-        BatchRow &own = m_rows[row];
-        if (own.project.isEmpty())
-            continue;
-        const auto other = first.constFind(own.project.toCaseFolded());
-        if (other == first.cend())
-            first.insert(own.project.toCaseFolded(), row);
-        else
-            own.problems.append({-1, Text::tr("Line %1 makes the same project: %2")
-                                         .arg(m_table.rows[*other].line)
-                                         .arg(own.project)});
-    }
 }
 
 qsizetype ProjectBatch::problemRows() const
@@ -155,17 +155,13 @@ qsizetype ProjectBatch::problemRows() const
 void ProjectBatch::lookAtDisk(const std::atomic<bool> &cancelled)
 {
     QHash<QString, CreationPlan> plans; // a template is read once, and looked at with each row's values
-    for (qsizetype row = 0; row < m_rows.size() && !cancelled; ++row) {
+    const auto look = [&](qsizetype row, const ProjectRequest &request) {
         BatchRow &own = m_rows[row];
-        if (!own.problems.isEmpty())
-            continue;
-        const ProjectRequest request = requestOf(row);
         if (!request.location.isEmpty() && platform::kindOf(request.destination()) != platform::FileKind::Missing)
             own.problems.append({-1, Text::tr("A project with this name already exists: %1").arg(own.project)});
         auto plan = plans.find(own.templateName);
         if (plan == plans.end())
-            plan = plans.insert(own.templateName,
-                                planCreation(request.templateFiles, request.planInput(), cancelled));
+            plan = plans.insert(own.templateName, planCreation(request.templateFiles, request.planInput(), cancelled));
         else if (plan->ruled)
             planFor(*plan, request.planInput());
         own.items = plan->tree.itemCount() - plan->leftOut;
@@ -173,5 +169,6 @@ void ProjectBatch::lookAtDisk(const std::atomic<bool> &cancelled)
             own.problems.append({-1, Text::tr("Repeats would make more than %L1 items.").arg(mostRepeatedUnasked)});
         else if (const QString flaw = plan->firstFlaw(); !flaw.isNull())
             own.problems.append({-1, flaw});
-    }
+    };
+    goThrough(look, cancelled);
 }

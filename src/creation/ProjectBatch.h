@@ -36,7 +36,7 @@ struct BatchBase
 /**
  * Many projects from a table. A column with a parameter's title gives its value, one called "Template" the template;
  * an empty cell leaves what would be there without it. Counters go on from row to row, as if one project had been
- * created after the other. A value: what is shown of it is what is made.
+ * created after the other; rows with problems take no number. A value: what is shown of it is what is made.
  */
 class ProjectBatch
 {
@@ -62,9 +62,10 @@ private:
         platform::Outcome outcome;
     };
     [[nodiscard]] const Known &baseOf(const QString &templateName) const;
-    void fill(qsizetype row, QHash<QString, QString> &next);
-    void takeCells(qsizetype row, ProjectRequest &request, QList<CellProblem> &problems) const;
-    void findTwins();
+    using DiskLook = std::function<void(qsizetype row, const ProjectRequest &request)>;
+    void goThrough(const DiskLook &look, const std::atomic<bool> &cancelled);
+    void findProblems(qsizetype row, const ProjectRequest &request);
+    [[nodiscard]] ProjectRequest requestOf(qsizetype row, QList<CellProblem> &problems) const;
 
     ProjectTable m_table;
     QList<BatchRow> m_rows;

@@ -290,8 +290,11 @@ void ParameterEditorModel::replace(int row, const FilenameParameter &parameter)
 {
     const FilenameParameters shown = list();
     change([&](FilenameParameters now) {
-        if (const auto there = parameterlist::rowOfSame(shown, row, now))
-            now[*there] = parameter;
+        if (const auto there = parameterlist::rowOfSame(shown, row, now)) {
+            FilenameParameters wanted = now;
+            wanted[*there] = parameter;
+            now = parameterlist::withValuesOf(wanted, now); // a number may have been taken meanwhile
+        }
         return now;
     });
     Q_EMIT dataChanged(index(row, 0), index(row, columnCount() - 1));
