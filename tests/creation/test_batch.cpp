@@ -146,7 +146,7 @@ private Q_SLOTS:
         QCOMPARE(shown(batch),
                  QStringList({"A_007_Film", "B_008_Spot", "C_009_Film !2 “Opera” is not among the choic",
                               "D_020_Film", "E_021_Film", "d_020_Film !-1 Line 5 makes the same project:",
-                              " !4 no such template", "_022_Film !-1 {Kind} {Client}.txt: {Client} pu",
+                              " !4 no such template", "_022_Film !-1 {Kind} {Client}.txt: {Client} ",
                               "Taken_010_Film !-1 A project with this name alrea", "G_022_Film"}));
         QCOMPARE(batch.unknownColumns(), QStringList{"Note"});
         QCOMPARE(batch.problemRows(), 5);
