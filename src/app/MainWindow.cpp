@@ -263,9 +263,7 @@ void MainWindow::showCreated(const QString &project, const QString &location)
 void MainWindow::showCreatedMany(qsizetype projects, const QString &location)
 {
     showCreated({});
-    tell(tr("Created in %1: %L2 projects.")
-             .arg(platform::forOneLine(platform::lastComponent(location)))
-             .arg(projects));
+    tell(tr("Created in %1: %L2 projects.").arg(platform::forOneLine(platform::lastComponent(location))).arg(projects));
     m_ui->undoButton->setVisible(projects > 0);
 }
 

@@ -253,12 +253,15 @@ QVariant ResultModel::itemData(const QModelIndex &index, int role) const
     case Qt::DecorationRole:
         if (!isName)
             return {};
-        return isProblem(item) ? icons::named("warning")
-                               : fileicons::forName(name(), platform::kindOfType(item.type) == platform::FileKind::Folder
-                                                                ? fileicons::Kind::Folder
-                                                                : fileicons::Kind::File);
+        return isProblem(item)
+                   ? icons::named("warning")
+                   : fileicons::forName(name(), platform::kindOfType(item.type) == platform::FileKind::Folder
+                                                    ? fileicons::Kind::Folder
+                                                    : fileicons::Kind::File);
     case Qt::ForegroundRole:
-        return !isName || isLeftOut(item) ? QVariant(secondary()) : item.newName != item.name ? QVariant(accent()) : QVariant();
+        return !isName || isLeftOut(item)  ? QVariant(secondary())
+               : item.newName != item.name ? QVariant(accent())
+                                           : QVariant();
     case Qt::ToolTipRole: {
         const QString remark = remarkOf(index);
         return remark.isEmpty() ? name() : name() + QStringLiteral(" (%1)").arg(remark);

@@ -1,8 +1,8 @@
 #include "app/ResultPane.h"
 
+#include "creation/ProjectRequest.h"
 #include "platform/base/MainThread.h"
 #include "platform/base/NativePath.h"
-#include "creation/ProjectRequest.h"
 #include "platform/files/FileTree.h"
 #include "support/Settings.h"
 

@@ -55,7 +55,7 @@ private:
     FilenameParameters m_parameters;
     QString m_location;
     quint64 m_bytes = 0;
-    QString m_ruleProblem; ///< why the template's rules could not be read; empty: they could
+    QString m_ruleProblem;    ///< why the template's rules could not be read; empty: they could
     QSet<QString> m_readings; ///< templates that are being read
     QSet<QString> m_readsAgain;
     QSet<QString> m_looks; ///< places that are being looked at

@@ -35,8 +35,8 @@ constexpr std::size_t mostOpened = 2000;
 
 void BatchModel::setBatch(ProjectBatch batch)
 {
-    const bool hasSameCells = batch.rows().size() == m_batch.rows().size() &&
-                              batch.table().columns == m_batch.table().columns;
+    const bool hasSameCells =
+        batch.rows().size() == m_batch.rows().size() && batch.table().columns == m_batch.table().columns;
     if (!hasSameCells)
         beginResetModel();
     m_batch = std::move(batch);
@@ -222,8 +222,8 @@ BatchManner TableSheet::manner() const
 
 void TableSheet::chooseFile()
 {
-    auto *panel = new QFileDialog(this, tr("Choose a table"), {},
-                                  tr("Tables (*.csv *.tsv *.txt *.tab);;All files (*)"));
+    auto *panel =
+        new QFileDialog(this, tr("Choose a table"), {}, tr("Tables (*.csv *.tsv *.txt *.tab);;All files (*)"));
     panel->setAttribute(Qt::WA_DeleteOnClose);
     panel->setFileMode(QFileDialog::ExistingFile);
     connect(panel, &QFileDialog::fileSelected, this, &TableSheet::openFile);

@@ -164,16 +164,16 @@ private:
     bool m_templatesShown = false;      ///< the pane is filled when it is first shown: that would only slow the start
     bool m_closesLater = false;
     bool m_awaitsLibrary = false;
-    QString m_crashReport;  ///< of the last run; null when it ended well
+    QString m_crashReport;          ///< of the last run; null when it ended well
     QSet<QString> m_rulesBeingRead; ///< of these templates
-    int m_imports = 0;      ///< bundles that are being taken in
-    QString m_seenTemplate; ///< "selectedProjectTemplate" and "defaultTemplate" when they were last looked at
+    int m_imports = 0;              ///< bundles that are being taken in
+    QString m_seenTemplate;         ///< "selectedProjectTemplate" and "defaultTemplate" when they were last looked at
     QString m_seenDefault;
     std::unique_ptr<platform::FileWatch> m_settingsWatch;
     std::unique_ptr<MainWindow> m_window;
     std::unique_ptr<VTProjectTableController> m_tableController;
     QPointer<VTSavePanel> m_savePanel;
     QList<Manifest> m_undoable; ///< the last creation of this window, until it is undone
-    ProjectRequest m_request;           ///< the project for which the panel asks
+    ProjectRequest m_request;   ///< the project for which the panel asks
     QPointer<VTPreferenceController> m_preferences;
 };

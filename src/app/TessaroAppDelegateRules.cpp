@@ -37,8 +37,9 @@ bool TessaroAppDelegate::takeRules(ProjectRequest &request)
     const ReadRules rules = platform::resultInBackground(
         [&] { return ReadRules(readRules(VTDataController::bundlePath(request.templateName))); });
     if (!*rules) {
-        VTAlert::show({tr("The template’s rules cannot be read"),
-                       withCause(tr("Nothing was created. The template pane shows what can be done."), rules->outcome())});
+        VTAlert::show(
+            {tr("The template’s rules cannot be read"),
+             withCause(tr("Nothing was created. The template pane shows what can be done."), rules->outcome())});
         return false;
     }
     request.rules = std::make_shared<const TemplateRules>(**rules);

@@ -80,8 +80,8 @@ bool CreateCommand::readBatch(ProjectBatch &batch)
 void CreateCommand::complainAbout(const ProjectBatch &batch)
 {
     if (!batch.unknownColumns().isEmpty())
-        complain(ExitStatus::done, Text::tr("No parameter is called: %1")
-                                       .arg(batch.unknownColumns().join(QStringLiteral(", "))));
+        complain(ExitStatus::done,
+                 Text::tr("No parameter is called: %1").arg(batch.unknownColumns().join(QStringLiteral(", "))));
     qsizetype named = 0;
     for (qsizetype row = 0; row < batch.rows().size(); ++row) {
         for (const CellProblem &problem : batch.rows()[row].problems) {
@@ -146,9 +146,8 @@ void CreateCommand::createAll(const ProjectBatch &batch)
     } else if (result.stopped) {
         fail(ExitStatus::stopped, Text::tr("Stopped. Projects that were not begun: %L1").arg(result.left));
     } else if (result.failed > 0 || result.left > 0) {
-        fail(ExitStatus::failed,
-             Text::tr("Rows left out: %L1. The log names each item and the cause: %2")
-                 .arg(result.left + result.failed)
-                 .arg(VTLog::sharedController().currentLogPath()));
+        fail(ExitStatus::failed, Text::tr("Rows left out: %L1. The log names each item and the cause: %2")
+                                     .arg(result.left + result.failed)
+                                     .arg(VTLog::sharedController().currentLogPath()));
     }
 }

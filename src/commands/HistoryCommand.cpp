@@ -73,7 +73,8 @@ int undoAll(const QList<Manifest> &batch, platform::CopyMonitor &monitor)
             status = one;
     }
     if (results.size() < batch.size())
-        return complain(ExitStatus::stopped, Text::tr("Stopped. Projects that stay: %L1").arg(batch.size() - results.size()));
+        return complain(ExitStatus::stopped,
+                        Text::tr("Stopped. Projects that stay: %L1").arg(batch.size() - results.size()));
     return status;
 }
 

@@ -168,14 +168,10 @@ int commands::moveParameter(const Invocation &invocation)
 static platform::Result<FilenameParameters> withForm(FilenameParameters list, int row, const QString &word,
                                                      const QString &value)
 {
-    static const QMap<QString, QString> keys{{"form", recordkey::form},
-                                             {"pattern", recordkey::pattern},
-                                             {"message", recordkey::patternMessage},
-                                             {"computed", recordkey::computed},
-                                             {"case", recordkey::letterCase},
-                                             {"length", recordkey::maxLength},
-                                             {"several", recordkey::several},
-                                             {"in-name", recordkey::outsideName}};
+    static const QMap<QString, QString> keys{
+        {"form", recordkey::form},         {"pattern", recordkey::pattern},    {"message", recordkey::patternMessage},
+        {"computed", recordkey::computed}, {"case", recordkey::letterCase},    {"length", recordkey::maxLength},
+        {"several", recordkey::several},   {"in-name", recordkey::outsideName}};
     static const QMap<QString, QStringList> allowed{{"form", {"", "number", "date", "folder"}},
                                                     {"case", {"", "upper", "lower", "title"}},
                                                     {"several", {"yes", "no"}},
@@ -184,8 +180,8 @@ static platform::Result<FilenameParameters> withForm(FilenameParameters list, in
         return invalid(Text::tr("A parameter has no “%1”. It has: %2.")
                            .arg(word, (parameterlist::columnWords() + keys.keys()).join(QStringLiteral(", "))));
     if (allowed.contains(word) && !allowed[word].contains(value))
-        return invalid(Text::tr("“%1” cannot be that. It can be: %2.")
-                           .arg(value, allowed[word].join(QStringLiteral(", "))));
+        return invalid(
+            Text::tr("“%1” cannot be that. It can be: %2.").arg(value, allowed[word].join(QStringLiteral(", "))));
     const qlonglong length = word == u"length" ? value.toLongLong() : 0;
     if (word == u"length" && (length < 0 || length > platform::longestName || value != QString::number(length)))
         return invalid(Text::tr("The length is a number from 0 (any) to 255."));

@@ -66,8 +66,9 @@ Result<TemplateRules> rulesFromJson(const QByteArray &json)
     QJsonParseError error{};
     const QJsonDocument document = QJsonDocument::fromJson(json, &error);
     if (error.error != QJsonParseError::NoError)
-        return Outcome::failure(Cause::Invalid, {},
-                                Text::tr("This is no JSON: %1, at byte %2.").arg(error.errorString()).arg(error.offset));
+        return Outcome::failure(
+            Cause::Invalid, {},
+            Text::tr("This is no JSON: %1, at byte %2.").arg(error.errorString()).arg(error.offset));
     if (!document.isObject())
         return Outcome::failure(Cause::Invalid, {}, Text::tr("Rules are one JSON object: { … }."));
     return rulesFromVariant(withPathsFromJson(document.object().toVariantMap()));
@@ -94,7 +95,8 @@ int takeRules(const QString &bundle, const QString &file)
         return complain(json.outcome(), Text::tr("The rules cannot be read."));
     const Result<TemplateRules> rules = rulesFromJson(*json);
     if (!rules)
-        return complain(ExitStatus::wrongUsage, Text::tr("The rules were not changed.") + u'\n' + rules.outcome().sentence());
+        return complain(ExitStatus::wrongUsage,
+                        Text::tr("The rules were not changed.") + u'\n' + rules.outcome().sentence());
     const Outcome stored = store(bundle, *rules);
     return stored.ok() ? ExitStatus::done : complain(stored);
 }
@@ -102,8 +104,8 @@ int takeRules(const QString &bundle, const QString &file)
 QStringList goneItems(const QString &name, const TemplateRules &rules)
 {
     const std::atomic<bool> never = false;
-    const platform::Tree tree =
-        platform::readTree(VTDataController::filesFolder(name), [](platform::TreeFolder &) {}, never);
+    const platform::Tree tree = platform::readTree(
+        VTDataController::filesFolder(name), [](platform::TreeFolder &) {}, never);
     return RuledItems(tree, rules).gone();
 }
 

@@ -172,11 +172,10 @@ constexpr Verb table[] = {
      .arguments = "TITLE KEY VALUE",
      .least = 3,
      .most = 3,
-     .help =
-         QT_TRANSLATE_NOOP("Commands",
-                           "Changes a parameter. Keys: title, kind, default, folder, history, required, locked; form "
-                           "(number, date, folder), pattern, message, computed, case (upper, lower, title), length, "
-                           "several, in-name."),
+     .help = QT_TRANSLATE_NOOP(
+         "Commands", "Changes a parameter. Keys: title, kind, default, folder, history, required, locked; form "
+                     "(number, date, folder), pattern, message, computed, case (upper, lower, title), length, "
+                     "several, in-name."),
      .run = commands::setParameter,
      .guard = Guard::Preferences,
      .valueAt = 2},

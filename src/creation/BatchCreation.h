@@ -12,12 +12,12 @@ enum class BatchManner {
 /** What became of a batch. */
 struct BatchResult
 {
-    QList<Manifest> made{};  ///< what stands, in the order of the rows
-    qsizetype failed = 0;    ///< rows that were begun
-    qsizetype left = 0;      ///< rows that were not begun: they have problems, or it was over before
-    bool stopped = false;    ///< by the user
-    bool takenBack = false;  ///< nothing of it was to stay
-    QList<KeptItem> kept{};  ///< of what was taken back: what stays all the same
+    QList<Manifest> made{}; ///< what stands, in the order of the rows
+    qsizetype failed = 0;   ///< rows that were begun
+    qsizetype left = 0;     ///< rows that were not begun: they have problems, or it was over before
+    bool stopped = false;   ///< by the user
+    bool takenBack = false; ///< nothing of it was to stay
+    QList<KeptItem> kept{}; ///< of what was taken back: what stays all the same
 };
 
 /**

@@ -131,9 +131,8 @@ qsizetype CreationPlan::renamed() const
 
 QString CreationPlan::flawOf(std::uint32_t folder, std::uint32_t item) const
 {
-    const auto flaw = std::find_if(flaws.begin(), flaws.end(), [&](const Flaw &other) {
-        return other.folder == folder && other.item == item;
-    });
+    const auto flaw = std::find_if(flaws.begin(), flaws.end(),
+                                   [&](const Flaw &other) { return other.folder == folder && other.item == item; });
     return flaw == flaws.end() ? QString() : flaw->sentence;
 }
 

@@ -23,9 +23,9 @@ struct PlanItem
 /** What a project takes its names, its items and its texts from. A plain value. */
 struct PlanInput
 {
-    QStringList levels;        ///< the project's folder levels, outermost first
-    tokens::Values values{};   ///< those of the levels and of the project's name among them
-    TemplateRulesPtr rules{};  ///< null: none
+    QStringList levels;       ///< the project's folder levels, outermost first
+    tokens::Values values{};  ///< those of the levels and of the project's name among them
+    TemplateRulesPtr rules{}; ///< null: none
     std::size_t mostRepeated = mostRepeatedUnasked;
 };
 
@@ -55,10 +55,10 @@ struct CreationPlan
     std::vector<RuledText> texts{};
     std::vector<std::uint32_t> repeated{}; ///< folders that are one round of a repeat
     std::shared_ptr<const PlanValues> values{};
-    QStringList gone{};       ///< paths of rules whose item is not in the template
-    std::size_t leftOut = 0;  ///< items
-    bool isCutOff = false;    ///< there would be more items than were to be made without a question
-    QByteArray shape{};       ///< the same as long as nothing but names changes
+    QStringList gone{};      ///< paths of rules whose item is not in the template
+    std::size_t leftOut = 0; ///< items
+    bool isCutOff = false;   ///< there would be more items than were to be made without a question
+    QByteArray shape{};      ///< the same as long as nothing but names changes
 
     /** In listing order, a folder before what lies in it. */
     void forEachItem(const std::function<void(const PlanItem &)> &visit) const;

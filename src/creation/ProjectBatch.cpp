@@ -88,9 +88,8 @@ void ProjectBatch::goThrough(const DiskLook &look, const std::atomic<bool> &canc
         findProblems(row, request);
         const auto twin = places.constFind(own.project.toCaseFolded());
         if (twin != places.cend())
-            own.problems.append({-1, Text::tr("Line %1 makes the same project: %2")
-                                         .arg(m_table.rows[*twin].line)
-                                         .arg(own.project)});
+            own.problems.append(
+                {-1, Text::tr("Line %1 makes the same project: %2").arg(m_table.rows[*twin].line).arg(own.project)});
         if (own.problems.isEmpty() && look)
             look(row, request);
         if (!own.problems.isEmpty())
@@ -131,8 +130,7 @@ ProjectRequest ProjectBatch::requestOf(qsizetype row, QList<CellProblem> &proble
         if (isCounter(parameter) && counter < m_rows[row].numbers.size())
             parameter.setValue(m_rows[row].numbers[counter++]);
     }
-    request.parameters =
-        forms::withComputedValues(request.parameters, before, {request.dateFormat, request.moment});
+    request.parameters = forms::withComputedValues(request.parameters, before, {request.dateFormat, request.moment});
     const QStringList &cells = m_table.rows[row].cells;
     for (int column = 0; column < m_table.columns.size(); ++column) {
         const QString &title = m_table.columns[column];

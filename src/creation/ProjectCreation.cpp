@@ -158,7 +158,8 @@ void ProjectCreation::remember()
     if (!identity)
         return;
     m_result.manifest = {{},        request.destination(), request.templateName, QDateTime::currentDateTime(),
-                         *identity, request.parameters,    m_levelsMade,         m_oldInTrash, m_batch};
+                         *identity, request.parameters,    m_levelsMade,         m_oldInTrash,
+                         m_batch};
     const Outcome kept = platform::resultInBackground([&] { return ::remember(m_result.manifest, m_plan.tree); });
     if (kept.ok())
         return;
@@ -201,8 +202,8 @@ Outcome ProjectCreation::claimOnce()
 {
     const QString destination = m_result.request.destination();
     Outcome made;
-    const Outcome stored =
-        changeParameters(scopeOf(m_result.request), [&](const FilenameParameters &list) -> platform::Result<FilenameParameters> {
+    const Outcome stored = changeParameters(
+        scopeOf(m_result.request), [&](const FilenameParameters &list) -> platform::Result<FilenameParameters> {
             if (withNextNumbers(m_result.request, list).parameters != m_result.request.parameters)
                 return made = Outcome::failure(Cause::Busy, destination);
             m_levelsMade = missingLevels(platform::parentPath(destination));

@@ -53,7 +53,7 @@ public:
     /** One of several that were asked for together. */
     struct Part
     {
-        QString batch;                             ///< its name
+        QString batch;                            ///< its name
         platform::CopyMonitor *monitor = nullptr; ///< of all of them
     };
 

@@ -17,12 +17,11 @@ struct ProjectRequest
     QMap<qsizetype, QString> typed; ///< by row: values typed for this project alone, not yet in the stored list
     QString separator;
     QString templateName;
-    QString templateFiles; ///< the folder whose contents the project gets
-    QString location;      ///< the folder in which the outermost level lies
-    TemplateRulesPtr rules{};   ///< of the template; null: none
-    QString dateFormat{};       ///< in which the values' dates are
-    std::time_t moment = 0;     ///< when it was asked for
-
+    QString templateFiles;    ///< the folder whose contents the project gets
+    QString location;         ///< the folder in which the outermost level lies
+    TemplateRulesPtr rules{}; ///< of the template; null: none
+    QString dateFormat{};     ///< in which the values' dates are
+    std::time_t moment = 0;   ///< when it was asked for
 
     /** The folder levels, outermost first; empty when no parameter has a value. */
     [[nodiscard]] QStringList levels() const;

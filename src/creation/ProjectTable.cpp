@@ -19,9 +19,8 @@ struct Text
 
 /// Windows-1252 where it is not Latin-1 (0x80 to 0x9F), as in the WHATWG's encoding standard.
 constexpr std::array<char16_t, 32> windowsCharacters{
-    u'€',      u'\u0081', u'‚',      u'ƒ', u'„', u'…', u'†', u'‡', u'ˆ', u'‰', u'Š',
-    u'‹',      u'Œ',      u'\u008D', u'Ž', u'\u008F', u'\u0090', u'‘', u'’', u'“', u'”', u'•',
-    u'–',      u'—',      u'˜',      u'™', u'š', u'›', u'œ', u'\u009D', u'ž', u'Ÿ'};
+    u'€',      u'\u0081', u'‚', u'ƒ', u'„', u'…', u'†', u'‡', u'ˆ', u'‰', u'Š', u'‹', u'Œ', u'\u008D', u'Ž', u'\u008F',
+    u'\u0090', u'‘',      u'’', u'“', u'”', u'•', u'–', u'—', u'˜', u'™', u'š', u'›', u'œ', u'\u009D', u'ž', u'Ÿ'};
 
 QString fromWindows(const QByteArray &bytes)
 {
@@ -76,8 +75,9 @@ public:
                 row.cells.append(QString());
             table.rows.append(row);
             if (table.rows.size() > mostTableRows)
-                return Outcome::failure(Cause::Damaged, {},
-                                        Text::tr("The table has more than %L1 rows. Please divide it.").arg(mostTableRows));
+                return Outcome::failure(
+                    Cause::Damaged, {},
+                    Text::tr("The table has more than %L1 rows. Please divide it.").arg(mostTableRows));
         }
         if (table.columns.isEmpty() || table.rows.isEmpty())
             return Outcome::failure(

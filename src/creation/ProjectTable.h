@@ -15,7 +15,7 @@ struct ProjectTable
     QStringList columns; ///< titles, without blanks around
     struct Row
     {
-        int line = 0; ///< in the file, from 1
+        int line = 0;      ///< in the file, from 1
         QStringList cells; ///< as many as columns, or more where there are too many
     };
     QList<Row> rows; ///< those with anything in them

@@ -5,8 +5,6 @@
 #include <QCoreApplication>
 #include <QRegularExpression>
 
-
-
 using platform::Tree;
 using platform::TreeFolder;
 using platform::TreeItem;
@@ -155,7 +153,8 @@ private:
         const bool isRepeated = rule && rule->repeat.over != Repeat::Over::Nothing;
         if (m_rules.fillsNames || isRepeated)
             fillName(to, values);
-        if (platform::kindOfType(added.type) == platform::FileKind::File && ((rule && rule->fillsText) || hasPattern(m_result.tree.folders[to].nameOf(added))))
+        if (platform::kindOfType(added.type) == platform::FileKind::File &&
+            ((rule && rule->fillsText) || hasPattern(m_result.tree.folders[to].nameOf(added))))
             m_result.texts.push_back({to, place, &values});
         if (below == 0)
             return;
@@ -184,8 +183,7 @@ private:
         TreeItem &item = own.items.back();
         if (!tokens::mayHaveTokens(own.nameOf(item)))
             return;
-        const tokens::Filled name =
-            filledName(platform::fromNative(own.nameOf(item)), m_input.projectName, values);
+        const tokens::Filled name = filledName(platform::fromNative(own.nameOf(item)), m_input.projectName, values);
         if (!name.ok())
             return complain(folder, name.problem);
         const QByteArray bytes = platform::toNative(name.text);
@@ -262,8 +260,8 @@ const ItemRule *RuledItems::ruleOf(std::uint32_t folder, std::uint32_t item) con
     return found == m_rules.end() ? nullptr : &found->second;
 }
 
-Expansion expanded(const Tree &source, const TemplateRules &rules, const RuledItems &items,
-                   const ExpansionInput &input, const std::atomic<bool> &cancelled)
+Expansion expanded(const Tree &source, const TemplateRules &rules, const RuledItems &items, const ExpansionInput &input,
+                   const std::atomic<bool> &cancelled)
 {
     return Expander(source, rules, items, input, cancelled).run();
 }

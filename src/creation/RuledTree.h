@@ -39,12 +39,12 @@ struct Expansion
     platform::Tree tree;
     std::vector<Flaw> flaws{};
     std::vector<RuledText> texts{};
-    std::vector<std::uint32_t> named{}; ///< folders with an item whose name depends on values
+    std::vector<std::uint32_t> named{};    ///< folders with an item whose name depends on values
     std::vector<std::uint32_t> repeated{}; ///< folders that are one round of a repeat
-    QStringList gone{};                 ///< paths of rules whose item is not in the template
-    std::size_t leftOut = 0;            ///< items
-    bool isCutOff = false;              ///< repeats would have made more items than wanted
-    QByteArray shape{};                 ///< the same for trees that differ in their names only
+    QStringList gone{};                    ///< paths of rules whose item is not in the template
+    std::size_t leftOut = 0;               ///< items
+    bool isCutOff = false;                 ///< repeats would have made more items than wanted
+    QByteArray shape{};                    ///< the same for trees that differ in their names only
     std::shared_ptr<PlanValues> values;
 };
 

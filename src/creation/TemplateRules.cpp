@@ -129,11 +129,11 @@ Condition conditionFrom(QVariantMap stored, Reader &reader)
 {
     Condition condition{reader.text(stored, key::parameter)};
     const QString word = reader.text(stored, key::is);
-    const auto *entry =
-        std::find_if(kinds.begin(), kinds.end(), [&](const KindEntry &kind) { return word == QLatin1String(kind.word); });
+    const auto *entry = std::find_if(kinds.begin(), kinds.end(),
+                                     [&](const KindEntry &kind) { return word == QLatin1String(kind.word); });
     if (entry == kinds.end())
-        reader.complain(Text::tr("“%1” is no condition; there are: is, isNot, contains, isEmpty, isNotEmpty, isGreater")
-                            .arg(word));
+        reader.complain(
+            Text::tr("“%1” is no condition; there are: is, isNot, contains, isEmpty, isNotEmpty, isGreater").arg(word));
     else
         condition.is = entry->is;
     condition.value = reader.text(stored, key::value);
@@ -262,8 +262,8 @@ Verdict verdictOf(const Condition &condition, const tokens::Values &values)
 {
     const tokens::Value *found = values.find(condition.parameter);
     if (!found)
-        return {false, Text::tr("A condition asks for the parameter “%1”, which there is none of.")
-                           .arg(condition.parameter)};
+        return {false,
+                Text::tr("A condition asks for the parameter “%1”, which there is none of.").arg(condition.parameter)};
     const QString &value = found->text;
     switch (condition.is) {
     case Condition::Is::Is:

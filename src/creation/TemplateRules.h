@@ -56,12 +56,12 @@ struct ItemRule
 /** What a template says of its items and parameters beside its Files. A plain value. */
 struct TemplateRules
 {
-    bool fillsNames = false;     ///< values in names
-    QStringList textPatterns{};  ///< "*.csv": files with values in their contents
-    QList<ItemRule> items{};     ///< none of them empty
-    QVariantList parameters{};   ///< records of the template's own
-    QVariantMap fixed{};         ///< common parameters, by title, whose value the template says
-    QStringList hidden{};        ///< common parameters that its projects do not have
+    bool fillsNames = false;    ///< values in names
+    QStringList textPatterns{}; ///< "*.csv": files with values in their contents
+    QList<ItemRule> items{};    ///< none of them empty
+    QVariantList parameters{};  ///< records of the template's own
+    QVariantMap fixed{};        ///< common parameters, by title, whose value the template says
+    QStringList hidden{};       ///< common parameters that its projects do not have
     QVariantMap rest{};
 
     [[nodiscard]] bool isEmpty() const;
@@ -99,14 +99,14 @@ struct Verdict
 };
 [[nodiscard]] Verdict verdictOf(const Conditions &conditions, const tokens::Values &values);
 
-/** What the repeat's token stands for, one time after the other and not much more than the most, or a sentence. Pure. */
+/** What the repeat's token stands for, one time after the other and not much more than the most, or a sentence. Pure.
+ */
 struct Rounds
 {
     QStringList values;
     QString problem = {};
 };
-[[nodiscard]] Rounds roundsOf(const Repeat &repeat, const tokens::Values &values,
-                              std::size_t most = mostRepeated);
+[[nodiscard]] Rounds roundsOf(const Repeat &repeat, const tokens::Values &values, std::size_t most = mostRepeated);
 
 /** The values of a list parameter: between commas, without blanks around and empty ones. */
 [[nodiscard]] QStringList listedValues(const QString &value);

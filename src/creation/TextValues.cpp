@@ -94,12 +94,12 @@ std::optional<Decoded> decoded(const QByteArray &contents)
 Format formatOf(const QString &name)
 {
     static const QHash<QString, Format> formats{
-        {"xml", Format::Xml},      {"kdenlive", Format::Xml}, {"mlt", Format::Xml},   {"fcpxml", Format::Xml},
-        {"xmeml", Format::Xml},    {"svg", Format::Xml},      {"html", Format::Xml},  {"htm", Format::Xml},
-        {"xhtml", Format::Xml},    {"plist", Format::Xml},    {"ttml", Format::Xml},  {"fdx", Format::Xml},
-        {"xspf", Format::Xml},     {"opml", Format::Xml},     {"xmp", Format::Xml},   {"osp", Format::Json},
-        {"json", Format::Json},    {"otio", Format::Json},    {"jsonl", Format::Json}, {"geojson", Format::Json},
-        {"ipynb", Format::Json},   {"csv", Format::Table},    {"tsv", Format::Table}, {"tab", Format::Table},
+        {"xml", Format::Xml},    {"kdenlive", Format::Xml}, {"mlt", Format::Xml},    {"fcpxml", Format::Xml},
+        {"xmeml", Format::Xml},  {"svg", Format::Xml},      {"html", Format::Xml},   {"htm", Format::Xml},
+        {"xhtml", Format::Xml},  {"plist", Format::Xml},    {"ttml", Format::Xml},   {"fdx", Format::Xml},
+        {"xspf", Format::Xml},   {"opml", Format::Xml},     {"xmp", Format::Xml},    {"osp", Format::Json},
+        {"json", Format::Json},  {"otio", Format::Json},    {"jsonl", Format::Json}, {"geojson", Format::Json},
+        {"ipynb", Format::Json}, {"csv", Format::Table},    {"tsv", Format::Table},  {"tab", Format::Table},
     };
     return formats.value(platform::extensionOf(name).toLower(), Format::Plain);
 }
@@ -181,12 +181,11 @@ private:
     void fill(qsizetype first, qsizetype last)
     {
         qsizetype done = first;
-        forEachToken(QStringView(m_text).sliced(first, last - first), m_values,
-                     [&](qsizetype at, const Token &token) {
-                         m_result += QStringView(m_text).sliced(done, first + at - done);
-                         m_result += asWritten(token, first + at);
-                         done = first + at + token.source.size();
-                     });
+        forEachToken(QStringView(m_text).sliced(first, last - first), m_values, [&](qsizetype at, const Token &token) {
+            m_result += QStringView(m_text).sliced(done, first + at - done);
+            m_result += asWritten(token, first + at);
+            done = first + at + token.source.size();
+        });
         m_result += QStringView(m_text).sliced(done, last - done);
     }
 
@@ -202,8 +201,9 @@ private:
             if (hasNoXml(value.text) && m_problem.isNull())
                 m_problem = Text::tr("%1 has a character that XML cannot hold.").arg(token.source);
             // Nothing is a mark in there but its end.
-            return isInCharacterData(at) ? QString(value.text).replace(QLatin1String("]]>"), QLatin1String("]]]]><![CDATA[>"))
-                                         : forXml(value.text);
+            return isInCharacterData(at)
+                       ? QString(value.text).replace(QLatin1String("]]>"), QLatin1String("]]]]><![CDATA[>"))
+                       : forXml(value.text);
         case Format::Json:
             return forJson(value.text);
         case Format::Table:
@@ -248,9 +248,8 @@ private:
         const qsizetype end = text.indexOf(u'\n');
         const QStringView line = QStringView(text).first(end < 0 ? text.size() : end);
         const QList<QChar> candidates{u',', u';', u'\t'};
-        return *std::max_element(candidates.begin(), candidates.end(), [&](QChar a, QChar b) {
-            return line.count(a) < line.count(b);
-        });
+        return *std::max_element(candidates.begin(), candidates.end(),
+                                 [&](QChar a, QChar b) { return line.count(a) < line.count(b); });
     }
 
     qsizetype endOfCell(qsizetype start, QChar separator, bool isQuoted) const
@@ -280,8 +279,8 @@ private:
         });
         m_result += QStringView(m_text).sliced(done, end - done);
         const QString cell = m_result.mid(before);
-        const bool needsQuotes = cell.contains(separator) || cell.contains(u'"') || cell.contains(u'\n') ||
-                                 cell.contains(u'\r');
+        const bool needsQuotes =
+            cell.contains(separator) || cell.contains(u'"') || cell.contains(u'\n') || cell.contains(u'\r');
         if (hasToken && !isQuoted && needsQuotes) {
             m_result.truncate(before);
             m_result += u'"' + QString(cell).replace(u'"', QLatin1String("\"\"")) + u'"';
@@ -321,7 +320,8 @@ Result<QByteArray> filled(const QByteArray &contents, const QString &name, const
     if (!canBeWritten(result.text, text->encoding))
         return Outcome::failure(
             Cause::NotSupported, {},
-            Text::tr("A value has characters that this file, which is no UTF-8, cannot hold. Please save it as UTF-8."));
+            Text::tr(
+                "A value has characters that this file, which is no UTF-8, cannot hold. Please save it as UTF-8."));
     return text->mark + encoded(result.text, text->encoding);
 }
 

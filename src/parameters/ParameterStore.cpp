@@ -60,8 +60,7 @@ Outcome changeParameters(const ParameterScope &scope, const ListChange &change)
         [&](const QVariantList &stored) -> platform::Result<QVariantList> {
             const FilenameParameters common = parametersFromVariant(stored[0]);
             QVariantMap all = stored[1].toMap();
-            const auto list =
-                change(effectiveParameters(common, scope, all.value(scope.templateName).toMap()));
+            const auto list = change(effectiveParameters(common, scope, all.value(scope.templateName).toMap()));
             if (!list)
                 return list.outcome();
             const KeptParameters kept = keptParameters(*list, common, scope);

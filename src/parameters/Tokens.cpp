@@ -56,10 +56,9 @@ QString titled(const QString &text)
 /// Letters of Latin scripts that are no letter with a mark.
 const QHash<char16_t, QString> &plainLetters()
 {
-    static const QHash<char16_t, QString> letters{{u'ß', "ss"}, {u'æ', "ae"}, {u'Æ', "AE"}, {u'œ', "oe"},
-                                                  {u'Œ', "OE"}, {u'ø', "o"},  {u'Ø', "O"},  {u'ł', "l"},
-                                                  {u'Ł', "L"},  {u'đ', "d"},  {u'Đ', "D"},  {u'þ', "th"},
-                                                  {u'Þ', "Th"}, {u'ð', "d"},  {u'Ð', "D"},  {u'ı', "i"}};
+    static const QHash<char16_t, QString> letters{
+        {u'ß', "ss"}, {u'æ', "ae"}, {u'Æ', "AE"}, {u'œ', "oe"}, {u'Œ', "OE"}, {u'ø', "o"}, {u'Ø', "O"}, {u'ł', "l"},
+        {u'Ł', "L"},  {u'đ', "d"},  {u'Đ', "D"},  {u'þ', "th"}, {u'Þ', "Th"}, {u'ð', "d"}, {u'Ð', "D"}, {u'ı', "i"}};
     return letters;
 }
 
@@ -93,8 +92,14 @@ struct Change
     QString (*apply)(const QString &);
 };
 constexpr std::array changeTable{
-    Change{"upper", [](const QString &text) { return text.toUpper(); }},
-    Change{"lower", [](const QString &text) { return text.toLower(); }},
+    Change{"upper",
+           [](const QString &text) {
+               return text.toUpper();
+           }},
+    Change{"lower",
+           [](const QString &text) {
+               return text.toLower();
+           }},
     Change{"title", titled},
     Change{"initials", initials},
     Change{"ascii", ascii},

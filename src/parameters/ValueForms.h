@@ -9,7 +9,7 @@
 namespace forms {
 
 inline const QString number = QStringLiteral("number");
-inline const QString date = QStringLiteral("date"); ///< as 2026-11-21
+inline const QString date = QStringLiteral("date");     ///< as 2026-11-21
 inline const QString folder = QStringLiteral("folder"); ///< a path; its last part enters the name
 
 /** Why the value cannot be, in one sentence; null where it can, or is empty. */

@@ -9,8 +9,8 @@
 #include "support/Notifications.h"
 #include "support/Settings.h"
 #include "support/VTAlert.h"
-#include "ui/Icons.h"
 #include "ui/FilePanels.h"
+#include "ui/Icons.h"
 #include "ui/ValueCellDelegate.h"
 #include "ui_Prefs_Dialog.h"
 

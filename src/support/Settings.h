@@ -67,7 +67,7 @@ struct NumberSetting : Setting
 };
 
 // Their rows are in Settings.cpp.
-extern const Setting filenameTemplate; ///< the parameters: a list of records
+extern const Setting filenameTemplate;   ///< the parameters: a list of records
 extern const Setting ownParameterValues; ///< dictionary: of a template's own parameters, by its name and their titles
 extern const TextSetting separatorChar;
 extern const TextSetting dateFormat;

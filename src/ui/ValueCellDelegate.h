@@ -10,7 +10,7 @@ enum class CellEditor {
     Date,    ///< picked from a calendar
     Folder,  ///< chosen with a panel
     Several, ///< some of the items, with commas between them
-    Lines, ///< several values with commas between them, each on a line of its own while they are edited
+    Lines,   ///< several values with commas between them, each on a line of its own while they are edited
 };
 Q_DECLARE_METATYPE(CellEditor)
 

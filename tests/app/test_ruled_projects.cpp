@@ -39,9 +39,9 @@ template <typename T> T oneOf(const QList<T> &list)
 
 QString someName()
 {
-    static const QList<QString> pieces{"a",     "B",         "Template", "{Client}", "{Num:00}", "{n}", "{cam}",
-                                       "{List}x", "x.txt",   "é",        "{{n}}",    "{Client|upper}", "{Project}",
-                                       "{gone}", ".csv",     "1"};
+    static const QList<QString> pieces{"a",         "B",       "Template", "{Client}", "{Num:00}", "{n}",
+                                       "{cam}",     "{List}x", "x.txt",    "é",        "{{n}}",    "{Client|upper}",
+                                       "{Project}", "{gone}",  ".csv",     "1"};
     QString name;
     for (int i = chance().bounded(1, 4); i > 0; --i)
         name += chance().bounded(80) == 0 ? QStringLiteral("{gone}") : pieces[chance().bounded(pieces.size() - 3)];
@@ -53,9 +53,10 @@ ItemRule someRule(const QString &path, bool isFile)
     ItemRule rule{path};
     const int kind = chance().bounded(10);
     if (kind < 3)
-        rule.when = {oneOf<Conditions::Join>({Conditions::Join::All, Conditions::Join::Any}),
-                     {{oneOf<QString>({"Client", "Num", "List"}), oneOf(kindsOfConditions()), oneOf<QString>({"A", "1", ""})},
-                      {"Client", Condition::Is::Contains, "e"}}};
+        rule.when = {
+            oneOf<Conditions::Join>({Conditions::Join::All, Conditions::Join::Any}),
+            {{oneOf<QString>({"Client", "Num", "List"}), oneOf(kindsOfConditions()), oneOf<QString>({"A", "1", ""})},
+             {"Client", Condition::Is::Contains, "e"}}};
     if (kind == 3 || kind == 4)
         rule.repeat = {Repeat::Over::Numbers, "Num", "n"};
     if (kind == 5)
@@ -121,14 +122,16 @@ QStringList pathsIn(const QJsonObject &object)
 QStringList pathsIn(const QString &folder)
 {
     QStringList paths;
-    for (QDirIterator it(folder, QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDirIterator::Subdirectories); it.hasNext();)
+    for (QDirIterator it(folder, QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDirIterator::Subdirectories);
+         it.hasNext();)
         paths << it.next().mid(folder.size() + 1);
     paths.sort();
     return paths;
 }
 
 /// What is left out is no item, and neither are the folder levels.
-void addPaths(const ResultModel &model, const QModelIndex &parent, const QString &folder, int levels, QStringList &paths)
+void addPaths(const ResultModel &model, const QModelIndex &parent, const QString &folder, int levels,
+              QStringList &paths)
 {
     for (int row = 0; row < model.rowCount(parent); ++row) {
         const QModelIndex index = model.index(row, 0, parent);
@@ -178,24 +181,30 @@ private Q_SLOTS:
     {
         const QTemporaryDir work;
         settings::registerDefaults();
-        QVERIFY(changeParameters([](const FilenameParameters &) {
-                    FilenameParameters list;
-                    for (const char *title : {"Client", "Num", "List"})
-                        list.append(FilenameParameter({{recordkey::title, QString(title)}, {recordkey::kind, 0LL}, {recordkey::value, QString("")}}));
-                    for (const char *title : {"n", "cam"}) // outside of repeats the names are titles as any
-                        list.append(FilenameParameter({{recordkey::title, QString(title)}, {recordkey::value, QString("7")},
-                                                       {recordkey::outsideName, true}}));
-                    list.append(FilenameParameter({{recordkey::title, QString("Job")}, {recordkey::kind, 2LL},
-                                                   {recordkey::value, QString("0001")}, {recordkey::folder, true}}));
-                    return list;
-                }).ok());
+        QVERIFY(
+            changeParameters([](const FilenameParameters &) {
+                FilenameParameters list;
+                for (const char *title : {"Client", "Num", "List"})
+                    list.append(FilenameParameter(
+                        {{recordkey::title, QString(title)}, {recordkey::kind, 0LL}, {recordkey::value, QString("")}}));
+                for (const char *title : {"n", "cam"}) // outside of repeats the names are titles as any
+                    list.append(FilenameParameter({{recordkey::title, QString(title)},
+                                                   {recordkey::value, QString("7")},
+                                                   {recordkey::outsideName, true}}));
+                list.append(FilenameParameter({{recordkey::title, QString("Job")},
+                                               {recordkey::kind, 2LL},
+                                               {recordkey::value, QString("0001")},
+                                               {recordkey::folder, true}}));
+                return list;
+            }).ok());
         const QString library = VTDataController::templateLocation();
         QByteArray table = "Template,Client,Num,List\n";
         for (int i = 0; i < templates; ++i) {
             const QString name = QStringLiteral("T%1").arg(i);
             makeTemplate(library + '/' + name + ".tzt");
             table += name.toUtf8() + ',' + oneOf<QByteArray>({"Acme", "b", "Template Ltd", "é"}) + ',' +
-                     oneOf<QByteArray>({"0", "1", "2", "3", "1", "12", "x"}) + ",\"" + oneOf<QByteArray>({"", "A", "A,B", "B, C,D", "A", "A, A"}) + "\"\n";
+                     oneOf<QByteArray>({"0", "1", "2", "3", "1", "12", "x"}) + ",\"" +
+                     oneOf<QByteArray>({"", "A", "A,B", "B, C,D", "A", "A, A"}) + "\"\n";
         }
         writeFile(work.filePath("t.csv"), table);
         const QString out = work.filePath("out");
@@ -208,17 +217,19 @@ private Q_SLOTS:
 
         QVERIFY(VTDataController::sharedController().populateTemplates().ok());
         const BatchBase base{[&](const QString &name) {
-            ProjectRequest request;
-            request.templateName = name;
-            request.templateFiles = VTDataController::filesFolder(name);
-            request.rules = std::make_shared<TemplateRules>(*readRules(VTDataController::bundlePath(name)));
-            request.parameters = currentParameters(scopeOf(request));
-            request.separator = settings::separatorChar.text();
-            request.dateFormat = settings::dateFormat.text();
-            request.moment = std::time(nullptr);
-            request.location = out;
-            return platform::Result<ProjectRequest>(request);
-        }, {}};
+                                 ProjectRequest request;
+                                 request.templateName = name;
+                                 request.templateFiles = VTDataController::filesFolder(name);
+                                 request.rules =
+                                     std::make_shared<TemplateRules>(*readRules(VTDataController::bundlePath(name)));
+                                 request.parameters = currentParameters(scopeOf(request));
+                                 request.separator = settings::separatorChar.text();
+                                 request.dateFormat = settings::dateFormat.text();
+                                 request.moment = std::time(nullptr);
+                                 request.location = out;
+                                 return platform::Result<ProjectRequest>(request);
+                             },
+                             {}};
         const std::atomic<bool> never = false;
         ProjectBatch batch(*readTable(table), base);
         batch.lookAtDisk(never);
@@ -255,7 +266,8 @@ private Q_SLOTS:
                 const auto &folder = plan.tree.folders[text.folder];
                 const QString name = QString::fromUtf8(folder.newNameOf(folder.items[text.item]));
                 const QString path = plan.tree.newPathOf(text.folder);
-                const QByteArray contents = readFile(request.destination() + '/' + (path.isEmpty() ? name : path + '/' + name));
+                const QByteArray contents =
+                    readFile(request.destination() + '/' + (path.isEmpty() ? name : path + '/' + name));
                 QCOMPARE(contents, *textvalues::filled("{Client};{Num:00} {n} {nobody}\r\n", name, *text.values));
             }
         }

@@ -1,9 +1,9 @@
 // Many projects from a table: how it is read, what each row gives, and that all of them come, and go, together.
 #include "creation/BatchCreation.h"
 #include "harness/TemporaryHome.h"
+#include "parameters/ParameterStore.h"
 #include "platform/base/System.h"
 #include "platform/files/FileSystem.h"
-#include "parameters/ParameterStore.h"
 #include "support/Settings.h"
 
 #include <QCoreApplication>
@@ -53,7 +53,8 @@ class TestBatch : public QObject
     {
         const BatchBase base{[this](const QString &name) -> platform::Result<ProjectRequest> {
                                  if (name == "none")
-                                     return platform::Outcome::failure(platform::Cause::Invalid, {}, "no such template");
+                                     return platform::Outcome::failure(platform::Cause::Invalid, {},
+                                                                       "no such template");
                                  ProjectRequest request;
                                  request.templateName = name;
                                  request.templateFiles = m_work->filePath(name + "/Files");
@@ -90,7 +91,8 @@ private Q_SLOTS:
         QVERIFY(platform::makeFolders(m_work->filePath("out")).ok());
         using Kind = FilenameParameter::Kind;
         QVERIFY(changeParameters([](const FilenameParameters &) {
-                    return FilenameParameters{parameter("Client", Kind::Text, ""), parameter("Job", Kind::Counter, "007"),
+                    return FilenameParameters{parameter("Client", Kind::Text, ""),
+                                              parameter("Job", Kind::Counter, "007"),
                                               parameter("Kind", Kind::Choice, "Film")};
                 }).ok());
     }
@@ -106,7 +108,10 @@ private Q_SLOTS:
         row("semicolons and CRLF", "A;B\r\n1,5;2\r\n", "A|B/1,5|2");
         row("tabs, old line ends", "A\tB\r1\t2", "A|B/1|2");
         row("sep=", "sep=;\r\nA;B\r\n1;2", "A|B/1|2");
-        row("mark", "\xEF\xBB\xBF" "A,B\n\xC3\xA4,2", "A|B/ä|2");
+        row("mark",
+            "\xEF\xBB\xBF"
+            "A,B\n\xC3\xA4,2",
+            "A|B/ä|2");
         row("UTF-16", utf16("A\tB\r\nä\t€"), "A|B/ä|€");
         row("Windows-1252", "A;B\n\xE4;\x80 \x96\n", "A|B/ä|€ –");
         row("quotes", "\"A\",\"B \"\"x\"\"\"\n\"1,\n2\", 3 \n", "A|B \"x\"/1,\n2|3");
@@ -141,13 +146,13 @@ private Q_SLOTS:
     void rowsAreCountedOn()
     {
         writeFile(m_work->filePath("out/Taken_010_Film/x"));
-        const ProjectBatch batch = batchOf("Client,Job,Kind,Note,Template\nA,,,,\nB,,Spot,x,\nC,,Opera,,\nD,020,,,\nE,,,,\n"
-                                           "d,020,,,\nF,,,,none\n/,,,,ruled\n,,,,\nTaken,010,,,\nG,,,,ruled\n");
-        QCOMPARE(shown(batch),
-                 QStringList({"A_007_Film", "B_008_Spot", "C_009_Film !2 “Opera” is not among the choic",
-                              "D_020_Film", "E_021_Film", "d_020_Film !-1 Line 5 makes the same project:",
-                              " !4 no such template", "_022_Film !-1 {Kind} {Client}.txt: {Client} ",
-                              "Taken_010_Film !-1 A project with this name alrea", "G_022_Film"}));
+        const ProjectBatch batch =
+            batchOf("Client,Job,Kind,Note,Template\nA,,,,\nB,,Spot,x,\nC,,Opera,,\nD,020,,,\nE,,,,\n"
+                    "d,020,,,\nF,,,,none\n/,,,,ruled\n,,,,\nTaken,010,,,\nG,,,,ruled\n");
+        QCOMPARE(shown(batch), QStringList({"A_007_Film", "B_008_Spot", "C_009_Film !2 “Opera” is not among the choic",
+                                            "D_020_Film", "E_021_Film", "d_020_Film !-1 Line 5 makes the same project:",
+                                            " !4 no such template", "_022_Film !-1 {Kind} {Client}.txt: {Client} ",
+                                            "Taken_010_Film !-1 A project with this name alrea", "G_022_Film"}));
         QCOMPARE(batch.unknownColumns(), QStringList{"Note"});
         QCOMPARE(batch.problemRows(), 5);
         QCOMPARE(batch.requestOf(9).relativePath(), "G_022_Film");
@@ -158,10 +163,11 @@ private Q_SLOTS:
         const ProjectBatch batch = batchOf("Client,Template\nA,\nB,ruled\nC,\n");
         Host host;
         QStringList made;
-        BatchResult result = BatchCreation(host, BatchManner::AllOrNone).run(batch, [&](qsizetype row, const CreationResult &one) {
-            made << QString::number(row) + one.request.relativePath();
-            QVERIFY(one.ok());
-        });
+        BatchResult result =
+            BatchCreation(host, BatchManner::AllOrNone).run(batch, [&](qsizetype row, const CreationResult &one) {
+                made << QString::number(row) + one.request.relativePath();
+                QVERIFY(one.ok());
+            });
         QCOMPARE(made, QStringList({"0A_007_Film", "1B_008_Film", "2C_009_Film"}));
         QCOMPARE(host.calls, QStringList({"start", "increment", "reveal", "quit", "finish"}));
         QVERIFY(platform::kindOf(m_work->filePath("out/B_008_Film/Film B.txt")) == platform::FileKind::File);
@@ -185,7 +191,8 @@ private Q_SLOTS:
         const ProjectBatch batch = batchOf("Client\nA\nB\nC\n");
         writeFile(m_work->filePath("out/B_008_Film/mine"));
         Host host;
-        const BatchResult none = BatchCreation(host, BatchManner::AllOrNone).run(batch, [](qsizetype, const CreationResult &) {});
+        const BatchResult none =
+            BatchCreation(host, BatchManner::AllOrNone).run(batch, [](qsizetype, const CreationResult &) {});
         QVERIFY(none.takenBack && none.failed == 1 && none.left == 1 && none.made.isEmpty());
         QCOMPARE(QDir(m_work->filePath("out")).entryList(QDir::Dirs | QDir::NoDotAndDotDot), QStringList{"B_008_Film"});
         QCOMPARE(readFile(m_work->filePath("out/B_008_Film/mine")), QByteArray());
@@ -196,7 +203,8 @@ private Q_SLOTS:
     {
         const ProjectBatch batch = batchOf("Client,Kind\nA,\nB,Opera\nC,\n");
         Host host;
-        const BatchResult rest = BatchCreation(host, BatchManner::GoOn).run(batch, [](qsizetype, const CreationResult &) {});
+        const BatchResult rest =
+            BatchCreation(host, BatchManner::GoOn).run(batch, [](qsizetype, const CreationResult &) {});
         QVERIFY(!rest.takenBack && rest.left == 1 && rest.failed == 0);
         QCOMPARE(rest.made.size(), 2);
         QCOMPARE(rest.made[1].name(), "C_008_Film"); // as it was shown

@@ -81,13 +81,13 @@ private Q_SLOTS:
         rules.items = {repeated("Day {n:00}", Repeat::Over::Numbers, "Days"),
                        repeated("Day {n:00}/Cam {cam}", Repeat::Over::Values, "Cams", "cam"),
                        when("Drone", {{"Kind", Condition::Is::Contains, "aerial"}})};
-        const QMap<QString, QString> given{{"Days", "2"}, {"Cams", "A,, B "}, {"Kind", "Interview"}, {"Client", "TEMPLATE Ltd"}};
+        const QMap<QString, QString> given{
+            {"Days", "2"}, {"Cams", "A,, B "}, {"Kind", "Interview"}, {"Client", "TEMPLATE Ltd"}};
         const CreationPlan some = plan(rules, given);
-        QCOMPARE(lines(some),
-                 QStringList({"Day 01", "Day 01/Cam A", "Day 01/Cam A/Promo 1.txt", "Day 01/Cam B",
-                              "Day 01/Cam B/Promo 1.txt", "Day 02", "Day 02/Cam A", "Day 02/Cam A/Promo 2.txt",
-                              "Day 02/Cam B", "Day 02/Cam B/Promo 2.txt", "-Drone", "Promo.txt", "TEMPLATE Ltd",
-                              "TEMPLATE Ltd/y", "{n}"}));
+        QCOMPARE(lines(some), QStringList({"Day 01", "Day 01/Cam A", "Day 01/Cam A/Promo 1.txt", "Day 01/Cam B",
+                                           "Day 01/Cam B/Promo 1.txt", "Day 02", "Day 02/Cam A",
+                                           "Day 02/Cam A/Promo 2.txt", "Day 02/Cam B", "Day 02/Cam B/Promo 2.txt",
+                                           "-Drone", "Promo.txt", "TEMPLATE Ltd", "TEMPLATE Ltd/y", "{n}"}));
         QCOMPARE(some.folders(), 7);
         QCOMPARE(some.files(), 7);
         QCOMPARE(some.repeated.size(), 6U);
@@ -164,10 +164,12 @@ private Q_SLOTS:
 
     void whatIsWrong()
     {
-        make({"{A}", "{B}", "{Clinet}", "{Long}", "{Path}", "{Dots}", "{Empty}", "taken", "{T}", "Cam", "Days {n}", "Lists/"});
+        make({"{A}", "{B}", "{Clinet}", "{Long}", "{Path}", "{Dots}", "{Empty}", "taken", "{T}", "Cam", "Days {n}",
+              "Lists/"});
         TemplateRules rules{.fillsNames = true};
-        rules.items = {repeated("Cam", Repeat::Over::Values, "A list"), repeated("Days {n}", Repeat::Over::Numbers, "A"),
-                       when("Lists", {{"gone", Condition::Is::IsEmpty}}), when("not there", {{"A", Condition::Is::Is}})};
+        rules.items = {
+            repeated("Cam", Repeat::Over::Values, "A list"), repeated("Days {n}", Repeat::Over::Numbers, "A"),
+            when("Lists", {{"gone", Condition::Is::IsEmpty}}), when("not there", {{"A", Condition::Is::Is}})};
         const CreationPlan wrong = plan(rules, {{"A", "same"},
                                                 {"B", "same"},
                                                 {"Long", QString(256, 'x')},
@@ -211,7 +213,8 @@ private Q_SLOTS:
     {
         make({"{a}/{b}/{c}/x"});
         TemplateRules rules;
-        rules.items = {repeated("{a}", Repeat::Over::Numbers, "N", "a"), repeated("{a}/{b}", Repeat::Over::Numbers, "N", "b"),
+        rules.items = {repeated("{a}", Repeat::Over::Numbers, "N", "a"),
+                       repeated("{a}/{b}", Repeat::Over::Numbers, "N", "b"),
                        repeated("{a}/{b}/{c}", Repeat::Over::Numbers, "N", "c")};
         const CreationPlan many = plan(rules, {{"N", "1000000"}}); // to the third
         QVERIFY(many.isCutOff);
@@ -230,7 +233,8 @@ private Q_SLOTS:
         writeFile(files("c.bin"), QByteArray("a\0{Number}", 10));
         writeFile(files("{n}/d.csv"), "{n:00}");
         TemplateRules rules{.textPatterns = {"*.CSV"}};
-        rules.items = {{.path = "b.txt", .fillsText = true}, {.path = "c.bin", .fillsText = true},
+        rules.items = {{.path = "b.txt", .fillsText = true},
+                       {.path = "c.bin", .fillsText = true},
                        repeated("{n}", Repeat::Over::Values, "L")};
         const auto flaws = [&](const QMap<QString, QString> &given) {
             return lines(plan(rules, given)).filter(QRegularExpression("^!"));
@@ -238,16 +242,18 @@ private Q_SLOTS:
         const QStringList always{"!b.txt: There is no parameter “Clinet”.",
                                  "!c.bin: This is no text: no values can be filled in."};
         QCOMPARE(flaws({{"Number", "7"}, {"L", "1,2"}}), always);
-        QCOMPARE(flaws({{"Number", "x"}, {"L", "1,y"}}),
-                 QStringList({"!a.csv: “Number” is no number: x"}) + always + QStringList{"!y/d.csv: “n” is no number: y"});
+        QCOMPARE(flaws({{"Number", "x"}, {"L", "1,y"}}), QStringList({"!a.csv: “Number” is no number: x"}) + always +
+                                                             QStringList{"!y/d.csv: “n” is no number: y"});
     }
 
     void isReadAndWritten()
     {
         TemplateRules rules{.fillsNames = true, .textPatterns = {"*.csv", "*.txt"}};
-        rules.items = {repeated("a", Repeat::Over::Values, "L", "cam"), repeated("b", Repeat::Over::Numbers, "N"),
-                       when("c", {{"A", Condition::Is::IsGreater, "1"}, {"B", Condition::Is::IsEmpty}}, Conditions::Join::Any),
-                       {.path = "d", .fillsText = true, .rest = {{"later", "kept"}}}};
+        rules.items = {
+            repeated("a", Repeat::Over::Values, "L", "cam"),
+            repeated("b", Repeat::Over::Numbers, "N"),
+            when("c", {{"A", Condition::Is::IsGreater, "1"}, {"B", Condition::Is::IsEmpty}}, Conditions::Join::Any),
+            {.path = "d", .fillsText = true, .rest = {{"later", "kept"}}}};
         rules.parameters = {QVariantMap{{"title", "Own"}, {"type", 2LL}}};
         rules.fixed = {{"Kind", "Film"}};
         rules.hidden = {"Client"};
@@ -274,7 +280,8 @@ private Q_SLOTS:
         QTest::newRow("list") << QVariantMap{{"items", QVariantList{1LL}}} << "“items” holds something";
         QTest::newRow("path") << QVariantMap{{"items", QVariantList{QVariantMap{{"path", "a/../b"}}}}}
                               << "Item 1 (a/../b): its path names no item";
-        item("condition", {{"when", QVariantMap{{"all", QVariantList{QVariantMap{{"parameter", "A"}, {"is", "like"}}}}}}},
+        item("condition",
+             {{"when", QVariantMap{{"all", QVariantList{QVariantMap{{"parameter", "A"}, {"is", "like"}}}}}}},
              "“like” is no condition");
         item("none of both", {{"when", QVariantMap{{"not", QVariantList()}}}}, "“when” takes “all” or “any”");
         item("repeat", {{"repeat", QVariantMap{{"until", "A"}}}}, "“repeat” names no parameter");
@@ -292,7 +299,8 @@ private Q_SLOTS:
     {
         writeFile(rulefile::pathIn(bundle()), "nonsense");
         QVERIFY(readRules(bundle()).outcome().is(platform::Cause::Damaged));
-        QVERIFY(rulefile::change(bundle(), [](const QVariantMap &) { return QVariantMap(); }).is(platform::Cause::Damaged));
+        QVERIFY(
+            rulefile::change(bundle(), [](const QVariantMap &) { return QVariantMap(); }).is(platform::Cause::Damaged));
         const auto aside = rulefile::setAside(bundle());
         QVERIFY(aside && readFile(*aside) == "nonsense");
         QVERIFY(readRules(bundle())->isEmpty());

@@ -48,7 +48,9 @@ private Q_SLOTS:
         };
         row("a.txt", "", "");
         row("a.txt", "{Client}\r\n{Number:000}\n{other} {", "A <\"B\"> & C\r\n041\n{other} {");
-        row("a.txt", "\xEF\xBB\xBF{Number}", "\xEF\xBB\xBF" "41");
+        row("a.txt", "\xEF\xBB\xBF{Number}",
+            "\xEF\xBB\xBF"
+            "41");
         row("a.txt", "caf\xE9 {Number}", "caf\xE9 41"); // no UTF-8
         row("a.txt", "caf\xE9 {Euro}", "!A value has characters");
         row("a.txt", utf16("{Number} é\r\n", "\xFF\xFE"), utf16("41 é\r\n", "\xFF\xFE"));
@@ -62,7 +64,8 @@ private Q_SLOTS:
         row("a.svg", "<a b=\"{Client}\"/>", "<a b=\"A &lt;&quot;B&quot;&gt; &amp; C\"/>");
         row("a.xml", "{Bell}", "!{Bell} has a character that XML cannot hold");
         row("a.xml", "{Client}<![CDATA[{Client}{End}]]>{Number}<![CDATA[{Number}]]>{Client}",
-            "A &lt;&quot;B&quot;&gt; &amp; C<![CDATA[A <\"B\"> & C]]]]><![CDATA[>]]>41<![CDATA[41]]>A &lt;&quot;B&quot;&gt; &amp; C");
+            "A &lt;&quot;B&quot;&gt; &amp; C<![CDATA[A <\"B\"> & C]]]]><![CDATA[>]]>41<![CDATA[41]]>A "
+            "&lt;&quot;B&quot;&gt; &amp; C");
         row("a.xml", "<?xml version=\"1.0\" encoding=\"ISO-8859-1\"?>{Euro}", "!A value has characters");
         row("a.json", "{\"a\": {\"b\": \"{Client}{Lines}\"}, \"n\": {Number}}",
             "{\"a\": {\"b\": \"A <\\\"B\\\"> & C1\\u000a2\"}, \"n\": 41}");

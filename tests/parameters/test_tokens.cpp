@@ -26,8 +26,9 @@ tokens::Values someValues()
                   {parameter("Client", Kind::Text, "Österreich's Färber & Söhne"),
                    parameter("Number", Kind::Counter, "Job-041"), parameter("Date", Kind::Date, "21-11-2026"),
                    parameter("Typed", Kind::Date, "05-03-2025"), parameter("Shot", Kind::Text, "2024-02-29"),
-                   parameter("Project", Kind::Text, "hidden by the project's name"), parameter("Ratio 4:3", Kind::Text, "wide"),
-                   parameter("Empty", Kind::Text, ""), parameter("Emoji", Kind::Text, "🎬 film 👩‍🎤")},
+                   parameter("Project", Kind::Text, "hidden by the project's name"),
+                   parameter("Ratio 4:3", Kind::Text, "wide"), parameter("Empty", Kind::Text, ""),
+                   parameter("Emoji", Kind::Text, "🎬 film 👩‍🎤")},
                   "%d-%m-%Y", now);
     return values;
 }

@@ -51,7 +51,8 @@ private Q_SLOTS:
         row("number", {{"form", "number"}}, "-007", "7.5", "This must be a whole number.");
         row("date", {{"form", "date"}}, "2024-02-29", "2025-02-29", "This must be a date");
         row("length", {{"maxLength", 3LL}}, "🎬äb", "abcd", "This may have 3 characters, and has 4.");
-        row("pattern", {{"pattern", "[A-Z]{3}|x"}, {"patternMessage", "Three letters"}}, "ABC", "ABCD", "Three letters");
+        row("pattern", {{"pattern", "[A-Z]{3}|x"}, {"patternMessage", "Three letters"}}, "ABC", "ABCD",
+            "Three letters");
         row("without a sentence", {{"pattern", "\\d+"}}, "12", "a12", "This does not fit the pattern \\d+.");
         row("no pattern", {{"pattern", "["}}, "", "a", "The parameter’s pattern is wrong");
         row("several", {{"type", 5LL}, {"several", true}, {"defaultVal", "A,B"}}, "B, A", "A, C", "“C” is not among");
@@ -85,10 +86,11 @@ private Q_SLOTS:
     /// Follows what it is computed from until somebody types another value, and again when that is taken away.
     void computed()
     {
-        FilenameParameters before = list({{{"title", "Client"}, {"val", "Big Fish"}},
-                                          {{"title", "Code"}, {"computed", "{Client|initials}-{Number:000}"}, {"letterCase", "lower"}},
-                                          {{"title", "Name"}, {"computed", "{Code} {Number}"}},
-                                          {{"title", "Number"}, {"type", 2LL}, {"val", "7"}}});
+        FilenameParameters before =
+            list({{{"title", "Client"}, {"val", "Big Fish"}},
+                  {{"title", "Code"}, {"computed", "{Client|initials}-{Number:000}"}, {"letterCase", "lower"}},
+                  {{"title", "Name"}, {"computed", "{Code} {Number}"}},
+                  {{"title", "Number"}, {"type", 2LL}, {"val", "7"}}});
         FilenameParameters now = forms::withComputedValues(before, before, moment);
         QCOMPARE(values(now), QStringList({"Client=Big Fish", "Code=bf-007", "Name=bf-007 7", "Number=7"}));
         QVERIFY(forms::isComputed(now, 1, moment));
@@ -109,8 +111,10 @@ private Q_SLOTS:
 
     void computedInACircle()
     {
-        const FilenameParameters circle = list({{{"title", "A"}, {"computed", "{B}x"}}, {{"title", "B"}, {"computed", "{A}x"}},
-                                                {{"title", "C"}, {"computed", "{A}"}}, {{"title", "D"}, {"computed", "{gone}"}}});
+        const FilenameParameters circle = list({{{"title", "A"}, {"computed", "{B}x"}},
+                                                {{"title", "B"}, {"computed", "{A}x"}},
+                                                {{"title", "C"}, {"computed", "{A}"}},
+                                                {{"title", "D"}, {"computed", "{gone}"}}});
         const FilenameParameters now = forms::withComputedValues(circle, circle, moment);
         QCOMPARE(values(now), QStringList({"A=", "B=", "C=", "D="}));
         QVERIFY(forms::problemOfComputed(now, 0, moment).startsWith("It is computed from itself"));
@@ -120,13 +124,15 @@ private Q_SLOTS:
 
     void ofOneTemplate()
     {
-        const FilenameParameters common =
-            list({{{"title", "Client"}, {"val", "Acme"}}, {{"title", "Kind"}, {"val", "Film"}}, {{"title", "Job"}, {"type", 2LL}, {"val", "1"}},
-                  {{"title", "Editor"}, {"val", "me"}, {"locked", 1LL}}});
-        const ParameterScope scope{"T",
-                                   list({{{"title", "Job"}, {"type", 2LL}, {"val", "100"}}, {{"title", "Own"}, {"val", "a"}}}),
-                                   {{"Kind", "Series"}},
-                                   {"Editor"}};
+        const FilenameParameters common = list({{{"title", "Client"}, {"val", "Acme"}},
+                                                {{"title", "Kind"}, {"val", "Film"}},
+                                                {{"title", "Job"}, {"type", 2LL}, {"val", "1"}},
+                                                {{"title", "Editor"}, {"val", "me"}, {"locked", 1LL}}});
+        const ParameterScope scope{
+            "T",
+            list({{{"title", "Job"}, {"type", 2LL}, {"val", "100"}}, {{"title", "Own"}, {"val", "a"}}}),
+            {{"Kind", "Series"}},
+            {"Editor"}};
         const QVariantMap kept{{"Own", QVariantMap{{"val", "b"}, {"history", QVariantList{"b", "a"}}}}};
         FilenameParameters now = effectiveParameters(common, scope, kept);
         QCOMPARE(values(now), QStringList({"Client=Acme", "Kind=Series", "Job=100", "Own=b"}));

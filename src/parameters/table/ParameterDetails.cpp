@@ -70,8 +70,8 @@ ParameterDetails::ParameterDetails(FilenameParameter parameter, QWidget *parent)
     form->addRow(QString(), m_inName);
     m_inName->setChecked(!m_parameter.isOutsideName());
     const bool isChoice = m_parameter.kind() == FilenameParameter::Kind::Choice;
-    const bool isText = m_parameter.kind() == FilenameParameter::Kind::Text ||
-                        m_parameter.kind() == FilenameParameter::Kind::OtherText;
+    const bool isText =
+        m_parameter.kind() == FilenameParameter::Kind::Text || m_parameter.kind() == FilenameParameter::Kind::OtherText;
     for (QWidget *row : QList<QWidget *>{m_form, m_computed})
         row->setEnabled(isText);
     m_several->setEnabled(isChoice);

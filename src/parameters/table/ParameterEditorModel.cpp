@@ -37,7 +37,10 @@ CellEditor editorOf(const FilenameParameters &list, int row, Column column)
 
 ParameterEditorModel::ParameterEditorModel(QObject *parent)
     : QAbstractTableModel(parent)
-    , m_list({[] { return storedParameters(); }, [](const ListChange &change) { return changeParameters(change); }})
+    , m_list({[] { return storedParameters(); },
+              [](const ListChange &change) {
+                  return changeParameters(change);
+              }})
     , m_isStored(true)
     , m_rowsSeen(rowCount())
 {

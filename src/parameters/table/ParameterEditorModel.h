@@ -81,7 +81,7 @@ private:
 
     const List m_list;
     const bool m_isStored; ///< others show it, too
-    QList<Edit> m_done; ///< the last ones last
+    QList<Edit> m_done;    ///< the last ones last
     QList<Edit> m_undone;
 
     int m_rowsSeen = 0; ///< when the views were last told

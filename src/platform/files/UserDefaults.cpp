@@ -260,8 +260,7 @@ Outcome UserDefaults::setMachineWideValue(const QString &key, const QVariant &va
     const std::scoped_lock lock(m_mutex);
     refresh(m_machine);
     const QVariantMap before = m_machine.values;
-    const Outcome stored =
-        holds(m_machine, key, value) ? Outcome() : store(m_machine, key, value);
+    const Outcome stored = holds(m_machine, key, value) ? Outcome() : store(m_machine, key, value);
     if (stored.ok()) // a value of the user's own would come back with the machine's gone
         return m_machineDecides.contains(key) ? removeValue(key) : stored;
     m_machine.values = before;

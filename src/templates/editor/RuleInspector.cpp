@@ -185,8 +185,16 @@ void RuleInspector::buildTemplate(QVBoxLayout &column)
     column.addWidget(m_templatePart);
 }
 
+void RuleInspector::finishEditing()
+{
+    tellItem();
+    tellTemplate();
+}
+
 void RuleInspector::show(const State &state)
 {
+    if (state.item != m_state.item) // what is typed in a line belongs to the item before
+        tellItem();
     const bool isSameItem = state.item == m_state.item && state.titles == m_state.titles;
     const bool isSameRule = isSameItem && state.rules.ruleOf(state.item) == m_rule;
     m_state = state;
@@ -286,6 +294,7 @@ void RuleInspector::addConditionRow(const Condition &condition)
         showConditions();
     });
     m_conditions->addWidget(row);
+    row->show(); // at once: it may get the focus
     m_rows.append(parts);
     showJoin();
 }

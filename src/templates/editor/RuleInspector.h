@@ -26,14 +26,16 @@ public:
     struct State
     {
         TemplateRules rules;
-        QString problem;         ///< why they cannot be read; null: they can
-        QString item;            ///< path below Files; null without one
+        QString problem; ///< why they cannot be read; null: they can
+        QString item;    ///< path below Files; null without one
         bool isFolder = false;
-        QStringList gone;        ///< paths of rules whose item is not there
-        QStringList titles;      ///< of the parameters
-        bool isLoaded = false;   ///< whether there is a template
+        QStringList gone;      ///< paths of rules whose item is not there
+        QStringList titles;    ///< of the parameters
+        bool isLoaded = false; ///< whether there is a template
     };
     void show(const State &state);
+    /** Tells what has been typed and not been left yet. */
+    void finishEditing();
 
 Q_SIGNALS:
     void ruleEdited(const ItemRule &rule);

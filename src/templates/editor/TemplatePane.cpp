@@ -229,6 +229,7 @@ void TemplatePane::buildInspector()
     });
     using Outline = VTTemplateOutlineController;
     auto *inspector = m_ui->inspector;
+    connect(&m_outline, &Outline::needsWholeTree, inspector, &RuleInspector::finishEditing); // before another template
     connect(&m_outline, &Outline::rulesChanged, this, &TemplatePane::updateInspector);
     connect(&m_outline, &Outline::selectionChanged, this, &TemplatePane::updateInspector);
     connect(inspector, &RuleInspector::ruleEdited, this, [this](const ItemRule &rule) {
@@ -325,6 +326,7 @@ QMenu *TemplatePane::labelMenu()
 
 void TemplatePane::finishEditing()
 {
+    m_ui->inspector->finishEditing();
     m_table.finishEditing();
     m_outline.finishEditing();
 }

@@ -45,8 +45,7 @@ void VTTemplateOutlineController::record(DiskChange change, const changes::Copie
     rereadRules();
 }
 
-void VTTemplateOutlineController::changeRules(const QString &name,
-                                              const std::function<void(TemplateRules &)> &edit)
+void VTTemplateOutlineController::changeRules(const QString &name, const std::function<void(TemplateRules &)> &edit)
 {
     if (m_baseFilename.isNull() || !editingIsAllowed())
         return rereadRules(); // shows what they are
