@@ -14,6 +14,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QSet>
 #include <QTableWidget>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -44,6 +45,7 @@ OwnParametersSheet::OwnParametersSheet(const QString &templateName, const Templa
                }})
     , m_table(new VTTableView(this))
     , m_common(new QTableWidget(this))
+    , m_problem(new QLabel(this))
 {
     setWindowTitle(tr("Parameters of “%1”").arg(platform::forOneLine(templateName)));
     setWindowModality(Qt::WindowModal);
@@ -73,10 +75,7 @@ OwnParametersSheet::OwnParametersSheet(const QString &templateName, const Templa
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
     for (QPushButton *button : buttons->findChildren<QPushButton *>())
         button->setIcon({});
-    connect(buttons, &QDialogButtonBox::accepted, this, [this] {
-        m_table->finishEditing();
-        accept();
-    });
+    connect(buttons, &QDialogButtonBox::accepted, this, &OwnParametersSheet::acceptIfPossible);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     auto *column = new QVBoxLayout(this);
     column->addWidget(heading(tr("Projects of this template have these parameters, after the common ones:")));
@@ -84,6 +83,10 @@ OwnParametersSheet::OwnParametersSheet(const QString &templateName, const Templa
     column->addLayout(bar);
     column->addWidget(heading(tr("The common parameters in projects of this template:")));
     column->addWidget(m_common, 2);
+    m_problem->setObjectName(QStringLiteral("problem"));
+    m_problem->setWordWrap(true);
+    m_problem->setTextFormat(Qt::PlainText);
+    column->addWidget(m_problem);
     column->addWidget(buttons);
     resize(fontMetrics().averageCharWidth() * charactersWide, fontMetrics().height() * linesHigh);
 }
@@ -188,13 +191,31 @@ void OwnParametersSheet::showDetails()
     details->open();
 }
 
+/// With what is being typed.
+void OwnParametersSheet::acceptIfPossible()
+{
+    m_table->finishEditing();
+    QSet<QString> titles;
+    QString problem;
+    for (const FilenameParameter &parameter : std::as_const(m_own)) {
+        if (parameter.title().isEmpty())
+            problem = tr("Each parameter needs a title.");
+        else if (titles.contains(parameter.title()))
+            problem = tr("Two parameters are called “%1”.").arg(parameter.title());
+        titles.insert(parameter.title());
+    }
+    m_problem->setText(problem);
+    if (problem.isNull())
+        accept();
+}
+
 void OwnParametersSheet::takeInto(TemplateRules &rules) const
 {
     rules.parameters = variantFromParameters(m_own);
-    rules.fixed.clear();
-    rules.hidden.clear();
-    for (int row = 0; row < m_common->rowCount(); ++row) {
+    for (int row = 0; row < m_common->rowCount(); ++row) { // titles that only others have stay as they are
         const QString title = m_common->item(row, 0)->text();
+        rules.fixed.remove(title);
+        rules.hidden.removeAll(title);
         if (kindOf(row) == Common::Hidden)
             rules.hidden.append(title);
         else if (kindOf(row) == Common::Fixed)

@@ -5,6 +5,7 @@
 
 #include <QDialog>
 
+class QLabel;
 class QTableWidget;
 class VTTableView;
 
@@ -29,9 +30,11 @@ private:
     void addParameter();
     void showDetails();
     [[nodiscard]] Common kindOf(int row) const;
+    void acceptIfPossible();
 
     FilenameParameters m_own;
     ParameterEditorModel m_model;
     VTTableView *m_table;
     QTableWidget *m_common;
+    QLabel *m_problem;
 };

@@ -40,6 +40,7 @@ void BatchModel::setBatch(ProjectBatch batch)
     if (!hasSameCells)
         beginResetModel();
     m_batch = std::move(batch);
+    m_table = m_batch.table();
     if (!hasSameCells)
         endResetModel();
     else if (rowCount() > 0)
@@ -74,7 +75,7 @@ QVariant BatchModel::data(const QModelIndex &index, int role) const
     const QString problem = problemAt(index);
     const auto text = [&] {
         return isProject ? platform::forOneLine(m_batch.rows()[index.row()].project)
-                         : m_batch.table().rows[index.row()].cells.value(index.column() - 1);
+                         : m_table.rows[index.row()].cells.value(index.column() - 1);
     };
     switch (role) {
     case Qt::DisplayRole:
@@ -115,9 +116,9 @@ bool BatchModel::setData(const QModelIndex &index, const QVariant &value, int ro
 {
     if (role != Qt::EditRole || index.column() == 0 || value == index.data(Qt::EditRole))
         return false;
-    ProjectTable table = m_batch.table();
-    table.rows[index.row()].cells[index.column() - 1] = value.toString();
-    Q_EMIT tableEdited(table);
+    m_table.rows[index.row()].cells[index.column() - 1] = value.toString();
+    Q_EMIT dataChanged(index, index);
+    Q_EMIT tableEdited(m_table);
     return true;
 }
 
@@ -160,6 +161,41 @@ void TableSheet::build()
     top->addWidget(hint, 1);
     top->addWidget(open);
     top->addWidget(pasted);
+    m_place->setReadOnly(true);
+    m_place->setAccessibleName(tr("The folder that the projects go to"));
+    auto *choose = new QPushButton(tr("&Choose…"));
+    connect(choose, &QPushButton::clicked, this, &TableSheet::choosePlace);
+    auto *place = new QHBoxLayout;
+    place->addWidget(new QLabel(tr("In:")));
+    place->addWidget(m_place, 1);
+    place->addWidget(choose);
+    m_summary->setWordWrap(true);
+    m_summary->setTextFormat(Qt::PlainText);
+    m_summary->setObjectName(QStringLiteral("summary"));
+    m_allOrNone->setChecked(true);
+    auto *manner = new QHBoxLayout;
+    manner->addWidget(m_allOrNone);
+    manner->addWidget(m_goOn);
+    manner->addStretch();
+    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Cancel, this);
+    m_create = buttons->addButton(tr("Create Pro&jects"), QDialogButtonBox::AcceptRole);
+    m_create->setDefault(true);
+    for (QPushButton *button : buttons->findChildren<QPushButton *>())
+        button->setIcon({});
+    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    auto *column = new QVBoxLayout(this);
+    column->addLayout(top);
+    column->addWidget(builtTables(), 1);
+    column->addWidget(m_summary);
+    column->addLayout(place);
+    column->addLayout(manner);
+    column->addWidget(buttons);
+    resize(fontMetrics().averageCharWidth() * charactersWide, fontMetrics().height() * linesHigh);
+}
+
+QWidget *TableSheet::builtTables()
+{
     m_view->setModel(&m_model);
     m_view->setAccessibleName(tr("Projects"));
     m_view->setSelectionBehavior(QAbstractItemView::SelectRows);
@@ -182,37 +218,7 @@ void TableSheet::build()
     splitter->setStretchFactor(0, 3);
     splitter->setStretchFactor(1, 2);
     splitter->setChildrenCollapsible(false);
-    m_place->setReadOnly(true);
-    m_place->setAccessibleName(tr("The folder that the projects go to"));
-    auto *choose = new QPushButton(tr("&Choose…"));
-    connect(choose, &QPushButton::clicked, this, &TableSheet::choosePlace);
-    auto *place = new QHBoxLayout;
-    place->addWidget(new QLabel(tr("In:")));
-    place->addWidget(m_place, 1);
-    place->addWidget(choose);
-    m_summary->setWordWrap(true);
-    m_summary->setTextFormat(Qt::PlainText);
-    m_summary->setObjectName(QStringLiteral("summary"));
-    m_allOrNone->setChecked(true);
-    auto *manner = new QHBoxLayout;
-    manner->addWidget(m_allOrNone);
-    manner->addWidget(m_goOn);
-    manner->addStretch();
-    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Cancel, this);
-    m_create = buttons->addButton(tr("Create &Projects"), QDialogButtonBox::AcceptRole);
-    m_create->setDefault(true);
-    for (QPushButton *button : buttons->findChildren<QPushButton *>())
-        button->setIcon({});
-    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    auto *column = new QVBoxLayout(this);
-    column->addLayout(top);
-    column->addWidget(splitter, 1);
-    column->addWidget(m_summary);
-    column->addLayout(place);
-    column->addLayout(manner);
-    column->addWidget(buttons);
-    resize(fontMetrics().averageCharWidth() * charactersWide, fontMetrics().height() * linesHigh);
+    return splitter;
 }
 
 BatchManner TableSheet::manner() const
@@ -292,7 +298,7 @@ void TableSheet::look(const ProjectTable &table)
                 return;
             sheet->m_isLooking = false;
             if (look != sheet->m_looks)
-                return sheet->look(sheet->m_table);
+                return sheet->m_table.rows.isEmpty() ? sheet->m_create->setEnabled(false) : sheet->look(sheet->m_table);
             sheet->show(std::move(*batch));
         });
     showSummary();
@@ -343,17 +349,20 @@ void TableSheet::showSummary()
 void TableSheet::showTree()
 {
     const int row = m_view->currentIndex().row();
-    if (row < 0 || row >= m_model.rowCount())
+    if (row < 0 || row >= m_model.rowCount()) {
+        ++m_trees;
         return m_tree.setPlan({});
+    }
     const auto plan = std::make_shared<CreationPlan>();
+    const quint64 asked = ++m_trees;
     const ProjectRequest request = m_model.batch().requestOf(row);
     platform::performBeside(
         [plan, request, cancelled = m_isOver] {
             if (!request.templateFiles.isEmpty())
                 *plan = planCreation(request.templateFiles, request.planInput(), *cancelled);
         },
-        [sheet = QPointer(this), plan, row] {
-            if (!sheet || sheet->m_view->currentIndex().row() != row)
+        [sheet = QPointer(this), plan, asked] {
+            if (!sheet || sheet->m_trees != asked)
                 return;
             sheet->m_tree.setPlan(std::move(*plan));
             if (sheet->m_tree.plan().tree.itemCount() <= mostOpened)

@@ -40,6 +40,7 @@ private:
     [[nodiscard]] QString problemAt(const QModelIndex &index) const;
 
     ProjectBatch m_batch;
+    ProjectTable m_table; ///< as it is shown: the batch may still be made of it
 };
 
 /**
@@ -65,6 +66,7 @@ public:
 
 private:
     void build();
+    [[nodiscard]] QWidget *builtTables();
     void read(const QByteArray &bytes);
     void look(const ProjectTable &table);
     void show(ProjectBatch batch);
@@ -86,6 +88,7 @@ private:
     QRadioButton *m_allOrNone;
     QRadioButton *m_goOn;
     QPushButton *m_create = nullptr;
+    quint64 m_trees = 0; ///< raised with each that is asked for
     quint64 m_looks = 0; ///< raised by whatever makes an earlier look old
     bool m_isLooking = false;
     std::shared_ptr<std::atomic<bool>> m_isOver = std::make_shared<std::atomic<bool>>(false);

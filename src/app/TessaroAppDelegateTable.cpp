@@ -95,6 +95,8 @@ void TessaroAppDelegate::createBatch(const ProjectBatch &batch, BatchManner mann
         m_window->showMessage(tr("Nothing was kept: what had been created is in the Trash."));
     else
         m_window->showCreatedMany(result.made.size(), location);
+    if (result.left > 0 && !result.takenBack)
+        problems.append(tr("Rows that were left out: %L1").arg(result.left));
     if (!problems.isEmpty())
         VTAlert::show({result.takenBack ? tr("The projects could not all be created") : tr("Not all went well"),
                        shortened(problems)});
@@ -116,13 +118,20 @@ void TessaroAppDelegate::undoProjects(const QList<Manifest> &given)
     m_creating = false;
     m_tableController->follow();
     QStringList stays;
-    for (const UndoResult &result : std::as_const(results)) {
-        for (const KeptItem &kept : result.kept)
-            stays.append(sentenceOf(kept));
+    qsizetype undone = 0;
+    m_undoable = projects.mid(0, projects.size() - results.size()); // those that Cancel has left, and what failed
+    for (qsizetype i = 0; i < results.size(); ++i) {
+        const Manifest &project = projects[projects.size() - 1 - i];
+        undone += results[i].outcome.ok() ? 1 : 0;
+        if (!results[i].outcome.ok() && !results[i].outcome.is(platform::Cause::Missing))
+            m_undoable.append(project);
+        if (!results[i].outcome.is(platform::Cause::Cancelled)) {
+            for (const KeptItem &kept : results[i].kept)
+                stays.append(sentenceOf(kept));
+        }
     }
-    m_undoable = projects.mid(0, projects.size() - results.size()); // those that Cancel has left
     showUndo();
-    m_window->showMessage(tr("In the Trash: %L1 projects.").arg(results.size()));
+    m_window->showMessage(tr("In the Trash: %L1 projects.").arg(undone));
     if (!stays.isEmpty())
         VTAlert::show({tr("Part of the projects stays"), shortened(stays)});
 }
@@ -131,10 +140,10 @@ void TessaroAppDelegate::editTemplateParameters()
 {
     auto &outline = m_window->templatePane().outlineController();
     const QString bundle = outline.baseFilename();
-    if (bundle.isNull())
+    if (bundle.isNull() || !outline.rules().isRead || !outline.rules().problem.ok())
         return;
-    auto *sheet = new OwnParametersSheet(platform::withoutExtension(platform::lastComponent(bundle)), outline.rules(),
-                                         m_window.get());
+    auto *sheet = new OwnParametersSheet(platform::withoutExtension(platform::lastComponent(bundle)),
+                                         outline.rules().rules, m_window.get());
     whenLeft<OwnParametersSheet>(*sheet, *this, [this, bundle](const OwnParametersSheet &left, bool accepted) {
         auto &now = m_window->templatePane().outlineController();
         if (accepted && now.baseFilename() == bundle)

@@ -1,6 +1,7 @@
 #include "creation/BatchCreation.h"
 
 #include "platform/base/MainThread.h"
+#include "platform/files/FileSystem.h"
 #include "support/LongWork.h"
 #include "support/VTLocalPaths.h"
 #include "support/VTLog.h"
@@ -51,6 +52,8 @@ BatchResult BatchCreation::run(const ProjectBatch &batch,
             result.failed += made.ok() ? 0 : 1;
             if (!made.manifest.file.isEmpty())
                 result.made.append(made.manifest);
+            else if (!made.cancelled && !made.stopped && !made.refused)
+                m_notRemembered.append(made.request.destination());
             done(row, made);
         }
         if (m_manner == BatchManner::AllOrNone && (result.failed > 0 || result.stopped))
@@ -74,6 +77,10 @@ void BatchCreation::takeBack(BatchResult &result)
     const auto undone = platform::resultInBackground([&] { return undoBatch(made, monitor); });
     for (const UndoResult &one : undone)
         result.kept += one.kept;
+    for (const QString &project : std::as_const(m_notRemembered)) {
+        if (!platform::isMissing(project))
+            result.kept.append({project, KeptItem::Why::Failed});
+    }
 }
 
 QList<UndoResult> undoBatch(const QList<Manifest> &projects, platform::CopyMonitor &monitor)

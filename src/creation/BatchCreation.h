@@ -44,6 +44,7 @@ private:
     CreationHost &m_host;
     const BatchManner m_manner;
     platform::CopyMonitor m_monitor;
+    QStringList m_notRemembered; ///< projects that stand and cannot be taken back
 };
 
 /** Takes back what one batch has made and nobody has touched, the latest first. Blocks; any thread. */

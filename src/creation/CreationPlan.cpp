@@ -62,20 +62,25 @@ void expand(CreationPlan &plan, const PlanInput &input, const std::atomic<bool> 
     plan.shape = expansion.shape;
 }
 
-void readTexts(CreationPlan &plan, const QString &templateFiles, RuledTemplate &ruled,
-               const std::atomic<bool> &cancelled)
+/// Of every file that may get values, whatever conditions and repeats make of it just now.
+void readTexts(RuledTemplate &ruled, const tokens::Values &ofProject, const std::atomic<bool> &cancelled)
 {
-    for (const RuledText &text : plan.texts) {
-        const QString path = pathOf(plan.tree, text.folder, text.item);
-        if (cancelled)
-            return;
-        if (!ruled.texts.contains(path))
-            ruled.texts.insert(path, textvalues::readTextTokens(platform::joined(templateFiles, path), *text.values));
-    }
+    tokens::Values values(&ofProject);
+    for (const ItemRule &rule : ruled.rules->items)
+        values.add(rule.repeat.name, {QStringLiteral("1")});
+    ruled.tree.forEachFolder([&](std::uint32_t folder) {
+        for (std::uint32_t item = 0; item < ruled.tree.folders[folder].items.size() && !cancelled; ++item) {
+            if (!ruled.items.isText(ruled.tree, folder, item))
+                continue;
+            const QString path = pathOf(ruled.tree, folder, item);
+            ruled.texts.insert(path, textvalues::readTextTokens(platform::joined(ruled.files, path), values));
+        }
+    });
 }
 
 void findUnreadable(CreationPlan &plan, const QString &templateFiles)
 {
+    plan.unreadable.clear();
     plan.tree.forEachFolder([&](std::uint32_t number) {
         if (const int error = plan.tree.folders[number].error; error != 0)
             plan.unreadable.append(
@@ -89,10 +94,11 @@ CreationPlan planWithRules(const QString &templateFiles, const PlanInput &input,
     platform::Tree tree = platform::readTree(
         templateFiles, [](platform::TreeFolder &) {}, cancelled);
     RuledItems items(tree, *input.rules);
-    const auto ruled = std::make_shared<RuledTemplate>(RuledTemplate{std::move(tree), input.rules, std::move(items)});
+    const auto ruled =
+        std::make_shared<RuledTemplate>(RuledTemplate{templateFiles, std::move(tree), input.rules, std::move(items)});
+    readTexts(*ruled, input.values, cancelled);
     plan.ruled = ruled;
     expand(plan, input, cancelled);
-    readTexts(plan, templateFiles, *ruled, cancelled);
     lookAtTexts(plan);
     findUnreadable(plan, templateFiles);
     return plan;
@@ -102,6 +108,9 @@ CreationPlan planWithRules(const QString &templateFiles, const PlanInput &input,
 
 void CreationPlan::forEachItem(const std::function<void(const PlanItem &)> &visit) const
 {
+    QHash<quint64, QString> sentences; // there may be one for each item
+    for (const Flaw &flaw : flaws)
+        sentences.insert((quint64{flaw.folder} << 32U) | flaw.item, flaw.sentence);
     const std::function<void(std::uint32_t, const QString &)> visitFolder = [&](std::uint32_t number,
                                                                                 const QString &path) {
         const platform::TreeFolder &folder = tree.folders[number];
@@ -111,7 +120,7 @@ void CreationPlan::forEachItem(const std::function<void(const PlanItem &)> &visi
                            platform::fromNative(folder.newNameOf(item)), platform::kindOfType(item.type),
                            static_cast<Remark>(item.remark)};
             if (shown.remark == Remark::Flawed)
-                shown.flaw = flawOf(number, i);
+                shown.flaw = sentences.value((quint64{number} << 32U) | i);
             visit(shown);
             if (item.folder != 0)
                 visitFolder(item.folder, below(path, shown.newName));
@@ -136,6 +145,19 @@ QString CreationPlan::flawOf(std::uint32_t folder, std::uint32_t item) const
     return flaw == flaws.end() ? QString() : flaw->sentence;
 }
 
+QString CreationPlan::firstKeptName() const
+{
+    for (const std::uint32_t number : named) {
+        const platform::TreeFolder &folder = tree.folders[number];
+        for (std::uint32_t i = 0; i < folder.items.size(); ++i) {
+            const auto remark = static_cast<Remark>(folder.items[i].remark);
+            if (remark == Remark::NameTaken || remark == Remark::NameTooLong)
+                return newPathOf(tree, number, i);
+        }
+    }
+    return {};
+}
+
 QString CreationPlan::pathOf(const Flaw &flaw) const
 {
     return newPathOf(tree, flaw.folder, flaw.item);
@@ -153,7 +175,8 @@ void planFor(CreationPlan &plan, const PlanInput &input)
     plan.tooLongLevels = naming::tooLongLevels(input.levels);
     if (plan.ruled) {
         expand(plan, input, never);
-        return lookAtTexts(plan);
+        lookAtTexts(plan);
+        return findUnreadable(plan, plan.ruled->files);
     }
     for (const std::uint32_t folder : plan.named)
         nameItems(plan.tree.folders[folder], projectNameOf(input));
@@ -182,9 +205,18 @@ void dropLeftOut(CreationPlan &plan)
     const auto isLeftOut = [](const platform::TreeItem &item) {
         return item.remark == static_cast<unsigned char>(Remark::LeftOut);
     };
+    std::uint32_t counted = UINT32_MAX; // the folder whose items were counted last: those of one follow each other
+    std::vector<std::uint32_t> before;  // for each of its items, how many in front of it go
     for (RuledText &text : plan.texts) {
-        const auto first = plan.tree.folders[text.folder].items.begin();
-        text.item -= static_cast<std::uint32_t>(std::count_if(first, first + text.item, isLeftOut));
+        if (std::exchange(counted, text.folder) != text.folder) {
+            before.clear();
+            std::uint32_t gone = 0;
+            for (const platform::TreeItem &item : plan.tree.folders[text.folder].items) {
+                before.push_back(gone);
+                gone += isLeftOut(item) ? 1 : 0;
+            }
+        }
+        text.item -= before[text.item];
     }
     for (platform::TreeFolder &folder : plan.tree.folders) {
         std::erase_if(folder.items, isLeftOut);

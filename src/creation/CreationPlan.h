@@ -32,6 +32,7 @@ struct PlanInput
 /** A template with rules, as it was read: what each expansion begins with. */
 struct RuledTemplate
 {
+    QString files; ///< the folder that it was read from
     platform::Tree tree;
     TemplateRulesPtr rules;
     RuledItems items;
@@ -67,6 +68,8 @@ struct CreationPlan
     [[nodiscard]] qsizetype renamed() const;
     /** What is wrong with the item; null when nothing is. */
     [[nodiscard]] QString flawOf(std::uint32_t folder, std::uint32_t item) const;
+    /** The first item that keeps its name because the new one cannot be given; null without one. */
+    [[nodiscard]] QString firstKeptName() const;
     /** Its path in the project. */
     [[nodiscard]] QString pathOf(const Flaw &flaw) const;
     /** Path in the project and sentence of the first flaw, for those who see no tree; null without one. */

@@ -123,7 +123,12 @@ tokens::Filled filledName(const QString &name, const QString &projectName, const
     QStringList parts;
     for (const tokens::Piece &piece : all.pieces) {
         if (!piece.token) {
-            marked += piece.text;
+            for (const QChar character : piece.text) { // a mark that is the name's own stands for itself
+                const bool isMark = character == tokenMark || character == projectMark;
+                marked += isMark ? tokenMark : character;
+                if (isMark)
+                    parts.append(QString(character));
+            }
             continue;
         }
         const tokens::Filled part = tokens::valueOf(*piece.token, values);

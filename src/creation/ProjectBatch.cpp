@@ -22,7 +22,13 @@ const QString templateColumn = QStringLiteral("Template");
 
 bool isCounter(const FilenameParameter &parameter)
 {
-    return parameter.kind() == FilenameParameter::Kind::Counter;
+    return parameter.kind() == FilenameParameter::Kind::Counter && !parameter.isFixedByTemplate();
+}
+
+/// A template's own counters count for it alone.
+QString keyOf(const QString &templateName, const FilenameParameter &counter)
+{
+    return counter.isOwnOfTemplate() ? templateName + u'/' + counter.title() : counter.title();
 }
 
 qsizetype rowOf(const FilenameParameters &parameters, const QString &title)
@@ -81,7 +87,7 @@ void ProjectBatch::goThrough(const DiskLook &look, const std::atomic<bool> &canc
         }
         for (const FilenameParameter &parameter : known.base.parameters) {
             if (isCounter(parameter))
-                own.numbers.append(next.value(parameter.title(), parameter.value()));
+                own.numbers.append(next.value(keyOf(own.templateName, parameter), parameter.value()));
         }
         const ProjectRequest request = requestOf(row, own.problems);
         own.project = request.relativePath();
@@ -97,7 +103,7 @@ void ProjectBatch::goThrough(const DiskLook &look, const std::atomic<bool> &canc
         places.insert(own.project.toCaseFolded(), row);
         for (const FilenameParameter &parameter : request.parameters) {
             if (isCounter(parameter))
-                next.insert(parameter.title(), rules::incrementNumber(parameter.value()));
+                next.insert(keyOf(own.templateName, parameter), rules::incrementNumber(parameter.value()));
         }
     }
 }
@@ -160,13 +166,17 @@ void ProjectBatch::lookAtDisk(const std::atomic<bool> &cancelled)
         auto plan = plans.find(own.templateName);
         if (plan == plans.end())
             plan = plans.insert(own.templateName, planCreation(request.templateFiles, request.planInput(), cancelled));
-        else if (plan->ruled)
+        else
             planFor(*plan, request.planInput());
         own.items = plan->tree.itemCount() - plan->leftOut;
         if (plan->isCutOff)
             own.problems.append({-1, Text::tr("Repeats would make more than %L1 items.").arg(mostRepeatedUnasked)});
         else if (const QString flaw = plan->firstFlaw(); !flaw.isNull())
             own.problems.append({-1, flaw});
+        else if (!plan->unreadable.isEmpty())
+            own.problems.append({-1, plan->unreadable.constFirst().description()});
+        else if (const QString kept = plan->firstKeptName(); !kept.isNull())
+            own.problems.append({-1, Text::tr("The new name of %1 is taken, or too long.").arg(kept)});
     };
     goThrough(look, cancelled);
 }

@@ -66,10 +66,10 @@ tokens::Values valuesOfProject(const FilenameParameters &parameters, const QStri
                                const QString &dateFormat, std::time_t moment)
 {
     tokens::Values values;
+    tokens::addTo(values, parameters, dateFormat, moment); // a parameter called "Project" is meant where one is
     values.add(QStringLiteral("Project"), {naming::projectName(levels)});
     for (qsizetype i = 0; i < levels.size(); ++i)
         values.add(QStringLiteral("Level:%1").arg(i + 1), {levels[i]});
-    tokens::addTo(values, parameters, dateFormat, moment);
     return values;
 }
 

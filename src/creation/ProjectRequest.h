@@ -39,7 +39,7 @@ struct ProjectRequest
 /** The same of a request: with it numbers are taken and given back. */
 [[nodiscard]] ParameterScope scopeOf(const ProjectRequest &request);
 
-/** What tokens stand for in a project: its name, its levels, its parameters. */
+/** What tokens stand for in a project: its parameters, "Project" (its name), "Level:1" and so on. */
 [[nodiscard]] tokens::Values valuesOfProject(const FilenameParameters &parameters, const QStringList &levels,
                                              const QString &dateFormat, std::time_t moment);
 

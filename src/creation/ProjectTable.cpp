@@ -63,14 +63,16 @@ public:
         ProjectTable table;
         while (m_at < m_text.size()) {
             ProjectTable::Row row = nextRow();
-            if (!m_problem.isNull())
+            if (!m_problem.isNull()) // of this row, or of the titles
                 return Outcome::failure(Cause::Damaged, {}, m_problem);
             if (std::all_of(row.cells.begin(), row.cells.end(), [](const QString &cell) { return cell.isEmpty(); }))
                 continue;
-            if (table.columns.isEmpty() && !takeColumns(row.cells, table))
-                return Outcome::failure(Cause::Damaged, {}, m_problem);
-            if (row.cells == m_header)
+            if (table.columns.isEmpty()) {
+                takeColumns(row.cells, table);
                 continue;
+            }
+            while (row.cells.size() > table.columns.size() && row.cells.constLast().isEmpty())
+                row.cells.removeLast(); // spreadsheets write as many as the widest row has
             while (row.cells.size() < table.columns.size())
                 row.cells.append(QString());
             table.rows.append(row);
@@ -79,6 +81,8 @@ public:
                     Cause::Damaged, {},
                     Text::tr("The table has more than %L1 rows. Please divide it.").arg(mostTableRows));
         }
+        if (!m_problem.isNull())
+            return Outcome::failure(Cause::Damaged, {}, m_problem);
         if (table.columns.isEmpty() || table.rows.isEmpty())
             return Outcome::failure(
                 Cause::Damaged, {},
@@ -110,9 +114,8 @@ private:
         m_separator = candidates[static_cast<std::size_t>(most)];
     }
 
-    bool takeColumns(const QStringList &cells, ProjectTable &table)
+    void takeColumns(const QStringList &cells, ProjectTable &table)
     {
-        m_header = cells;
         table.columns = cells;
         while (!table.columns.isEmpty() && table.columns.constLast().isEmpty())
             table.columns.removeLast();
@@ -121,7 +124,6 @@ private:
             if (!table.columns[i].isEmpty() && other < i)
                 m_problem = Text::tr("Two columns are called “%1”.").arg(table.columns[i]);
         }
-        return m_problem.isNull();
     }
 
     ProjectTable::Row nextRow()
@@ -182,7 +184,6 @@ private:
     qsizetype m_at = 0;
     int m_line = 1;
     QChar m_separator;
-    QStringList m_header;
     QString m_problem;
 };
 

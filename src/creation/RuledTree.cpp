@@ -3,7 +3,6 @@
 #include "platform/base/NativePath.h"
 
 #include <QCoreApplication>
-#include <QRegularExpression>
 
 using platform::Tree;
 using platform::TreeFolder;
@@ -21,25 +20,32 @@ std::uint64_t placeOf(std::uint32_t folder, std::uint32_t item)
     return (std::uint64_t{folder} << 32U) | item;
 }
 
-/// The item's place by its path in the tree; nothing where it is not there.
-std::optional<std::uint64_t> found(const Tree &tree, const QString &path)
+/// The item's place by its path in the tree.
+struct Search
+{
+    std::optional<std::uint64_t> place; ///< nothing where it is not there
+    bool isKnown = true;                ///< false: a folder on the way could not be read
+};
+Search found(const Tree &tree, const QString &path)
 {
     std::uint32_t folder = 0;
     const QStringList names = path.split(u'/');
     for (qsizetype depth = 0; depth < names.size(); ++depth) {
         const TreeFolder &own = tree.folders[folder];
+        if (own.error != 0)
+            return {{}, false};
         const QByteArray name = platform::toNative(names[depth]);
         const auto item = std::find_if(own.items.begin(), own.items.end(),
                                        [&](const TreeItem &other) { return name == own.nameOf(other); });
         if (item == own.items.end())
-            return std::nullopt;
+            return {};
         if (depth + 1 == names.size())
-            return placeOf(folder, static_cast<std::uint32_t>(item - own.items.begin()));
+            return {placeOf(folder, static_cast<std::uint32_t>(item - own.items.begin()))};
         if (item->folder == 0)
-            return std::nullopt;
+            return {};
         folder = item->folder;
     }
-    return std::nullopt;
+    return {};
 }
 
 class Expander
@@ -53,9 +59,6 @@ public:
         , m_input(input)
         , m_cancelled(cancelled)
     {
-        for (const QString &pattern : rules.textPatterns)
-            m_patterns.append(QRegularExpression(QRegularExpression::wildcardToRegularExpression(pattern),
-                                                 QRegularExpression::CaseInsensitiveOption));
     }
 
     Expansion run()
@@ -95,12 +98,19 @@ private:
         m_result.shape.append(verdict.holds ? '+' : '-');
         if (verdict.holds)
             return true;
-        TreeItem &added = addBare(from, item, to);
-        added.remark = static_cast<unsigned char>(ItemRemark::LeftOut);
-        ++m_result.leftOut;
-        if (!verdict.problem.isNull())
+        if (verdict.problem.isNull()) {
+            leaveOut(from, item, to);
+        } else {
+            addBare(from, item, to);
             complain(to, verdict.problem);
+        }
         return false;
+    }
+
+    void leaveOut(std::uint32_t from, std::uint32_t item, std::uint32_t to)
+    {
+        addBare(from, item, to).remark = static_cast<unsigned char>(ItemRemark::LeftOut);
+        ++m_result.leftOut;
     }
 
     void repeat(const ItemRule &rule, std::uint32_t from, std::uint32_t item, std::uint32_t to,
@@ -114,6 +124,8 @@ private:
             addBare(from, item, to);
             return complain(to, rounds.problem);
         }
+        if (rounds.values.isEmpty())
+            return leaveOut(from, item, to);
         ++m_repeats;
         for (const QString &round : rounds.values) {
             tokens::Values &more = m_result.values->ofRounds.emplace_back(&values);
@@ -153,8 +165,7 @@ private:
         const bool isRepeated = rule && rule->repeat.over != Repeat::Over::Nothing;
         if (m_rules.fillsNames || isRepeated)
             fillName(to, values);
-        if (platform::kindOfType(added.type) == platform::FileKind::File &&
-            ((rule && rule->fillsText) || hasPattern(m_result.tree.folders[to].nameOf(added))))
+        if (m_items.isText(m_source, from, item))
             m_result.texts.push_back({to, place, &values});
         if (below == 0)
             return;
@@ -166,14 +177,6 @@ private:
         if (isRepeated)
             m_result.repeated.push_back(number);
         fill(below, number, values);
-    }
-
-    bool hasPattern(const char *name) const
-    {
-        return !m_patterns.isEmpty() &&
-               std::any_of(m_patterns.begin(), m_patterns.end(), [&](const QRegularExpression &pattern) {
-                   return pattern.match(platform::fromNative(name)).hasMatch();
-               });
     }
 
     /// Of the last item in the folder.
@@ -234,7 +237,6 @@ private:
     const RuledItems &m_items;
     const ExpansionInput &m_input;
     const std::atomic<bool> &m_cancelled;
-    QList<QRegularExpression> m_patterns;
     int m_repeats = 0; ///< of how many the item in hand is part
     std::size_t m_repeated = 0;
     Expansion m_result;
@@ -245,11 +247,15 @@ private:
 RuledItems::RuledItems(const Tree &source, const TemplateRules &rules)
 {
     for (const ItemRule &rule : rules.items) {
-        if (const auto place = source.folders.empty() ? std::nullopt : found(source, rule.path))
-            m_rules.emplace(*place, rule);
-        else
+        const Search search = source.folders.empty() ? Search{{}, false} : found(source, rule.path);
+        if (search.place)
+            m_rules.emplace(*search.place, rule);
+        else if (search.isKnown)
             m_gone.append(rule.path);
     }
+    for (const QString &pattern : rules.textPatterns)
+        m_patterns.append(QRegularExpression(QRegularExpression::wildcardToRegularExpression(pattern),
+                                             QRegularExpression::CaseInsensitiveOption));
 }
 
 const ItemRule *RuledItems::ruleOf(std::uint32_t folder, std::uint32_t item) const
@@ -258,6 +264,20 @@ const ItemRule *RuledItems::ruleOf(std::uint32_t folder, std::uint32_t item) con
         return nullptr;
     const auto found = m_rules.find(placeOf(folder, item));
     return found == m_rules.end() ? nullptr : &found->second;
+}
+
+bool RuledItems::isText(const Tree &source, std::uint32_t folder, std::uint32_t item) const
+{
+    const TreeFolder &own = source.folders[folder];
+    if (platform::kindOfType(own.items[item].type) != platform::FileKind::File)
+        return false;
+    if (const ItemRule *rule = ruleOf(folder, item); rule && rule->fillsText)
+        return true;
+    if (m_patterns.isEmpty())
+        return false;
+    const QString name = platform::fromNative(own.nameOf(own.items[item]));
+    return std::any_of(m_patterns.begin(), m_patterns.end(),
+                       [&](const QRegularExpression &pattern) { return pattern.match(name).hasMatch(); });
 }
 
 Expansion expanded(const Tree &source, const TemplateRules &rules, const RuledItems &items, const ExpansionInput &input,

@@ -3,6 +3,7 @@
 #include "creation/ItemNames.h"
 #include "creation/TemplateRules.h"
 
+#include <QRegularExpression>
 #include <deque>
 #include <unordered_map>
 
@@ -64,10 +65,14 @@ public:
 
     /** Null where there is none. */
     [[nodiscard]] const ItemRule *ruleOf(std::uint32_t folder, std::uint32_t item) const;
+    /** Whether it is a file whose contents get values. */
+    [[nodiscard]] bool isText(const platform::Tree &source, std::uint32_t folder, std::uint32_t item) const;
+    /** What lies in a folder that cannot be read is not gone. */
     [[nodiscard]] const QStringList &gone() const { return m_gone; }
 
 private:
     std::unordered_map<std::uint64_t, ItemRule> m_rules;
+    QList<QRegularExpression> m_patterns;
     QStringList m_gone;
 };
 

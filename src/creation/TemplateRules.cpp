@@ -4,6 +4,8 @@
 #include "templates/RuleFile.h"
 
 #include <QCoreApplication>
+#include <QHash>
+#include <QSet>
 
 #include <array>
 
@@ -327,13 +329,26 @@ Result<TemplateRules> rulesFromVariant(const QVariantMap &given)
     rules.textPatterns = reader.texts(stored, key::texts);
     QString problem;
     int number = 0;
+    QHash<QString, qsizetype> places; // of two for one item the later one counts
     for (const QVariantMap &entry : reader.dictionaries(stored, key::items)) {
         const ItemRule rule = itemFrom(entry, ++number, problem);
-        rules.setRule(rule);
+        const auto place = places.constFind(rule.path);
+        if (place != places.cend()) {
+            rules.items[*place] = rule;
+        } else {
+            places.insert(rule.path, rules.items.size());
+            rules.items.append(rule);
+        }
     }
+    rules.items.removeIf([](const ItemRule &rule) { return rule.isEmpty(); });
+    QSet<QString> titles;
     for (const QVariantMap &record : reader.dictionaries(stored, key::parameters)) {
-        if (record.value(QLatin1String(recordkey::title)).toString().isEmpty())
+        const QString title = record.value(QLatin1String(recordkey::title)).toString();
+        if (title.isEmpty())
             reader.complain(Text::tr("a parameter of “parameters” has no title"));
+        if (titles.contains(title))
+            reader.complain(Text::tr("two parameters of “parameters” are called “%1”").arg(title));
+        titles.insert(title);
         rules.parameters.append(record);
     }
     rules.fixed = reader.dictionary(stored, key::fixed);

@@ -4,6 +4,7 @@
 #include "platform/files/WholeFile.h"
 
 #include <QCoreApplication>
+#include <QRegularExpression>
 #include <QSet>
 #include <QStringDecoder>
 #include <QStringEncoder>
@@ -28,8 +29,10 @@ struct Text
 
 /// In characters: what stands longer between braces is no token.
 constexpr qsizetype longestToken = 300;
-/// Of a document that says its encoding: it does so at the beginning.
-constexpr qsizetype headLength = 200;
+/// Of a document that says its encoding: it does so at the beginning, in bytes.
+constexpr qsizetype headLength = 1024;
+constexpr char16_t lastOfAscii = 0x7F;
+constexpr char16_t lastOfLatin1 = 0xFF;
 
 enum class Encoding { Utf8, Utf16Little, Utf16Big, Latin1 };
 enum class Format { Plain, Xml, Json, Table };
@@ -39,6 +42,7 @@ struct Decoded
     QByteArray mark; ///< of the byte order
     Encoding encoding = Encoding::Utf8;
     QString text;
+    char16_t highest = 0xFFFF; ///< character that a value may have
 };
 
 QStringConverter::Encoding converterOf(Encoding encoding)
@@ -61,11 +65,14 @@ QByteArray encoded(const QString &text, Encoding encoding)
     return encoder.encode(text);
 }
 
-bool saysLatin1(const QByteArray &contents)
+/// As XML and HTML say it, in small letters; empty where nothing is said.
+QString declaredEncoding(const QByteArray &contents)
 {
-    const QByteArray head = contents.first(qMin(headLength, contents.size())).toLower();
-    return head.contains("encoding=\"iso-8859-1\"") || head.contains("encoding=\"windows-1252\"") ||
-           head.contains("encoding=\"us-ascii\"") || head.contains("encoding='iso-8859-1'");
+    static const QRegularExpression declaration(
+        QStringLiteral("(?:<\\?xml[^>]*encoding|<meta[^>]*charset)\\s*=\\s*[\"']?([a-z0-9_.:-]+)"),
+        QRegularExpression::CaseInsensitiveOption);
+    const QString head = QString::fromLatin1(contents.first(qMin(headLength, contents.size())));
+    return declaration.match(head).captured(1).toLower();
 }
 
 /// Nothing for what is no text. What is decoded comes back byte for byte.
@@ -86,9 +93,12 @@ std::optional<Decoded> decoded(const QByteArray &contents)
     const bool isMarked = contents.startsWith(mark);
     const QByteArray rest = isMarked ? contents.mid(mark.size()) : contents;
     const QString text = QString::fromUtf8(rest);
-    if (text.toUtf8() == rest && !saysLatin1(contents))
+    const QString declared = declaredEncoding(contents);
+    if (text.toUtf8() == rest && (isMarked || declared.isEmpty() || declared == u"utf-8" || declared == u"utf8"))
         return Decoded{isMarked ? mark : QByteArray(), Encoding::Utf8, text};
-    return Decoded{{}, Encoding::Latin1, QString::fromLatin1(contents)};
+    // Byte for byte. What is beyond ASCII is another letter in each encoding, and this one may not be known.
+    const bool isWestern = declared == u"iso-8859-1" || declared == u"latin1";
+    return Decoded{{}, Encoding::Latin1, QString::fromLatin1(contents), isWestern ? lastOfLatin1 : lastOfAscii};
 }
 
 Format formatOf(const QString &name)
@@ -123,6 +133,11 @@ QString forJson(const QString &value)
     return result;
 }
 
+bool hasBeyond(const QString &value, char16_t highest)
+{
+    return std::any_of(value.begin(), value.end(), [&](QChar character) { return character.unicode() > highest; });
+}
+
 /// Control characters that XML 1.0 cannot hold in any way.
 bool hasNoXml(const QString &value)
 {
@@ -130,6 +145,15 @@ bool hasNoXml(const QString &value)
         const char16_t code = character.unicode();
         return (code < 0x20 && code != u'\t' && code != u'\n' && code != u'\r') || code == 0xFFFE || code == 0xFFFF;
     });
+}
+
+QString problemOfCharacters(const Token &token, const QString &value, char16_t highest, bool isXml)
+{
+    if (hasBeyond(value, highest))
+        return Text::tr("%1 has characters that this file, which is no UTF-8, cannot hold. Please save it as UTF-8.")
+            .arg(token.source);
+    return isXml && hasNoXml(value) ? Text::tr("%1 has a character that XML cannot hold.").arg(token.source)
+                                    : QString();
 }
 
 /// The token that begins at the brace; nothing where none of the values is meant.
@@ -164,8 +188,9 @@ void forEachToken(QStringView text, const Values &values, const std::function<vo
 class Filling
 {
 public:
-    Filling(const QString &text, Format format, const Values &values)
-        : m_text(text)
+    Filling(const Decoded &decoded, Format format, const Values &values)
+        : m_text(decoded.text)
+        , m_highest(decoded.highest)
         , m_format(format)
         , m_values(values)
     {
@@ -196,10 +221,10 @@ private:
             m_problem = m_problem.isNull() ? value.problem : m_problem;
             return {};
         }
+        if (m_problem.isNull())
+            m_problem = problemOfCharacters(token, value.text, m_highest, m_format == Format::Xml);
         switch (m_format) {
         case Format::Xml:
-            if (hasNoXml(value.text) && m_problem.isNull())
-                m_problem = Text::tr("%1 has a character that XML cannot hold.").arg(token.source);
             // Nothing is a mark in there but its end.
             return isInCharacterData(at)
                        ? QString(value.text).replace(QLatin1String("]]>"), QLatin1String("]]]]><![CDATA[>"))
@@ -288,6 +313,7 @@ private:
     }
 
     const QString &m_text;
+    const char16_t m_highest;
     const Format m_format;
     const Values &m_values;
     QString m_result;
@@ -301,12 +327,6 @@ Outcome noText()
     return Outcome::failure(Cause::NotSupported, {}, Text::tr("This is no text: no values can be filled in."));
 }
 
-bool canBeWritten(const QString &text, Encoding encoding)
-{
-    return encoding != Encoding::Latin1 ||
-           std::all_of(text.begin(), text.end(), [](QChar character) { return character.unicode() <= 0xFF; });
-}
-
 } // namespace
 
 Result<QByteArray> filled(const QByteArray &contents, const QString &name, const Values &values)
@@ -314,14 +334,9 @@ Result<QByteArray> filled(const QByteArray &contents, const QString &name, const
     const auto text = decoded(contents);
     if (!text)
         return noText();
-    const Filled result = Filling(text->text, formatOf(name), values).run();
+    const Filled result = Filling(*text, formatOf(name), values).run();
     if (!result.ok())
         return Outcome::failure(Cause::Invalid, {}, result.problem);
-    if (!canBeWritten(result.text, text->encoding))
-        return Outcome::failure(
-            Cause::NotSupported, {},
-            Text::tr(
-                "A value has characters that this file, which is no UTF-8, cannot hold. Please save it as UTF-8."));
     return text->mark + encoded(result.text, text->encoding);
 }
 
@@ -329,11 +344,11 @@ TextTokens readTextTokens(const QString &path, const Values &values)
 {
     const Result<QByteArray> contents = platform::readFile(path, largestText);
     if (!contents && !contents.outcome().is(Cause::Missing)) // a file that cannot be read is told of when it is copied
-        return {{}, Text::tr("Values cannot be filled in: %1").arg(contents.outcome().sentence())};
+        return TextTokens{.problem = Text::tr("Values cannot be filled in: %1").arg(contents.outcome().sentence())};
     const auto text = decoded(contents.valueOr({}));
     if (!text)
-        return {{}, noText().sentence()};
-    TextTokens result;
+        return TextTokens{.problem = noText().sentence()};
+    TextTokens result{{}, text->highest, formatOf(path) == Format::Xml};
     QSet<QString> seen;
     forEachToken(text->text, values, [&](qsizetype, const Token &token) {
         if (!seen.contains(token.source))
@@ -346,8 +361,11 @@ TextTokens readTextTokens(const QString &path, const Values &values)
 QString problemOf(const TextTokens &text, const Values &values)
 {
     for (const Token &token : text.tokens) {
-        if (const Filled value = tokens::valueOf(token, values); !value.ok())
-            return value.problem;
+        const Filled value = tokens::valueOf(token, values);
+        const QString problem =
+            value.ok() ? problemOfCharacters(token, value.text, text.highest, text.isXml) : value.problem;
+        if (!problem.isNull())
+            return problem;
     }
     return text.problem;
 }

@@ -17,7 +17,7 @@ namespace textvalues {
 inline constexpr qint64 largestText = qint64{16} * 1024 * 1024;
 
 /** The contents with values; Cause::Invalid with one sentence about the token that has none, Cause::NotSupported where
-    the contents are no text, or its encoding cannot write a value. */
+    the contents are no text. */
 [[nodiscard]] platform::Result<QByteArray> filled(const QByteArray &contents, const QString &name,
                                                   const tokens::Values &values);
 
@@ -25,7 +25,9 @@ inline constexpr qint64 largestText = qint64{16} * 1024 * 1024;
 struct TextTokens
 {
     QList<tokens::Token> tokens{}; ///< each once
-    QString problem{};             ///< why it gets no values at all
+    char16_t highest = 0xFFFF;     ///< character that its encoding can hold
+    bool isXml = false;
+    QString problem{}; ///< why it gets no values at all
 };
 /** Of a file; blocks, any thread. */
 [[nodiscard]] TextTokens readTextTokens(const QString &path, const tokens::Values &values);

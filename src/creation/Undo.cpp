@@ -172,7 +172,10 @@ private:
 bool returnNumbers(const Manifest &manifest)
 {
     ProjectRequest request;
-    request.parameters = manifest.parameters;
+    for (const FilenameParameter &parameter : manifest.parameters) {
+        if (!parameter.isFixedByTemplate()) // it took no number
+            request.parameters.append(parameter);
+    }
     bool isReturned = false;
     ParameterScope scope{manifest.templateName}; // as far as it concerns numbers: those of the template's own
     for (const FilenameParameter &parameter : manifest.parameters) {

@@ -64,8 +64,11 @@ Outcome changeParameters(const ParameterScope &scope, const ListChange &change)
             if (!list)
                 return list.outcome();
             const KeptParameters kept = keptParameters(*list, common, scope);
-            if (!scope.own.isEmpty())
-                all.insert(scope.templateName, kept.ownValues);
+            if (!scope.own.isEmpty()) { // the template may have others by now
+                QVariantMap own = all.value(scope.templateName).toMap();
+                own.insert(kept.ownValues);
+                all.insert(scope.templateName, own);
+            }
             return QVariantList{variantFromParameters(kept.common), all.isEmpty() ? stored[1] : QVariant(all)};
         });
 }

@@ -133,7 +133,9 @@ QVariantMap withPath(QVariantMap entry, const QString &item)
 QVariantMap afterMove(QVariantMap rules, const QString &from, const QString &to)
 {
     return withPaths(std::move(rules), [&](const QString &entry) {
-        return isAtOrBelow(entry, from) ? to + entry.mid(from.size()) : entry;
+        if (isAtOrBelow(entry, from))
+            return to + entry.mid(from.size());
+        return isAtOrBelow(entry, to) ? QString() : entry;
     });
 }
 
@@ -145,15 +147,27 @@ QVariantMap afterRemoval(QVariantMap rules, const QString &item)
 
 QVariantMap afterCopy(QVariantMap rules, const QString &from, const QString &to)
 {
-    QVariantList entries = rules.value(QLatin1String(items)).toList();
-    const qsizetype count = entries.size();
-    for (qsizetype i = 0; i < count; ++i) {
-        const QVariantMap entry = entries[i].toMap();
-        if (isAtOrBelow(pathOf(entry), from))
-            entries.append(withPath(entry, to + pathOf(entry).mid(from.size())));
+    const QVariantList entries = entriesOf(rules, from, to);
+    return withEntries(std::move(rules), to, entries);
+}
+
+QVariantList entriesOf(const QVariantMap &rules, const QString &item, const QString &newItem)
+{
+    QVariantList entries;
+    for (const QVariant &entry : rules.value(QLatin1String(items)).toList()) {
+        const QString own = pathOf(entry.toMap());
+        if (isAtOrBelow(own, item))
+            entries.append(withPath(entry.toMap(), newItem + own.mid(item.size())));
     }
-    if (entries.size() > count)
-        rules.insert(QLatin1String(items), entries);
+    return entries;
+}
+
+QVariantMap withEntries(QVariantMap rules, const QString &item, const QVariantList &entries)
+{
+    if (entries.isEmpty() && !rules.contains(QLatin1String(items)))
+        return rules;
+    rules = afterRemoval(std::move(rules), item);
+    rules.insert(QLatin1String(items), rules.value(QLatin1String(items)).toList() + entries);
     return rules;
 }
 

@@ -33,11 +33,16 @@ platform::Outcome change(const QString &bundle, const Change &change);
 [[nodiscard]] QString pathOf(const QVariantMap &entry);
 [[nodiscard]] QVariantMap withPath(QVariantMap entry, const QString &item);
 
-// What becomes of rules when items change; paths below Files. What lies in an item goes with it. Pure.
+// What becomes of rules when items change; paths below Files. What lies in an item goes with it, and what was said of
+// an item that stood at the new place, and is gone, goes. Pure.
 [[nodiscard]] QVariantMap afterMove(QVariantMap rules, const QString &from, const QString &to);
 [[nodiscard]] QVariantMap afterRemoval(QVariantMap rules, const QString &item);
 [[nodiscard]] QVariantMap afterCopy(QVariantMap rules, const QString &from, const QString &to);
 
+/** What the rules say of an item, with the paths that it has at another place; in the rules of another template, too.
+ */
+[[nodiscard]] QVariantList entriesOf(const QVariantMap &rules, const QString &item, const QString &newItem);
+[[nodiscard]] QVariantMap withEntries(QVariantMap rules, const QString &item, const QVariantList &entries);
 /** The current rules with what is different between two others; what is the same in both stays as it is. */
 [[nodiscard]] QVariantMap merged(QVariantMap current, const QVariantMap &from, const QVariantMap &to);
 

@@ -109,35 +109,91 @@ Outcome changes::changeRules(const QString &bundle, const rulefile::Change &chan
     return changed;
 }
 
+namespace {
+
+/// An item of a template by its path: "…/Film.tzt/Files/A/x" is A/x of Film.tzt. Null for anything else.
+struct RuledPlace
+{
+    QString bundle;
+    QString item;
+};
+RuledPlace placeOf(const QString &path)
+{
+    static const QLatin1String files(".tzt/Files/");
+    const qsizetype end = path.indexOf(files);
+    return end < 0 ? RuledPlace() : RuledPlace{path.first(end + 4), path.mid(end + files.size())};
+}
+
+/// Rules that come from one template into another.
+struct Incoming
+{
+    RuledPlace place;
+    QVariantList entries;
+};
+
+/// Of one template: what its own steps make of its rules.
+QVariantMap afterSteps(QVariantMap rules, const QString &bundle, const DiskSteps &steps, const changes::Copies &copies,
+                       const QList<Incoming> &incoming)
+{
+    for (const DiskStep &step : steps) {
+        const RuledPlace from = placeOf(step.path);
+        const RuledPlace to = step.kind == DiskStep::Kind::Moved ? placeOf(step.other) : RuledPlace();
+        if (from.bundle != bundle)
+            continue;
+        if (step.kind == DiskStep::Kind::Moved && to.bundle == bundle)
+            rules = rulefile::afterMove(rules, from.item, to.item);
+        else if (step.kind == DiskStep::Kind::Moved || step.kind == DiskStep::Kind::PutAway)
+            rules = rulefile::afterRemoval(rules, from.item);
+    }
+    for (const auto &[from, to] : copies) {
+        if (placeOf(from).bundle == bundle && placeOf(to).bundle == bundle)
+            rules = rulefile::afterCopy(rules, placeOf(from).item, placeOf(to).item);
+    }
+    for (const Incoming &one : incoming) {
+        if (one.place.bundle == bundle)
+            rules = rulefile::withEntries(rules, one.place.item, one.entries);
+    }
+    return rules;
+}
+
+} // namespace
+
 Outcome changes::takeRulesAlong(DiskSteps &steps, const Copies &copies)
 {
-    const QString some = !steps.isEmpty() ? steps.constFirst().path : copies.isEmpty() ? QString() : copies[0].first;
-    const qsizetype end = some.indexOf(QLatin1String(".tzt/Files/"));
-    if (end < 0)
-        return {};
-    const QString bundle = some.first(end + 4);
-    const QString files = bundle + QStringLiteral("/Files/");
-    const auto inFiles = [&](const QString &path) {
-        return path.startsWith(files) ? path.mid(files.size()) : QString();
-    };
+    Copies across = copies;
+    for (const DiskStep &step : std::as_const(steps)) {
+        if (step.kind == DiskStep::Kind::Moved)
+            across.append({step.path, step.other});
+    }
+    QStringList bundles;
+    QList<Incoming> incoming;
+    for (const auto &[from, to] : std::as_const(across)) {
+        const RuledPlace source = placeOf(from);
+        const RuledPlace target = placeOf(to);
+        bundles += {source.bundle, target.bundle};
+        if (source.bundle == target.bundle || source.bundle.isNull())
+            continue;
+        const auto rules = rulefile::read(source.bundle);
+        if (!rules)
+            return rules.outcome();
+        incoming.append({target, rulefile::entriesOf(*rules, source.item, target.item)});
+    }
+    for (const DiskStep &step : std::as_const(steps))
+        bundles.append(placeOf(step.path).bundle);
+    bundles.removeDuplicates();
+    bundles.removeAll(QString());
+    Outcome outcome;
     const DiskSteps done = steps;
-    return changeRules(
-        bundle,
-        [&](QVariantMap rules) {
-            for (const DiskStep &step : done) {
-                const QString path = inFiles(step.path);
-                if (step.kind == DiskStep::Kind::Moved && !path.isNull())
-                    rules = rulefile::afterMove(rules, path, inFiles(step.other));
-                else if (step.kind == DiskStep::Kind::PutAway && !path.isNull())
-                    rules = rulefile::afterRemoval(rules, path);
-            }
-            for (const auto &[from, to] : copies) {
-                if (!inFiles(from).isNull() && !inFiles(to).isNull())
-                    rules = rulefile::afterCopy(rules, inFiles(from), inFiles(to));
-            }
-            return platform::Result<QVariantMap>(rules);
-        },
-        steps);
+    for (const QString &bundle : std::as_const(bundles)) {
+        const Outcome changed = changeRules(
+            bundle,
+            [&](const QVariantMap &rules) {
+                return platform::Result<QVariantMap>(afterSteps(rules, bundle, done, copies, incoming));
+            },
+            steps);
+        outcome = outcome.ok() ? changed : outcome;
+    }
+    return outcome;
 }
 
 fileoperations::PutAway changes::puttingInTrash(DiskSteps &steps)

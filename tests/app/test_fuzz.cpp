@@ -1,7 +1,9 @@
 // Whatever arrives from outside: never a crash, never something that breaks what holds everywhere else. Each target
 // runs for as long as TESSARO_FUZZ_SECONDS says. Inputs that broke something once lie in found/ and begin every run.
+#include "creation/CreationPlan.h"
 #include "creation/Manifest.h"
 #include "creation/ProjectRequest.h"
+#include "creation/ProjectTable.h"
 #include "harness/Fuzzer.h"
 #include "harness/TemporaryHome.h"
 #include "helper/Plan.h"
@@ -28,6 +30,7 @@
 #include <QMimeData>
 #include <QTest>
 #include <QTextStream>
+#include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
 
@@ -196,6 +199,98 @@ private Q_SLOTS:
                  if (bytes.size() < 2000 && !bytes.contains('\0') &&
                      platform::problemOfDateFormat(text) == platform::DateFormatProblem::None)
                      must(!platform::formatDate(text, 1'795'000'000).isNull(), "a good date format without a date");
+             });
+    }
+
+    /// Rules as they come: read, written, carried out on a tree. Names that come out are names.
+    void templateRules()
+    {
+        const QVariantMap item{
+            {"path", "Day {n:00}"},
+            {"when",
+             QVariantMap{{"any", QVariantList{QVariantMap{{"parameter", "A"}, {"is", "isGreater"}, {"value", "1"}}}}}},
+            {"repeat", QVariantMap{{"count", "N"}, {"as", "n"}}},
+            {"text", true}};
+        const QVariantMap list{{"path", "Day {n:00}/x.csv"}, {"repeat", QVariantMap{{"values", "L"}}}};
+        const QByteArray seed = stored(QVariantMap{{"version", 1LL},
+                                                   {"fillNames", true},
+                                                   {"texts", QVariantList{"*.csv"}},
+                                                   {"items", QVariantList{item, list}},
+                                                   {"fixed", QVariantMap{{"A", "1"}}},
+                                                   {"hidden", QVariantList{"B"}}});
+        platform::Tree tree;
+        tree.folders.resize(2);
+        tree.folders[0].add("Day {n:00}", DT_DIR);
+        tree.folders[0].add("Template {A}.txt", DT_REG);
+        tree.folders[0].items[0].folder = 1;
+        tree.folders[1].add("x.csv", DT_REG);
+        tokens::Values values;
+        for (const char *title : {"A", "B", "L", "N"})
+            values.add(title, {title[0] == 'N' ? "3" : "a,b"});
+        fuzz({seed}, {"<key>all</key>", "<key>any</key>", "isEmpty", "<true/>", "..", "/", "{n}", "contains"},
+             [&](const QByteArray &bytes) {
+                 const auto value = platform::readPropertyList(bytes);
+                 const auto rules = rulesFromVariant(value.value_or(QVariant()).toMap());
+                 if (!rules)
+                     return must(!rules.outcome().sentence().isEmpty(), "rules are refused without a sentence");
+                 const auto again = rulesFromVariant(variantFromRules(*rules));
+                 must(again && *again == *rules, "rules change when they are written and read");
+                 const std::atomic<bool> never = false;
+                 const Expansion made = expanded(tree, *rules, RuledItems(tree, *rules), {"Promo", values, 50}, never);
+                 must(made.tree.itemCount() <= 60, "more items than were allowed");
+                 for (const platform::TreeFolder &folder : made.tree.folders) {
+                     for (const platform::TreeItem &one : folder.items)
+                         must(isUsableName(platform::fromNative(folder.newNameOf(one))),
+                              "an item without a usable name");
+                 }
+             });
+    }
+
+    void tables()
+    {
+        fuzz({"A,B\n1,\"2\n\"\"\",3\r\n", "sep=;\nA;B\n1;2",
+              QByteArray("\xFF\xFE"
+                         "A\0\n\0"
+                         "1\0",
+                         8),
+              "A\tB\r1\t\xe4"},
+             {"\"", "\"\"", ",", ";", "\t", "\r\n", "\xEF\xBB\xBF", "\xFE\xFF", "sep=", "\n"},
+             [](const QByteArray &bytes) {
+                 const auto table = readTable(bytes);
+                 if (!table)
+                     return must(!table.outcome().sentence().isEmpty(), "a table is refused without a sentence");
+                 must(!table->columns.isEmpty() && !table->rows.isEmpty(), "an empty table is one");
+                 int line = 0;
+                 for (const ProjectTable::Row &row : table->rows) {
+                     must(row.cells.size() >= table->columns.size(), "a row lacks cells");
+                     must(row.line > line, "lines are not in their order");
+                     line = row.line;
+                 }
+             });
+    }
+
+    /// Every byte that is no token's stays.
+    void texts()
+    {
+        tokens::Values values;
+        values.add("A", {"<&\"'\n"});
+        values.add("N", {"7"});
+        fuzz({"{A},\"{N:000}\";x\n", "<a b='{A}'><![CDATA[{N}]]></a>", "{\"a\": \"{A|upper}\"}",
+              QByteArray("\xFF\xFE{\0N\0}\0", 8)},
+             {"{", "}", "{A}", "{N:00}", "{{", "|", ":", "<![CDATA[", "]]>", "\"", "%Y", "\xEF\xBB\xBF"},
+             [&](const QByteArray &bytes) {
+                 for (const char *name : {"a.txt", "a.xml", "a.json", "a.csv"}) {
+                     const auto filled = textvalues::filled(bytes, name, values);
+                     if (!filled)
+                         must(!filled.outcome().sentence().isEmpty(), "a text is refused without a sentence");
+                     else if (!bytes.contains('{'))
+                         must(*filled == bytes, "a text without a token is changed");
+                 }
+                 const QString name = platform::fromNative(bytes);
+                 const tokens::Filled filled = filledName(name, "Promo", values);
+                 must(!filled.ok() ||
+                          (!filled.text.isEmpty() && platform::toNative(filled.text).size() <= platform::longestName),
+                      "a filled name that is none");
              });
     }
 

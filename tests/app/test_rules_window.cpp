@@ -202,6 +202,26 @@ private Q_SLOTS:
         QVERIFY(paths().contains("Day {n:00} Duplicate") && !paths().contains("top.txt"));
     }
 
+    void rulesGoFromOneTemplateToAnother()
+    {
+        TemplateRules some;
+        some.setRule({.path = "A", .fillsText = true});
+        some.setRule({.path = "A/x.txt", .fillsText = true});
+        QVERIFY(rulefile::change(bundle(), [&](const QVariantMap &) { return variantFromRules(some); }).ok());
+        m_delegate->toolbarTemplateAction();
+        select("A");
+        editor().cutItems();
+        window().templatePane().tableController().selectTemplateWithName("Plain");
+        editor().paste();
+        const QString plain = m_work->filePath("Library/Plain.tzt");
+        QTRY_VERIFY(!platform::isMissing(plain + "/Files/A/x.txt"));
+        QTRY_VERIFY(rules().isEmpty());
+        QCOMPARE(readRules(plain)->items.size(), 2);
+        m_delegate->undo();
+        QTRY_COMPARE(paths(), QStringList({"A", "A/x.txt"}));
+        QVERIFY(readRules(plain)->isEmpty());
+    }
+
     void goneAndDamaged()
     {
         TemplateRules some;

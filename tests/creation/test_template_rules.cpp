@@ -107,6 +107,52 @@ private Q_SLOTS:
         QCOMPARE(copied.files(), some.files());
     }
 
+    /// Marks of our own in a name are the name's.
+    void strangeNames()
+    {
+        const QString mark = QString(QChar(0xFDD0)) + QChar(0xFDD1);
+        make({mark + "{A}" + mark});
+        QCOMPARE(lines(plan({.fillsNames = true}, {{"A", "x"}})), QStringList{mark + "x" + mark});
+    }
+
+    /// Of a text that a condition leaves out at first, too.
+    void textsAreLookedAtWhateverIsMade()
+    {
+        make({"a.txt"});
+        writeFile(files("a.txt"), "{Number:%Q}");
+        TemplateRules rules;
+        rules.items = {
+            {.path = "a.txt", .when = {Conditions::Join::All, {{"Kind", Condition::Is::Is, "x"}}}, .fillsText = true}};
+        CreationPlan corrected = plan(rules, {{"Kind", "y"}, {"Number", "1"}});
+        QVERIFY(corrected.flaws.empty() && corrected.leftOut == 1);
+        planFor(corrected, {{"Acme", "Promo"}, values({{"Kind", "x"}, {"Number", "1"}})});
+        QCOMPARE(corrected.flaws.size(), 1U);
+    }
+
+    void anEmptyListLeavesOut()
+    {
+        make({"Reel {n}/x"});
+        TemplateRules rules;
+        rules.items = {repeated("Reel {n}", Repeat::Over::Values, "L")};
+        QCOMPARE(lines(plan(rules, {{"L", ""}})), QStringList{"-Reel {n}"});
+    }
+
+    /// A rule of an item that cannot be read is not one of an item that is gone.
+    void unreadableIsNotGone()
+    {
+        make({"A/x"});
+        TemplateRules rules;
+        rules.items = {{.path = "A/x", .fillsText = true}, {.path = "B/x", .fillsText = true}};
+        platform::Tree tree = platform::readTree(
+            files(), [](platform::TreeFolder &) {}, never);
+        QCOMPARE(RuledItems(tree, rules).gone(), QStringList{"B/x"});
+        tree.folders[1].error = EACCES;
+        tree.folders[1].items.clear();
+        QCOMPARE(RuledItems(tree, rules).gone(), QStringList{"B/x"});
+        tree.folders[0].error = EIO;
+        QVERIFY(RuledItems(tree, rules).gone().isEmpty());
+    }
+
     /// Without rules, braces are what they are.
     void nothingWithoutRules()
     {
@@ -328,6 +374,8 @@ private Q_SLOTS:
         QCOMPARE(paths(copied), QStringList({"a", "a/b", "a b", "c", bytes, "a 2", "a 2/b"}));
         QVERIFY(copied.value("items").toList().constLast().toMap().value("text").toBool());
         QCOMPARE(rulefile::afterMove({}, "a", "b"), QVariantMap());
+        // What was said of an item that is gone does not come over the one that takes its place.
+        QCOMPARE(paths(rulefile::afterMove(rules, "a", "c")), QStringList({"c", "c/b", "a b", bytes}));
     }
 };
 

@@ -13,6 +13,7 @@ tokens::Values someValues()
     values.add("Cell", {"x,y"});
     values.add("Lines", {"1\n2"});
     values.add("Euro", {"€"});
+    values.add("Umlaut", {"ü"});
     values.add("Bell", {"\a"});
     values.add("End", {"]]>"});
     return values;
@@ -52,7 +53,7 @@ private Q_SLOTS:
             "\xEF\xBB\xBF"
             "41");
         row("a.txt", "caf\xE9 {Number}", "caf\xE9 41"); // no UTF-8
-        row("a.txt", "caf\xE9 {Euro}", "!A value has characters");
+        row("a.txt", "caf\xE9 {Euro}", "!{Euro} has characters");
         row("a.txt", utf16("{Number} é\r\n", "\xFF\xFE"), utf16("41 é\r\n", "\xFF\xFE"));
         row("a.txt", utf16("{Euro}", "\xFE\xFF"), utf16("€", "\xFE\xFF"));
         row("a.txt", QByteArray("\xFF\xFE{\0x", 5), "!This is no text"); // half a character
@@ -66,7 +67,12 @@ private Q_SLOTS:
         row("a.xml", "{Client}<![CDATA[{Client}{End}]]>{Number}<![CDATA[{Number}]]>{Client}",
             "A &lt;&quot;B&quot;&gt; &amp; C<![CDATA[A <\"B\"> & C]]]]><![CDATA[>]]>41<![CDATA[41]]>A "
             "&lt;&quot;B&quot;&gt; &amp; C");
-        row("a.xml", "<?xml version=\"1.0\" encoding=\"ISO-8859-1\"?>{Euro}", "!A value has characters");
+        row("a.xml", "<?xml version=\"1.0\" encoding=\"ISO-8859-1\"?>{Euro}", "!{Euro} has characters");
+        row("a.xml", "<?xml version='1.0' encoding='windows-1252'?>\xE9{Number}",
+            "<?xml version='1.0' encoding='windows-1252'?>\xE9"
+            "41");
+        row("a.html", "<meta charset=iso-8859-15>{Umlaut}", "!{Umlaut} has characters");
+        row("a.xml", "<?xml encoding=\"iso-8859-1\"?>{Umlaut}", "<?xml encoding=\"iso-8859-1\"?>\xFC");
         row("a.json", "{\"a\": {\"b\": \"{Client}{Lines}\"}, \"n\": {Number}}",
             "{\"a\": {\"b\": \"A <\\\"B\\\"> & C1\\u000a2\"}, \"n\": 41}");
         row("a.csv", "n,{Cell},\"{Client}\"\r\n{Number},{Lines},plain {Number}",

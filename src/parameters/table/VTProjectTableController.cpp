@@ -216,8 +216,17 @@ void VTProjectTableController::setScope(const ParameterScope &scope)
     finishEditing();
     m_scope = scope;
     VTLog::appendLog("Showing the parameters of %@", scope.templateName);
-    m_automatic = automaticValues();
-    changeList([this](FilenameParameters list) { return rules::withDynamicValues(std::move(list), m_automatic); });
+    const FilenameParameters known = m_dataArray;
+    const auto before = std::exchange(m_automatic, automaticValues());
+    const bool isFirst = !m_seenTemplates.contains(scope.templateName);
+    m_seenTemplates.insert(scope.templateName);
+    changeList([&](FilenameParameters list) {
+        for (FilenameParameter &parameter : list) {
+            if (isFirst && parameter.isOwnOfTemplate())
+                parameter = rules::asLoaded({parameter}).constFirst();
+        }
+        return rules::withDynamicValues(std::move(list), known, before, m_automatic);
+    });
     updateFilenamePreview();
     for (int row = 0; row < rowCount() && !title.isNull(); ++row) { // whoever is typing goes on
         if (m_dataArray[row].title() == title)

@@ -112,6 +112,7 @@ private:
     void showWarning(bool exists);
 
     ParameterScope m_scope;
+    QSet<QString> m_seenTemplates; ///< whose own parameters have begun with their defaults in this run
     FilenameParameters m_dataArray;
     QList<naming::Problem> m_problems;  ///< of each row, with what is being typed
     rules::AutomaticValues m_automatic; ///< as they were filled in

@@ -208,6 +208,8 @@ void RuleInspector::show(const State &state)
                     : state.isLoaded     ? tr("Select one item for its rules.")
                                          : tr("No template is selected."));
     m_itemPart->setVisible(canBeEdited && !state.item.isNull());
+    m_addCondition->setEnabled(!state.titles.isEmpty());
+    m_over->setEnabled(!state.titles.isEmpty());
     m_templatePart->setVisible(canBeEdited);
     if (!isSameRule) { // else somebody may be typing in it
         showConditions();
@@ -217,7 +219,7 @@ void RuleInspector::show(const State &state)
     m_fillsText->setVisible(!state.isFolder);
     m_fillsText->setChecked(m_rule.fillsText);
     m_fillsNames->setChecked(state.rules.fillsNames);
-    if (!m_patterns->hasFocus())
+    if (!m_patterns->isModified()) // else somebody is typing in it
         m_patterns->setText(state.rules.textPatterns.join(QStringLiteral(", ")));
     showGone();
     m_isShowing = false;
@@ -382,6 +384,7 @@ void RuleInspector::tellItem()
 
 void RuleInspector::tellTemplate()
 {
+    m_patterns->setModified(false);
     const QStringList patterns = patternsIn(m_patterns->text());
     if (!m_isShowing &&
         (m_fillsNames->isChecked() != m_state.rules.fillsNames || patterns != m_state.rules.textPatterns))

@@ -261,14 +261,15 @@ void TemplatePane::updateInspector()
     if (m_ui->inspector->isHidden())
         return;
     RuleInspector::State state;
-    state.rules = m_outline.rules();
-    state.isLoaded = !m_outline.baseFilename().isNull();
-    if (!m_outline.rulesProblem().ok())
-        state.problem = tr("The rules cannot be read: %1").arg(m_outline.rulesProblem().description());
+    const auto &read = m_outline.rules();
+    state.rules = read.rules;
+    state.isLoaded = !m_outline.baseFilename().isNull() && read.isRead;
+    if (!read.problem.ok())
+        state.problem = tr("The rules cannot be read: %1").arg(read.problem.description());
     state.item = m_outline.selectedItem();
     const TemplateNode *node = TemplateTreeModel::nodeAt(m_ui->outlineView->currentIndex());
     state.isFolder = node && node->isFolderItem();
-    state.gone = m_outline.goneItems();
+    state.gone = read.gone;
     for (const FilenameParameter &parameter :
          storedParameters({{}, parametersFromVariant(state.rules.parameters), {}, state.rules.hidden}))
         state.titles.append(parameter.title());

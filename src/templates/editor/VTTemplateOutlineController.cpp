@@ -163,6 +163,8 @@ void VTTemplateOutlineController::loadDataFromFile(const QString &bundle)
     if (isAnother)
         Q_EMIT needsWholeTree();
     m_baseFilename = bundle;
+    if (isAnother) // those of the other one are not this one's
+        showRules({});
     if (bundle.isNull() || isAnother)
         m_model.setNodes({});
     if (!bundle.isNull())

@@ -63,16 +63,20 @@ public:
     void waitForImports();
     [[nodiscard]] bool isImporting() const { return m_jobs > 0; }
 
-    /** What the template says beside its files; the outcome says why that cannot be read. */
-    [[nodiscard]] const TemplateRules &rules() const { return m_rules; }
-    [[nodiscard]] const platform::Outcome &rulesProblem() const { return m_rulesProblem; }
+    /** What the template says beside its files; the problem says why that cannot be read. */
+    struct ReadRules
+    {
+        TemplateRules rules{};
+        platform::Outcome problem{};
+        QStringList gone{};  ///< paths of rules whose item is not there
+        bool isRead = false; ///< false until they have been
+    };
+    [[nodiscard]] const ReadRules &rules() const { return m_rules; }
     /** As one change that can be undone; the name is what the menu says. */
     void changeRules(const QString &name, const std::function<void(TemplateRules &)> &edit);
     void setRulesAside();
     /** The path below Files of the one item that is selected; null for none or several. */
     [[nodiscard]] QString selectedItem() const;
-    /** Paths of rules whose item is not there. */
-    [[nodiscard]] QStringList goneItems() const;
 
 public Q_SLOTS:
     void showAddPopUp();
@@ -147,7 +151,7 @@ private:
     void rename(const QString &path, const QString &typed);
     void record(DiskChange change, const changes::Copies &copies = {});
     void rereadRules();
-    void showRules(const TemplateRules &rules, const platform::Outcome &problem);
+    void showRules(const ReadRules &read);
     void fillAddMenu();
     void showImportPanel(bool foldersOnly);
     [[nodiscard]] QString importDestination() const;
@@ -160,8 +164,7 @@ private:
     Views m_views;
     QString m_baseFilename;
     TemplateTreeModel m_model;
-    TemplateRules m_rules;
-    platform::Outcome m_rulesProblem;
+    ReadRules m_rules;
     quint64 m_ruleReadings = 0;
     quint64 m_readings = 0;    ///< raised by whatever makes an earlier reading old
     QSet<QString> m_beingRead; ///< folders whose reading has not ended

@@ -58,7 +58,9 @@ void VTTemplateOutlineController::changeRules(const QString &name, const std::fu
                 return rules.outcome();
             TemplateRules wanted = *rules;
             edit(wanted);
-            return variantFromRules(wanted);
+            const QVariantMap stored = variantFromRules(wanted);
+            const auto readable = rulesFromVariant(stored); // nothing is stored that would be refused afterwards
+            return readable ? platform::Result<QVariantMap>(stored) : readable.outcome();
         },
         change.steps);
     if (!changed.ok())
@@ -80,22 +82,29 @@ void VTTemplateOutlineController::setRulesAside()
 /// On a thread, as the tree is.
 void VTTemplateOutlineController::rereadRules()
 {
-    const auto read = std::make_shared<std::optional<platform::Result<TemplateRules>>>();
+    const auto read = std::make_shared<ReadRules>();
     const quint64 reading = ++m_ruleReadings;
     const QString bundle = m_baseFilename;
     if (bundle.isNull())
-        return showRules({}, {});
-    platform::performBeside([read, bundle] { *read = readRules(bundle); },
-                            [this, lives = QPointer(this), read, reading] {
-                                if (lives && reading == m_ruleReadings)
-                                    showRules((*read)->valueOr({}), (*read)->outcome());
-                            });
+        return showRules({});
+    const auto work = [read, bundle] {
+        const auto rules = readRules(bundle);
+        *read = {rules.valueOr({}), rules.outcome(), {}, true};
+        for (const ItemRule &rule : read->rules.items) {
+            if (platform::isMissing(joined(bundle, QStringLiteral("Files/") + rule.path)))
+                read->gone.append(rule.path);
+        }
+    };
+    platform::performBeside(work, [this, lives = QPointer(this), read, reading] {
+        if (lives && reading == m_ruleReadings)
+            showRules(*read);
+    });
 }
 
-void VTTemplateOutlineController::showRules(const TemplateRules &rules, const platform::Outcome &problem)
+void VTTemplateOutlineController::showRules(const ReadRules &read)
 {
-    m_rules = rules;
-    m_rulesProblem = problem;
+    m_rules = read;
+    const TemplateRules &rules = read.rules;
     QHash<QString, ItemRule> byPath;
     for (const ItemRule &rule : rules.items)
         byPath.insert(joined(filesFolder(), rule.path), rule);
@@ -113,16 +122,6 @@ QString VTTemplateOutlineController::selectedItem() const
     const QStringList paths = selectedPaths();
     const QString files = filesFolder() + u'/';
     return paths.size() == 1 && paths.constFirst().startsWith(files) ? paths.constFirst().mid(files.size()) : QString();
-}
-
-QStringList VTTemplateOutlineController::goneItems() const
-{
-    QStringList gone;
-    for (const ItemRule &rule : m_rules.items) {
-        if (!nodeAtPath(joined(filesFolder(), rule.path)) && platform::isMissing(joined(filesFolder(), rule.path)))
-            gone.append(rule.path);
-    }
-    return gone;
 }
 
 void VTTemplateOutlineController::showAddPopUp()
