@@ -44,6 +44,45 @@ QString problemOfName(const QString &name)
                                         : QString();
 }
 
+/// A name with a mark in place of what is not to be looked through for the word template.
+struct MarkedName
+{
+    QString text;
+    QStringList parts; ///< one for each mark
+    QString problem;
+};
+
+/// A mark that is the name's own stands for itself.
+void addLiteral(const QString &literal, MarkedName &marked)
+{
+    for (const QChar character : literal) {
+        const bool isMark = character == tokenMark || character == projectMark;
+        marked.text += isMark ? tokenMark : character;
+        if (isMark)
+            marked.parts.append(QString(character));
+    }
+}
+
+MarkedName markedName(const QString &name, const tokens::Values &values)
+{
+    const tokens::Pieces all = tokens::piecesOf(name);
+    MarkedName marked{{}, {}, all.problem};
+    for (const tokens::Piece &piece : all.pieces) {
+        if (!piece.token) {
+            addLiteral(piece.text, marked);
+            continue;
+        }
+        const tokens::Filled part = tokens::valueOf(*piece.token, values);
+        if (!part.ok())
+            return {{}, {}, part.problem};
+        if (part.text.contains(u'/') || part.text.contains(QChar(0)))
+            return {{}, {}, Text::tr("%1 puts a “/” into the name: %2").arg(piece.token->source, part.text)};
+        marked.text += tokenMark;
+        marked.parts.append(part.text);
+    }
+    return marked;
+}
+
 } // namespace
 
 /// Most names do not: no texts are made of them.
@@ -116,33 +155,17 @@ QString cleanedItemName(const QString &typed)
 
 tokens::Filled filledName(const QString &name, const QString &projectName, const tokens::Values &values)
 {
-    const tokens::Pieces all = tokens::piecesOf(name);
-    if (!all.problem.isNull())
-        return {{}, all.problem};
-    QString marked;
-    QStringList parts;
-    for (const tokens::Piece &piece : all.pieces) {
-        if (!piece.token) {
-            for (const QChar character : piece.text) { // a mark that is the name's own stands for itself
-                const bool isMark = character == tokenMark || character == projectMark;
-                marked += isMark ? tokenMark : character;
-                if (isMark)
-                    parts.append(QString(character));
-            }
-            continue;
-        }
-        const tokens::Filled part = tokens::valueOf(*piece.token, values);
-        if (!part.ok())
-            return part;
-        if (part.text.contains(u'/') || part.text.contains(QChar(0)))
-            return {{}, Text::tr("%1 puts a “/” into the name: %2").arg(piece.token->source, part.text)};
-        marked += tokenMark;
-        parts.append(part.text);
-    }
+    const MarkedName marked = markedName(name, values);
+    if (!marked.problem.isNull())
+        return {{}, marked.problem};
     QString result;
     qsizetype next = 0;
-    for (const QChar character : nameInProject(marked, QString(projectMark)))
-        result += character == tokenMark ? parts[next++] : character == projectMark ? projectName : QString(character);
+    for (const QChar character : nameInProject(marked.text, QString(projectMark))) {
+        if (character == tokenMark)
+            result += marked.parts[next++];
+        else
+            result += character == projectMark ? projectName : QString(character);
+    }
     const QString problem = problemOfName(result);
     return problem.isNull() ? tokens::Filled{result} : tokens::Filled{{}, problem};
 }
