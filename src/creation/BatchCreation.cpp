@@ -46,9 +46,9 @@ BatchResult BatchCreation::run(const ProjectBatch &batch,
                 ++result.left;
                 continue;
             }
-            ProjectCreation creation(quiet, {name, &m_monitor});
+            ProjectCreation creation(quiet, {name, &m_monitor, m_manner == BatchManner::AllOrNone});
             const CreationResult made = creation.createProject(batch.requestOf(row));
-            result.stopped = result.stopped || made.stopped || m_monitor.cancelled;
+            result.stopped = result.stopped || m_monitor.cancelled;
             result.failed += made.ok() ? 0 : 1;
             if (!made.manifest.file.isEmpty())
                 result.made.append(made.manifest);

@@ -94,12 +94,12 @@ void fillText(CreationPlan &plan, const RuledText &text, const QString &template
 {
     TreeFolder &own = plan.tree.folders[text.folder];
     const TreeItem &item = own.items[text.item];
-    if (own.made.empty() || own.made[text.item].inode == 0)
-        return;
     const QString name = platform::fromNative(own.nameOf(item));
     const QString from = joined(joined(templateFiles, plan.tree.pathOf(text.folder)), name);
     const QString to =
         joined(joined(folder, plan.tree.newPathOf(text.folder)), platform::fromNative(own.newNameOf(item)));
+    if (own.made.empty() || platform::isMissing(to)) // which has been told, or its folder
+        return;
     const auto contents = platform::readFile(from, textvalues::largestText);
     const auto filled =
         contents ? textvalues::filled(*contents, name, *text.values) : platform::Result<QByteArray>(contents.outcome());

@@ -92,7 +92,7 @@ bool ProjectCreation::build()
     copyTemplate();
     finishNames();
     updateDates();
-    if (m_monitor.cancelled || m_isGivenUp)
+    if (m_monitor.cancelled || m_isGivenUp || (m_mustBeWhole && !m_result.errors.isEmpty()))
         return false;
     if (m_note)
         m_note->reachDisk();

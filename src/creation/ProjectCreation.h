@@ -55,6 +55,7 @@ public:
     {
         QString batch;                            ///< its name
         platform::CopyMonitor *monitor = nullptr; ///< of all of them
+        bool mustBeWhole = false;                 ///< one that lacks something is taken back
     };
 
     explicit ProjectCreation(CreationHost &host)
@@ -65,6 +66,7 @@ public:
     ProjectCreation(CreationHost &host, const Part &part)
         : m_host(host)
         , m_batch(part.batch)
+        , m_mustBeWhole(part.mustBeWhole)
         , m_monitor(*part.monitor)
     {
     }
@@ -112,6 +114,7 @@ private:
     CreationHost &m_host;
     CreationResult m_result;
     const QString m_batch; ///< null: it was asked for alone
+    const bool m_mustBeWhole = false;
     platform::CopyMonitor m_ownMonitor;
     platform::CopyMonitor &m_monitor = m_ownMonitor;
     bool m_isGivenUp = false; ///< what is begun is not to be finished

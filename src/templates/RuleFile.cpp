@@ -8,8 +8,6 @@
 #include "support/VTFileManager.h"
 #include "support/VTLocalPaths.h"
 
-#include <QCryptographicHash>
-
 using platform::Cause;
 using platform::Outcome;
 using platform::Result;
@@ -21,11 +19,10 @@ constexpr std::chrono::seconds patience{5};
 
 /// Not beside the file: a bundle travels, and is packed with all that is in it. Each user's programs wait for each
 /// other; who shares a library with others still finds one whole file or the other.
-QString lockFile(const QString &bundle)
+QString lockFile()
 {
-    const QByteArray name = QCryptographicHash::hash(platform::toNative(bundle), QCryptographicHash::Sha1).toHex();
-    return platform::joined(VTLocalPaths::tempDirectory(),
-                            QStringLiteral("tessaro-%1-%2.lock").arg(VTLocalPaths::username(), name.constData()));
+    return VTLocalPaths::appSupportDirectory(VTLocalPaths::Domain::User) +
+           QStringLiteral("/Vantrel/Tessaro/Rules.lock");
 }
 
 bool isAtOrBelow(const QString &entry, const QString &item)
@@ -94,7 +91,9 @@ Result<QVariantMap> read(const QString &bundle)
 
 Outcome change(const QString &bundle, const Change &change)
 {
-    const Result<platform::FileLock> lock = platform::FileLock::acquire(lockFile(bundle), patience);
+    if (const Outcome made = platform::makeFolders(platform::parentPath(lockFile())); !made.ok())
+        return made;
+    const Result<platform::FileLock> lock = platform::FileLock::acquire(lockFile(), patience);
     if (!lock && !lock.outcome().is(Cause::NotSupported))
         return lock.outcome();
     const Result<QVariantMap> current = read(bundle);

@@ -126,6 +126,9 @@ inline void rows(const QString &home)
     QTest::newRow("rename") << QStringList{"template", "rename", "Film", "Feature"};
     QTest::newRow("structure") << QStringList{"template", "structure", "Film", "--from", in + "Shots"};
     QTest::newRow("remove") << QStringList{"template", "remove", "Film", "--yes"};
+    QTest::newRow("rules") << QStringList{"template", "rules", "Film", "--set", in + "rules.json"};
+    QTest::newRow("create with rules") << QStringList{"create", "--in",  home + "/Projects", "--template",
+                                                      "Ruled",  "--set", "Client=Acme"};
     QTest::newRow("restore") << QStringList{"template", "restore", "--yes"};
     QTest::newRow("export") << QStringList{"template", "export", "Film", home + "/Out"};
     QTest::newRow("gather") << QStringList{"logs", "gather", "--to", home + "/Out"};
@@ -149,6 +152,17 @@ inline void prepare(const QString &home)
         writeFile(home + "/In/New.tzt" + file, "new");
         writeFile(home + QStringLiteral("/In/Shots/%1/A/B %2/x").arg(i / 3).arg(i));
     }
+    writeFile(inLibrary(home, "Ruled.tzt/Files/{Client} {n}/template.txt"), "{Client} {n}\n");
+    writeFile(inLibrary(home, "Ruled.tzt/Files/Drone/x"), "x");
+    QVERIFY(platform::writePropertyListFile(
+                inLibrary(home, "Ruled.tzt/Rules.plist"),
+                QVariantMap{{"fillNames", true},
+                            {"texts", QVariantList{"*.txt"}},
+                            {"items", QVariantList{QVariantMap{{"path", "{Client} {n}"},
+                                                               {"repeat", QVariantMap{{"count", "Job number"}}}}}}})
+                .ok());
+    writeFile(home + "/In/rules.json", "{\"fillNames\": true}");
+    writeFile(home + "/In/table.csv", "Client,Template,Job number\nAcme,Ruled,001\nBolt,Film,\nCody,Ruled,\n");
     for (const char *folder : {"/Projects", "/tmp", "/Out"})
         QVERIFY(platform::makeFolders(home + QLatin1String(folder)).ok());
 }
