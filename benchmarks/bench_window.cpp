@@ -7,9 +7,12 @@
 #include "app/MainWindow.h"
 #include "app/TessaroAppDelegate.h"
 #include "parameters/FilenameParameter.h"
+#include "parameters/table/VTProjectTableController.h"
 #include "platform/base/System.h"
+#include "platform/files/FileSystem.h"
 #include "support/Settings.h"
 #include "support/VTLocalPaths.h"
+#include "templates/RuleFile.h"
 #include "templates/editor/TemplatePane.h"
 
 #include <QApplication>
@@ -111,6 +114,27 @@ int main(int argc, char **argv)
     }
     settle(window);
     type("the same with the result of 100,000 items beside it", window);
+    // A folder by a condition, one named by the value that is typed: each key makes the tree anew.
+    const QString bundle = home + "/Library/Templates/Large.tzt";
+    const bool isRuled =
+        platform::makeFolders(bundle + "/Files/{Parameter 0}/x").ok() &&
+        platform::makeFolders(bundle + "/Files/Extra").ok() &&
+        rulefile::change(bundle, [](const QVariantMap &) {
+            const QVariantMap test{{"parameter", "Parameter 0"}, {"is", "contains"}, {"value", "p"}};
+            const QVariantMap item{{"path", "Extra"}, {"when", QVariantMap{{"all", QVariantList{test}}}}};
+            return QVariantMap{{"fillNames", true}, {"items", QVariantList{item}}};
+        }).ok();
+    if (!isRuled)
+        qFatal("The rules cannot be written");
+    delegate.toolbarNewProjectAction();
+    for (int i = 0; i < 150; ++i) {
+        timespec pause{0, 20'000'000};
+        nanosleep(&pause, nullptr);
+        QCoreApplication::processEvents();
+    }
+    delegate.tableController().editFirstItem();
+    settle(window);
+    type("the same with rules", window);
     window.setResultShown(false);
     delegate.toolbarTemplateAction();
     settle(window);

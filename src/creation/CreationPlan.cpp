@@ -96,6 +96,8 @@ CreationPlan planWithRules(const QString &templateFiles, const PlanInput &input,
     RuledItems items(tree, *input.rules);
     const auto ruled =
         std::make_shared<RuledTemplate>(RuledTemplate{templateFiles, std::move(tree), input.rules, std::move(items)});
+    ruled->isReadable = std::all_of(ruled->tree.folders.begin(), ruled->tree.folders.end(),
+                                    [](const platform::TreeFolder &folder) { return folder.error == 0; });
     readTexts(*ruled, input.values, cancelled);
     plan.ruled = ruled;
     expand(plan, input, cancelled);
@@ -176,7 +178,9 @@ void planFor(CreationPlan &plan, const PlanInput &input)
     if (plan.ruled) {
         expand(plan, input, never);
         lookAtTexts(plan);
-        return findUnreadable(plan, plan.ruled->files);
+        if (!plan.ruled->isReadable)
+            findUnreadable(plan, plan.ruled->files);
+        return;
     }
     for (const std::uint32_t folder : plan.named)
         nameItems(plan.tree.folders[folder], projectNameOf(input));

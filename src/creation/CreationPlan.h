@@ -36,6 +36,7 @@ struct RuledTemplate
     platform::Tree tree;
     TemplateRulesPtr rules;
     RuledItems items;
+    bool isReadable = true;                         ///< all of it
     QHash<QString, textvalues::TextTokens> texts{}; ///< by their paths in the template
 };
 

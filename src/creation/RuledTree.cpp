@@ -72,8 +72,43 @@ public:
     }
 
 private:
+    /// Most folders of a large template: nothing in them has a rule or a token.
+    [[nodiscard]] bool isPlain(std::uint32_t from) const
+    {
+        const TreeFolder &source = m_source.folders[from];
+        return m_repeats == 0 && !m_items.hasRulesIn(from) && !m_items.hasPatterns() &&
+               !(m_rules.fillsNames && tokens::mayHaveTokens(source.names));
+    }
+
+    void fillPlainly(std::uint32_t from, std::uint32_t to, const tokens::Values &values)
+    {
+        const TreeFolder &source = m_source.folders[from];
+        TreeFolder &target = m_result.tree.folders[to];
+        target.error = source.error;
+        target.names = source.names;
+        target.items = source.items;
+        for (std::uint32_t i = 0; i < source.items.size() && !m_cancelled; ++i) {
+            if (source.items[i].folder != 0)
+                addFolder(source.items[i].folder, to, i, values);
+        }
+        if (mentionsTemplate(target.names))
+            giveNames(to, false);
+    }
+
+    void addFolder(std::uint32_t from, std::uint32_t parent, std::uint32_t item, const tokens::Values &values)
+    {
+        const auto number = static_cast<std::uint32_t>(m_result.tree.folders.size());
+        TreeFolder &folder = m_result.tree.folders.emplace_back();
+        folder.parent = parent;
+        folder.itemInOwn = item;
+        m_result.tree.folders[parent].items[item].folder = number;
+        fill(from, number, values);
+    }
+
     void fill(std::uint32_t from, std::uint32_t to, const tokens::Values &values)
     {
+        if (isPlain(from))
+            return fillPlainly(from, to, values);
         const TreeFolder &source = m_source.folders[from];
         m_result.tree.folders[to].error = source.error;
         m_result.tree.folders[to].items.reserve(source.items.size());
@@ -160,7 +195,7 @@ private:
             return;
         }
         const std::uint32_t below = m_source.folders[from].items[item].folder;
-        TreeItem &added = addBare(from, item, to);
+        addBare(from, item, to);
         const auto place = static_cast<std::uint32_t>(m_result.tree.folders[to].items.size() - 1);
         const bool isRepeated = rule && rule->repeat.over != Repeat::Over::Nothing;
         if (m_rules.fillsNames || isRepeated)
@@ -169,14 +204,9 @@ private:
             m_result.texts.push_back({to, place, &values});
         if (below == 0)
             return;
-        const auto number = static_cast<std::uint32_t>(m_result.tree.folders.size());
-        TreeFolder &folder = m_result.tree.folders.emplace_back();
-        folder.parent = to;
-        folder.itemInOwn = place;
-        added.folder = number;
-        if (isRepeated)
-            m_result.repeated.push_back(number);
-        fill(below, number, values);
+        if (isRepeated) // in front: the folders in it have higher numbers
+            m_result.repeated.push_back(static_cast<std::uint32_t>(m_result.tree.folders.size()));
+        addFolder(below, to, place, values);
     }
 
     /// Of the last item in the folder.
@@ -248,9 +278,10 @@ RuledItems::RuledItems(const Tree &source, const TemplateRules &rules)
 {
     for (const ItemRule &rule : rules.items) {
         const Search search = source.folders.empty() ? Search{{}, false} : found(source, rule.path);
-        if (search.place)
+        if (search.place) {
             m_rules.emplace(*search.place, rule);
-        else if (search.isKnown)
+            m_folders.insert(static_cast<std::uint32_t>(*search.place >> 32U));
+        } else if (search.isKnown)
             m_gone.append(rule.path);
     }
     for (const QString &pattern : rules.textPatterns)

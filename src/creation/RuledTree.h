@@ -6,6 +6,7 @@
 #include <QRegularExpression>
 #include <deque>
 #include <unordered_map>
+#include <unordered_set>
 
 /** What is wrong with one item of a plan, in a sentence. */
 struct Flaw
@@ -65,6 +66,9 @@ public:
 
     /** Null where there is none. */
     [[nodiscard]] const ItemRule *ruleOf(std::uint32_t folder, std::uint32_t item) const;
+    /** Whether any of the folder's items has one. */
+    [[nodiscard]] bool hasRulesIn(std::uint32_t folder) const { return m_folders.contains(folder); }
+    [[nodiscard]] bool hasPatterns() const { return !m_patterns.isEmpty(); }
     /** Whether it is a file whose contents get values. */
     [[nodiscard]] bool isText(const platform::Tree &source, std::uint32_t folder, std::uint32_t item) const;
     /** What lies in a folder that cannot be read is not gone. */
@@ -72,6 +76,7 @@ public:
 
 private:
     std::unordered_map<std::uint64_t, ItemRule> m_rules;
+    std::unordered_set<std::uint32_t> m_folders;
     QList<QRegularExpression> m_patterns;
     QStringList m_gone;
 };
