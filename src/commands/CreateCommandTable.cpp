@@ -10,6 +10,7 @@
 #include "platform/base/MainThread.h"
 #include "platform/base/NativePath.h"
 #include "platform/files/WholeFile.h"
+#include "support/LongWork.h"
 #include "support/Settings.h"
 #include "support/VTLog.h"
 
@@ -70,11 +71,14 @@ bool CreateCommand::readBatch(ProjectBatch &batch)
         return fail(ExitStatus::failed, table.outcome().sentence());
     const BatchBase base{[this](const QString &name) { return requestFor(name); }, m_templateName,
                          settings::strictNaming.isOn()};
-    std::atomic<bool> stopped = false;
-    const platform::Interruption interruption(stopped);
-    batch = ProjectBatch(*table, base);
-    platform::performInBackground([&] { batch.lookAtDisk(stopped); });
-    return !stopped || fail(ExitStatus::stopped, Text::tr("Stopped. Nothing was created."));
+    platform::CopyMonitor monitor;
+    const platform::Interruption interruption(monitor.cancelled);
+    const LongWork work(Text::tr("Looking at projects: %L1").arg(table->rows.size()), monitor);
+    platform::performInBackground([&] {
+        batch = ProjectBatch(*table, base);
+        batch.lookAtDisk(monitor.cancelled);
+    });
+    return !monitor.cancelled || fail(ExitStatus::stopped, Text::tr("Stopped. Nothing was created."));
 }
 
 void CreateCommand::complainAbout(const ProjectBatch &batch)
