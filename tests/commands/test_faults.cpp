@@ -107,7 +107,8 @@ private Q_SLOTS:
     void oneCallFails_data()
     {
         rows();
-        QTest::newRow("table") << QStringList{"create", "--in", m_home + "/Projects", "--from", m_home + "/In/table.csv"};
+        QTest::newRow("table") << QStringList{"create", "--in", m_home + "/Projects", "--from",
+                                              m_home + "/In/table.csv"};
     }
     void oneCallFails()
     {
