@@ -4,7 +4,7 @@
 #include "app/MainWindow.h"
 #include "app/OwnParametersSheet.h"
 #include "app/TableSheet.h"
-#include "parameters/ParameterStore.h"
+#include "creation/RequestCheck.h"
 #include "parameters/table/VTProjectTableController.h"
 #include "platform/base/MainThread.h"
 #include "platform/base/NativePath.h"
@@ -36,18 +36,7 @@ platform::Result<ProjectRequest> requestFor(const QString &name, const QStringLi
     if (!templates.contains(name))
         return platform::Outcome::failure(platform::Cause::Invalid, {},
                                           TessaroAppDelegate::tr("There is no template “%1”.").arg(name));
-    const auto rules = readRules(VTDataController::bundlePath(name));
-    if (!rules)
-        return rules.outcome();
-    ProjectRequest request;
-    request.templateName = name;
-    request.templateFiles = VTDataController::filesFolder(name);
-    request.rules = std::make_shared<const TemplateRules>(*rules);
-    request.parameters = currentParameters(scopeOf(request));
-    request.separator = settings::separatorChar.text();
-    request.dateFormat = settings::dateFormat.text();
-    request.moment = std::time(nullptr);
-    return request;
+    return freshRequest(VTDataController::templateLocation(), name);
 }
 
 } // namespace

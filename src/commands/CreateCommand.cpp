@@ -181,21 +181,13 @@ platform::Result<ProjectRequest> CreateCommand::requestFor(const QString &templa
         return platform::Outcome::failure(
             platform::Cause::Invalid, {},
             Text::tr("There is no template “%1”. %2").arg(templateName, listed(m_templates)));
-    ProjectRequest request;
-    request.templateName = templateName;
-    const QString bundle = m_library + platform::formatString("/%@.tzt", templateName);
-    request.templateFiles = joined(bundle, QStringLiteral("Files"));
-    const auto rules = readRules(bundle);
-    if (!rules)
+    const auto fresh = freshRequest(m_library, templateName);
+    if (!fresh)
         return platform::Outcome::failure(
-            rules.outcome().cause(), {},
+            fresh.outcome().cause(), {},
             Text::tr("The template’s rules cannot be read. Mend them, or remove the file.") + u'\n' +
-                rules.outcome().description());
-    request.rules = std::make_shared<const TemplateRules>(*rules);
-    request.parameters = currentParameters(scopeOf(request));
-    request.separator = settings::separatorChar.text();
-    request.dateFormat = settings::dateFormat.text();
-    request.moment = std::time(nullptr);
+                fresh.outcome().description());
+    ProjectRequest request = *fresh;
     request.location = m_location;
     for (const QString &setting : m_invocation.values("--set")) {
         const qsizetype equals = setting.indexOf(u'=');

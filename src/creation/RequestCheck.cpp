@@ -1,10 +1,12 @@
 #include "creation/RequestCheck.h"
 
+#include "parameters/ParameterStore.h"
 #include "parameters/ProjectNaming.h"
 #include "parameters/ValueForms.h"
 #include "parameters/ValueRules.h"
 #include "platform/base/FormatString.h"
 #include "platform/base/NativePath.h"
+#include "support/Settings.h"
 
 #include <QCoreApplication>
 
@@ -84,6 +86,23 @@ platform::Result<ProjectRequest> withNamedValue(const ProjectRequest &request, c
     if (!problem.isNull())
         return Outcome::failure(Cause::Invalid, {}, problem);
     return withTypedValue(request, row, value, strictNaming);
+}
+
+platform::Result<ProjectRequest> freshRequest(const QString &library, const QString &templateName)
+{
+    const QString bundle = library + formatString("/%@.tzt", templateName);
+    const auto rules = readRules(bundle);
+    if (!rules)
+        return rules.outcome();
+    ProjectRequest request;
+    request.templateName = templateName;
+    request.templateFiles = platform::joined(bundle, QStringLiteral("Files"));
+    request.rules = std::make_shared<const TemplateRules>(*rules);
+    request.parameters = currentParameters(scopeOf(request));
+    request.separator = settings::separatorChar.text();
+    request.dateFormat = settings::dateFormat.text();
+    request.moment = std::time(nullptr);
+    return request;
 }
 
 QString listed(const QStringList &names)

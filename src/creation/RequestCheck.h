@@ -25,5 +25,11 @@ enum class TooLongLevels { AreProblems, AreNamedElsewhere };
 [[nodiscard]] platform::Result<ProjectRequest> withNamedValue(const ProjectRequest &request, const QString &title,
                                                               const QString &value, bool strictNaming);
 
+/**
+ * The project of a template of the library before anything is typed for it: rules, parameters and settings as they are
+ * now, everything but the folder it goes to. Fails when the rules cannot be read. Blocks; any thread.
+ */
+[[nodiscard]] platform::Result<ProjectRequest> freshRequest(const QString &library, const QString &templateName);
+
 /** "There are: a, b." */
 [[nodiscard]] QString listed(const QStringList &names);

@@ -1,6 +1,8 @@
 // What rules answer to values: whether conditions hold, how often a repeat goes round.
 #include "creation/TemplateRules.h"
 
+#include "parameters/ValueForms.h"
+
 #include <QCoreApplication>
 
 namespace {
@@ -78,12 +80,7 @@ Verdict verdictOf(const Conditions &conditions, const tokens::Values &values)
 
 QStringList listedValues(const QString &value)
 {
-    QStringList values;
-    for (const QString &part : value.split(u',')) {
-        if (!part.trimmed().isEmpty())
-            values.append(part.trimmed());
-    }
-    return values;
+    return forms::parts(value);
 }
 
 Rounds roundsOf(const Repeat &repeat, const tokens::Values &values, std::size_t most)

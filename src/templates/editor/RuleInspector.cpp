@@ -1,5 +1,6 @@
 #include "templates/editor/RuleInspector.h"
 
+#include "parameters/ValueForms.h"
 #include "platform/base/NativePath.h"
 #include "ui/Icons.h"
 
@@ -62,16 +63,6 @@ void clear(QVBoxLayout &layout)
         }
         delete item; // NOLINT: taken out of the layout
     }
-}
-
-QStringList patternsIn(const QString &text)
-{
-    QStringList patterns;
-    for (const QString &part : text.split(u',')) {
-        if (!part.trimmed().isEmpty())
-            patterns.append(part.trimmed());
-    }
-    return patterns;
 }
 
 } // namespace
@@ -385,7 +376,7 @@ void RuleInspector::tellItem()
 void RuleInspector::tellTemplate()
 {
     m_patterns->setModified(false);
-    const QStringList patterns = patternsIn(m_patterns->text());
+    const QStringList patterns = forms::parts(m_patterns->text());
     if (!m_isShowing &&
         (m_fillsNames->isChecked() != m_state.rules.fillsNames || patterns != m_state.rules.textPatterns))
         Q_EMIT templateEdited(m_fillsNames->isChecked(), patterns);
