@@ -17,3 +17,7 @@ if(TESSARO_COVERAGE)
   add_compile_options(--coverage)
   add_link_options(--coverage)
 endif()
+
+# Programs that can lie anywhere in memory; position-independent code alone does not say so to the linker.
+include(CheckPIESupported)
+check_pie_supported()

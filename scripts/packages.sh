@@ -1,10 +1,11 @@
-# Sourced by ./run and ./test: the Debian packages that building, running and testing need, and their installation.
+# Sourced by ./run, ./test and ./package: the Debian packages that building, running, testing and packing need, and their installation.
 
 build_packages="g++ cmake ninja-build ccache mold pkg-config qt6-base-dev qt6-svg-dev libplist-dev libarchive-dev
-  libxcb1-dev libxkbcommon-x11-dev libfontconfig-dev"
+  libxcb1-dev libxkbcommon-x11-dev libfontconfig-dev qt6-l10n-tools qt6-translations-l10n"
 run_packages="fonts-dejavu-core libqt6svg6 qt6-qpa-plugins"
 test_packages="xvfb xauth openbox dbus dbus-daemon attr e2fsprogs util-linux
-  passwd polkitd pkexec x11-xkb-utils locales qt6-l10n-tools clang-format xfsprogs libfuse3-dev fuse3"
+  passwd polkitd pkexec x11-xkb-utils locales clang-format xfsprogs libfuse3-dev fuse3"
+package_packages="dpkg-dev file gzip xz-utils patchelf lintian desktop-file-utils appstream"
 tidy_packages="clang-tidy"
 
 # install_missing PACKAGE... : installs those that are not there, and says so on standard error.

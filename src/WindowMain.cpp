@@ -9,6 +9,7 @@
 #include "platform/desktop/Desktop.h"
 #include "platform/desktop/FontLoading.h"
 #include "platform/desktop/SingleInstance.h"
+#include "support/Translations.h"
 #include "support/VTAlert.h"
 #include "support/VTLog.h"
 #include "ui/Icons.h"
@@ -28,6 +29,8 @@ struct Text
 int runWindow(int &argc, char **argv, const QStringList &files)
 {
     if (!platform::displayIsAvailable()) {
+        const QCoreApplication application(argc, argv);
+        translations::load();
         platform::writeToStandardError(Text::tr("Tessaro: there is no display for the window; “Tessaro create” makes a "
                                                 "project without one (see --help).") +
                                        u'\n');
@@ -35,6 +38,7 @@ int runWindow(int &argc, char **argv, const QStringList &files)
     }
     platform::FontLoading fonts;
     QApplication application(argc, argv);
+    translations::load();
     QApplication::setApplicationName(QStringLiteral("Tessaro"));
     QApplication::setDesktopFileName(QStringLiteral("com.vantrel.Tessaro"));
     if (platform::SingleInstance::handOver(files))

@@ -5,6 +5,7 @@
 #include "platform/base/NativePath.h"
 #include "platform/base/System.h"
 #include "platform/files/ApplicationBundle.h"
+#include "support/Translations.h"
 #include "support/VTLog.h"
 
 #include <QCoreApplication>
@@ -17,11 +18,13 @@ struct Text
 };
 
 /// Returns only when there is no window to be had.
-int becomeWindow(char **argv)
+int becomeWindow(int argc, char **argv)
 {
     const QString program =
         platform::joined(platform::ApplicationBundle::main().path(), QStringLiteral("Contents/MacOS/Tessaro"));
     const platform::Outcome failure = platform::becomeProgram(program, argv);
+    const QCoreApplication application(argc, argv);
+    translations::load();
     platform::writeToStandardError(
         Text::tr("Tessaro: the window cannot be started; please install Tessaro again. %1").arg(failure.description()) +
         u'\n');
@@ -32,13 +35,17 @@ int runProgram(int argc, char **argv)
 {
     const auto invocation = readCommandLine(wordsOf(argc, argv));
     if (!invocation) {
-        platform::writeToStandardError(QStringLiteral("Tessaro: ") + invocation.outcome().sentence() + u'\n' +
+        const QCoreApplication application(argc, argv);
+        translations::load();
+        const auto saidInTheirLanguage = readCommandLine(wordsOf(argc, argv));
+        platform::writeToStandardError(QStringLiteral("Tessaro: ") + saidInTheirLanguage.outcome().sentence() + u'\n' +
                                        Text::tr("Tessaro --help lists what it understands.") + u'\n');
         return exitStatusOf(invocation.outcome());
     }
     if (!invocation->verb)
-        return becomeWindow(argv);
+        return becomeWindow(argc, argv);
     const QCoreApplication application(argc, argv);
+    translations::load();
     return runCommand(*invocation);
 }
 

@@ -91,7 +91,7 @@ private:
         if (given < m_verb.least || (m_verb.most >= 0 && given > m_verb.most) ||
             m_invocation.arguments.contains(QString()))
             return misused(
-                Text::tr("“%1” was given %n word(s), which is not what it takes.", nullptr, given).arg(m_verb.name()),
+                Text::tr("“%1” was given %n words, which is not what it takes.", nullptr, given).arg(m_verb.name()),
                 &m_verb);
         for (const Option &option : m_verb.options) {
             if (option.isRequired && !m_invocation.has(option.name))

@@ -64,8 +64,8 @@ QJsonArray asJson(const TemplateNodes &nodes)
     QJsonArray list;
     for (const auto &node : nodes) {
         QJsonObject entry{{"name", platform::forDisplay(node->name())}, {"folder", node->isFolderItem()}};
-        if (const QString label = VTFileManager::labelName(node->colorIndex() & labelMask); !label.isNull())
-            entry.insert("label", label);
+        if (const char *label = VTFileManager::labelKey(node->colorIndex() & labelMask))
+            entry.insert("label", QLatin1String(label));
         if (node->isFolderItem())
             entry.insert("children", asJson(static_cast<const VTFolderItem &>(*node).children()));
         list.append(entry);

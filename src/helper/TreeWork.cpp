@@ -25,7 +25,8 @@ constexpr mode_t privileged = S_ISUID | S_ISGID | S_ISVTX;
 std::string hiddenName()
 {
     std::array<unsigned char, 8> bytes{};
-    static_cast<void>(getrandom(bytes.data(), bytes.size(), 0)); // a name that is taken is refused, not replaced
+    // A name that is taken is refused, not replaced: that it is random only spares a second try.
+    [[maybe_unused]] const ssize_t drawn = getrandom(bytes.data(), bytes.size(), 0);
     std::string name = ".tessaro-";
     for (const unsigned char byte : bytes) {
         name += static_cast<char>('a' + (byte >> 4));

@@ -97,6 +97,8 @@ public:
 
     /** The label's name for people, "red"; null for what is no label. */
     [[nodiscard]] static QString labelName(int index);
+    /** The same for programs: in English, whatever the desktop speaks; nullptr for what is no label. */
+    [[nodiscard]] static const char *labelKey(int index);
 
     // The locked flag; errors are ignored, links left alone.
     [[nodiscard]] static bool isFileLocked(const QString &path);

@@ -75,13 +75,17 @@ std::optional<LabelColor> VTFileManager::finderColorForIndex(int index)
 
 QString VTFileManager::labelName(int index)
 {
+    const char *name = labelKey(index);
+    return name ? Labels::tr(name) : QString();
+}
+
+const char *VTFileManager::labelKey(int index)
+{
     static constexpr std::array names{QT_TRANSLATE_NOOP("Labels", "grey"),   QT_TRANSLATE_NOOP("Labels", "green"),
                                       QT_TRANSLATE_NOOP("Labels", "purple"), QT_TRANSLATE_NOOP("Labels", "blue"),
                                       QT_TRANSLATE_NOOP("Labels", "yellow"), QT_TRANSLATE_NOOP("Labels", "red"),
                                       QT_TRANSLATE_NOOP("Labels", "orange")};
-    if (index < 2 || index > 15)
-        return {};
-    return Labels::tr(names[static_cast<std::size_t>(index) / 2 - 1]);
+    return index < 2 || index > 15 ? nullptr : names[static_cast<std::size_t>(index) / 2 - 1];
 }
 
 bool VTFileManager::isFileLocked(const QString &path)

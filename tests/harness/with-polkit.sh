@@ -8,7 +8,7 @@ fi
 test=$2
 helper=$3
 here=$(cd "$(dirname "$0")" && pwd)
-policy=$here/../../resources/bundle/com.vantrel.Tessaro.policy.in
+policy=$here/../../packaging/desktop/com.vantrel.Tessaro.policy.in
 
 mount -t tmpfs -o mode=755 tmpfs /run
 for folder in /etc /usr/share/polkit-1; do

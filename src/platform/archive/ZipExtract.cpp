@@ -311,13 +311,13 @@ private:
         if (fstatat(parent, name, &info, AT_SYMLINK_NOFOLLOW) != 0 || S_ISLNK(info.st_mode))
             return;
         const bool isClosed = (info.st_mode & 0600) != 0600;
-        if (isClosed)
-            fchmodat(parent, name, info.st_mode | 0600, 0);
+        if (isClosed && fchmodat(parent, name, info.st_mode | 0600, 0) != 0)
+            return;
         const UniqueDescriptor item(openat(parent, name, O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
         if (item.isOpen())
             setFlagsWord(item.get(), flags, labelMask | bundleBit);
-        if (isClosed)
-            fchmodat(parent, name, info.st_mode & 0777, 0);
+        // Who could open it can close it.
+        [[maybe_unused]] const bool closed = !isClosed || fchmodat(parent, name, info.st_mode & 0777, 0) == 0;
     }
 
     /// Deepest first: what is done inside a folder changes its dates. Folders that stood there before stay as they are.

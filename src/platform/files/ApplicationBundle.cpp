@@ -14,7 +14,7 @@ const ApplicationBundle &ApplicationBundle::main()
         if (folder.endsWith(QLatin1String("/Contents/MacOS")))
             return ApplicationBundle(parentPath(parentPath(folder)));
         const QString beside = joined(folder, QStringLiteral("Tessaro.app"));
-        const QString installed = joined(parentPath(folder), QStringLiteral("share/tessaro/Tessaro.app"));
+        const QString installed = joined(parentPath(folder), QStringLiteral("lib/tessaro/Tessaro.app"));
         return ApplicationBundle(leadsToFolder(beside) ? beside : installed);
     }();
     return bundle;

@@ -15,7 +15,8 @@ public:
     {
     }
 
-    /** The program's own: Tessaro.app beside the running executable, or ../share/tessaro/Tessaro.app when installed. */
+    /** The program's own: Tessaro.app beside the running executable, or ../lib/tessaro/Tessaro.app when installed, to
+       which ../share/tessaro/Tessaro.app leads. */
     static const ApplicationBundle &main();
 
     [[nodiscard]] QString path() const { return m_path; }
