@@ -7,6 +7,7 @@
 #include "platform/base/Console.h"
 #include "platform/base/NativePath.h"
 #include "platform/desktop/Desktop.h"
+#include "platform/desktop/DesktopPanels.h"
 #include "platform/desktop/FontLoading.h"
 #include "platform/desktop/SingleInstance.h"
 #include "support/Translations.h"
@@ -26,7 +27,7 @@ struct Text
     Q_DECLARE_TR_FUNCTIONS(main)
 };
 
-int runWindow(int &argc, char **argv, const QStringList &files)
+int runWindow(int &argc, char **argv, const platform::SingleInstance::Request &request)
 {
     if (!platform::displayIsAvailable()) {
         const QCoreApplication application(argc, argv);
@@ -36,12 +37,13 @@ int runWindow(int &argc, char **argv, const QStringList &files)
                                        u'\n');
         return ExitStatus::failed;
     }
+    platform::preferDesktopPanels();
     platform::FontLoading fonts;
     QApplication application(argc, argv);
     translations::load();
     QApplication::setApplicationName(QStringLiteral("Tessaro"));
     QApplication::setDesktopFileName(QStringLiteral("com.vantrel.Tessaro"));
-    if (platform::SingleInstance::handOver(files))
+    if (platform::SingleInstance::handOver(request))
         return ExitStatus::done;
     platform::SingleInstance instance;
     fonts.finish();
@@ -66,9 +68,13 @@ int runWindow(int &argc, char **argv, const QStringList &files)
         QObject::connect(&instance, &SingleInstance::activated, &delegate, &TessaroAppDelegate::bringToFront);
         QObject::connect(&instance, &SingleInstance::actionRequested, &delegate, &TessaroAppDelegate::performCommand);
         QObject::connect(&instance, &SingleInstance::filesOpened, &delegate, &TessaroAppDelegate::openFiles);
-        if (!files.isEmpty())
+        if (!request.files.isEmpty())
             QObject::connect(delegate.mainWindow(), &MainWindow::firstPainted, &delegate,
-                             [&] { delegate.openFiles(files); });
+                             [&] { delegate.openFiles(request.files); });
+        if (!request.action.isEmpty())
+            QObject::connect(
+                delegate.mainWindow(), &MainWindow::firstPainted, &delegate,
+                [&] { delegate.performCommand(request.action, request.value); }, Qt::QueuedConnection);
         delegate.mainWindow()->show();
         status = QApplication::exec();
         sheets.setMainWindow({});
@@ -83,10 +89,14 @@ int main(int argc, char **argv)
 {
     prepareProgram();
     const auto invocation = readCommandLine(wordsOf(argc, argv)); // Tessaro has read it before: it is no failure
-    QStringList files;
-    for (const QString &file : invocation ? invocation->files : QStringList())
-        files.append(platform::absolutePath(file));
-    const int status = runWindow(argc, argv, files);
+    platform::SingleInstance::Request request;
+    if (invocation) {
+        for (const QString &file : invocation->files)
+            request.files.append(platform::absolutePath(file));
+        request.action = invocation->action;
+        request.value = invocation->actionValue;
+    }
+    const int status = runWindow(argc, argv, request);
     VTLog::finishWriting();
     return status;
 }

@@ -37,10 +37,7 @@ int runProgram(int argc, char **argv)
     if (!invocation) {
         const QCoreApplication application(argc, argv);
         translations::load();
-        const auto saidInTheirLanguage = readCommandLine(wordsOf(argc, argv));
-        platform::writeToStandardError(QStringLiteral("Tessaro: ") + saidInTheirLanguage.outcome().sentence() + u'\n' +
-                                       Text::tr("Tessaro --help lists what it understands.") + u'\n');
-        return exitStatusOf(invocation.outcome());
+        return refuseCommandLine(wordsOf(argc, argv));
     }
     if (!invocation->verb)
         return becomeWindow(argc, argv);

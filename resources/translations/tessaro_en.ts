@@ -77,6 +77,13 @@
             <numerusform>and %n more; the log names each</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>and %n more; “Tessaro check” names each</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>Unfinished</name>

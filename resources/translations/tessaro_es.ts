@@ -11,6 +11,25 @@
         <source>None was accepted, or this desktop has no service running that asks for one.</source>
         <translation>No se aceptó ninguna, o este escritorio no tiene en marcha un servicio que la pida.</translation>
     </message>
+    <message>
+        <source>Inside the Flatpak there are no administrator rights. Tessaro’s other packages have them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>AfterCreation</name>
+    <message>
+        <source>Running %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It ended with status %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It ended with status %1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>BatchCreation</name>
@@ -58,6 +77,37 @@
     <message>
         <source>Makes: %1</source>
         <translation>Se creará: %1</translation>
+    </message>
+</context>
+<context>
+    <name>CheckCommand</name>
+    <message>
+        <source>Tessaro does not remember this project, and there is no template to compare it with: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not remembered; compared with the template “%1”.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Items that depend on values, and were not looked for: %L1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Complete. Items: %L1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no project to check.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no template “%1”. %2</source>
+        <translation type="unfinished">No hay ninguna plantilla «%1». %2</translation>
+    </message>
+    <message>
+        <source>Checking %1</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -112,6 +162,10 @@
     <message>
         <source>The settings cannot be read, and nothing is done without them: neither the parameters nor the numbers that are taken are known.</source>
         <translation>No se pueden leer los ajustes y sin ellos no se hace nada: no se conocen ni los parámetros ni los números ya asignados.</translation>
+    </message>
+    <message>
+        <source>Tessaro --help lists what it understands.</source>
+        <translation type="unfinished">Tessaro --help enumera lo que entiende.</translation>
     </message>
 </context>
 <context>
@@ -360,6 +414,34 @@
         <source>Prints the version.</source>
         <translation>Muestra la versión.</translation>
     </message>
+    <message>
+        <source>values as a JSON object from titles to values; - is standard input</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ask at the terminal for what is required and missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>leave values and counters out of the settings: nothing is remembered or counted</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what a project that is not remembered is compared with</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Looks whether all that the creation made still stands in a project (the latest, or the one in that folder), and names what is missing. Changes nothing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Opens the window; the next project goes into the folder.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Opens the window, which says whether the project in the folder is complete.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>CreateCommand</name>
@@ -469,6 +551,34 @@ Use --overwrite para moverlo a la papelera y crearlo de nuevo.</translation>
         <source>  (was %1)</source>
         <translation>  (antes %1)</translation>
     </message>
+    <message>
+        <source>Standard input can be only one of --values and --from.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The values cannot be read.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The values are no JSON object: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it begins with no brace</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The value of “%1” is no text, no number and no list of them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--ask needs a terminal to ask at.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stopped. Nothing was created.</source>
+        <translation type="unfinished">Detenido. No se creó nada.</translation>
+    </message>
 </context>
 <context>
     <name>CreateCommandTable</name>
@@ -519,6 +629,10 @@ Use --overwrite para moverlo a la papelera y crearlo de nuevo.</translation>
     <message>
         <source>Rows left out: %L1. The log names each item and the cause: %2</source>
         <translation>Filas omitidas: %L1. El registro detalla cada elemento y la causa: %2</translation>
+    </message>
+    <message>
+        <source>The program that is told of new projects has failed</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -894,10 +1008,6 @@ Use --overwrite para moverlo a la papelera y crearlo de nuevo.</translation>
         <translation>&amp;Preferencias…</translation>
     </message>
     <message>
-        <source>Clear &amp;History</source>
-        <translation>Borrar &amp;historial</translation>
-    </message>
-    <message>
         <source>&amp;Quit</source>
         <translation>&amp;Salir</translation>
     </message>
@@ -1000,6 +1110,14 @@ Use --overwrite para moverlo a la papelera y crearlo de nuevo.</translation>
     <message>
         <source>&amp;About Tessaro</source>
         <translation>&amp;Acerca de Tessaro</translation>
+    </message>
+    <message>
+        <source>C&amp;heck Project…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cl&amp;ear History</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1786,6 +1904,25 @@ Use --overwrite para moverlo a la papelera y crearlo de nuevo.</translation>
     </message>
 </context>
 <context>
+    <name>ProjectCheck</name>
+    <message>
+        <source>%1: is missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: a file stands where a folder was made, or the other way round</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: had contents, and is empty</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: cannot be looked at</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>ProjectCreation</name>
     <message>
         <source>Unable to create folder %@</source>
@@ -1905,6 +2042,14 @@ Use --overwrite para moverlo a la papelera y crearlo de nuevo.</translation>
     <message>
         <source>Unable to look for names to replace in %@</source>
         <translation>No se pudieron buscar nombres que reemplazar en %@</translation>
+    </message>
+    <message>
+        <source>The program that is told of new projects has failed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The project was created; nothing was undone.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2393,6 +2538,22 @@ Use --overwrite para moverlo a la papelera y crearlo de nuevo.</translation>
     <message>
         <source>There is no template “%1”. There are: %2.</source>
         <translation>No hay ninguna plantilla «%1». Disponibles: %2.</translation>
+    </message>
+    <message>
+        <source>Please type the whole path of a program that may be run.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The value is a number of seconds, from 1 to %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>program that gets each new project as JSON on its standard input</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>how many seconds it may take</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -3322,6 +3483,65 @@ Adapte las plantillas incluidas a sus necesidades o cree las suyas desde cero.</
         <source>To switch history logging off entirely, go to Preferences and deselect Save History next to each parameter in the Parameters tab.</source>
         <translation>Para desactivar del todo el historial, vaya a Preferencias y desmarque Historial junto a cada parámetro en la pestaña Parámetros.</translation>
     </message>
+    <message>
+        <source>&amp;Check…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose the project to check</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>‘%1’ cannot be checked</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tessaro does not remember this project; it was compared with the template “%1”.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more; “Tessaro check” names each</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Items that depend on values, and were not looked for: %L1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Items looked for: %L1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>‘%1’ is complete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Something is missing in ‘%1’</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Checking %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No project can be created there</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is no folder.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The program that is told of new projects has failed</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>Text</name>
@@ -3929,10 +4149,6 @@ Adapte las plantillas incluidas a sus necesidades o cree las suyas desde cero.</
     <message>
         <source>Tessaro: the window cannot be started; please install Tessaro again. %1</source>
         <translation>Tessaro: no se puede abrir la ventana; vuelva a instalar Tessaro. %1</translation>
-    </message>
-    <message>
-        <source>Tessaro --help lists what it understands.</source>
-        <translation>Tessaro --help enumera lo que entiende.</translation>
     </message>
     <message>
         <source>Tessaro: there is no display for the window; “Tessaro create” makes a project without one (see --help).</source>

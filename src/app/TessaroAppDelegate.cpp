@@ -120,7 +120,8 @@ void TessaroAppDelegate::followTemplate(const QString &name, QString &seen)
 void TessaroAppDelegate::applicationDidFinishLaunching()
 {
     auto &keys = VTShortcutKeyTableDelegate::sharedController();
-    connect(&keys, &VTShortcutKeyTableDelegate::commandRequested, this, &TessaroAppDelegate::performCommand);
+    connect(&keys, &VTShortcutKeyTableDelegate::commandRequested, this,
+            [this](const QString &identifier) { performCommand(identifier); });
     if (VTShortcutKeyTableDelegate::hasKeys()) // else nobody needs to be asked
         keys.watchKeys();
     if (settings::firstRun.isOn()) {

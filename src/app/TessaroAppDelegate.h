@@ -3,6 +3,7 @@
 #include "app/HelpPages.h"
 #include "creation/BatchCreation.h"
 #include "creation/Unfinished.h"
+#include "support/VTAlert.h"
 
 #include <QElapsedTimer>
 #include <QHash>
@@ -16,6 +17,7 @@ class QMenu;
 class VTProjectTableController;
 class VTPreferenceController;
 class VTSavePanel;
+struct ProjectCheck;
 
 namespace platform {
 class FileWatch;
@@ -53,8 +55,7 @@ public:
 
     /** Takes in a template bundle, in the background, and shows it. False, and nothing happens, for any other file. */
     bool openFile(const QString &path);
-    /** The same for several; what is no template is said. */
-    void openFiles(const QStringList &paths);
+    void openFiles(const QStringList &paths); ///< what is no template is said
     void bringToFront();
     /** False, and the window closes by itself later, while something is being taken in. */
     [[nodiscard]] bool mayClose();
@@ -71,18 +72,15 @@ public Q_SLOTS:
     void changeProjectTemplate();
     /** The create action: checks the parameters, finds the destination, creates. */
     void createNewProject();
-    /** The same for many: asks for a table. */
-    void createFromTable();
-    /** Takes the last creation of this window back. */
-    void undoCreation();
+    void createFromTable(); ///< the same for many
+    void undoCreation();    ///< the last one of this window
     /** Of the pane that is shown: the last creation, or the last change to the templates. */
     void undo();
     void redo();
     void destinationBrowseDidEnd(int returnCode);
 
     void importTemplate();
-    /** The one that is selected, as an archive for people elsewhere. */
-    void exportTemplate();
+    void exportTemplate(); ///< the one that is selected, as an archive for people elsewhere
     void restoreDefaultTemplates();
     void clearHistory();
     void newTemplate();
@@ -90,16 +88,15 @@ public Q_SLOTS:
     void showPreferences();
     void enablePrefsMenu();
     void disablePrefsMenu();
-    /** Carries out a command of the shortcut keys' list by its identifier; one that is not known is logged. */
-    void performCommand(const QString &identifier);
+    /** Carries out a command of the shortcut keys' list by its identifier, or what a file browser asks for of a folder;
+       one that is not known is logged. */
+    void performCommand(const QString &identifier, const QString &folder = {});
     void beginNewProject();
 
     void editParameters(); ///< in the preferences
     void editTemplateParameters();
-    /** The next project goes there. */
-    void takePlace(const QString &folder);
-    /** The same, asked for by a panel. */
-    void choosePlace();
+    void takePlace(const QString &folder); ///< the next project goes there
+    void choosePlace();                    ///< the same, asked for by a panel
     void pinPlace(const QString &folder, bool pinned);
     void installStandardTemplates();
     void showTemplateLibrary();
@@ -110,6 +107,7 @@ public Q_SLOTS:
     void showProject(const QString &project);
     /** A menu of the remembered projects, read when it opens. */
     void fillRecentProjects(QMenu *menu);
+    void chooseProjectToCheck();
 
     void checkForUpdates();
     void viewLog();
@@ -140,6 +138,9 @@ private:
     void offerToPutAway(const Leftover &leftover);
     void tellOfDoubtfulProjects(const QList<DoubtfulProject> &doubtful);
     void tellOfCrash();
+    void checkProjectAt(const QString &folder);
+    [[nodiscard]] static VTAlert::Texts textsOf(const ProjectCheck &check);
+    void performWithFolder(const QString &identifier, const QString &folder);
     [[nodiscard]] bool isImporting() const;
     void showUndo();
     void closeIfWanted();

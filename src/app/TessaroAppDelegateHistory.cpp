@@ -2,13 +2,17 @@
 #include "app/TessaroAppDelegate.h"
 
 #include "app/MainWindow.h"
+#include "creation/ProjectCheck.h"
 #include "parameters/table/VTProjectTableController.h"
 #include "platform/base/MainThread.h"
 #include "platform/base/NativePath.h"
 #include "platform/desktop/Desktop.h"
 #include "support/LongWork.h"
 #include "support/VTAlert.h"
+#include "templates/VTDataController.h"
 #include "templates/editor/TemplatePane.h"
+#include "ui/FilePanels.h"
+#include "ui/VTSavePanel.h"
 
 #include <QMenu>
 
@@ -139,6 +143,65 @@ void TessaroAppDelegate::fillRecentProjects(QMenu *menu)
         project->addAction(tr("&Open"), this,
                            [path = manifest.project] { platform::openWithDefaultApplication(path); });
         project->addAction(tr("&Show in Its Folder"), this, [this, path = manifest.project] { showProject(path); });
+        project->addAction(tr("&Check…"), this, [this, path = manifest.project] { checkProjectAt(path); })
+            ->setEnabled(!m_creating);
         project->addAction(tr("&Undo"), this, [this, manifest] { undoProject(manifest); })->setEnabled(!m_creating);
     }
+}
+
+void TessaroAppDelegate::chooseProjectToCheck()
+{
+    if (m_savePanel)
+        return;
+    m_savePanel = placePanel();
+    m_savePanel->setWindowTitle(tr("Choose the project to check"));
+    m_savePanel->setLabelText(QFileDialog::Accept, tr("Check"));
+    whenLeft<VTSavePanel>(*m_savePanel, *this, [this](VTSavePanel &panel, bool accepted) {
+        m_savePanel = nullptr;
+        if (accepted)
+            checkProjectAt(panel.chosenFolder());
+    });
+    m_savePanel->open();
+}
+
+/// What is said of a project that was looked at.
+VTAlert::Texts TessaroAppDelegate::textsOf(const ProjectCheck &check)
+{
+    const QString name = platform::forOneLine(platform::lastComponent(check.project));
+    if (!check.outcome.ok())
+        return {tr("‘%1’ cannot be checked").arg(name), check.outcome.description()};
+    QStringList lines;
+    if (!check.isRemembered)
+        lines.append(tr("Tessaro does not remember this project; it was compared with the template “%1”.")
+                         .arg(check.templateName));
+    for (const CheckFinding &finding : check.findings.mid(0, mostNamed))
+        lines.append(QStringLiteral("• ") + sentenceOf(finding));
+    if (const auto others = static_cast<int>(check.findings.size() - mostNamed); others > 0)
+        lines.append(tr("and %n more; “Tessaro check” names each", nullptr, others));
+    if (check.notLooked > 0)
+        lines.append(tr("Items that depend on values, and were not looked for: %L1").arg(check.notLooked));
+    if (check.isComplete())
+        lines.append(tr("Items looked for: %L1").arg(check.looked));
+    const QString head = check.isComplete() ? tr("‘%1’ is complete") : tr("Something is missing in ‘%1’");
+    VTAlert::Texts texts{head.arg(name), lines.join(u'\n')};
+    texts.isGoodNews = check.isComplete();
+    return texts;
+}
+
+void TessaroAppDelegate::checkProjectAt(const QString &folder)
+{
+    const QString name = m_window->selectedTemplate();
+    const QString files = name.isEmpty() ? QString() : VTDataController::filesFolder(name);
+    m_creating = true;
+    startProcessing();
+    platform::CopyMonitor monitor;
+    ProjectCheck check;
+    {
+        const LongWork work(tr("Checking %1").arg(platform::forOneLine(platform::lastComponent(folder))), monitor);
+        check = platform::resultInBackground([&] { return ::checkProject(folder, name, files, monitor); });
+    }
+    finishProcessing();
+    m_creating = false;
+    if (!check.outcome.is(platform::Cause::Cancelled))
+        VTAlert::show(textsOf(check));
 }

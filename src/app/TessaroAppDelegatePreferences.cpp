@@ -6,6 +6,8 @@
 #include "preferences/VTPreferenceController.h"
 #include "support/AdministratorQuestion.h"
 #include "support/Settings.h"
+#include "support/VTAlert.h"
+#include "support/VTFileManager.h"
 #include "support/VTLog.h"
 #include "templates/editor/TemplatePane.h"
 #include "ui/WindowPlace.h"
@@ -70,8 +72,28 @@ const QHash<QString, void (TessaroAppDelegate::*)()> &TessaroAppDelegate::comman
     return commands;
 }
 
-void TessaroAppDelegate::performCommand(const QString &identifier)
+/// What the file browsers' menus offer.
+void TessaroAppDelegate::performWithFolder(const QString &identifier, const QString &folder)
 {
+    if (m_creating)
+        return;
+    bringToFront();
+    if (identifier == u"check-project")
+        return checkProjectAt(folder);
+    if (identifier != u"new-project-here")
+        return VTLog::appendLog("Unknown command %@", identifier);
+    if (!VTFileManager::isDirectoryAtPath(folder)) {
+        VTAlert::show({tr("No project can be created there"), tr("%1 is no folder.").arg(folder)});
+        return;
+    }
+    takePlace(folder);
+    beginNewProject();
+}
+
+void TessaroAppDelegate::performCommand(const QString &identifier, const QString &folder)
+{
+    if (!folder.isNull())
+        return performWithFolder(identifier, folder);
     const auto command = commandsOfShortcuts().constFind(identifier);
     if (command == commandsOfShortcuts().cend()) {
         VTLog::appendLog("Unknown command %@", identifier);

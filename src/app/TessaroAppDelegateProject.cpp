@@ -7,6 +7,7 @@
 #include "platform/base/MainThread.h"
 #include "platform/base/NativePath.h"
 #include "platform/desktop/Desktop.h"
+#include "platform/desktop/RecentFiles.h"
 #include "support/RecentPlaces.h"
 #include "support/Settings.h"
 #include "support/VTAlert.h"
@@ -114,8 +115,11 @@ void TessaroAppDelegate::createTemplate(const ProjectRequest &request)
     m_afterCreation = m_tableController->dataArray();
     for (const QString &note : result.notes)
         VTAlert::show({note, {}});
-    if (result.ok())
+    if (result.ok()) {
         rememberPlace(result.request.location);
+        platform::performInBackground(
+            [folder = result.request.destination()] { platform::rememberForDesktop(folder); });
+    }
     if (!result.manifest.file.isEmpty())
         m_undoable = {result.manifest};
     showUndo();

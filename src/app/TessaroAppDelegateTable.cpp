@@ -8,6 +8,7 @@
 #include "parameters/table/VTProjectTableController.h"
 #include "platform/base/MainThread.h"
 #include "platform/base/NativePath.h"
+#include "platform/desktop/RecentFiles.h"
 #include "support/LongWork.h"
 #include "support/RecentPlaces.h"
 #include "support/Settings.h"
@@ -77,6 +78,7 @@ void TessaroAppDelegate::createBatch(const ProjectBatch &batch, BatchManner mann
     if (!result.made.isEmpty()) {
         m_undoable = result.made;
         rememberPlace(location);
+        platform::performInBackground([location] { platform::rememberForDesktop(location); });
     }
     showUndo();
     m_tableController->follow();
@@ -86,6 +88,9 @@ void TessaroAppDelegate::createBatch(const ProjectBatch &batch, BatchManner mann
         m_window->showCreatedMany(result.made.size(), location);
     if (result.left > 0 && !result.takenBack)
         problems.append(tr("Rows that were left out: %L1").arg(result.left));
+    if (!result.told.ok())
+        problems.append(tr("The program that is told of new projects has failed") + QStringLiteral(": ") +
+                        result.told.description());
     if (!problems.isEmpty())
         VTAlert::show({result.takenBack ? tr("The projects could not all be created") : tr("Not all went well"),
                        shortened(problems)});

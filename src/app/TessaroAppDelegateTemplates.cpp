@@ -49,7 +49,6 @@ void TessaroAppDelegate::exportTemplate()
         return;
     auto *panel = new QFileDialog(m_window.get());
     panel->setWindowTitle(tr("Export “%1”").arg(platform::forOneLine(name)));
-    panel->setOption(QFileDialog::DontUseNativeDialog);
     panel->setAcceptMode(QFileDialog::AcceptSave);
     panel->setFileMode(QFileDialog::AnyFile);
     panel->setNameFilter(QStringLiteral("*.tzt.zip"));

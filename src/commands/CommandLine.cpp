@@ -194,6 +194,26 @@ int exitStatusOf(const Outcome &outcome)
     }
 }
 
+/// "--action ID", and what is done with a folder; nothing for other words.
+static std::optional<Result<Invocation>> readWindowWords(const QStringList &words)
+{
+    Invocation window;
+    for (const WindowWord &one : windowWords()) {
+        if (words[0] == QLatin1String(one.word))
+            window.action = QLatin1String(one.action);
+    }
+    const bool isAction = words[0] == u"--action";
+    if (!isAction && window.action.isEmpty())
+        return std::nullopt;
+    if (words.size() != 2 || words[1].isEmpty())
+        return Result<Invocation>(misused(Text::tr("“%1” needs a value.").arg(words[0])));
+    if (isAction)
+        window.action = words[1];
+    else
+        window.actionValue = platform::absolutePath(words[1]);
+    return Result<Invocation>(window);
+}
+
 Result<Invocation> readCommandLine(const QStringList &words)
 {
     if (words.isEmpty())
@@ -201,6 +221,8 @@ Result<Invocation> readCommandLine(const QStringList &words)
     qsizetype count = 0;
     if (const Verb *verb = verbOf(words, count))
         return WordReader(words.mid(count), *verb).read();
+    if (const auto window = readWindowWords(words))
+        return *window;
     const QString &first = words[0];
     if (!first.startsWith(u'-') && library::isTemplateFile(first)) {
         Invocation window;
@@ -216,12 +238,23 @@ Result<Invocation> readCommandLine(const QStringList &words)
     return misused(Text::tr("“%1” is no command of Tessaro.").arg(shown));
 }
 
+int refuseCommandLine(const QStringList &words)
+{
+    if (words.contains(QLatin1String("--json")))
+        tellErrorsAsJson();
+    const Outcome why = readCommandLine(words).outcome();
+    return finished(complain(exitStatusOf(why), QStringLiteral("Tessaro: ") + why.sentence() + u'\n' +
+                                                    Text::tr("Tessaro --help lists what it understands.")));
+}
+
 int runCommand(const Invocation &invocation)
 {
     if (invocation.has(helpOption.name)) {
         print(helpOn(*invocation.verb));
         return finished(ExitStatus::done);
     }
+    if (invocation.has("--json"))
+        tellErrorsAsJson();
     const bool changesNothing = invocation.has("--dry-run");
     if (changesNothing) // the log neither
         VTLog::sharedController().setLoggingDisabled(true);

@@ -19,5 +19,8 @@ inline constexpr int stopped = 4;        ///< on the way, by a signal: nothing w
    cannot be understood. Pure. */
 [[nodiscard]] platform::Result<Invocation> readCommandLine(const QStringList &words);
 
+/** Says why these words cannot be understood, in the user's language, to programs where they ask for it; the status. */
+[[nodiscard]] int refuseCommandLine(const QStringList &words);
+
 /** Carries out a command without a window; an application object without a display exists. Returns the exit status. */
 [[nodiscard]] int runCommand(const Invocation &invocation);

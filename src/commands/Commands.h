@@ -7,6 +7,7 @@ class Invocation;
 namespace commands {
 
 int create(const Invocation &invocation);
+int check(const Invocation &invocation);
 int cleanUp(const Invocation &invocation);
 int history(const Invocation &invocation);
 int undo(const Invocation &invocation);
@@ -45,6 +46,8 @@ int checkForUpdates(const Invocation &invocation);
 int help(const Invocation &invocation);
 int version(const Invocation &invocation);
 int printManualPage(const Invocation &invocation);
+/** What a shell offers, a line each: names of templates, titles of parameters, a parameter's values. */
+int printWords(const Invocation &invocation);
 int printCompletion(const Invocation &invocation);
 
 } // namespace commands

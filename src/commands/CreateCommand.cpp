@@ -4,6 +4,7 @@
 #include "commands/Commands.h"
 #include "commands/PlanOutput.h"
 #include "commands/TerminalOutput.h"
+#include "creation/ProjectJson.h"
 #include "creation/RequestCheck.h"
 #include "creation/Unfinished.h"
 #include "parameters/ParameterStore.h"
@@ -103,7 +104,8 @@ int CreateCommand::run()
     VTLog::appendLog("Creating new project");
     if (m_invocation.has("--from"))
         return runTable();
-    if (!findTemplate() || !makeRequest() || !parametersAreComplete() || !findDestination())
+    if (!readValues() || !findTemplate() || !makeRequest() || !askForMissing() || !parametersAreComplete() ||
+        !findDestination())
         return refused();
     m_request.location = m_location;
     VTLog::appendLog("Validated folder name: %@", m_request.relativePath());
@@ -112,22 +114,25 @@ int CreateCommand::run()
              Text::tr(
                  "A project with this name already exists: %1\nUse --overwrite to move it to the Trash and create it "
                  "anew.")
-                 .arg(m_request.destination()));
+                 .arg(m_request.destination()),
+             platform::codeOf(platform::Cause::Exists));
         return refused();
     }
     return m_isDryRun ? printPlan() : create();
 }
 
-bool CreateCommand::fail(int status, const QString &problem)
+bool CreateCommand::fail(int status, const QString &problem, const char *code)
 {
     m_status = complain(status, problem);
+    if (m_code.isEmpty())
+        m_code = QLatin1String(code ? code : codeOfStatus(status));
     m_problems.append(platform::forDisplay(problem));
     return false;
 }
 
 bool CreateCommand::fail(const platform::Outcome &failure, const QString &problem)
 {
-    return fail(exitStatusOf(failure), problem + u'\n' + failure.description());
+    return fail(exitStatusOf(failure), problem + u'\n' + failure.description(), platform::codeOf(failure.cause()));
 }
 
 int CreateCommand::refused()
@@ -189,6 +194,13 @@ platform::Result<ProjectRequest> CreateCommand::requestFor(const QString &templa
                 fresh.outcome().description());
     ProjectRequest request = *fresh;
     request.location = m_location;
+    request.isRemembered = !m_invocation.has("--no-remember");
+    for (const auto &[title, value] : m_values) {
+        const auto changed = withNamedValue(request, title, value, settings::strictNaming.isOn());
+        if (!changed)
+            return changed.outcome();
+        request = *changed;
+    }
     for (const QString &setting : m_invocation.values("--set")) {
         const qsizetype equals = setting.indexOf(u'=');
         const auto changed =
@@ -220,7 +232,8 @@ bool CreateCommand::parametersAreComplete()
     const bool isBlank = problem->parameter >= 0 && m_request.parameters[problem->parameter].isBlank();
     const QString hint =
         isBlank ? u' ' + Text::tr("(--set \"%1=…\")").arg(m_request.parameters[problem->parameter].title()) : QString();
-    return fail(ExitStatus::failed, problem->message + u'\n' + problem->informativeText + hint);
+    return fail(ExitStatus::failed, problem->message + u'\n' + problem->informativeText + hint,
+                platform::codeOf(platform::Cause::Invalid));
 }
 
 bool CreateCommand::findDestination()
@@ -239,7 +252,8 @@ bool CreateCommand::findDestination()
             const bool exists = VTFileManager::fileExistsAtPath(folder);
             return fail(
                 ExitStatus::failed,
-                (exists ? Text::tr("%1 is not a folder.") : Text::tr("The folder %1 does not exist.")).arg(folder));
+                (exists ? Text::tr("%1 is not a folder.") : Text::tr("The folder %1 does not exist.")).arg(folder),
+                platform::codeOf(exists ? platform::Cause::NotAFolder : platform::Cause::Missing));
         }
     }
     m_location = folder;
@@ -315,5 +329,9 @@ int CreateCommand::report(const CreationResult &result, bool isThere) const
 
 void CreateCommand::printObject(const CreationResult &result, const CreationPlan *plan) const
 {
-    print(objectOf({m_request, m_problems, result, plan}));
+    QJsonObject object = objectOf({m_request, m_problems, result, plan});
+    object.insert("status", m_status);
+    if (m_status != ExitStatus::done)
+        object.insert("code", m_code.isEmpty() ? QLatin1String(codeOfStatus(m_status)) : m_code);
+    print(object);
 }

@@ -27,7 +27,9 @@ private:
 
     [[nodiscard]] bool findLibrary(QString &location, QStringList &names);
     [[nodiscard]] platform::Result<ProjectRequest> requestFor(const QString &templateName) const;
+    [[nodiscard]] bool readValues();
     [[nodiscard]] bool makeRequest();
+    [[nodiscard]] bool askForMissing();
     [[nodiscard]] bool parametersAreComplete();
     [[nodiscard]] bool findDestination();
     [[nodiscard]] bool findTemplate();
@@ -42,7 +44,7 @@ private:
     /** Prints what was made. */
     [[nodiscard]] int report(const CreationResult &result, bool isThere) const;
     /** Says it on standard error, remembers it and its status for the end. False, for whoever has to stop then. */
-    bool fail(int status, const QString &problem);
+    bool fail(int status, const QString &problem, const char *code = nullptr);
     bool fail(const platform::Outcome &failure, const QString &problem);
     /** The status of what was refused before anything was made. */
     int refused();
@@ -57,6 +59,8 @@ private:
     QString m_templateName;
     QString m_location;
     ProjectRequest m_request;
+    QList<std::pair<QString, QString>> m_values; ///< by title, of --values
     QStringList m_problems;
+    QString m_code; ///< of the first problem, for programs
     int m_status = 0;
 };

@@ -4,6 +4,7 @@
 #include "commands/PlanOutput.h"
 #include "commands/TerminalOutput.h"
 #include "creation/ProjectBatch.h"
+#include "creation/ProjectJson.h"
 #include "parameters/ParameterStore.h"
 #include "platform/base/Console.h"
 #include "platform/base/Interruption.h"
@@ -46,7 +47,7 @@ QString shown(const ProjectBatch &batch, qsizetype row, const CellProblem &probl
 int CreateCommand::runTable()
 {
     ProjectBatch batch;
-    if (!findTemplate() || !findDestination() || !readBatch(batch))
+    if (!readValues() || !findTemplate() || !findDestination() || !readBatch(batch))
         return m_status;
     complainAbout(batch);
     const bool mayGoOn = m_invocation.has("--go-on");
@@ -142,6 +143,8 @@ void CreateCommand::createAll(const ProjectBatch &batch)
         if (!isJson)
             print(manifest.project + u'\n');
     }
+    if (!result.told.ok())
+        fail(result.told, Text::tr("The program that is told of new projects has failed"));
     if (result.takenBack) {
         fail(result.stopped ? ExitStatus::stopped : ExitStatus::failed,
              Text::tr("What had been created was moved to the Trash. --go-on keeps what can be made."));

@@ -1,4 +1,4 @@
-// help, --version, the manual page and the shells' completion: all of them from the table of verbs.
+// help, --version and the manual page, from the table of verbs.
 #include "commands/CommandLine.h"
 #include "commands/Commands.h"
 #include "commands/TerminalOutput.h"
@@ -72,6 +72,8 @@ QString wholeHelp()
     QString text = Text::tr("Tessaro starts media and production projects from templates.") + QStringLiteral("\n\n");
     text += entry(QStringLiteral("Tessaro"), Text::tr("Opens the window."), 2);
     text += entry(QStringLiteral("Tessaro FILE.tzt..."), Text::tr("Takes the templates in and shows them."), 2);
+    for (const WindowWord &word : windowWords())
+        text += entry(QStringLiteral("Tessaro %1 FOLDER").arg(QLatin1String(word.word)), Text::tr(word.help), 2);
     text += u'\n';
     for (const Verb &verb : verbs()) {
         const QString term = *verb.arguments ? verb.name() + u' ' + QLatin1String(verb.arguments) : verb.name();
@@ -86,108 +88,6 @@ QString roff(QString text)
 {
     text.replace(u'\\', QStringLiteral("\\e")).replace(u'-', QStringLiteral("\\-"));
     return text.startsWith(u'.') || text.startsWith(u'\'') ? QStringLiteral("\\&") + text : text;
-}
-
-QString quoted(QString text)
-{
-    return u'\'' + text.replace(u'\'', QStringLiteral("'\\''")) + u'\'';
-}
-
-/// The verbs' words by what stands before them: "" gives the first words, "template" those behind it.
-QMap<QString, QStringList> nextWords()
-{
-    QMap<QString, QStringList> next;
-    for (const Verb &verb : verbs()) {
-        QString before;
-        for (const QString &word : verb.name().split(u' ')) {
-            if (!next[before].contains(word))
-                next[before].append(word);
-            before = before.isEmpty() ? word : before + u' ' + word;
-        }
-        for (const Option &option : verb.options)
-            next[verb.name()].append(QLatin1String(option.name));
-    }
-    return next;
-}
-
-QString wantsFolder(Completes completes)
-{
-    return completes == Completes::Folder ? QStringLiteral("-d") : QStringLiteral("-f");
-}
-
-/// What follows an option that takes a file or folder, whichever verb it belongs to.
-QMap<QString, QString> fileOptions()
-{
-    QMap<QString, QString> found;
-    for (const Verb &verb : verbs()) {
-        for (const Option &option : verb.options) {
-            if (option.completes != Completes::Nothing)
-                found.insert(QLatin1String(option.name), wantsFolder(option.completes));
-        }
-    }
-    return found;
-}
-
-QString bashCompletion()
-{
-    QString script = QStringLiteral("# Completion of Tessaro for bash. Made by: Tessaro completion bash\n"
-                                    "_tessaro() {\n"
-                                    "    local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD-1]}\n"
-                                    "    case $previous in\n");
-    const auto options = fileOptions();
-    for (auto option = options.cbegin(); option != options.cend(); ++option)
-        script += QStringLiteral(
-                      "    %1) compopt -o filenames; mapfile -t COMPREPLY < <(compgen %2 -- \"$current\"); return ;;\n")
-                      .arg(option.key(), option.value());
-    script += QStringLiteral("    esac\n"
-                             "    local words=${COMP_WORDS[1]}\n"
-                             "    [ \"$COMP_CWORD\" -gt 2 ] && words+=\" ${COMP_WORDS[2]}\"\n"
-                             "    [ \"$COMP_CWORD\" -le 1 ] && words=\n"
-                             "    case $words in\n");
-    const auto next = nextWords();
-    for (auto words = next.cbegin(); words != next.cend(); ++words)
-        script += QStringLiteral("    %1) mapfile -t COMPREPLY < <(compgen -W %2 -- \"$current\") ;;\n")
-                      .arg(words.key().isEmpty() ? QStringLiteral("''") : quoted(words.key()),
-                           quoted(words.value().join(u' ')));
-    return script +
-           QStringLiteral("    esac\n"
-                          "    if [ ${#COMPREPLY[@]} -eq 0 ]; then\n"
-                          "        compopt -o filenames; mapfile -t COMPREPLY < <(compgen -f -- \"$current\")\n"
-                          "    fi\n"
-                          "}\n"
-                          "complete -F _tessaro Tessaro tessaro\n");
-}
-
-QString zshCompletion()
-{
-    return QStringLiteral("#compdef Tessaro tessaro\n"
-                          "# Completion of Tessaro for zsh. Made by: Tessaro completion zsh\n"
-                          "autoload -U +X bashcompinit && bashcompinit\n") +
-           bashCompletion();
-}
-
-QString fishCompletion()
-{
-    QString script = QStringLiteral("# Completion of Tessaro for fish. Made by: Tessaro completion fish\n");
-    for (const char *program : {"Tessaro", "tessaro"}) {
-        for (const Verb &verb : verbs()) {
-            if (!verb.help)
-                continue;
-            const QStringList words = verb.name().split(u' ');
-            const QString seen = words.size() == 1 ? QStringLiteral("__fish_use_subcommand")
-                                                   : QStringLiteral("__fish_seen_subcommand_from ") + words[0];
-            script +=
-                QStringLiteral("complete -c %1 -n %2 -a %3 -d %4\n")
-                    .arg(QLatin1String(program), quoted(seen), quoted(words.constLast()), quoted(Text::tr(verb.help)));
-            for (const Option &option : verb.options)
-                script += QStringLiteral("complete -c %1 -n %2 -l %3%4 -d %5\n")
-                              .arg(QLatin1String(program),
-                                   quoted(QStringLiteral("__fish_seen_subcommand_from ") + words.constLast()),
-                                   QLatin1String(option.name).mid(2),
-                                   option.argument ? QStringLiteral(" -r") : QString(), quoted(Text::tr(option.help)));
-        }
-    }
-    return script;
 }
 
 } // namespace
@@ -245,16 +145,5 @@ int commands::printManualPage(const Invocation &)
             page += QStringLiteral(".TP\n.B %1\n%2\n").arg(roff(termOf(option)), roff(Text::tr(option.help)));
     }
     print(page + QStringLiteral(".SH EXIT STATUS\n%1\n").arg(roff(exitStatusText())));
-    return ExitStatus::done;
-}
-
-int commands::printCompletion(const Invocation &invocation)
-{
-    const QHash<QString, QString (*)()> shells{
-        {"bash", bashCompletion}, {"zsh", zshCompletion}, {"fish", fishCompletion}};
-    const auto shell = shells.constFind(invocation.argument(0));
-    if (shell == shells.cend())
-        return complain(ExitStatus::wrongUsage, Text::tr("There is completion for bash, zsh and fish."));
-    print((*shell)());
     return ExitStatus::done;
 }

@@ -7,6 +7,7 @@
 #include "platform/base/Interruption.h"
 #include "platform/base/MainThread.h"
 #include "platform/base/NativePath.h"
+#include "support/JsonPaths.h"
 #include "support/LongWork.h"
 
 #include <QCoreApplication>
@@ -27,11 +28,11 @@ bool isAtItsPlace(const Manifest &manifest)
 
 QJsonObject asObject(const Manifest &manifest)
 {
-    return {{"path", platform::forDisplay(manifest.project)},
-            {"name", platform::forDisplay(manifest.name())},
-            {"template", platform::forDisplay(manifest.templateName)},
-            {"made", manifest.made.toString(Qt::ISODate)},
-            {"isThere", isAtItsPlace(manifest)}};
+    QJsonObject object{{"made", manifest.made.toString(Qt::ISODate)}, {"isThere", isAtItsPlace(manifest)}};
+    insertPath(object, QStringLiteral("path"), manifest.project);
+    insertPath(object, QStringLiteral("name"), manifest.name());
+    insertPath(object, QStringLiteral("template"), manifest.templateName);
+    return object;
 }
 
 /// The latest project of that path or that name; without a word, the latest of all.

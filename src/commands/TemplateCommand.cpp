@@ -4,6 +4,7 @@
 #include "commands/TerminalOutput.h"
 #include "commands/TreeDrawing.h"
 #include "platform/base/NativePath.h"
+#include "support/JsonPaths.h"
 #include "support/Settings.h"
 #include "support/VTFileManager.h"
 #include "templates/EditingGuard.h"
@@ -63,7 +64,8 @@ QJsonArray asJson(const TemplateNodes &nodes)
 {
     QJsonArray list;
     for (const auto &node : nodes) {
-        QJsonObject entry{{"name", platform::forDisplay(node->name())}, {"folder", node->isFolderItem()}};
+        QJsonObject entry{{"folder", node->isFolderItem()}};
+        insertPath(entry, QStringLiteral("name"), node->name());
         if (const char *label = VTFileManager::labelKey(node->colorIndex() & labelMask))
             entry.insert("label", QLatin1String(label));
         if (node->isFolderItem())
@@ -93,8 +95,9 @@ int commands::listTemplates(const Invocation &invocation)
     QJsonArray list;
     QString lines;
     for (const QString &name : names.valueOr({})) {
-        list.append(
-            QJsonObject{{"name", platform::forDisplay(name)}, {"default", name == marked}, {"next", name == next}});
+        QJsonObject entry{{"default", name == marked}, {"next", name == next}};
+        insertPath(entry, QStringLiteral("name"), name);
+        list.append(entry);
         lines += (name == marked ? QStringLiteral("* ") : QStringLiteral("  ")) + name + u'\n';
     }
     if (invocation.has("--json"))
@@ -175,7 +178,9 @@ int commands::showTemplate(const Invocation &invocation)
         return complain(ExitStatus::failed, Text::tr("The template has no folder “Files”: %1").arg(files));
     const ReadNodes read = readNodes(files);
     if (invocation.has("--json")) {
-        print(QJsonObject{{"name", platform::forDisplay(name)}, {"items", asJson(read.nodes)}});
+        QJsonObject object{{"items", asJson(read.nodes)}};
+        insertPath(object, QStringLiteral("name"), name);
+        print(object);
     } else {
         QList<DrawnItem> items;
         addDrawn(read.nodes, 0, items);

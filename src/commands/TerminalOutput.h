@@ -15,6 +15,12 @@ void print(const QJsonArray &list);
 /** In one line. */
 void printLine(const QJsonObject &object);
 
+/** From now on what goes wrong is told to programs, too: a command that fails and prints nothing else prints an object
+   with the status and a list of errors, each with a code that never changes. */
+void tellErrorsAsJson();
+/** The code of what has no cause of its own: "failed", "invalid", "declined", "cancelled". */
+[[nodiscard]] const char *codeOfStatus(int status);
+
 /** One sentence on standard error; returns the status. */
 int complain(int status, const QString &sentence);
 /** The failure on standard error, the sentence first, where there is one; returns the status of its cause. */

@@ -1,6 +1,7 @@
 #include "commands/TerminalPresenter.h"
 
-#include "platform/base/Console.h"
+#include "commands/CommandLine.h"
+#include "commands/TerminalOutput.h"
 #include "support/VTAlert.h"
 
 void TerminalPresenter::present(const Sheet &sheet, std::function<void(int)> answer)
@@ -8,8 +9,9 @@ void TerminalPresenter::present(const Sheet &sheet, std::function<void(int)> ans
     const bool isQuestion = !sheet.alternateButton.isNull();
     if (!isQuestion) {
         m_hasComplained = true;
-        const QString informative = sheet.informativeText.isEmpty() ? QString() : sheet.informativeText + u'\n';
-        platform::writeToStandardError(sheet.messageText + u'\n' + informative);
+        complain(ExitStatus::failed, sheet.informativeText.isEmpty()
+                                         ? sheet.messageText
+                                         : sheet.messageText + u'\n' + sheet.informativeText);
     }
     // Of three answers the second may be the worst: the question itself knows which one loses nothing.
     const int other = sheet.safeAnswer.value_or(VTAlert::alternateReturn);

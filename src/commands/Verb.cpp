@@ -7,20 +7,32 @@ namespace {
 constexpr Option json[] = {{"--json", nullptr, QT_TRANSLATE_NOOP("Commands", "print JSON")}};
 constexpr Option yes[] = {{"--yes", nullptr, QT_TRANSLATE_NOOP("Commands", "without it nothing is done")}};
 constexpr Option createOptions[] = {
-    {"--template", "NAME", QT_TRANSLATE_NOOP("Commands", "the template; else the one that the window would choose")},
+    {"--template", "NAME", QT_TRANSLATE_NOOP("Commands", "the template; else the one that the window would choose"),
+     false, Completes::Template},
     {"--in", "FOLDER",
      QT_TRANSLATE_NOOP("Commands", "the folder to create it in; else the fixed project location, when that is on"),
      false, Completes::Folder},
     {"--set", "TITLE=VALUE",
-     QT_TRANSLATE_NOOP("Commands", "a parameter's value, as if typed into its row; may be repeated"), true},
+     QT_TRANSLATE_NOOP("Commands", "a parameter's value, as if typed into its row; may be repeated"), true,
+     Completes::Value},
+    {"--values", "FILE",
+     QT_TRANSLATE_NOOP("Commands", "values as a JSON object from titles to values; - is standard input"), false,
+     Completes::File},
+    {"--ask", nullptr, QT_TRANSLATE_NOOP("Commands", "ask at the terminal for what is required and missing")},
     {"--from", "FILE",
      QT_TRANSLATE_NOOP("Commands", "a project for each row of a table (CSV; - is standard input), all or none"), false,
      Completes::File},
     {"--go-on", nullptr, QT_TRANSLATE_NOOP("Commands", "with --from: leave out rows with problems, make the others")},
     {"--overwrite", nullptr, QT_TRANSLATE_NOOP("Commands", "move an existing project of the name to the Trash first")},
     {"--many", nullptr, QT_TRANSLATE_NOOP("Commands", "make more than 10,000 items of repeats without a question")},
+    {"--no-remember", nullptr,
+     QT_TRANSLATE_NOOP("Commands", "leave values and counters out of the settings: nothing is remembered or counted")},
     {"--dry-run", nullptr, QT_TRANSLATE_NOOP("Commands", "print what would be made and change nothing")},
     {"--json", nullptr, QT_TRANSLATE_NOOP("Commands", "print one JSON object in place of the path")}};
+constexpr Option checkOptions[] = {
+    {"--template", "NAME", QT_TRANSLATE_NOOP("Commands", "what a project that is not remembered is compared with"),
+     false, Completes::Template},
+    {"--json", nullptr, QT_TRANSLATE_NOOP("Commands", "print JSON")}};
 constexpr Option defaultOptions[] = {{"--unset", nullptr, QT_TRANSLATE_NOOP("Commands", "take the mark away")}};
 constexpr Option structureOptions[] = {{"--from", "FOLDER",
                                         QT_TRANSLATE_NOOP("Commands", "the folder whose folders are made"), false,
@@ -43,6 +55,17 @@ constexpr Verb table[] = {
      .help = QT_TRANSLATE_NOOP("Commands", "Makes a project and prints its path."),
      .run = commands::create,
      .options = createOptions},
+    {.words = "check",
+     .arguments = "[FOLDER]",
+     .least = 0,
+     .most = 1,
+     .help = QT_TRANSLATE_NOOP("Commands",
+                               "Looks whether all that the creation made still stands in a project (the latest, or the "
+                               "one in that folder), and names what is missing. Changes nothing."),
+     .run = commands::check,
+     .options = checkOptions,
+     .logged = Logged::No,
+     .completes = Completes::Folder},
     {.words = "clean-up",
      .arguments = "",
      .help = QT_TRANSLATE_NOOP(
@@ -84,13 +107,15 @@ constexpr Verb table[] = {
      .most = 1,
      .help = QT_TRANSLATE_NOOP("Commands", "Copies a template under the next free name."),
      .run = commands::duplicateTemplate,
-     .guard = Guard::Editing},
+     .guard = Guard::Editing,
+     .completes = Completes::Template},
     {.words = "template rename",
      .arguments = "OLD NEW",
      .least = 2,
      .most = 2,
      .help = QT_TRANSLATE_NOOP("Commands", "Gives a template another name."),
-     .run = commands::renameTemplate},
+     .run = commands::renameTemplate,
+     .completes = Completes::Template},
     {.words = "template remove",
      .arguments = "NAME",
      .least = 1,
@@ -98,14 +123,16 @@ constexpr Verb table[] = {
      .help = QT_TRANSLATE_NOOP("Commands", "Moves a template to the Trash."),
      .run = commands::removeTemplate,
      .options = yes,
-     .guard = Guard::Editing},
+     .guard = Guard::Editing,
+     .completes = Completes::Template},
     {.words = "template default",
      .arguments = "[NAME]",
      .least = 0,
      .most = 1,
      .help = QT_TRANSLATE_NOOP("Commands", "Marks the default template, or prints it."),
      .run = commands::defaultTemplate,
-     .options = defaultOptions},
+     .options = defaultOptions,
+     .completes = Completes::Template},
     {.words = "template show",
      .arguments = "NAME",
      .least = 1,
@@ -113,7 +140,8 @@ constexpr Verb table[] = {
      .help = QT_TRANSLATE_NOOP("Commands", "Prints a template's tree."),
      .run = commands::showTemplate,
      .options = json,
-     .logged = Logged::No},
+     .logged = Logged::No,
+     .completes = Completes::Template},
     {.words = "template rules",
      .arguments = "NAME",
      .least = 1,
@@ -122,7 +150,8 @@ constexpr Verb table[] = {
                                "Prints a template's rules as JSON, or takes them from a file; --gone removes those "
                                "whose item is not there any more."),
      .run = commands::templateRules,
-     .options = rulesOptions},
+     .options = rulesOptions,
+     .completes = Completes::Template},
     {.words = "template import",
      .arguments = "PATH...",
      .least = 1,
@@ -137,7 +166,8 @@ constexpr Verb table[] = {
      .least = 1,
      .most = 2,
      .help = QT_TRANSLATE_NOOP("Commands", "Writes a template as one archive, NAME.tzt.zip, and prints its path."),
-     .run = commands::exportTemplate},
+     .run = commands::exportTemplate,
+     .completes = Completes::Template},
     {.words = "template structure",
      .arguments = "NAME",
      .least = 1,
@@ -145,7 +175,8 @@ constexpr Verb table[] = {
      .help = QT_TRANSLATE_NOOP("Commands", "Makes a folder's folders in the template, without files."),
      .run = commands::importStructure,
      .options = structureOptions,
-     .guard = Guard::Editing},
+     .guard = Guard::Editing,
+     .completes = Completes::Template},
     {.words = "template restore",
      .arguments = "",
      .help =
@@ -178,6 +209,7 @@ constexpr Verb table[] = {
                      "several, in-name."),
      .run = commands::setParameter,
      .guard = Guard::Preferences,
+     .completes = Completes::Title,
      .valueAt = 2},
     {.words = "parameters move",
      .arguments = "TITLE POSITION",
@@ -185,7 +217,8 @@ constexpr Verb table[] = {
      .most = 2,
      .help = QT_TRANSLATE_NOOP("Commands", "Moves a parameter to a position, counted from 1."),
      .run = commands::moveParameter,
-     .guard = Guard::Preferences},
+     .guard = Guard::Preferences,
+     .completes = Completes::Title},
     {.words = "parameters remove",
      .arguments = "TITLE",
      .least = 1,
@@ -193,7 +226,8 @@ constexpr Verb table[] = {
      .help = QT_TRANSLATE_NOOP("Commands", "Removes a parameter. This cannot be undone."),
      .run = commands::removeParameter,
      .options = yes,
-     .guard = Guard::Preferences},
+     .guard = Guard::Preferences,
+     .completes = Completes::Title},
     {.words = "parameters export",
      .arguments = "FILE",
      .least = 1,
@@ -278,6 +312,12 @@ constexpr Verb table[] = {
      .run = commands::printCompletion,
      .guard = Guard::None,
      .logged = Logged::No},
+    {.words = "complete",
+     .arguments = "templates|titles|values [TITLE]",
+     .least = 1,
+     .most = 2,
+     .run = commands::printWords,
+     .logged = Logged::No},
     {.words = "manual-page",
      .arguments = "",
      .help = QT_TRANSLATE_NOOP("Commands", "Prints the manual page, for man(1)."),
@@ -294,7 +334,18 @@ constexpr Verb table[] = {
      .logged = Logged::No},
 };
 
+constexpr WindowWord forTheWindow[] = {
+    {"--new-project-here", "new-project-here",
+     QT_TRANSLATE_NOOP("Commands", "Opens the window; the next project goes into the folder.")},
+    {"--check-project", "check-project",
+     QT_TRANSLATE_NOOP("Commands", "Opens the window, which says whether the project in the folder is complete.")}};
+
 } // namespace
+
+std::span<const WindowWord> windowWords()
+{
+    return forTheWindow;
+}
 
 std::span<const Verb> verbs()
 {

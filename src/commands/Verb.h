@@ -9,7 +9,14 @@ class TerminalPresenter;
 class Invocation;
 
 /** What a word of the command line is, for the shells that complete it. */
-enum class Completes { Nothing, File, Folder };
+enum class Completes {
+    Nothing,
+    File,
+    Folder,
+    Template, ///< a template's name
+    Title,    ///< a parameter's
+    Value,    ///< TITLE=VALUE
+};
 
 /** An option of a verb. */
 struct Option
@@ -58,6 +65,15 @@ struct Verb
     [[nodiscard]] const Option *option(const QString &name) const;
 };
 
+/** A word with which the window is started to do something with a folder. */
+struct WindowWord
+{
+    const char *word;   ///< "--new-project-here"
+    const char *action; ///< "new-project-here"
+    const char *help;   ///< in the context "Commands"
+};
+[[nodiscard]] std::span<const WindowWord> windowWords();
+
 /** All of them, in the order in which they are explained. */
 [[nodiscard]] std::span<const Verb> verbs();
 
@@ -67,7 +83,9 @@ class Invocation
 public:
     const Verb *verb = nullptr; ///< null: the window
     QStringList arguments;
-    QStringList files; ///< for the window
+    QStringList files;   ///< for the window
+    QString action;      ///< what the window is to do: an identifier of the shortcut keys' list, or of windowWords()
+    QString actionValue; ///< the folder that it is about; null without one
 
     [[nodiscard]] bool has(const char *option) const { return m_options.contains(QLatin1String(option)); }
     /** The option's value, the last one given; null without it. */

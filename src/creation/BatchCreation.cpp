@@ -1,5 +1,7 @@
 #include "creation/BatchCreation.h"
 
+#include "creation/AfterCreation.h"
+
 #include "platform/base/MainThread.h"
 #include "platform/files/FileSystem.h"
 #include "support/LongWork.h"
@@ -34,6 +36,7 @@ BatchResult BatchCreation::run(const ProjectBatch &batch,
     BatchResult result;
     QuietHost quiet;
     const QString name = VTLocalPaths::uuid();
+    QList<CreationResult> all;
     VTLog::appendLog("Creating %ld projects from a table", batch.rows().size());
     m_host.startProcessing();
     {
@@ -54,11 +57,15 @@ BatchResult BatchCreation::run(const ProjectBatch &batch,
                 result.made.append(made.manifest);
             else if (!made.cancelled && !made.stopped && !made.refused)
                 m_notRemembered.append(made.request.destination());
+            if (!made.cancelled && !made.stopped && !made.refused)
+                all.append(made);
             done(row, made);
         }
         if (m_manner == BatchManner::AllOrNone && (result.failed > 0 || result.stopped))
             takeBack(result);
     }
+    if (!result.takenBack)
+        tellProgram(all, result);
     pruneHistory();
     m_host.incrementDynamicValues();
     if (!result.made.isEmpty())
@@ -67,6 +74,16 @@ BatchResult BatchCreation::run(const ProjectBatch &batch,
         m_host.quitIfWanted();
     m_host.finishProcessing();
     return result;
+}
+
+/// Of each project, when it is certain that it stays; when the program has failed once, of no other.
+void BatchCreation::tellProgram(const QList<CreationResult> &made, BatchResult &result)
+{
+    for (const CreationResult &one : made) {
+        result.told = tellOfProject(one);
+        if (!result.told.ok())
+            return;
+    }
 }
 
 void BatchCreation::takeBack(BatchResult &result)

@@ -18,6 +18,7 @@ struct BatchResult
     bool stopped = false;   ///< by the user
     bool takenBack = false; ///< nothing of it was to stay
     QList<KeptItem> kept{}; ///< of what was taken back: what stays all the same
+    platform::Outcome told; ///< of the program that is told of new projects
 };
 
 /**
@@ -39,6 +40,7 @@ public:
     [[nodiscard]] std::atomic<bool> &stop() { return m_monitor.cancelled; }
 
 private:
+    void tellProgram(const QList<CreationResult> &made, BatchResult &result);
     void takeBack(BatchResult &result);
 
     CreationHost &m_host;

@@ -1,5 +1,7 @@
 #include "creation/ProjectCreation.h"
 
+#include "creation/AfterCreation.h"
+
 #include "parameters/ParameterStore.h"
 #include "platform/base/MainThread.h"
 #include "platform/base/NativePath.h"
@@ -67,6 +69,8 @@ CreationResult ProjectCreation::createProject(const ProjectRequest &request)
     m_host.reveal(destination);
     VTLog::appendLog("Incrementing dynamic values");
     m_host.incrementDynamicValues();
+    if (isAlone())
+        tellProgram();
     m_host.quitIfWanted();
     VTLog::appendLog("Template created successfully");
     m_host.finishProcessing();
@@ -112,6 +116,14 @@ bool ProjectCreation::build()
     return true;
 }
 
+/// Whatever becomes of the program, the project stands.
+void ProjectCreation::tellProgram()
+{
+    if (const Outcome told = tellOfProject(m_result); !told.ok())
+        tell(Text::tr("The program that is told of new projects has failed"),
+             withCause(Text::tr("The project was created; nothing was undone."), told));
+}
+
 void ProjectCreation::takeBack()
 {
     m_result.stopped = true;
@@ -119,7 +131,7 @@ void ProjectCreation::takeBack()
     if (m_note && !taken.ok())
         m_note->leaveSomethingBehind();
     m_note.reset();
-    if (taken.ok()) { // what is left of a project keeps its number
+    if (taken.ok() && m_result.request.isRemembered) { // what is left of a project keeps its number
         const auto giveBack = [&](FilenameParameters list) -> platform::Result<FilenameParameters> {
             return withNumbersReturned(std::move(list), m_result.request);
         };
@@ -157,8 +169,14 @@ void ProjectCreation::remember()
     const auto identity = platform::identityOf(request.destination());
     if (!identity)
         return;
-    m_result.manifest = {{},        request.destination(), request.templateName, QDateTime::currentDateTime(),
-                         *identity, request.parameters,    m_levelsMade,         m_oldInTrash,
+    m_result.manifest = {{},
+                         request.destination(),
+                         request.templateName,
+                         QDateTime::currentDateTime(),
+                         *identity,
+                         request.isRemembered ? request.parameters : FilenameParameters(),
+                         m_levelsMade,
+                         m_oldInTrash,
                          m_batch};
     const Outcome kept = platform::resultInBackground([&] { return ::remember(m_result.manifest, m_plan.tree); });
     if (kept.ok())
@@ -216,9 +234,12 @@ Outcome ProjectCreation::claimOnce()
                 m_note.reset();
             if (made.is(Cause::Exists) && platform::kindOf(destination) != FileKind::Missing)
                 return made;
+            if (!m_result.request.isRemembered)
+                return Outcome::failure(Cause::Declined, destination);
             return withNumbersTaken(list, m_result.request);
         });
-    m_stored = made.is(Cause::Busy) || made.is(Cause::Exists) ? Outcome() : stored;
+    const bool isWanted = m_result.request.isRemembered && !made.is(Cause::Busy) && !made.is(Cause::Exists);
+    m_stored = isWanted ? stored : Outcome();
     return made;
 }
 

@@ -98,6 +98,7 @@ private:
     void takeNextNumbers(const FilenameParameters &stored);
     [[nodiscard]] bool putAwayExisting(const QString &destination);
     [[nodiscard]] bool build();
+    void tellProgram();
     void takeBack();
     void bringBackOld();
     void remember();

@@ -22,6 +22,7 @@ struct ProjectRequest
     TemplateRulesPtr rules{}; ///< of the template; null: none
     QString dateFormat{};     ///< in which the values' dates are
     std::time_t moment = 0;   ///< when it was asked for
+    bool isRemembered = true; ///< its values and numbers go into the settings
 
     /** The folder levels, outermost first; empty when no parameter has a value. */
     [[nodiscard]] QStringList levels() const;

@@ -1,5 +1,6 @@
 #include "support/AdministratorQuestion.h"
 
+#include "platform/desktop/DesktopPanels.h"
 #include "support/VTAlert.h"
 #include "support/VTAuthorization.h"
 
@@ -21,7 +22,10 @@ bool administratorAgrees(QWidget *window)
         return true;
     if (!authorization.wasDismissed())
         VTAlert::show({Text::tr("This needs an administrator’s password"),
-                       Text::tr("None was accepted, or this desktop has no service running that asks for one.")},
+                       platform::isSandboxed()
+                           ? Text::tr("Inside the Flatpak there are no administrator rights. Tessaro’s other packages "
+                                      "have them.")
+                           : Text::tr("None was accepted, or this desktop has no service running that asks for one.")},
                       window);
     return false;
 }

@@ -40,6 +40,11 @@ QVariant on()
     return 1LL;
 }
 
+QVariant minute()
+{
+    return 60LL;
+}
+
 QVariant yes()
 {
     return true;
@@ -131,6 +136,27 @@ Result<QVariant> dateFormatFrom(const QString &typed)
     return refused({});
 }
 
+Result<QVariant> programFrom(const QString &typed)
+{
+    const QString path = typed.trimmed();
+    if (path.isEmpty())
+        return QVariant(path);
+    if (path.startsWith(u'/') && platform::isExecutableFile(path))
+        return QVariant(path);
+    return refused(Text::tr("Please type the whole path of a program that may be run."));
+}
+
+constexpr qlonglong longestWait = 3600; // seconds
+
+Result<QVariant> secondsFrom(const QString &typed)
+{
+    bool isNumber = false;
+    const qlonglong seconds = typed.trimmed().toLongLong(&isNumber);
+    if (!isNumber || seconds < 1 || seconds > longestWait)
+        return refused(Text::tr("The value is a number of seconds, from 1 to %1.").arg(longestWait));
+    return QVariant(seconds);
+}
+
 } // namespace
 
 // What they mean to people is translated in the context "Settings".
@@ -155,6 +181,11 @@ const SwitchSetting autoQuit{{"autoQuit", Type::Switch, QT_TRANSLATE_NOOP("Setti
 const SwitchSetting autoExpandFolders{{"autoExpandFolders", Type::Switch,
                                        QT_TRANSLATE_NOOP("Settings", "show every folder of a template opened"), on,
                                        Scope::User, On::WhenOne}};
+const TextSetting afterCreation{
+    {"afterCreation", Type::Program,
+     QT_TRANSLATE_NOOP("Settings", "program that gets each new project as JSON on its standard input")}};
+const NumberSetting afterCreationSeconds{
+    {"afterCreationSeconds", Type::Seconds, QT_TRANSLATE_NOOP("Settings", "how many seconds it may take"), minute}};
 const SwitchSetting requireAdminPassword{{"requireAdminPassword", Type::Switch,
                                           QT_TRANSLATE_NOOP("Settings", "ask for a password at the start"), nullptr,
                                           Scope::Machine, On::WhenOne}};
@@ -191,6 +222,8 @@ const QList<const Setting *> &all()
                                              &autoOpenFolder,
                                              &autoQuit,
                                              &autoExpandFolders,
+                                             &afterCreation,
+                                             &afterCreationSeconds,
                                              &requireAdminPassword,
                                              &requireAdminPasswordForEditing,
                                              &requireAdminPasswordForPrefs,
@@ -285,6 +318,10 @@ Result<QVariant> checkedAs(Type type, const QString &typed)
         return separatorFrom(typed);
     case Type::DateFormat:
         return dateFormatFrom(typed);
+    case Type::Program:
+        return programFrom(typed);
+    case Type::Seconds:
+        return secondsFrom(typed);
     default:
         return QVariant(typed);
     }

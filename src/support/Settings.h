@@ -22,6 +22,8 @@ enum class Type {
     Boolean,
     Separator,  ///< between values: nothing that a folder's name cannot hold, at most ten characters
     DateFormat, ///< strftime(3)
+    Program,    ///< an executable file's whole path; empty: none
+    Seconds,    ///< whole ones, from 1 to an hour
     Number,
     Value, ///< anything else
 };
@@ -80,6 +82,8 @@ extern const SwitchSetting autoQuit;
 extern const SwitchSetting useFixedProjectLocation;
 extern const TextSetting fixedProjectLocationPath;
 extern const SwitchSetting autoExpandFolders;
+extern const TextSetting afterCreation;          ///< the program that is told of each project
+extern const NumberSetting afterCreationSeconds; ///< how long it may take
 extern const SwitchSetting firstRun;
 extern const SwitchSetting requireAdminPassword;
 extern const SwitchSetting requireAdminPasswordForEditing;

@@ -5,8 +5,8 @@
 
 class QFileDialog;
 
-/** What the program's panels leave out of the toolkit's own: the list of file types, of which there are none, and the
-   pictures on the buttons. */
+/** The desktop's own panel, where it shows any; else what the program's panels leave out of the toolkit's own: the list
+   of file types, of which there are none, and the pictures on the buttons. */
 void makePlain(QFileDialog &panel);
 
 /**

@@ -32,6 +32,7 @@ ImportPanel::ImportPanel(QWidget *parent, Takes takes, QString extension)
         setNameFilter(QStringLiteral("*.%1.zip").arg(m_extension));
     setOption(ReadOnly); // here nothing is made, renamed or removed
     setLabelText(Accept, tr("Import"));
+    setOption(DontUseNativeDialog);
     makePlain(*this); // the desktops' own panels take either files or one folder
     setDirectory(platform::leadsToFolder(lastFolder()) ? lastFolder() : platform::homeFolder());
     for (const char *name : {"listView", "treeView"}) {

@@ -1,6 +1,7 @@
 #include "ui/VTSavePanel.h"
 
 #include "platform/base/Users.h"
+#include "platform/desktop/DesktopPanels.h"
 #include "platform/files/FileSystem.h"
 #include "ui/FilePanels.h"
 
@@ -13,7 +14,8 @@ VTSavePanel::VTSavePanel(QWidget *parent)
     : QFileDialog(parent)
 {
     setFileMode(Directory);
-    setOptions(DontUseNativeDialog | ShowDirsOnly);
+    // In a sandbox only the desktop's panel hands a folder over; elsewhere ours says what will be made in it.
+    setOptions(platform::isSandboxed() ? ShowDirsOnly : DontUseNativeDialog | ShowDirsOnly);
     setWindowModality(Qt::WindowModal);
     setLabelText(Accept, tr("Create Here"));
     setLabelText(FileName, tr("Folder:"));

@@ -59,6 +59,25 @@ Result<QByteArray> readStandardInput(qint64 atMost)
     }
 }
 
+Result<QString> askAtTerminal(const QString &question)
+{
+    if (isatty(STDIN_FILENO) == 0 || isatty(STDERR_FILENO) == 0)
+        return Outcome::failure(Cause::NotSupported, {});
+    writeToStandardError(question);
+    QByteArray line;
+    for (;;) {
+        char byte = 0;
+        const ssize_t got = read(STDIN_FILENO, &byte, 1);
+        if (got < 0 && errno == EINTR)
+            continue;
+        if (got <= 0)
+            return Outcome::failure(Cause::Cancelled, {});
+        if (byte == '\n')
+            return fromNative(line);
+        line += byte;
+    }
+}
+
 int columnsOfStandardError()
 {
     winsize size{};

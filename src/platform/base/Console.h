@@ -15,6 +15,9 @@ void printToConsole(const QString &text);
 Outcome writeToStandardOutput(const QString &text);
 /** All that comes, until its end; at most so many bytes, beyond which it is a failure. Blocks. */
 [[nodiscard]] Result<QByteArray> readStandardInput(qint64 atMost);
+/** A line that somebody types at the terminal, after a question on standard error; without its end. Blocks.
+    Cause::NotSupported where standard input or error is no terminal, Cause::Cancelled when it ended (Ctrl+D). */
+[[nodiscard]] Result<QString> askAtTerminal(const QString &question);
 void writeToStandardError(const QString &text);
 /** Columns of the terminal that standard error is; 0 when it is none. */
 [[nodiscard]] int columnsOfStandardError();

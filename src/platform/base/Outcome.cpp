@@ -89,6 +89,53 @@ QString generalSentence(Cause cause)
 
 } // namespace
 
+const char *codeOf(Cause cause)
+{
+    switch (cause) {
+    case Cause::None:
+        return "done";
+    case Cause::Exists:
+        return "exists";
+    case Cause::Missing:
+        return "missing";
+    case Cause::NeedsRights:
+        return "needsRights";
+    case Cause::NoSpace:
+        return "noSpace";
+    case Cause::ReadOnly:
+        return "readOnly";
+    case Cause::NotSupported:
+        return "notSupported";
+    case Cause::NameTooLong:
+        return "nameTooLong";
+    case Cause::IntoItself:
+        return "intoItself";
+    case Cause::NotAFolder:
+        return "notAFolder";
+    case Cause::IsAFolder:
+        return "isAFolder";
+    case Cause::Busy:
+        return "busy";
+    case Cause::Unreachable:
+        return "unreachable";
+    case Cause::TimedOut:
+        return "timedOut";
+    case Cause::Cancelled:
+        return "cancelled";
+    case Cause::Declined:
+        return "declined";
+    case Cause::RightsRefused:
+        return "rightsRefused";
+    case Cause::Damaged:
+        return "damaged";
+    case Cause::Invalid:
+        return "invalid";
+    case Cause::Other:
+        break;
+    }
+    return "failed";
+}
+
 Outcome Outcome::fromNumber(int number, const QString &item)
 {
     Outcome outcome;

@@ -30,6 +30,9 @@ enum class Cause {
     Other,         ///< anything else: the sentence says it
 };
 
+/** A cause as a word that programs read: "exists", "noSpace", "failed" for Cause::Other. Never changes. */
+[[nodiscard]] const char *codeOf(Cause cause);
+
 /**
  * How an operation ended: well, or with its cause, the item it met it on, and a sentence about it. The one way to fail
  * in this program, below the operations whose results are given (a bool, a number). A plain value; must be looked at.

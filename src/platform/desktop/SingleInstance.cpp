@@ -54,9 +54,11 @@ public Q_SLOTS:
         }
         later([this, paths] { Q_EMIT m_instance.filesOpened(paths); });
     }
-    void ActivateAction(const QString &identifier, const QVariantList &, const QVariantMap &)
+    void ActivateAction(const QString &identifier, const QVariantList &parameters, const QVariantMap &)
     {
-        later([this, identifier] { Q_EMIT m_instance.actionRequested(identifier); });
+        // A path is handed over as an address, because text on the bus is UTF-8.
+        const QString value = parameters.isEmpty() ? QString() : pathOf(parameters.constFirst().toString());
+        later([this, identifier, value] { Q_EMIT m_instance.actionRequested(identifier, value); });
     }
 
 private:
@@ -68,16 +70,20 @@ private:
 
 } // namespace
 
-bool SingleInstance::handOver(const QStringList &files)
+bool SingleInstance::handOver(const Request &request)
 {
     auto bus = QDBusConnection::sessionBus();
     if (!bus.isConnected() || !bus.interface()->isServiceRegistered(serviceName))
         return false;
-    QDBusMessage call = QDBusMessage::createMethodCall(
-        serviceName, objectPath, interfaceName, files.isEmpty() ? QStringLiteral("Activate") : QStringLiteral("Open"));
-    if (!files.isEmpty()) {
+    const QString method = !request.action.isEmpty()  ? QStringLiteral("ActivateAction")
+                           : !request.files.isEmpty() ? QStringLiteral("Open")
+                                                      : QStringLiteral("Activate");
+    QDBusMessage call = QDBusMessage::createMethodCall(serviceName, objectPath, interfaceName, method);
+    if (!request.action.isEmpty()) {
+        call << request.action << (request.value.isNull() ? QVariantList() : QVariantList{fileAddress(request.value)});
+    } else if (!request.files.isEmpty()) {
         QStringList addresses;
-        for (const QString &file : files)
+        for (const QString &file : request.files)
             addresses.append(fileAddress(file));
         call << addresses;
     }

@@ -15,9 +15,16 @@ class SingleInstance : public QObject
     Q_OBJECT
 
 public:
-    /** Hands the files (absolute paths; none: just come to the front) to the instance that runs. False when there is
-       none or it does not answer within three seconds. */
-    [[nodiscard]] static bool handOver(const QStringList &files);
+    /** What a start was asked to do: files to open (absolute paths), or an action with the folder that it is about;
+       with neither the window just comes to the front. */
+    struct Request
+    {
+        QStringList files{};
+        QString action{};
+        QString value{}; ///< null without one
+    };
+    /** Hands it to the instance that runs. False when there is none or it does not answer within three seconds. */
+    [[nodiscard]] static bool handOver(const Request &request);
 
     /** Takes the name, where it is free. */
     explicit SingleInstance(QObject *parent = nullptr);
@@ -26,7 +33,8 @@ public:
 Q_SIGNALS:
     void activated();
     void filesOpened(const QStringList &paths);
-    void actionRequested(const QString &identifier);
+    /** The value is null without one. */
+    void actionRequested(const QString &identifier, const QString &value);
 };
 
 } // namespace platform

@@ -2,6 +2,7 @@
 
 #include "platform/base/NativePath.h"
 #include "platform/plain/StartedThread.h"
+#include "platform/plain/WholeWrite.h"
 #include "platform/process/SpawnSettings.h"
 
 #include <array>
@@ -10,6 +11,7 @@
 #include <fcntl.h>
 #include <poll.h>
 #include <spawn.h>
+#include <sys/mman.h>
 #include <sys/wait.h>
 #include <thread>
 #include <unistd.h>
@@ -41,6 +43,16 @@ bool openPipe(Pipe &pipe)
     return true;
 }
 
+/// A file without a name that holds the bytes, to be read from the first on.
+UniqueDescriptor inMemory(const QByteArray &bytes)
+{
+    UniqueDescriptor file(memfd_create("input", MFD_CLOEXEC));
+    const bool isWritten = file.isOpen() &&
+                           writeWhole(file.get(), bytes.constData(), static_cast<std::size_t>(bytes.size())) &&
+                           lseek(file.get(), 0, SEEK_SET) == 0;
+    return isWritten ? std::move(file) : UniqueDescriptor();
+}
+
 void connect(SpawnSettings &settings, const Pipe &pipe, int descriptor)
 {
     if (pipe.writing.isOpen())
@@ -65,7 +77,7 @@ ChildProcess::~ChildProcess()
         thread.detach();
 }
 
-Outcome ChildProcess::start(Output output, ErrorOutput errorOutput)
+Outcome ChildProcess::start(Output output, ErrorOutput errorOutput, const QByteArray &input)
 {
     Pipe out;
     Pipe error;
@@ -78,7 +90,13 @@ Outcome ChildProcess::start(Output output, ErrorOutput errorOutput)
     std::vector<char *> pointers = pointersTo(words);
 
     SpawnSettings settings;
-    posix_spawn_file_actions_addopen(&settings.files, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
+    UniqueDescriptor in;
+    if (input.isEmpty())
+        posix_spawn_file_actions_addopen(&settings.files, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
+    else if (in = inMemory(input); in.isOpen())
+        posix_spawn_file_actions_adddup2(&settings.files, in.get(), STDIN_FILENO);
+    else
+        return Outcome::fromErrno(m_tool);
     connect(settings, out, STDOUT_FILENO);
     connect(settings, error, STDERR_FILENO);
     pid_t pid = -1;

@@ -34,8 +34,9 @@ public:
 
     [[nodiscard]] QString tool() const { return m_tool; }
 
-    /** Standard input reads as empty. The item of a failure is the tool. */
-    Outcome start(Output output, ErrorOutput errorOutput);
+    /** Standard input reads as the bytes given, and then ends; they lie in memory, so that a child that reads none of
+       them holds up nobody. The item of a failure is the tool. */
+    Outcome start(Output output, ErrorOutput errorOutput, const QByteArray &input = {});
 
     /**
      * Blocks for the next bytes; empty at the end: the end of the stream, or the child is gone and what it left behind
