@@ -1,6 +1,7 @@
 // The window, in a program of its own that Tessaro becomes when it is started without a verb: a command does without
 // the toolkit that it brings along. Puts the parts together as main.cpp does.
 #include "app/MainWindow.h"
+#include "app/ManualWindow.h"
 #include "app/TessaroAppDelegate.h"
 #include "commands/CommandLine.h"
 #include "commands/ProgramStart.h"
@@ -48,6 +49,7 @@ int runWindow(int &argc, char **argv, const platform::SingleInstance::Request &r
     platform::SingleInstance instance;
     fonts.finish();
     keepPlaceholdersReadable();
+    openManualByKey();
     SheetPresenter sheets;
     VTAlert::setPresenter(&sheets);
     int status = ExitStatus::done;

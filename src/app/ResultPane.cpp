@@ -45,6 +45,7 @@ ResultPane::ResultPane(QWidget *parent)
     , m_view(new QTreeView(this))
 {
     auto *layout = new QVBoxLayout(this);
+    setProperty("manualChapter", "result");
     layout->setContentsMargins({});
     layout->setSpacing(rowPadding);
     m_place = lineIn(*layout, *this, "resultPlace");

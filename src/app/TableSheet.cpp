@@ -135,6 +135,7 @@ TableSheet::TableSheet(BatchBase base, const QString &location, QWidget *parent)
 {
     setWindowTitle(tr("Create From Table"));
     setWindowModality(Qt::WindowModal);
+    setProperty("manualChapter", "many");
     build();
     connect(&m_model, &BatchModel::tableEdited, this, &TableSheet::look);
     connect(m_view->selectionModel(), &QItemSelectionModel::currentRowChanged, this, &TableSheet::showTree);

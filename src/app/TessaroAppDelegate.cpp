@@ -2,6 +2,7 @@
 #include "app/TessaroAppDelegate.h"
 
 #include "app/MainWindow.h"
+#include "app/StudioFollower.h"
 #include "creation/Unfinished.h"
 #include "diagnostics/VTBugReporter.h"
 #include "diagnostics/VTSoftwareUpdate.h"
@@ -24,6 +25,7 @@
 #include "templates/TemplateChoice.h"
 #include "templates/VTDataController.h"
 #include "templates/editor/TemplatePane.h"
+#include "templates/editor/VTTemplateTableController.h"
 
 #include <QApplication>
 #include <QTimer>
@@ -82,6 +84,10 @@ bool TessaroAppDelegate::awakeFromNib()
     m_window->setResultShown(settings::showResult.isOn());
     toolbarNewProjectAction();
     watchSettings();
+    m_studio = std::make_unique<StudioFollower>();
+    connect(m_studio.get(), &StudioFollower::changed, this, &TessaroAppDelegate::followStudio);
+    connect(m_studio.get(), &StudioFollower::unreachable, m_window.get(), &MainWindow::showMessage);
+    m_studio->follow();
     return true;
 }
 
@@ -98,6 +104,17 @@ void TessaroAppDelegate::watchSettings()
         if (m_templatesShown && !m_creating)
             m_window->templatePane().followDisk();
     });
+}
+
+/// What is typed stays; everything else may come from the studio.
+void TessaroAppDelegate::followStudio()
+{
+    if (m_creating)
+        return;
+    populateTemplatePopUp();
+    if (m_templatesShown)
+        m_window->templatePane().tableController().switchedToView();
+    followSettings();
 }
 
 void TessaroAppDelegate::followSettings()
@@ -117,6 +134,46 @@ void TessaroAppDelegate::followTemplate(const QString &name, QString &seen)
         m_window->setTemplates(m_window->shownTemplates(), name);
 }
 
+/// Three kinds of work to begin with, as far as their templates are there; the first project can be made at once.
+void TessaroAppDelegate::welcome()
+{
+    struct Kind
+    {
+        QString name;
+        QString templateName;
+    };
+    QList<Kind> kinds{{tr("Editing: from ingest to delivery"), QStringLiteral("Editing Template")},
+                      {tr("Photography: from card to client"), QStringLiteral("Photography")},
+                      {tr("Podcast and sound: an episode, a mix"), QStringLiteral("Podcast and Sound")}};
+    kinds.removeIf([this](const Kind &kind) { return !m_window->shownTemplates().contains(kind.templateName); });
+    VTAlert::Texts texts{
+        tr("Welcome to Tessaro"),
+        tr("Simplify your creative workflows by organizing your assets before you start. Tessaro makes it easy to "
+           "create customized folder structures for each project.\n\nModify the included templates to meet your "
+           "needs or create your own from scratch."),
+        tr("OK"),
+        tr("User Manual"),
+        {},
+        VTAlert::defaultReturn};
+    texts.isGoodNews = true;
+    texts.chosen = std::make_shared<int>(0);
+    if (kinds.size() > 1) {
+        texts.choicesTitle = tr("What do you begin with?");
+        for (const Kind &kind : std::as_const(kinds))
+            texts.choices.append(kind.name);
+    }
+    const int answer = VTAlert::show(texts);
+    if (!texts.choices.isEmpty()) {
+        const QString chosen = kinds[*texts.chosen].templateName;
+        static_cast<void>(settings::selectedProjectTemplate.store(chosen)); // logged; the pop-up shows it
+        m_window->setTemplates(m_window->shownTemplates(), chosen);
+        m_seenTemplate = chosen;
+    }
+    if (answer == VTAlert::alternateReturn)
+        helpUserManual();
+    static_cast<void>(settings::firstRun.turn(false)); // who cannot store it is greeted again
+}
+
 void TessaroAppDelegate::applicationDidFinishLaunching()
 {
     auto &keys = VTShortcutKeyTableDelegate::sharedController();
@@ -124,20 +181,8 @@ void TessaroAppDelegate::applicationDidFinishLaunching()
             [this](const QString &identifier) { performCommand(identifier); });
     if (VTShortcutKeyTableDelegate::hasKeys()) // else nobody needs to be asked
         keys.watchKeys();
-    if (settings::firstRun.isOn()) {
-        const int answer = VTAlert::show(
-            {tr("Welcome to Tessaro"),
-             tr("Simplify your creative workflows by organizing your assets before you start. Tessaro makes it easy to "
-                "create customized folder structures for each project.\n\nModify the included templates to meet your "
-                "needs or create your own from scratch."),
-             tr("OK"),
-             tr("User Manual"),
-             {},
-             VTAlert::defaultReturn});
-        if (answer == VTAlert::alternateReturn)
-            helpUserManual();
-        static_cast<void>(settings::firstRun.turn(false)); // who cannot store it is greeted again
-    }
+    if (settings::firstRun.isOn())
+        welcome();
     tellOfCrash();
     lookForLeftovers();
     Q_EMIT Notifications::hub().VTTessaroEditFirstParameter();

@@ -13,6 +13,7 @@
 #include <optional>
 
 class MainWindow;
+class StudioFollower;
 class QMenu;
 class VTProjectTableController;
 class VTPreferenceController;
@@ -53,27 +54,25 @@ public:
     /** What the project pane shows, as one value: everything about the project but where it goes. */
     [[nodiscard]] ProjectRequest shownRequest() const;
 
-    /** Takes in a template bundle, in the background, and shows it. False, and nothing happens, for any other file. */
+    /** Takes in a template bundle, in the background, and shows it. False, and nothing happens, for others. */
     bool openFile(const QString &path);
     void openFiles(const QStringList &paths); ///< what is no template is said
     void bringToFront();
     /** False, and the window closes by itself later, while something is being taken in. */
     [[nodiscard]] bool mayClose();
 
-    /** Creates the project, whatever is shown by then. */
-    void createTemplate(const ProjectRequest &request);
+    void createTemplate(const ProjectRequest &request); ///< whatever is shown by then
 
-    /** What the shortcut keys' list (VTKeys.plist) can ask for, by identifier. */
+    /** By the identifiers of the shortcut keys' list (VTKeys.plist). */
     [[nodiscard]] static const QHash<QString, void (TessaroAppDelegate::*)()> &commandsOfShortcuts();
 
 public Q_SLOTS:
     void toolbarNewProjectAction();
     void toolbarTemplateAction();
     void changeProjectTemplate();
-    /** The create action: checks the parameters, finds the destination, creates. */
-    void createNewProject();
-    void createFromTable(); ///< the same for many
-    void undoCreation();    ///< the last one of this window
+    void createNewProject(); ///< the create action: checks the parameters, finds the destination, creates
+    void createFromTable();  ///< the same for many
+    void undoCreation();     ///< the last one of this window
     /** Of the pane that is shown: the last creation, or the last change to the templates. */
     void undo();
     void redo();
@@ -100,13 +99,10 @@ public Q_SLOTS:
     void pinPlace(const QString &folder, bool pinned);
     void installStandardTemplates();
     void showTemplateLibrary();
-    /** The table gets the parameters of the chosen template. */
-    void followRules();
-    /** Beside the parameters what will be made, or no longer; remembered. */
-    void showResult();
+    void followRules(); ///< the table gets the parameters of the chosen template
+    void showResult();  ///< beside the parameters what will be made, or no longer; remembered
     void showProject(const QString &project);
-    /** A menu of the remembered projects, read when it opens. */
-    void fillRecentProjects(QMenu *menu);
+    void fillRecentProjects(QMenu *menu); ///< with what is remembered, when it opens
     void chooseProjectToCheck();
 
     void checkForUpdates();
@@ -114,6 +110,7 @@ public Q_SLOTS:
     void viewTaskLog();
     void gatherLogs();
     void helpUserManual();
+    void showManual(); ///< in a window of its own
     void helpAppHome();
     void helpMoreProducts();
     void helpLumadexHome();
@@ -145,7 +142,9 @@ private:
     void showUndo();
     void closeIfWanted();
     void watchSettings();
+    void welcome();
     void followSettings();
+    void followStudio();
     void followTemplate(const QString &name, QString &seen);
     void createBatch(const ProjectBatch &batch, BatchManner manner, const QString &location);
     void undoProject(const Manifest &manifest);
@@ -172,6 +171,7 @@ private:
     QString m_seenDefault;
     std::unique_ptr<platform::FileWatch> m_settingsWatch;
     std::unique_ptr<MainWindow> m_window;
+    std::unique_ptr<StudioFollower> m_studio;
     std::unique_ptr<VTProjectTableController> m_tableController;
     QPointer<VTSavePanel> m_savePanel;
     QList<Manifest> m_undoable; ///< the last creation of this window, until it is undone

@@ -2,17 +2,37 @@
 #include "app/TessaroAppDelegate.h"
 
 #include "app/MainWindow.h"
+#include "app/ManualWindow.h"
 #include "platform/desktop/Desktop.h"
 #include "platform/files/ApplicationBundle.h"
+#include "support/Translations.h"
+#include "support/VTAlert.h"
 #include "ui/Icons.h"
 
 #include <QMessageBox>
 
 void TessaroAppDelegate::helpUserManual()
 {
-    const QString manual = platform::ApplicationBundle::main().resource(QStringLiteral("Tessaro User Manual.pdf"));
-    if (!manual.isNull())
-        platform::openWithDefaultApplication(manual);
+    const auto &bundle = platform::ApplicationBundle::main();
+    const QString name = QStringLiteral("Tessaro User Manual.pdf");
+    const QString own = bundle.resource(translations::language() + QStringLiteral(".lproj/") + name);
+    const QString manual = own.isNull() ? bundle.resource(name) : own;
+    if (manual.isNull() || platform::openWithDefaultApplication(manual))
+        return;
+    const int answer = VTAlert::show({tr("The manual cannot be opened"),
+                                      tr("This desktop has no program for PDF files. The same text can be read here."),
+                                      tr("Show It Here"),
+                                      tr("Cancel"),
+                                      {},
+                                      VTAlert::defaultReturn});
+    if (answer == VTAlert::defaultReturn)
+        showManual();
+}
+
+void TessaroAppDelegate::showManual()
+{
+    if (!ManualWindow::openForFocus())
+        VTAlert::show({tr("The manual cannot be opened"), tr("It is missing; please install Tessaro again.")});
 }
 
 void TessaroAppDelegate::helpAppHome()

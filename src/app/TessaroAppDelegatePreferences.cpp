@@ -31,6 +31,7 @@ void TessaroAppDelegate::showPreferences()
         if (m_templatesShown)
             m_window->templatePane().tableController().switchedToView();
     });
+    connect(m_preferences, &VTPreferenceController::sharedSetupChanged, this, &TessaroAppDelegate::followStudio);
     m_preferences->setWindowFlag(Qt::Window);
     // In front of the window that they belong to, and on its screen, until they have been put elsewhere.
     if (!keepPlaceOf(*m_preferences, settings::preferencesPlace))

@@ -275,7 +275,10 @@ int runCommand(const Invocation &invocation)
     VTAlert::setPresenter(&presenter);
     const TerminalProgress progress;
     const bool mayStart = !settings::requireAdminPassword.isOn() || VTAuthorization::sharedController().authStart();
-    int status = !mayStart || !isAllowed(invocation.verb->guard) ? refuseRights() : invocation.verb->run(invocation);
+    const bool isRefused = !mayStart || !isAllowed(invocation.verb->guard);
+    int status = !isRefused                  ? invocation.verb->run(invocation)
+                 : presenter.hasComplained() ? ExitStatus::notOverwritten // more was said than that
+                                             : refuseRights();
     if (status == ExitStatus::done && presenter.hasComplained()) // said while it went on
         status = ExitStatus::failed;
     VTAlert::setPresenter(nullptr);

@@ -39,6 +39,11 @@ int getSetting(const Invocation &invocation);
 int setSetting(const Invocation &invocation);
 int unsetSetting(const Invocation &invocation);
 
+int showSetup(const Invocation &invocation);
+int useSetup(const Invocation &invocation);
+int leaveSetup(const Invocation &invocation);
+int exportSetup(const Invocation &invocation);
+
 int showLog(const Invocation &invocation);
 int gatherLogs(const Invocation &invocation);
 int checkForUpdates(const Invocation &invocation);

@@ -131,7 +131,7 @@ _tessaro() {
         return
     fi
     [ "$COMP_CWORD" -gt 1 ] && verb=${COMP_WORDS[1]}
-    case " template parameters settings logs updates " in
+    case " template parameters settings setup logs updates " in
     *" $verb "*) [ "$COMP_CWORD" -gt 2 ] && verb+=" ${COMP_WORDS[2]}" ;;
     esac
 )sh") + cases(QStringLiteral("mapfile -t COMPREPLY < <(compgen -W '%1' -- \"$current\")")) +
@@ -162,7 +162,7 @@ _tessaro_folders() { _files -/ }
 _tessaro() {
     local current=${words[CURRENT]} previous=${words[CURRENT-1]} verb=
     (( CURRENT > 2 )) && verb=${words[2]}
-    case " template parameters settings logs updates " in
+    case " template parameters settings setup logs updates " in
     *" $verb "*) (( CURRENT > 3 )) && verb+=" ${words[3]}" ;;
     esac
 )sh") + cases(QStringLiteral("compadd -- %1")) +

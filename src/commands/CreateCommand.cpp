@@ -68,6 +68,7 @@ static void tellOfLeftovers()
 
 int commands::create(const Invocation &invocation)
 {
+    tellOfStudio();
     tellOfLeftovers();
     return CreateCommand(invocation).run();
 }

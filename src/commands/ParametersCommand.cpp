@@ -87,6 +87,14 @@ int change(const ListChange &change)
     return refused ? complain(stored) : complain(stored, Text::tr("The parameters could not be stored."));
 }
 
+/// The same for what the studio may have locked.
+int changeDefinitions(const ListChange &wanted)
+{
+    if (settings::filenameTemplate.isLocked())
+        return complain(Outcome::failure(platform::Cause::Declined, {}, settings::lockedText()));
+    return change(wanted);
+}
+
 Outcome invalid(const QString &sentence)
 {
     return Outcome::failure(platform::Cause::Invalid, {}, sentence);
@@ -119,7 +127,7 @@ int commands::listParameters(const Invocation &invocation)
 
 int commands::addParameter(const Invocation &invocation)
 {
-    return change([&](const FilenameParameters &stored) -> platform::Result<FilenameParameters> {
+    return changeDefinitions([&](const FilenameParameters &stored) -> platform::Result<FilenameParameters> {
         FilenameParameters list = parameterlist::withNewParameter(stored, invocation.argument(0));
         const int row = static_cast<int>(list.size()) - 1;
         if (const QString kind = invocation.argument(1); !kind.isNull()) {
@@ -138,7 +146,7 @@ int commands::addParameter(const Invocation &invocation)
 
 int commands::removeParameter(const Invocation &invocation)
 {
-    return change([&](const FilenameParameters &list) -> platform::Result<FilenameParameters> {
+    return changeDefinitions([&](const FilenameParameters &list) -> platform::Result<FilenameParameters> {
         const auto row = rowOf(list, invocation.argument(0));
         if (!row)
             return row.outcome();
@@ -151,7 +159,7 @@ int commands::removeParameter(const Invocation &invocation)
 
 int commands::moveParameter(const Invocation &invocation)
 {
-    return change([&](FilenameParameters list) -> platform::Result<FilenameParameters> {
+    return changeDefinitions([&](FilenameParameters list) -> platform::Result<FilenameParameters> {
         const auto row = rowOf(list, invocation.argument(0));
         if (!row)
             return row.outcome();
@@ -202,7 +210,7 @@ static platform::Result<FilenameParameters> withForm(FilenameParameters list, in
 
 int commands::setParameter(const Invocation &invocation)
 {
-    return change([&](const FilenameParameters &list) -> platform::Result<FilenameParameters> {
+    return changeDefinitions([&](const FilenameParameters &list) -> platform::Result<FilenameParameters> {
         const auto row = rowOf(list, invocation.argument(0));
         if (!row)
             return row.outcome();
@@ -234,7 +242,7 @@ int commands::importParameters(const Invocation &invocation)
     if (!invocation.has("--yes"))
         return complain(ExitStatus::notOverwritten,
                         Text::tr("Nothing was changed. The list would be replaced; say --yes to do it."));
-    return change([&](const FilenameParameters &) { return list; });
+    return changeDefinitions([&](const FilenameParameters &) { return list; });
 }
 
 int commands::clearHistory(const Invocation &)

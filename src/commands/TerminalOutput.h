@@ -30,5 +30,8 @@ int complain(const platform::Outcome &failure, const QString &sentence = {});
  */
 [[nodiscard]] int finished(int status);
 
+/** Follows the studio's set-up, where one is used, for up to two seconds; says when it cannot be reached. */
+void tellOfStudio();
+
 /** What is known of a verb, for people. */
 [[nodiscard]] QString helpOn(const Verb &verb);

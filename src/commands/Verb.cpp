@@ -41,6 +41,12 @@ constexpr Option rulesOptions[] = {
     {"--set", "FILE", QT_TRANSLATE_NOOP("Commands", "the rules as JSON; - is standard input, {} takes them away"),
      false, Completes::File},
     {"--gone", nullptr, QT_TRANSLATE_NOOP("Commands", "remove rules whose item is gone")}};
+constexpr Option setupOptions[] = {
+    {"--all-users", nullptr, QT_TRANSLATE_NOOP("Commands", "for every user of this computer; needs root")}};
+constexpr Option exportOptions[] = {
+    {"--lock", "KEYS",
+     QT_TRANSLATE_NOOP("Commands", "what nobody changes, with commas: parameters, keys of settings, or none; else "
+                                   "parameters, separatorChar, dateFormat and strictNaming")}};
 constexpr Option logOptions[] = {
     {"--task", nullptr, QT_TRANSLATE_NOOP("Commands", "the log of commands in place of the window's")},
     {"--path", nullptr, QT_TRANSLATE_NOOP("Commands", "print only where it is")}};
@@ -277,6 +283,36 @@ constexpr Verb table[] = {
      .help = QT_TRANSLATE_NOOP("Commands", "The setting's default applies again."),
      .run = commands::unsetSetting,
      .guard = Guard::Preferences},
+    {.words = "setup",
+     .arguments = "",
+     .help = QT_TRANSLATE_NOOP("Commands", "Says which set-up your studio shares with this computer."),
+     .run = commands::showSetup,
+     .options = json,
+     .logged = Logged::No},
+    {.words = "setup use",
+     .arguments = "FOLDER",
+     .least = 1,
+     .most = 1,
+     .help = QT_TRANSLATE_NOOP("Commands", "Takes templates, parameters and settings from a shared folder, and follows "
+                                           "it from then on."),
+     .run = commands::useSetup,
+     .options = setupOptions,
+     .guard = Guard::Preferences,
+     .completes = Completes::Folder},
+    {.words = "setup off",
+     .arguments = "",
+     .help = QT_TRANSLATE_NOOP("Commands", "Goes back to your own templates, parameters and settings."),
+     .run = commands::leaveSetup,
+     .guard = Guard::Preferences},
+    {.words = "setup export",
+     .arguments = "FOLDER",
+     .least = 1,
+     .most = 1,
+     .help = QT_TRANSLATE_NOOP("Commands", "Writes the present templates, parameters and settings into a folder, for "
+                                           "many computers to use."),
+     .run = commands::exportSetup,
+     .options = exportOptions,
+     .completes = Completes::Folder},
     {.words = "logs",
      .arguments = "",
      .help = QT_TRANSLATE_NOOP("Commands", "Prints the log of the window."),

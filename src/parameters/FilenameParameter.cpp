@@ -1,5 +1,7 @@
 #include "parameters/FilenameParameter.h"
 
+#include <algorithm>
+
 namespace {
 
 bool isNumber(const QVariant &value)
@@ -108,4 +110,33 @@ QVariantList variantFromParameters(const FilenameParameters &parameters)
     for (const FilenameParameter &parameter : parameters)
         list.append(parameter.record());
     return list;
+}
+
+FilenameParameters withOwnValues(FilenameParameters definitions, const FilenameParameters &own)
+{
+    for (FilenameParameter &definition : definitions) {
+        const auto mine = std::find_if(own.begin(), own.end(), [&](const FilenameParameter &other) {
+            return other.title() == definition.title() && other.kind() == definition.kind();
+        });
+        if (mine == own.end() || definition.isLocked())
+            continue;
+        const bool isOffered = definition.kind() != FilenameParameter::Kind::Choice || definition.takesSeveral() ||
+                               definition.choices().contains(mine->value());
+        if (isOffered && mine->entry(QLatin1String(recordkey::value)).isValid())
+            definition.setEntry(QLatin1String(recordkey::value), mine->entry(QLatin1String(recordkey::value)));
+        if (definition.savesHistory() && !mine->history().isEmpty())
+            definition.setHistory(mine->history());
+    }
+    return definitions;
+}
+
+FilenameParameters withoutOwnValues(FilenameParameters parameters)
+{
+    for (FilenameParameter &parameter : parameters) {
+        parameter.removeHistory();
+        const QStringList choices = parameter.choices();
+        parameter.setValue(parameter.kind() == FilenameParameter::Kind::Choice ? choices.value(0)
+                                                                               : parameter.defaultValue());
+    }
+    return parameters;
 }

@@ -102,3 +102,9 @@ using FilenameParameters = QList<FilenameParameter>;
 /** The records of a stored list; what is no record is left out. Empty when the value is no list. */
 [[nodiscard]] FilenameParameters parametersFromVariant(const QVariant &stored);
 [[nodiscard]] QVariantList variantFromParameters(const FilenameParameters &parameters);
+
+/** Definitions that somebody else decides, with a user's own values and memories: those of the parameter of the same
+   title and kind, where it is not locked and the value is still among the choices. Pure. */
+[[nodiscard]] FilenameParameters withOwnValues(FilenameParameters definitions, const FilenameParameters &own);
+/** Definitions for others to use: values are the defaults, and nothing is remembered. Pure. */
+[[nodiscard]] FilenameParameters withoutOwnValues(FilenameParameters parameters);

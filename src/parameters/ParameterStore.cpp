@@ -7,9 +7,22 @@
 
 using platform::Outcome;
 
+namespace {
+
+/// What the studio has locked are the definitions; values, numbers and memories are each user's own.
+FilenameParameters listFrom(const QVariant &stored)
+{
+    if (!settings::filenameTemplate.isLocked())
+        return parametersFromVariant(stored);
+    return withOwnValues(parametersFromVariant(settings::filenameTemplate.value()),
+                         parametersFromVariant(settings::standard().usersValue(settings::filenameTemplate)));
+}
+
+} // namespace
+
 FilenameParameters storedParameters()
 {
-    return parametersFromVariant(settings::filenameTemplate.value());
+    return listFrom(settings::filenameTemplate.value());
 }
 
 FilenameParameters storedParameters(const ParameterScope &scope)
@@ -44,7 +57,7 @@ FilenameParameters withDynamicValues(FilenameParameters parameters)
 Outcome changeParameters(const ListChange &change)
 {
     return settings::filenameTemplate.change([&](const QVariant &stored) -> platform::Result<QVariant> {
-        const auto list = change(parametersFromVariant(stored));
+        const auto list = change(listFrom(stored));
         if (!list)
             return list.outcome();
         return QVariant(variantFromParameters(*list));
@@ -58,7 +71,7 @@ Outcome changeParameters(const ParameterScope &scope, const ListChange &change)
     return settings::standard().changeValues(
         {settings::filenameTemplate, settings::ownParameterValues},
         [&](const QVariantList &stored) -> platform::Result<QVariantList> {
-            const FilenameParameters common = parametersFromVariant(stored[0]);
+            const FilenameParameters common = listFrom(stored[0]);
             QVariantMap all = stored[1].toMap();
             const auto list = change(effectiveParameters(common, scope, all.value(scope.templateName).toMap()));
             if (!list)

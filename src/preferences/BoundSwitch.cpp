@@ -1,5 +1,6 @@
 #include "preferences/BoundSwitch.h"
 
+#include "preferences/LockedControls.h"
 #include "support/AdministratorQuestion.h"
 #include "support/VTAlert.h"
 #include "support/VTAuthorization.h"
@@ -19,6 +20,7 @@ struct Text
 void bindSwitch(QCheckBox &box, const settings::SwitchSetting &setting)
 {
     box.setChecked(setting.isOn());
+    greyWhereLocked(setting, {&box});
     QObject::connect(&box, &QCheckBox::toggled, &box,
                      [&setting](bool isOn) { static_cast<void>(setting.turn(isOn)); }); // the log says what failed
 }

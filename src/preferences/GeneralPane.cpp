@@ -7,10 +7,14 @@
 #include "platform/plain/CopyMonitor.h"
 #include "preferences/BoundSwitch.h"
 #include "preferences/FolderChoice.h"
+#include "preferences/LockedControls.h"
 #include "preferences/PathField.h"
 #include "support/FileOperations.h"
+#include "support/Notifications.h"
+#include "support/StudioCopy.h"
 #include "support/VTAlert.h"
 #include "support/VTLog.h"
+#include "templates/StudioLibrary.h"
 #include "templates/VTDataController.h"
 #include "ui_Prefs_Dialog.h"
 
@@ -44,7 +48,25 @@ GeneralPane::GeneralPane(Ui::Prefs_Dialog &ui, QWidget &window)
                             [this](const QString &typed) {
                                 modifyTemplatePath(typed);
                             }}))
+    , m_shared(new PathField(*ui.prefsSharedPath, *ui.hintShared,
+                             {settings::sharedSetup, [] { return settings::sharedSetup.text(); },
+                              [this](const QString &typed) {
+                                  useSharedSetup(typed);
+                              }}))
 {
+    connect(ui.browseShared, &QPushButton::clicked, this, [this] {
+        folderchoice::browse(m_window, tr("Choose the Shared Set-up"),
+                             [this](const QString &path) { useSharedSetup(path); });
+    });
+    const auto grey = [&ui] {
+        greyWhere(studio::decidesTemplates(), {ui.prefsTemplatePath, ui.browseTemplates});
+        greyWhere(settings::standard().isSetForMachine(settings::sharedSetup), {ui.prefsSharedPath, ui.browseShared});
+        greyWhereLocked(settings::autoOpenFolder, {ui.autoOpenFolder});
+        greyWhereLocked(settings::autoQuit, {ui.autoQuit});
+        greyWhereLocked(settings::autoExpandFolders, {ui.autoExpandFolders});
+    };
+    grey();
+    connect(&Notifications::hub(), &Notifications::settingsWritten, this, grey);
     connect(ui.browseTemplates, &QPushButton::clicked, this, [this] {
         folderchoice::browse(m_window, tr("Choose the Template Library"),
                              [this](const QString &path) { modifyTemplatePath(path); });
@@ -59,6 +81,30 @@ GeneralPane::GeneralPane(Ui::Prefs_Dialog &ui, QWidget &window)
     bindProtection(*ui.prefsAdminPass, settings::requireAdminPassword);
     bindProtection(*ui.prefsAdminPassEditing, settings::requireAdminPasswordForEditing);
     bindProtection(*ui.prefsAdminPassPrefs, settings::requireAdminPasswordForPrefs);
+}
+
+/// What cannot be used is not kept: without a server nobody could say what would count.
+void GeneralPane::useSharedSetup(const QString &typed)
+{
+    const QString before = settings::sharedSetup.text();
+    const auto folder = settings::checked(settings::sharedSetup, typed);
+    if (!folder || folder->toString() == before)
+        return m_shared->refresh();
+    VTLog::appendLog("User changed the shared set-up from %@ to %@", before, folder->toString());
+    const platform::Outcome stored = settings::sharedSetup.store(*folder);
+    const platform::Outcome followed =
+        stored.ok() ? platform::resultInBackground([] { return studio::follow().outcome; }) : stored;
+    if (!followed.ok()) {
+        static_cast<void>(settings::sharedSetup.store(before)); // it stood there a moment ago
+        VTAlert::show(
+            {tr("This set-up cannot be used"),
+             withCause(tr("The folder needs a file “%1”, which “Tessaro setup export” writes.").arg(studio::setupFile),
+                       followed)},
+            &m_window);
+    }
+    m_shared->refresh();
+    m_path->refresh();
+    Q_EMIT sharedSetupChanged();
 }
 
 void GeneralPane::modifyTemplatePath(const QString &typed)

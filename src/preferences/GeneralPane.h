@@ -21,8 +21,12 @@ public:
 
     /** Stores the location, makes the folder, and offers to move the templates there. */
     void modifyTemplatePath(const QString &typed);
+    /** Takes a copy of the set-up in the folder, or leaves the present one when it is empty. */
+    void useSharedSetup(const QString &typed);
 
 Q_SIGNALS:
+    /** Anything may be different now: templates, parameters, settings. */
+    void sharedSetupChanged();
     /** The library lies elsewhere now. */
     void templateLocationChanged();
 
@@ -33,4 +37,5 @@ private:
 
     QWidget &m_window;
     PathField *m_path;
+    PathField *m_shared;
 };

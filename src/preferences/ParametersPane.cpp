@@ -1,5 +1,7 @@
 #include "preferences/ParametersPane.h"
 
+#include "preferences/LockedControls.h"
+
 #include "parameters/table/ParameterDetails.h"
 
 #include "parameters/ParameterList.h"
@@ -71,6 +73,15 @@ ParametersPane::ParametersPane(Ui::Prefs_Dialog &ui, QWidget &window)
     connect(m_ui.dateFormatText, &QLineEdit::textChanged, this, &ParametersPane::changeCustomDateFormat);
     populateDateFormats();
     connect(&Notifications::hub(), &Notifications::settingsWritten, this, &ParametersPane::follow);
+    greyWhatIsLocked();
+}
+
+void ParametersPane::greyWhatIsLocked()
+{
+    greyWhereLocked(settings::filenameTemplate, {m_ui.parameterTable, m_ui.addParameter, m_ui.removeParameter,
+                                                 m_ui.parameterDetails, m_ui.restoreParameters});
+    greyWhereLocked(settings::separatorChar, {m_ui.separator});
+    greyWhereLocked(settings::dateFormat, {m_ui.dateFormatPopUp, m_ui.dateFormatText});
 }
 
 /// What is being typed here stays; it is stored when it is finished, and all else comes then.
@@ -78,6 +89,7 @@ void ParametersPane::follow()
 {
     if (m_ui.parameterTable->indexWidget(m_ui.parameterTable->currentIndex()))
         return;
+    greyWhatIsLocked();
     m_parameters.reload();
 }
 

@@ -32,6 +32,7 @@ private:
     void setUpTable();
     void moveSelected(int by);
     void openKinds(const QModelIndex &clicked);
+    void greyWhatIsLocked();
     void follow();
     void populateDateFormats();
     void changeDateFormat();

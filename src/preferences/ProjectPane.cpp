@@ -2,7 +2,9 @@
 
 #include "preferences/BoundSwitch.h"
 #include "preferences/FolderChoice.h"
+#include "preferences/LockedControls.h"
 #include "preferences/PathField.h"
+#include "support/Notifications.h"
 #include "support/VTLog.h"
 #include "ui_Prefs_Dialog.h"
 
@@ -22,6 +24,13 @@ ProjectPane::ProjectPane(Ui::Prefs_Dialog &ui, QWidget &window)
     });
     bindSwitch(*ui.useFixedProjectLocation, settings::useFixedProjectLocation);
     bindSwitch(*ui.strictNaming, settings::strictNaming);
+    const auto grey = [&ui] {
+        greyWhereLocked(settings::fixedProjectLocationPath, {ui.prefsFixedPath, ui.browseFixed});
+        greyWhereLocked(settings::useFixedProjectLocation, {ui.useFixedProjectLocation});
+        greyWhereLocked(settings::strictNaming, {ui.strictNaming});
+    };
+    grey();
+    connect(&Notifications::hub(), &Notifications::settingsWritten, this, grey);
 }
 
 void ProjectPane::modifyFixedPath(const QString &typed)

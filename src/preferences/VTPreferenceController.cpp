@@ -66,6 +66,7 @@ void VTPreferenceController::awakeFromNib()
     m_project = new ProjectPane(*m_ui, *this);
     m_parameters = new ParametersPane(*m_ui, *this);
     connect(m_general, &GeneralPane::templateLocationChanged, this, &VTPreferenceController::templateLocationChanged);
+    connect(m_general, &GeneralPane::sharedSetupChanged, this, &VTPreferenceController::sharedSetupChanged);
     toolbarGeneral();
 }
 

@@ -45,6 +45,8 @@ Q_SIGNALS:
     void closed();
     /** The library lies elsewhere now. */
     void templateLocationChanged();
+    /** Anything may be different now. */
+    void sharedSetupChanged();
 
 protected:
     void closeEvent(QCloseEvent *event) override;

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <functional>
+#include <memory>
 #include <optional>
 
 class QWidget;
@@ -22,6 +24,9 @@ public:
         std::optional<int> safeAnswer; ///< where an answer loses something: the one that loses nothing
         bool isGoodNews = false;
         QWidget *parentWindow = nullptr; ///< null: the main window
+        QString choicesTitle{};          ///< above them
+        QStringList choices{};           ///< one of them is picked before the sheet is answered; empty: none
+        std::shared_ptr<int> chosen{};   ///< which; there where there are choices
     };
 
     virtual ~AlertPresenter() = default;

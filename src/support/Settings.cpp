@@ -5,6 +5,7 @@
 #include "platform/files/ApplicationBundle.h"
 #include "platform/files/FileSystem.h"
 #include "platform/files/WholeFile.h"
+#include "support/StudioCopy.h"
 #include "support/VTLocalPaths.h"
 #include "support/VTLog.h"
 
@@ -162,6 +163,8 @@ Result<QVariant> secondsFrom(const QString &typed)
 // What they mean to people is translated in the context "Settings".
 const TextSetting templateLocation{
     {"templateLocation", Type::Path, QT_TRANSLATE_NOOP("Settings", "folder of the template library"), usersLibrary}};
+const TextSetting sharedSetup{
+    {"sharedSetup", Type::PathOrNone, QT_TRANSLATE_NOOP("Settings", "folder of the set-up that your studio shares")}};
 const TextSetting defaultTemplate{
     {"defaultTemplate", Type::TemplateName, QT_TRANSLATE_NOOP("Settings", "template of new projects")}};
 const SwitchSetting useFixedProjectLocation{{"useFixedProjectLocation", Type::Switch,
@@ -213,6 +216,7 @@ const Setting exit{"exit", Type::Value};
 const QList<const Setting *> &all()
 {
     static const QList<const Setting *> rows{&templateLocation,
+                                             &sharedSetup,
                                              &defaultTemplate,
                                              &useFixedProjectLocation,
                                              &fixedProjectLocationPath,
@@ -262,8 +266,20 @@ QVariant Setting::value() const
     return settings::standard().value(*this);
 }
 
+bool Setting::isLocked() const
+{
+    return settings::standard().isLocked(*this);
+}
+
+QString lockedText()
+{
+    return Text::tr("Set by your studio");
+}
+
 Outcome Setting::store(const QVariant &value) const
 {
+    if (isLocked())
+        return Outcome::failure(Cause::Declined, *this, lockedText());
     return scope == Scope::Machine ? settings::standard().setMachineWideValue(*this, value)
                                    : settings::standard().setValue(*this, value);
 }
@@ -275,6 +291,8 @@ Outcome Setting::change(const platform::UserDefaults::Change &change) const
 
 Outcome Setting::reset() const
 {
+    if (isLocked())
+        return Outcome::failure(Cause::Declined, *this, lockedText());
     return scope == Scope::Machine ? settings::standard().setMachineWideValue(*this, {})
                                    : settings::standard().removeValue(*this);
 }
@@ -311,6 +329,8 @@ Result<QVariant> checkedAs(Type type, const QString &typed)
     switch (type) {
     case Type::Path:
         return pathFrom(typed);
+    case Type::PathOrNone:
+        return typed.trimmed().isEmpty() ? QVariant(QString()) : pathFrom(typed);
     case Type::Switch:
     case Type::Boolean:
         return switchFrom(type, typed);
@@ -346,6 +366,7 @@ platform::UserDefaults &standard()
                 protections.append(*setting);
         }
         made->letMachineDecide(protections);
+        made->setShared(studio::copiedFile());
         return made;
     }();
     return *defaults;

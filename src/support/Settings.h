@@ -17,6 +17,7 @@ namespace settings {
 enum class Type {
     Text,
     Path,         ///< a folder's whole path
+    PathOrNone,   ///< the same, or nothing
     TemplateName, ///< a template of the library
     Switch,       ///< a number; on as the row says
     Boolean,
@@ -50,6 +51,8 @@ struct Setting
     platform::Outcome change(const platform::UserDefaults::Change &change) const;
     /** The default applies again. */
     platform::Outcome reset() const;
+    /** Whether the studio, or the machine-wide file, decides it: then it cannot be changed here. */
+    [[nodiscard]] bool isLocked() const;
 };
 
 struct TextSetting : Setting
@@ -75,6 +78,7 @@ extern const TextSetting separatorChar;
 extern const TextSetting dateFormat;
 extern const SwitchSetting strictNaming;
 extern const TextSetting templateLocation;
+extern const TextSetting sharedSetup; ///< the studio's folder; see studio::
 extern const TextSetting selectedProjectTemplate;
 extern const TextSetting defaultTemplate;
 extern const SwitchSetting autoOpenFolder;
@@ -117,6 +121,9 @@ struct Facts
 [[nodiscard]] platform::Result<QVariant> checked(const Setting &setting, const QString &typed, const Facts &facts = {});
 /** The same for a value of the kind on its own. */
 [[nodiscard]] platform::Result<QVariant> checkedAs(Type type, const QString &typed);
+
+/** "Set by your studio": beside whatever is locked. */
+[[nodiscard]] QString lockedText();
 
 /** The one store of this process, on com.vantrel.Tessaro.plist in the user's and the machine's preferences folder. */
 [[nodiscard]] platform::UserDefaults &standard();

@@ -119,6 +119,7 @@ int VTAlert::alertSheet(const Texts &texts, QWidget *parentWindow, QObject *dele
 bool VTAlert::present(const Texts &texts, QWidget *parentWindow)
 {
     m_parentWindow = parentWindow;
+    m_choices = texts; // a dictionary holds texts, and these are more
     if (!m_delegate)
         m_delegate = this;
     if (m_didEndSelector.isEmpty())
@@ -164,15 +165,18 @@ void VTAlert::alertSheetWithDictionary(const QVariantMap &dictionary)
         return dictionary.value(QLatin1String(key)).toString();
     };
     const QVariant safe = dictionary.value(QStringLiteral("safeAnswer"));
-    const AlertPresenter::Sheet sheet{this,
-                                      text("messageText"),
-                                      text("informativeText"),
-                                      text("defaultButtonTitle"),
-                                      text("alternateButtonTitle"),
-                                      text("otherButtonTitle"),
-                                      safe.isValid() ? std::optional(safe.toInt()) : std::nullopt,
-                                      dictionary.value(QStringLiteral("isGoodNews")).toBool(),
-                                      m_parentWindow};
+    AlertPresenter::Sheet sheet{this,
+                                text("messageText"),
+                                text("informativeText"),
+                                text("defaultButtonTitle"),
+                                text("alternateButtonTitle"),
+                                text("otherButtonTitle"),
+                                safe.isValid() ? std::optional(safe.toInt()) : std::nullopt,
+                                dictionary.value(QStringLiteral("isGoodNews")).toBool(),
+                                m_parentWindow};
+    sheet.choicesTitle = m_choices.choicesTitle;
+    sheet.choices = m_choices.choices;
+    sheet.chosen = m_choices.chosen;
     const QPointer<VTAlert> self(this);
     installedPresenter->present(sheet, [self](int code) {
         if (!self)

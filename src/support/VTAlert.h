@@ -5,6 +5,7 @@
 #include <QVariantMap>
 #include <atomic>
 #include <chrono>
+#include <memory>
 #include <optional>
 
 class QWidget;
@@ -39,6 +40,10 @@ public:
         /// it.
         std::optional<int> safeAnswer = {};
         bool isGoodNews = false; ///< that something was done: no warning
+        QString choicesTitle = {};
+        /// To pick one of, before the answer; the picked one's number is in `chosen` then, which begins with the first.
+        QStringList choices = {};
+        std::shared_ptr<int> chosen = {};
     };
 
     VTAlert() = default;
@@ -80,6 +85,7 @@ public:
 
     [[nodiscard]] qlonglong returnCode() const { return m_returnCode; }
     [[nodiscard]] bool alertEnded() const { return m_alertEnded; }
+    Texts m_choices; ///< of which only the choices are looked at
     [[nodiscard]] QWidget *parentWindow() const { return m_parentWindow; }
 
 private:

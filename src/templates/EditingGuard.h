@@ -1,5 +1,5 @@
 #pragma once
 
-/** Where the settings protect the templates, asks for an administrator's password, afresh each time. False: do nothing.
- */
+/** Where the settings protect the templates, asks for an administrator's password, afresh each time. The studio's
+   cannot be changed at all, which is said. False: do nothing. */
 [[nodiscard]] bool editingIsAllowed();

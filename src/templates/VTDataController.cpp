@@ -8,6 +8,7 @@
 #include "support/FileOperations.h"
 #include "support/InPlace.h"
 #include "support/Settings.h"
+#include "support/StudioCopy.h"
 #include "support/VTAlert.h"
 #include "support/VTLocalPaths.h"
 #include "support/VTLog.h"
@@ -97,6 +98,8 @@ VTDataController &VTDataController::sharedController()
 
 QString VTDataController::templateLocation()
 {
+    if (studio::decidesTemplates())
+        return studio::copiedTemplates();
     const QString chosen = settings::templateLocation.text();
     return !chosen.isEmpty() ? chosen
                              : joined(VTLocalPaths::appSupportDirectory(VTLocalPaths::Domain::User),

@@ -22,7 +22,8 @@ public:
     VTDataController(const VTDataController &) = delete;
     VTDataController &operator=(const VTDataController &) = delete;
 
-    /** The user's choice, else the folder in the user's application support. Nothing is made. */
+    /** The copy of the studio's, where that decides; else the user's choice, else the folder in the user's application
+       support. Nothing is made. */
     [[nodiscard]] static QString templateLocation();
     /** The named template's folder in the library, and its tree in there. */
     [[nodiscard]] static QString bundlePath(const QString &templateName);

@@ -4,9 +4,14 @@
 #include "support/VTAlert.h"
 #include "ui/Icons.h"
 
+#include <QDialogButtonBox>
+#include <QGridLayout>
+#include <QGroupBox>
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QRadioButton>
+#include <QVBoxLayout>
 #include <QWidget>
 #include <memory>
 
@@ -71,6 +76,30 @@ void fill(QMessageBox *box, const AlertPresenter::Sheet &sheet, const Buttons &b
         label->setTextFormat(Qt::PlainText);
 }
 
+/// Between the text and the buttons.
+void addChoices(QMessageBox *box, const AlertPresenter::Sheet &sheet)
+{
+    auto *grid = qobject_cast<QGridLayout *>(box->layout());
+    auto *buttons = box->findChild<QDialogButtonBox *>();
+    if (sheet.choices.isEmpty() || !grid || !buttons)
+        return;
+    auto *group = new QGroupBox(sheet.choicesTitle, box);
+    auto *column = new QVBoxLayout(group);
+    for (int number = 0; number < sheet.choices.size(); ++number) {
+        auto *choice = new QRadioButton(sheet.choices[number], group);
+        choice->setChecked(number == *sheet.chosen);
+        QObject::connect(choice, &QRadioButton::toggled, box, [number, chosen = sheet.chosen](bool isOn) {
+            if (isOn)
+                *chosen = number;
+        });
+        column->addWidget(choice);
+    }
+    const int row = grid->rowCount();
+    grid->removeWidget(buttons);
+    grid->addWidget(group, row - 1, 0, 1, grid->columnCount());
+    grid->addWidget(buttons, row, 0, 1, grid->columnCount());
+}
+
 } // namespace
 
 void SheetPresenter::present(const Sheet &sheet, std::function<void(int)> answer)
@@ -85,6 +114,7 @@ void SheetPresenter::present(const Sheet &sheet, std::function<void(int)> answer
     box->setWindowModality(Qt::WindowModal);
     const Buttons buttons = addButtons(box, sheet);
     fill(box, sheet, buttons);
+    addChoices(box, sheet);
 
     const auto answered = std::make_shared<bool>(false);
     const auto answerOnce = [this, alert = sheet.alert, answered, answer = std::move(answer)](int code) {

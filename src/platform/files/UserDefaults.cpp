@@ -68,6 +68,8 @@ void UserDefaults::registerDefaults(const QVariantMap &defaults)
 /// stay as they were last seen, and it is not replaced.
 void UserDefaults::refresh(Domain &domain) const
 {
+    if (domain.file.isEmpty())
+        return;
     const QByteArray stamp = stampOf(domain.file);
     if (stamp == domain.stamp && domain.problem.ok())
         return;
@@ -99,6 +101,37 @@ void UserDefaults::letMachineDecide(const QStringList &keys)
     m_machineDecides = keys;
 }
 
+void UserDefaults::setShared(const QString &file)
+{
+    const std::scoped_lock lock(m_mutex);
+    m_shared = {file, {}, {}, {}};
+}
+
+/// The one that has locked the key; null without one.
+const UserDefaults::Domain *UserDefaults::decider(const QString &key) const
+{
+    for (Domain *domain : {&m_machine, &m_shared}) {
+        refresh(*domain);
+        const QVariantList locked = domain->values.value(QLatin1String(lockedKeys)).toList();
+        if (domain->values.contains(key) && locked.contains(key))
+            return domain;
+    }
+    return nullptr;
+}
+
+bool UserDefaults::isLocked(const QString &key) const
+{
+    const std::scoped_lock lock(m_mutex);
+    return decider(key);
+}
+
+QVariant UserDefaults::usersValue(const QString &key) const
+{
+    const std::scoped_lock lock(m_mutex);
+    refresh(m_user);
+    return m_user.values.value(key);
+}
+
 bool UserDefaults::isSetForMachine(const QString &key) const
 {
     const std::scoped_lock lock(m_mutex);
@@ -116,8 +149,10 @@ Outcome UserDefaults::problem() const
 
 QVariant UserDefaults::lookUp(const QString &key) const
 {
+    if (const Domain *decides = decider(key))
+        return decides->values.value(key);
     const bool machineFirst = m_machineDecides.contains(key);
-    for (Domain *domain : {machineFirst ? &m_machine : &m_user, machineFirst ? &m_user : &m_machine}) {
+    for (Domain *domain : {machineFirst ? &m_machine : &m_user, machineFirst ? &m_user : &m_machine, &m_shared}) {
         refresh(*domain);
         if (const auto found = domain->values.constFind(key); found != domain->values.cend())
             return *found;

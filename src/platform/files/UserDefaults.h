@@ -9,8 +9,9 @@
 namespace platform {
 
 /**
- * The settings: looked up in the user's domain, then the machine-wide domain, then the registered defaults. Keys that
- * hold for every user of the machine are looked up in the machine-wide domain first.
+ * The settings: looked up in the user's domain, then the machine-wide domain, then what a studio shares, then the
+ * registered defaults. Keys that hold for every user of the machine are looked up in the machine-wide domain first, and
+ * what the machine-wide domain or the studio has locked comes from there alone.
  *
  * The two domains are property-list files. A reading sees what another running program has written since. A writing
  * re-reads the file under a lock, changes the one key and replaces the file in one step, so that two programs lose
@@ -31,6 +32,14 @@ public:
     void registerDefaults(const QVariantMap &defaults);
     /** Keys whose machine-wide value, where there is one, counts for everybody. */
     void letMachineDecide(const QStringList &keys);
+    /** A file of the same form that many computers share; it is only read. Null: none. */
+    void setShared(const QString &file);
+    /** The key in the two files that are not the user's under which they list keys that they decide. */
+    static constexpr const char *lockedKeys = "lockedSettings";
+    /** Whether the machine-wide domain or the studio decides the key: it lists it, and holds a value of it. */
+    [[nodiscard]] bool isLocked(const QString &key) const;
+    /** What the user's own domain holds, whoever decides; an invalid variant when it is not there. */
+    [[nodiscard]] QVariant usersValue(const QString &key) const;
     /** Whether the machine-wide domain holds the key. */
     [[nodiscard]] bool isSetForMachine(const QString &key) const;
 
@@ -75,6 +84,7 @@ private:
         Outcome problem;  ///< why it could not be read: it may hold anything, so it must not be replaced
     };
     void refresh(Domain &domain) const;
+    [[nodiscard]] const Domain *decider(const QString &key) const;
     [[nodiscard]] static bool holds(const Domain &domain, const QString &key, const QVariant &value);
     Outcome store(Domain &domain, const QStringList &keys, const ManyChange &change);
     Outcome store(Domain &domain, const QString &key, const QVariant &value);
@@ -83,6 +93,7 @@ private:
     mutable std::recursive_mutex m_mutex;
     mutable Domain m_user;
     mutable Domain m_machine;
+    mutable Domain m_shared{}; ///< without a file: none
     QVariantMap m_registered;
     QStringList m_machineDecides;
     ProblemHandler m_onProblem;

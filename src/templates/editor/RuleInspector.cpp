@@ -71,6 +71,7 @@ RuleInspector::RuleInspector(QWidget *parent)
     : QScrollArea(parent)
 {
     setFrameShape(QFrame::NoFrame);
+    setProperty("manualChapter", "rules");
     setWidgetResizable(true);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setMinimumWidth(least);

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "platform/base/Outcome.h"
+
+#include <QElapsedTimer>
+#include <QObject>
+
+/**
+ * Keeps the copy of the studio's set-up up to date while the window is open: at its start, and when the user comes back
+ * to it after a while. The server is asked on a thread of its own, one question at a time. Main thread.
+ */
+class StudioFollower : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit StudioFollower(QObject *parent = nullptr);
+
+    /** Asks now, unless a question is under way. */
+    void follow();
+
+Q_SIGNALS:
+    /** Templates, parameters or settings are different. */
+    void changed();
+    /** Said once for each time that the server goes away, in words. */
+    void unreachable(const QString &message);
+
+private:
+    void take(const platform::Outcome &outcome, bool hasChanged);
+
+    bool m_isAsking = false;
+    bool m_isAway = false;
+    QElapsedTimer m_sinceAsked; ///< not valid before the first time
+};

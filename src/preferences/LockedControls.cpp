@@ -1,0 +1,22 @@
+#include "preferences/LockedControls.h"
+
+#include <QWidget>
+
+void greyWhere(bool isLocked, const QList<QWidget *> &controls)
+{
+    constexpr const char *usualTip = "usualTip"; // there while the control is grey for this reason
+    for (QWidget *control : controls) {
+        const QVariant kept = control->property(usualTip);
+        if (isLocked == kept.isValid())
+            continue;
+        control->setProperty(usualTip, isLocked ? QVariant(control->toolTip()) : QVariant());
+        control->setToolTip(isLocked ? settings::lockedText() : kept.toString());
+        control->setEnabled(!isLocked);
+        control->setAccessibleDescription(isLocked ? settings::lockedText() : QString());
+    }
+}
+
+void greyWhereLocked(const settings::Setting &setting, const QList<QWidget *> &controls)
+{
+    greyWhere(setting.isLocked(), controls);
+}

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "support/Settings.h"
+
+#include <QList>
+
+class QWidget;
+
+/** Greys the controls of a setting that the studio decides, and says so in their tool tips and to readers; gives them
+   back when it does not any more. Main thread. */
+void greyWhereLocked(const settings::Setting &setting, const QList<QWidget *> &controls);
+void greyWhere(bool isLocked, const QList<QWidget *> &controls);
