@@ -368,7 +368,7 @@ private Q_SLOTS:
         row("You must specify at least one parameter.", 1, in, with({record({})}));
         for (const char *value : {"...", " ..", "/"}) // cleaned, they would lead out of the folder or name none
             row("The values give", 1, in, with({record({{"val", "x"}}), record({{"val", value}, {"folder", true}})}));
-        row("There are: Documentary, Editing Template", 2, in + QStringList{"--template", "X"});
+        row("There are: Commercial, Documentary, Editing Template", 2, in + QStringList{"--template", "X"});
         row("--in FOLDER", 2, {"create"});
         row("No fixed project location", 2, {"create"}, {{"useFixedProjectLocation", 0}});
         row("does not exist", 1, {"create", "--in", "Unplugged"});
