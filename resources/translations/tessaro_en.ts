@@ -79,9 +79,9 @@
     </message>
     <message numerus="yes">
         <source>and %n more; “Tessaro check” names each</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>and one more; “Tessaro check” names it</numerusform>
+            <numerusform>and %n more; “Tessaro check” names each</numerusform>
         </translation>
     </message>
 </context>

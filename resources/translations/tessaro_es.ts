@@ -442,6 +442,30 @@
         <source>Opens the window, which says whether the project in the folder is complete.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>for every user of this computer; needs root</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what nobody changes, with commas: parameters, keys of settings, or none; else parameters, separatorChar, dateFormat and strictNaming</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Says which set-up your studio shares with this computer.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Takes templates, parameters and settings from a shared folder, and follows it from then on.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Goes back to your own templates, parameters and settings.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Writes the present templates, parameters and settings into a folder, for many computers to use.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>CreateCommand</name>
@@ -636,6 +660,17 @@ Use --overwrite para moverlo a la papelera y crearlo de nuevo.</translation>
     </message>
 </context>
 <context>
+    <name>EditingGuard</name>
+    <message>
+        <source>These templates are set by your studio</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>They are changed in the studio’s own folder, and come to every computer from there: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>FileOperations</name>
     <message>
         <source>Creating %1</source>
@@ -741,6 +776,18 @@ Use --overwrite para moverlo a la papelera y crearlo de nuevo.</translation>
     <message>
         <source>These have stayed where they were: %1.</source>
         <translation>No se movieron: %1.</translation>
+    </message>
+    <message>
+        <source>Choose the Shared Set-up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This set-up cannot be used</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The folder needs a file “%1”, which “Tessaro setup export” writes.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1068,10 +1115,6 @@ Use --overwrite para moverlo a la papelera y crearlo de nuevo.</translation>
         <translation>&amp;Ayuda</translation>
     </message>
     <message>
-        <source>User &amp;Manual</source>
-        <translation>&amp;Manual de usuario</translation>
-    </message>
-    <message>
         <source>Tessaro on the &amp;Web</source>
         <translation>Tessaro en la &amp;web</translation>
     </message>
@@ -1117,6 +1160,14 @@ Use --overwrite para moverlo a la papelera y crearlo de nuevo.</translation>
     </message>
     <message>
         <source>Cl&amp;ear History</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tessaro &amp;Help</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>User &amp;Manual (PDF)</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1231,6 +1282,29 @@ Use --overwrite para moverlo a la papelera y crearlo de nuevo.</translation>
     <message>
         <source>&amp;Redo</source>
         <translation>&amp;Rehacer</translation>
+    </message>
+</context>
+<context>
+    <name>ManualWindow</name>
+    <message>
+        <source>Tessaro User Manual</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation type="unfinished">Buscar</translation>
+    </message>
+    <message>
+        <source>Search the manual</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Chapters</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Text of the chapter</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1761,10 +1835,6 @@ Use --overwrite para moverlo a la papelera y crearlo de nuevo.</translation>
         <translation>Al &amp;iniciar Tessaro</translation>
     </message>
     <message>
-        <source>Before templates are c&amp;hanged</source>
-        <translation>Antes de &amp;cambiar plantillas</translation>
-    </message>
-    <message>
         <source>Before the &amp;preferences open</source>
         <translation>Antes de abrir las &amp;preferencias</translation>
     </message>
@@ -1855,6 +1925,22 @@ Use --overwrite para moverlo a la papelera y crearlo de nuevo.</translation>
     <message>
         <source>Toolbar</source>
         <translation>Barra de herramientas</translation>
+    </message>
+    <message>
+        <source>Shared set-&amp;up:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shared set-up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A folder in which your studio keeps templates, parameters and settings for everybody. Empty: your own.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Before templates are chan&amp;ged</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2555,6 +2641,14 @@ Use --overwrite para moverlo a la papelera y crearlo de nuevo.</translation>
         <source>how many seconds it may take</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>folder of the set-up that your studio shares</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Set by your studio</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>SettingsCommand</name>
@@ -2576,6 +2670,64 @@ Use --overwrite para moverlo a la papelera y crearlo de nuevo.</translation>
     </message>
 </context>
 <context>
+    <name>SetupCommand</name>
+    <message>
+        <source>The copy of %1 is used.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no copy yet; your own set-up is used.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The studio’s set-up cannot be reached.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No set-up is shared.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Folder: %1
+Templates: %2
+Locked: %3
+Last change: %4</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the studio’s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>your own</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The setting could not be stored.</source>
+        <translation type="unfinished">No se pudo guardar el ajuste.</translation>
+    </message>
+    <message>
+        <source>This folder holds no set-up that can be used. Tessaro setup export writes one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It is set for every user of this computer; an administrator takes it away there: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What can be locked: parameters, %1; or none.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The folder %1 does not exist.</source>
+        <translation type="unfinished">La carpeta %1 no existe.</translation>
+    </message>
+    <message>
+        <source>The set-up could not be written.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>Spinner</name>
     <message>
         <source>Idle</source>
@@ -2584,6 +2736,17 @@ Use --overwrite para moverlo a la papelera y crearlo de nuevo.</translation>
     <message>
         <source>Working</source>
         <translation>Trabajando</translation>
+    </message>
+</context>
+<context>
+    <name>StudioFollower</name>
+    <message>
+        <source>The studio’s set-up cannot be reached. The copy of %1 is used.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The studio’s set-up cannot be reached. Your own is used.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -3540,6 +3703,38 @@ Adapte las plantillas incluidas a sus necesidades o cree las suyas desde cero.</
     </message>
     <message>
         <source>The program that is told of new projects has failed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Editing: from ingest to delivery</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Photography: from card to client</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Podcast and sound: an episode, a mix</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What do you begin with?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The manual cannot be opened</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This desktop has no program for PDF files. The same text can be read here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show It Here</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It is missing; please install Tessaro again.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
