@@ -5,7 +5,8 @@ build_packages="g++ cmake ninja-build ccache mold pkg-config qt6-base-dev qt6-sv
 run_packages="fonts-dejavu-core libqt6svg6 qt6-qpa-plugins"
 test_packages="xvfb xauth openbox dbus dbus-daemon attr e2fsprogs util-linux
   passwd polkitd pkexec x11-xkb-utils locales clang-format xfsprogs libfuse3-dev fuse3"
-package_packages="dpkg-dev file gzip xz-utils patchelf lintian desktop-file-utils appstream"
+package_packages="dpkg-dev file gzip xz-utils patchelf lintian desktop-file-utils appstream
+  python3-minimal"
 tidy_packages="clang-tidy"
 
 # install_missing PACKAGE... : installs those that are not there, and says so on standard error.

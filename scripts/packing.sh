@@ -42,7 +42,20 @@ check_debian_package() { # FOLDER
   lintian --allow-root --no-cfg --fail-on error,warning "$1"/tessaro-dbgsym_*.deb
   desktop-file-validate "$contents/usr/share/applications"/*.desktop
   quietly "$1/.log" appstreamcli validate --no-net "$contents/usr/share/metainfo"/*.xml
+  python3 -B "$source/tests/packaging/file_browsers.py" "$contents/usr/share"/{nautilus,thunarx}-python/extensions/tessaro_menu.py
   rm -rf "$contents" "$1/.log"
+}
+
+# Builds what is packed, makes the Debian package of it and has it looked at.
+build_and_check_package() { # BUILD FOLDER
+  (cd "$source" && build_preset package "$1")
+  if grep -n 'warning:' "$1/build.log" >&2; then
+    echo "The build of the package prints warnings." >&2
+    return 1
+  fi
+  mkdir -p "$2"
+  make_debian_package "$1" "$2"
+  check_debian_package "$2"
 }
 
 # What every desktop has and must match its drivers, its fonts and its C library.

@@ -116,6 +116,7 @@ ManualWindow::ManualWindow(const QString &manual, const QString &folder)
     m_search->setClearButtonEnabled(true);
     m_list->setAccessibleName(tr("Chapters"));
     m_list->setWordWrap(true);
+    m_list->setSpacing(3);
     m_page->setAccessibleName(tr("Text of the chapter"));
     m_page->setOpenExternalLinks(true);
     m_page->setSearchPaths({folder});
