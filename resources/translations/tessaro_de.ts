@@ -13,22 +13,22 @@
     </message>
     <message>
         <source>Inside the Flatpak there are no administrator rights. Tessaro’s other packages have them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Im Flatpak gibt es keine Administratorrechte. In den anderen Paketen von Tessaro gibt es sie.</translation>
     </message>
 </context>
 <context>
     <name>AfterCreation</name>
     <message>
         <source>Running %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wird ausgeführt</translation>
     </message>
     <message>
         <source>It ended with status %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es endete mit dem Exit-Status %1.</translation>
     </message>
     <message>
         <source>It ended with status %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Es endete mit dem Exit-Status %1: %2</translation>
     </message>
 </context>
 <context>
@@ -83,31 +83,31 @@
     <name>CheckCommand</name>
     <message>
         <source>Tessaro does not remember this project, and there is no template to compare it with: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Tessaro hat sich dieses Projekt nicht gemerkt, und es gibt keine Vorlage, mit der es sich vergleichen lässt: %1</translation>
     </message>
     <message>
         <source>Not remembered; compared with the template “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht gemerkt; mit der Vorlage „%1“ verglichen.</translation>
     </message>
     <message>
-        <source>Items that depend on values, and were not looked for: %L1</source>
-        <translation type="unfinished"></translation>
+        <source>Items that depend on values, not looked for: %L1</source>
+        <translation>Von Werten abhängige Objekte, nicht geprüft: %L1</translation>
     </message>
     <message>
         <source>Complete. Items: %L1</source>
-        <translation type="unfinished"></translation>
+        <translation>Vollständig. Objekte: %L1</translation>
     </message>
     <message>
         <source>There is no project to check.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt kein Projekt, das sich prüfen lässt.</translation>
     </message>
     <message>
         <source>There is no template “%1”. %2</source>
-        <translation type="unfinished">Es gibt keine Vorlage „%1“. %2</translation>
+        <translation>Es gibt keine Vorlage „%1“. %2</translation>
     </message>
     <message>
         <source>Checking %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wird geprüft</translation>
     </message>
 </context>
 <context>
@@ -165,7 +165,7 @@
     </message>
     <message>
         <source>Tessaro --help lists what it understands.</source>
-        <translation type="unfinished">Tessaro --help listet auf, was möglich ist.</translation>
+        <translation>Tessaro --help listet auf, was möglich ist.</translation>
     </message>
 </context>
 <context>
@@ -416,55 +416,55 @@
     </message>
     <message>
         <source>values as a JSON object from titles to values; - is standard input</source>
-        <translation type="unfinished"></translation>
+        <translation>Werte als JSON-Objekt mit den Titeln als Schlüsseln; - ist die Standardeingabe</translation>
     </message>
     <message>
         <source>ask at the terminal for what is required and missing</source>
-        <translation type="unfinished"></translation>
+        <translation>im Terminal nach fehlenden Pflichtwerten fragen</translation>
     </message>
     <message>
         <source>leave values and counters out of the settings: nothing is remembered or counted</source>
-        <translation type="unfinished"></translation>
+        <translation>Werte und Zähler nicht in die Einstellungen übernehmen: Nichts wird gemerkt oder weitergezählt</translation>
     </message>
     <message>
         <source>what a project that is not remembered is compared with</source>
-        <translation type="unfinished"></translation>
+        <translation>die Vorlage, mit der ein nicht gemerktes Projekt verglichen wird</translation>
     </message>
     <message>
         <source>Looks whether all that the creation made still stands in a project (the latest, or the one in that folder), and names what is missing. Changes nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Prüft, ob in einem Projekt (dem neuesten oder dem in diesem Ordner) noch alles da ist, was beim Anlegen entstanden ist, und nennt, was fehlt. Ändert nichts.</translation>
     </message>
     <message>
         <source>Opens the window; the next project goes into the folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Öffnet das Fenster; das nächste Projekt wird in diesem Ordner angelegt.</translation>
     </message>
     <message>
         <source>Opens the window, which says whether the project in the folder is complete.</source>
-        <translation type="unfinished"></translation>
+        <translation>Öffnet das Fenster, das dann sagt, ob das Projekt in diesem Ordner vollständig ist.</translation>
     </message>
     <message>
         <source>for every user of this computer; needs root</source>
-        <translation type="unfinished"></translation>
+        <translation>für alle Benutzer dieses Computers; nur mit root-Rechten</translation>
     </message>
     <message>
         <source>what nobody changes, with commas: parameters, keys of settings, or none; else parameters, separatorChar, dateFormat and strictNaming</source>
-        <translation type="unfinished"></translation>
+        <translation>was niemand ändern kann, mit Kommas getrennt: parameters, Schlüssel von Einstellungen oder none; sonst parameters, separatorChar, dateFormat und strictNaming</translation>
     </message>
     <message>
         <source>Says which set-up your studio shares with this computer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sagt, welche gemeinsame Einrichtung Ihr Studio für diesen Computer bereitstellt.</translation>
     </message>
     <message>
         <source>Takes templates, parameters and settings from a shared folder, and follows it from then on.</source>
-        <translation type="unfinished"></translation>
+        <translation>Übernimmt Vorlagen, Parameter und Einstellungen aus einem gemeinsamen Ordner und hält sie von da an auf dessen Stand.</translation>
     </message>
     <message>
         <source>Goes back to your own templates, parameters and settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kehrt zu Ihren eigenen Vorlagen, Parametern und Einstellungen zurück.</translation>
     </message>
     <message>
         <source>Writes the present templates, parameters and settings into a folder, for many computers to use.</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreibt die jetzigen Vorlagen, Parameter und Einstellungen in einen Ordner, damit viele Computer sie verwenden können.</translation>
     </message>
 </context>
 <context>
@@ -577,31 +577,31 @@ Mit --overwrite kommt es in den Papierkorb und wird neu angelegt.</translation>
     </message>
     <message>
         <source>Standard input can be only one of --values and --from.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Standardeingabe ist nur für --values oder für --from möglich, nicht für beide.</translation>
     </message>
     <message>
         <source>The values cannot be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Werte lassen sich nicht lesen.</translation>
     </message>
     <message>
         <source>The values are no JSON object: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Werte sind kein JSON-Objekt: %1</translation>
     </message>
     <message>
-        <source>it begins with no brace</source>
-        <translation type="unfinished"></translation>
+        <source>it does not begin with a brace</source>
+        <translation>am Anfang fehlt die geschweifte Klammer</translation>
     </message>
     <message>
         <source>The value of “%1” is no text, no number and no list of them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Wert von „%1“ ist weder Text noch Zahl noch eine Liste davon.</translation>
     </message>
     <message>
         <source>--ask needs a terminal to ask at.</source>
-        <translation type="unfinished"></translation>
+        <translation>--ask braucht ein Terminal, um fragen zu können.</translation>
     </message>
     <message>
         <source>Stopped. Nothing was created.</source>
-        <translation type="unfinished">Abgebrochen. Nichts wurde angelegt.</translation>
+        <translation>Abgebrochen. Nichts wurde angelegt.</translation>
     </message>
 </context>
 <context>
@@ -655,19 +655,19 @@ Mit --overwrite kommt es in den Papierkorb und wird neu angelegt.</translation>
         <translation>Ausgelassene Zeilen: %L1. Das Protokoll nennt jedes Objekt und die Ursache: %2</translation>
     </message>
     <message>
-        <source>The program that is told of new projects has failed</source>
-        <translation type="unfinished"></translation>
+        <source>The program that runs after each creation has failed</source>
+        <translation>Das Programm, dem neue Projekte gemeldet werden, ist fehlgeschlagen</translation>
     </message>
 </context>
 <context>
     <name>EditingGuard</name>
     <message>
         <source>These templates are set by your studio</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Vorlagen sind von Ihrem Studio festgelegt</translation>
     </message>
     <message>
         <source>They are changed in the studio’s own folder, and come to every computer from there: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Sie werden im Ordner des Studios geändert und kommen von dort auf alle Computer: %1</translation>
     </message>
 </context>
 <context>
@@ -779,15 +779,15 @@ Mit --overwrite kommt es in den Papierkorb und wird neu angelegt.</translation>
     </message>
     <message>
         <source>Choose the Shared Set-up</source>
-        <translation type="unfinished"></translation>
+        <translation>Gemeinsame Einrichtung wählen</translation>
     </message>
     <message>
         <source>This set-up cannot be used</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Einrichtung lässt sich nicht verwenden</translation>
     </message>
     <message>
         <source>The folder needs a file “%1”, which “Tessaro setup export” writes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Im Ordner muss eine Datei „%1“ liegen, die „Tessaro setup export“ anlegt.</translation>
     </message>
 </context>
 <context>
@@ -1156,19 +1156,19 @@ Mit --overwrite kommt es in den Papierkorb und wird neu angelegt.</translation>
     </message>
     <message>
         <source>C&amp;heck Project…</source>
-        <translation type="unfinished"></translation>
+        <translation>Projekt &amp;prüfen…</translation>
     </message>
     <message>
         <source>Cl&amp;ear History</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Verlauf löschen</translation>
     </message>
     <message>
         <source>Tessaro &amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Tessaro-&amp;Hilfe</translation>
     </message>
     <message>
         <source>User &amp;Manual (PDF)</source>
-        <translation type="unfinished"></translation>
+        <translation>Be&amp;nutzerhandbuch (PDF)</translation>
     </message>
 </context>
 <context>
@@ -1288,23 +1288,23 @@ Mit --overwrite kommt es in den Papierkorb und wird neu angelegt.</translation>
     <name>ManualWindow</name>
     <message>
         <source>Tessaro User Manual</source>
-        <translation type="unfinished"></translation>
+        <translation>Tessaro-Benutzerhandbuch</translation>
     </message>
     <message>
         <source>Search</source>
-        <translation type="unfinished">Suchen</translation>
+        <translation>Suchen</translation>
     </message>
     <message>
         <source>Search the manual</source>
-        <translation type="unfinished"></translation>
+        <translation>Im Handbuch suchen</translation>
     </message>
     <message>
         <source>Chapters</source>
-        <translation type="unfinished"></translation>
+        <translation>Kapitel</translation>
     </message>
     <message>
         <source>Text of the chapter</source>
-        <translation type="unfinished"></translation>
+        <translation>Text des Kapitels</translation>
     </message>
 </context>
 <context>
@@ -1928,19 +1928,19 @@ Mit --overwrite kommt es in den Papierkorb und wird neu angelegt.</translation>
     </message>
     <message>
         <source>Shared set-&amp;up:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Gemeinsame Einrichtung:</translation>
     </message>
     <message>
         <source>Shared set-up</source>
-        <translation type="unfinished"></translation>
+        <translation>Gemeinsame Einrichtung</translation>
     </message>
     <message>
         <source>A folder in which your studio keeps templates, parameters and settings for everybody. Empty: your own.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Ordner, in dem Ihr Studio Vorlagen, Parameter und Einstellungen für alle bereithält. Leer: Ihre eigenen.</translation>
     </message>
     <message>
         <source>Before templates are chan&amp;ged</source>
-        <translation type="unfinished"></translation>
+        <translation>Vor Änderungen an &amp;Vorlagen</translation>
     </message>
 </context>
 <context>
@@ -1993,19 +1993,19 @@ Mit --overwrite kommt es in den Papierkorb und wird neu angelegt.</translation>
     <name>ProjectCheck</name>
     <message>
         <source>%1: is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: fehlt</translation>
     </message>
     <message>
         <source>%1: a file stands where a folder was made, or the other way round</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: eine Datei, wo ein Ordner angelegt wurde, oder umgekehrt</translation>
     </message>
     <message>
         <source>%1: had contents, and is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: hatte einen Inhalt und ist jetzt leer</translation>
     </message>
     <message>
         <source>%1: cannot be looked at</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: lässt sich nicht prüfen</translation>
     </message>
 </context>
 <context>
@@ -2130,12 +2130,12 @@ Mit --overwrite kommt es in den Papierkorb und wird neu angelegt.</translation>
         <translation>In %@ ließ sich nicht nach Namen suchen, die ersetzt werden sollen</translation>
     </message>
     <message>
-        <source>The program that is told of new projects has failed</source>
-        <translation type="unfinished"></translation>
+        <source>The program that runs after each creation has failed</source>
+        <translation>Das Programm, dem neue Projekte gemeldet werden, ist fehlgeschlagen</translation>
     </message>
     <message>
         <source>The project was created; nothing was undone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Projekt wurde angelegt; nichts wurde rückgängig gemacht.</translation>
     </message>
 </context>
 <context>
@@ -2627,27 +2627,27 @@ Mit --overwrite kommt es in den Papierkorb und wird neu angelegt.</translation>
     </message>
     <message>
         <source>Please type the whole path of a program that may be run.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte geben Sie den ganzen Pfad eines ausführbaren Programms ein.</translation>
     </message>
     <message>
         <source>The value is a number of seconds, from 1 to %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Wert ist eine Anzahl von Sekunden, von 1 bis %1.</translation>
     </message>
     <message>
         <source>program that gets each new project as JSON on its standard input</source>
-        <translation type="unfinished"></translation>
+        <translation>Programm, das jedes neue Projekt als JSON über die Standardeingabe bekommt</translation>
     </message>
     <message>
         <source>how many seconds it may take</source>
-        <translation type="unfinished"></translation>
+        <translation>wie viele Sekunden es laufen darf</translation>
     </message>
     <message>
         <source>folder of the set-up that your studio shares</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner der gemeinsamen Einrichtung Ihres Studios</translation>
     </message>
     <message>
         <source>Set by your studio</source>
-        <translation type="unfinished"></translation>
+        <translation>Von Ihrem Studio festgelegt</translation>
     </message>
 </context>
 <context>
@@ -2673,58 +2673,61 @@ Mit --overwrite kommt es in den Papierkorb und wird neu angelegt.</translation>
     <name>SetupCommand</name>
     <message>
         <source>The copy of %1 is used.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Kopie vom %1 wird verwendet.</translation>
     </message>
     <message>
         <source>There is no copy yet; your own set-up is used.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt noch keine Kopie; Ihre eigene Einrichtung wird verwendet.</translation>
     </message>
     <message>
         <source>The studio’s set-up cannot be reached.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Einrichtung des Studios ist nicht erreichbar.</translation>
     </message>
     <message>
         <source>No set-up is shared.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keine gemeinsame Einrichtung.</translation>
     </message>
     <message>
         <source>Folder: %1
 Templates: %2
 Locked: %3
 Last change: %4</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner: %1
+Vorlagen: %2
+Gesperrt: %3
+Letzte Änderung: %4</translation>
     </message>
     <message>
         <source>the studio’s</source>
-        <translation type="unfinished"></translation>
+        <translation>die des Studios</translation>
     </message>
     <message>
         <source>your own</source>
-        <translation type="unfinished"></translation>
+        <translation>Ihre eigenen</translation>
     </message>
     <message>
         <source>The setting could not be stored.</source>
-        <translation type="unfinished">Die Einstellung ließ sich nicht speichern.</translation>
+        <translation>Die Einstellung ließ sich nicht speichern.</translation>
     </message>
     <message>
         <source>This folder holds no set-up that can be used. Tessaro setup export writes one.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>It is set for every user of this computer; an administrator takes it away there: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Ordner enthält keine verwendbare Einrichtung. Tessaro setup export legt eine an.</translation>
     </message>
     <message>
         <source>What can be locked: parameters, %1; or none.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sperren lassen sich: parameters, %1; oder none.</translation>
     </message>
     <message>
         <source>The folder %1 does not exist.</source>
-        <translation type="unfinished">Den Ordner %1 gibt es nicht.</translation>
+        <translation>Den Ordner %1 gibt es nicht.</translation>
     </message>
     <message>
         <source>The set-up could not be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Einrichtung ließ sich nicht schreiben.</translation>
+    </message>
+    <message>
+        <source>It is set for every user of this computer; an administrator takes it away: %1</source>
+        <translation>Sie ist für alle Benutzer dieses Computers eingestellt; ein Administrator kann sie entfernen: %1</translation>
     </message>
 </context>
 <context>
@@ -2742,11 +2745,11 @@ Last change: %4</source>
     <name>StudioFollower</name>
     <message>
         <source>The studio’s set-up cannot be reached. The copy of %1 is used.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Einrichtung des Studios ist nicht erreichbar. Die Kopie vom %1 wird verwendet.</translation>
     </message>
     <message>
         <source>The studio’s set-up cannot be reached. Your own is used.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Einrichtung des Studios ist nicht erreichbar. Ihre eigene wird verwendet.</translation>
     </message>
 </context>
 <context>
@@ -3648,94 +3651,94 @@ Passen Sie die mitgelieferten Vorlagen an Ihren Bedarf an, oder bauen Sie eigene
     </message>
     <message>
         <source>&amp;Check…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Prüfen…</translation>
     </message>
     <message>
         <source>Choose the project to check</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu prüfendes Projekt wählen</translation>
     </message>
     <message>
         <source>Check</source>
-        <translation type="unfinished"></translation>
+        <translation>Prüfen</translation>
     </message>
     <message>
         <source>‘%1’ cannot be checked</source>
-        <translation type="unfinished"></translation>
+        <translation>‚%1‘ lässt sich nicht prüfen</translation>
     </message>
     <message>
         <source>Tessaro does not remember this project; it was compared with the template “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tessaro hat sich dieses Projekt nicht gemerkt; es wurde mit der Vorlage „%1“ verglichen.</translation>
     </message>
     <message numerus="yes">
         <source>and %n more; “Tessaro check” names each</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>und %n weiteres; „Tessaro check“ nennt alle</numerusform>
+            <numerusform>und %n weitere; „Tessaro check“ nennt alle</numerusform>
         </translation>
     </message>
     <message>
-        <source>Items that depend on values, and were not looked for: %L1</source>
-        <translation type="unfinished"></translation>
+        <source>Items that depend on values, not looked for: %L1</source>
+        <translation>Von Werten abhängige Objekte, nicht geprüft: %L1</translation>
     </message>
     <message>
         <source>Items looked for: %L1</source>
-        <translation type="unfinished"></translation>
+        <translation>Geprüfte Objekte: %L1</translation>
     </message>
     <message>
         <source>‘%1’ is complete</source>
-        <translation type="unfinished"></translation>
+        <translation>‚%1‘ ist vollständig</translation>
     </message>
     <message>
         <source>Something is missing in ‘%1’</source>
-        <translation type="unfinished"></translation>
+        <translation>In ‚%1‘ fehlt etwas</translation>
     </message>
     <message>
         <source>Checking %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wird geprüft</translation>
     </message>
     <message>
         <source>No project can be created there</source>
-        <translation type="unfinished"></translation>
+        <translation>Dort lässt sich kein Projekt anlegen</translation>
     </message>
     <message>
-        <source>%1 is no folder.</source>
-        <translation type="unfinished"></translation>
+        <source>%1 is not a folder.</source>
+        <translation>%1 ist kein Ordner.</translation>
     </message>
     <message>
-        <source>The program that is told of new projects has failed</source>
-        <translation type="unfinished"></translation>
+        <source>The program that runs after each creation has failed</source>
+        <translation>Das Programm, dem neue Projekte gemeldet werden, ist fehlgeschlagen</translation>
     </message>
     <message>
         <source>Editing: from ingest to delivery</source>
-        <translation type="unfinished"></translation>
+        <translation>Schnitt: vom Einlesen bis zur Auslieferung</translation>
     </message>
     <message>
         <source>Photography: from card to client</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotografie: von der Speicherkarte bis zum Kunden</translation>
     </message>
     <message>
         <source>Podcast and sound: an episode, a mix</source>
-        <translation type="unfinished"></translation>
+        <translation>Podcast und Ton: eine Folge, eine Mischung</translation>
     </message>
     <message>
-        <source>What do you begin with?</source>
-        <translation type="unfinished"></translation>
+        <source>What would you like to start with?</source>
+        <translation>Womit möchten Sie beginnen?</translation>
     </message>
     <message>
         <source>The manual cannot be opened</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Handbuch lässt sich nicht öffnen</translation>
     </message>
     <message>
         <source>This desktop has no program for PDF files. The same text can be read here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf diesem Desktop gibt es kein Programm für PDF-Dateien. Derselbe Text lässt sich hier lesen.</translation>
     </message>
     <message>
         <source>Show It Here</source>
-        <translation type="unfinished"></translation>
+        <translation>Hier zeigen</translation>
     </message>
     <message>
         <source>It is missing; please install Tessaro again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es fehlt; bitte installieren Sie Tessaro neu.</translation>
     </message>
 </context>
 <context>

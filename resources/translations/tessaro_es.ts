@@ -13,22 +13,22 @@
     </message>
     <message>
         <source>Inside the Flatpak there are no administrator rights. Tessaro’s other packages have them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dentro del Flatpak no hay derechos de administrador. Los demás paquetes de Tessaro sí los tienen.</translation>
     </message>
 </context>
 <context>
     <name>AfterCreation</name>
     <message>
         <source>Running %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ejecutando %1</translation>
     </message>
     <message>
         <source>It ended with status %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Terminó con el estado de salida %1.</translation>
     </message>
     <message>
         <source>It ended with status %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Terminó con el estado de salida %1: %2</translation>
     </message>
 </context>
 <context>
@@ -83,31 +83,31 @@
     <name>CheckCommand</name>
     <message>
         <source>Tessaro does not remember this project, and there is no template to compare it with: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Tessaro no recuerda este proyecto y no hay ninguna plantilla con la que compararlo: %1</translation>
     </message>
     <message>
         <source>Not remembered; compared with the template “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Proyecto no recordado; comparado con la plantilla «%1».</translation>
     </message>
     <message>
-        <source>Items that depend on values, and were not looked for: %L1</source>
-        <translation type="unfinished"></translation>
+        <source>Items that depend on values, not looked for: %L1</source>
+        <translation>Elementos que dependen de valores y no se comprobaron: %L1</translation>
     </message>
     <message>
         <source>Complete. Items: %L1</source>
-        <translation type="unfinished"></translation>
+        <translation>Completo. Elementos: %L1</translation>
     </message>
     <message>
         <source>There is no project to check.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ningún proyecto que comprobar.</translation>
     </message>
     <message>
         <source>There is no template “%1”. %2</source>
-        <translation type="unfinished">No hay ninguna plantilla «%1». %2</translation>
+        <translation>No hay ninguna plantilla «%1». %2</translation>
     </message>
     <message>
         <source>Checking %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Comprobando %1</translation>
     </message>
 </context>
 <context>
@@ -165,7 +165,7 @@
     </message>
     <message>
         <source>Tessaro --help lists what it understands.</source>
-        <translation type="unfinished">Tessaro --help enumera lo que entiende.</translation>
+        <translation>Tessaro --help enumera lo que entiende.</translation>
     </message>
 </context>
 <context>
@@ -416,55 +416,55 @@
     </message>
     <message>
         <source>values as a JSON object from titles to values; - is standard input</source>
-        <translation type="unfinished"></translation>
+        <translation>valores como objeto JSON con los títulos como claves; - es la entrada estándar</translation>
     </message>
     <message>
         <source>ask at the terminal for what is required and missing</source>
-        <translation type="unfinished"></translation>
+        <translation>pedir en el terminal los valores obligatorios que falten</translation>
     </message>
     <message>
         <source>leave values and counters out of the settings: nothing is remembered or counted</source>
-        <translation type="unfinished"></translation>
+        <translation>no guardar valores ni contadores en los ajustes: no se recuerda ni se cuenta nada</translation>
     </message>
     <message>
         <source>what a project that is not remembered is compared with</source>
-        <translation type="unfinished"></translation>
+        <translation>la plantilla con la que se compara un proyecto no recordado</translation>
     </message>
     <message>
         <source>Looks whether all that the creation made still stands in a project (the latest, or the one in that folder), and names what is missing. Changes nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Comprueba si en un proyecto (el último, o el de esa carpeta) sigue estando todo lo que hizo la creación e indica lo que falta. No cambia nada.</translation>
     </message>
     <message>
         <source>Opens the window; the next project goes into the folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Abre la ventana; el próximo proyecto se creará en esa carpeta.</translation>
     </message>
     <message>
         <source>Opens the window, which says whether the project in the folder is complete.</source>
-        <translation type="unfinished"></translation>
+        <translation>Abre la ventana, que indica si el proyecto de esa carpeta está completo.</translation>
     </message>
     <message>
         <source>for every user of this computer; needs root</source>
-        <translation type="unfinished"></translation>
+        <translation>para todos los usuarios de este equipo; requiere root</translation>
     </message>
     <message>
         <source>what nobody changes, with commas: parameters, keys of settings, or none; else parameters, separatorChar, dateFormat and strictNaming</source>
-        <translation type="unfinished"></translation>
+        <translation>lo que nadie puede cambiar, separado por comas: parameters, claves de ajustes o none; si no, parameters, separatorChar, dateFormat y strictNaming</translation>
     </message>
     <message>
         <source>Says which set-up your studio shares with this computer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Indica qué configuración comparte su estudio con este equipo.</translation>
     </message>
     <message>
         <source>Takes templates, parameters and settings from a shared folder, and follows it from then on.</source>
-        <translation type="unfinished"></translation>
+        <translation>Toma plantillas, parámetros y ajustes de una carpeta compartida y, a partir de entonces, sigue sus cambios.</translation>
     </message>
     <message>
         <source>Goes back to your own templates, parameters and settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vuelve a sus propias plantillas y a sus propios parámetros y ajustes.</translation>
     </message>
     <message>
         <source>Writes the present templates, parameters and settings into a folder, for many computers to use.</source>
-        <translation type="unfinished"></translation>
+        <translation>Guarda las plantillas, los parámetros y los ajustes actuales en una carpeta, para usarlos en muchos equipos.</translation>
     </message>
 </context>
 <context>
@@ -577,31 +577,31 @@ Use --overwrite para moverlo a la papelera y crearlo de nuevo.</translation>
     </message>
     <message>
         <source>Standard input can be only one of --values and --from.</source>
-        <translation type="unfinished"></translation>
+        <translation>La entrada estándar solo puede usarse con una de las opciones --values y --from.</translation>
     </message>
     <message>
         <source>The values cannot be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pueden leer los valores.</translation>
     </message>
     <message>
         <source>The values are no JSON object: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Los valores no son un objeto JSON: %1</translation>
     </message>
     <message>
-        <source>it begins with no brace</source>
-        <translation type="unfinished"></translation>
+        <source>it does not begin with a brace</source>
+        <translation>no empieza con una llave</translation>
     </message>
     <message>
         <source>The value of “%1” is no text, no number and no list of them.</source>
-        <translation type="unfinished"></translation>
+        <translation>El valor de «%1» no es un texto, ni un número, ni una lista de ellos.</translation>
     </message>
     <message>
         <source>--ask needs a terminal to ask at.</source>
-        <translation type="unfinished"></translation>
+        <translation>--ask requiere un terminal en el que preguntar.</translation>
     </message>
     <message>
         <source>Stopped. Nothing was created.</source>
-        <translation type="unfinished">Detenido. No se creó nada.</translation>
+        <translation>Detenido. No se creó nada.</translation>
     </message>
 </context>
 <context>
@@ -655,19 +655,19 @@ Use --overwrite para moverlo a la papelera y crearlo de nuevo.</translation>
         <translation>Filas omitidas: %L1. El registro detalla cada elemento y la causa: %2</translation>
     </message>
     <message>
-        <source>The program that is told of new projects has failed</source>
-        <translation type="unfinished"></translation>
+        <source>The program that runs after each creation has failed</source>
+        <translation>Falló el programa al que se avisa de los proyectos nuevos</translation>
     </message>
 </context>
 <context>
     <name>EditingGuard</name>
     <message>
         <source>These templates are set by your studio</source>
-        <translation type="unfinished"></translation>
+        <translation>Estas plantillas las define su estudio</translation>
     </message>
     <message>
         <source>They are changed in the studio’s own folder, and come to every computer from there: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Se cambian en la carpeta del estudio y desde ahí llegan a todos los equipos: %1</translation>
     </message>
 </context>
 <context>
@@ -779,15 +779,15 @@ Use --overwrite para moverlo a la papelera y crearlo de nuevo.</translation>
     </message>
     <message>
         <source>Choose the Shared Set-up</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegir la configuración compartida</translation>
     </message>
     <message>
         <source>This set-up cannot be used</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede usar esta configuración</translation>
     </message>
     <message>
         <source>The folder needs a file “%1”, which “Tessaro setup export” writes.</source>
-        <translation type="unfinished"></translation>
+        <translation>En la carpeta debe haber un archivo «%1», que crea «Tessaro setup export».</translation>
     </message>
 </context>
 <context>
@@ -1156,19 +1156,19 @@ Use --overwrite para moverlo a la papelera y crearlo de nuevo.</translation>
     </message>
     <message>
         <source>C&amp;heck Project…</source>
-        <translation type="unfinished"></translation>
+        <translation>C&amp;omprobar proyecto…</translation>
     </message>
     <message>
         <source>Cl&amp;ear History</source>
-        <translation type="unfinished"></translation>
+        <translation>Borrar &amp;historial</translation>
     </message>
     <message>
         <source>Tessaro &amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Ay&amp;uda de Tessaro</translation>
     </message>
     <message>
         <source>User &amp;Manual (PDF)</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Manual de usuario (PDF)</translation>
     </message>
 </context>
 <context>
@@ -1288,23 +1288,23 @@ Use --overwrite para moverlo a la papelera y crearlo de nuevo.</translation>
     <name>ManualWindow</name>
     <message>
         <source>Tessaro User Manual</source>
-        <translation type="unfinished"></translation>
+        <translation>Manual de usuario de Tessaro</translation>
     </message>
     <message>
         <source>Search</source>
-        <translation type="unfinished">Buscar</translation>
+        <translation>Buscar</translation>
     </message>
     <message>
         <source>Search the manual</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar en el manual</translation>
     </message>
     <message>
         <source>Chapters</source>
-        <translation type="unfinished"></translation>
+        <translation>Capítulos</translation>
     </message>
     <message>
         <source>Text of the chapter</source>
-        <translation type="unfinished"></translation>
+        <translation>Texto del capítulo</translation>
     </message>
 </context>
 <context>
@@ -1928,19 +1928,19 @@ Use --overwrite para moverlo a la papelera y crearlo de nuevo.</translation>
     </message>
     <message>
         <source>Shared set-&amp;up:</source>
-        <translation type="unfinished"></translation>
+        <translation>Con&amp;figuración compartida:</translation>
     </message>
     <message>
         <source>Shared set-up</source>
-        <translation type="unfinished"></translation>
+        <translation>Configuración compartida</translation>
     </message>
     <message>
         <source>A folder in which your studio keeps templates, parameters and settings for everybody. Empty: your own.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una carpeta donde su estudio guarda plantillas, parámetros y ajustes para todos. Vacío: los suyos.</translation>
     </message>
     <message>
         <source>Before templates are chan&amp;ged</source>
-        <translation type="unfinished"></translation>
+        <translation>Antes de &amp;cambiar plantillas</translation>
     </message>
 </context>
 <context>
@@ -1993,19 +1993,19 @@ Use --overwrite para moverlo a la papelera y crearlo de nuevo.</translation>
     <name>ProjectCheck</name>
     <message>
         <source>%1: is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: falta</translation>
     </message>
     <message>
         <source>%1: a file stands where a folder was made, or the other way round</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: hay un archivo donde se creó una carpeta, o al revés</translation>
     </message>
     <message>
         <source>%1: had contents, and is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: tenía contenido y ahora está vacío</translation>
     </message>
     <message>
         <source>%1: cannot be looked at</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: no se puede comprobar</translation>
     </message>
 </context>
 <context>
@@ -2130,12 +2130,12 @@ Use --overwrite para moverlo a la papelera y crearlo de nuevo.</translation>
         <translation>No se pudieron buscar nombres que reemplazar en %@</translation>
     </message>
     <message>
-        <source>The program that is told of new projects has failed</source>
-        <translation type="unfinished"></translation>
+        <source>The program that runs after each creation has failed</source>
+        <translation>Falló el programa al que se avisa de los proyectos nuevos</translation>
     </message>
     <message>
         <source>The project was created; nothing was undone.</source>
-        <translation type="unfinished"></translation>
+        <translation>El proyecto se creó; no se deshizo nada.</translation>
     </message>
 </context>
 <context>
@@ -2627,27 +2627,27 @@ Use --overwrite para moverlo a la papelera y crearlo de nuevo.</translation>
     </message>
     <message>
         <source>Please type the whole path of a program that may be run.</source>
-        <translation type="unfinished"></translation>
+        <translation>Escriba la ruta completa de un programa ejecutable.</translation>
     </message>
     <message>
         <source>The value is a number of seconds, from 1 to %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>El valor es un número de segundos, de 1 a %1.</translation>
     </message>
     <message>
         <source>program that gets each new project as JSON on its standard input</source>
-        <translation type="unfinished"></translation>
+        <translation>programa que recibe cada proyecto nuevo como JSON por su entrada estándar</translation>
     </message>
     <message>
         <source>how many seconds it may take</source>
-        <translation type="unfinished"></translation>
+        <translation>cuántos segundos puede tardar</translation>
     </message>
     <message>
         <source>folder of the set-up that your studio shares</source>
-        <translation type="unfinished"></translation>
+        <translation>carpeta de la configuración que comparte su estudio</translation>
     </message>
     <message>
         <source>Set by your studio</source>
-        <translation type="unfinished"></translation>
+        <translation>Definido por su estudio</translation>
     </message>
 </context>
 <context>
@@ -2673,58 +2673,61 @@ Use --overwrite para moverlo a la papelera y crearlo de nuevo.</translation>
     <name>SetupCommand</name>
     <message>
         <source>The copy of %1 is used.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se usa la copia del %1.</translation>
     </message>
     <message>
         <source>There is no copy yet; your own set-up is used.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aún no hay ninguna copia; se usa su propia configuración.</translation>
     </message>
     <message>
         <source>The studio’s set-up cannot be reached.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede acceder a la configuración del estudio.</translation>
     </message>
     <message>
         <source>No set-up is shared.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ninguna configuración compartida.</translation>
     </message>
     <message>
         <source>Folder: %1
 Templates: %2
 Locked: %3
 Last change: %4</source>
-        <translation type="unfinished"></translation>
+        <translation>Carpeta: %1
+Plantillas: %2
+Bloqueado: %3
+Último cambio: %4</translation>
     </message>
     <message>
         <source>the studio’s</source>
-        <translation type="unfinished"></translation>
+        <translation>las del estudio</translation>
     </message>
     <message>
         <source>your own</source>
-        <translation type="unfinished"></translation>
+        <translation>las suyas</translation>
     </message>
     <message>
         <source>The setting could not be stored.</source>
-        <translation type="unfinished">No se pudo guardar el ajuste.</translation>
+        <translation>No se pudo guardar el ajuste.</translation>
     </message>
     <message>
         <source>This folder holds no set-up that can be used. Tessaro setup export writes one.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>It is set for every user of this computer; an administrator takes it away there: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta carpeta no contiene ninguna configuración utilizable. Tessaro setup export crea una.</translation>
     </message>
     <message>
         <source>What can be locked: parameters, %1; or none.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se puede bloquear: parameters, %1; o none.</translation>
     </message>
     <message>
         <source>The folder %1 does not exist.</source>
-        <translation type="unfinished">La carpeta %1 no existe.</translation>
+        <translation>La carpeta %1 no existe.</translation>
     </message>
     <message>
         <source>The set-up could not be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo guardar la configuración.</translation>
+    </message>
+    <message>
+        <source>It is set for every user of this computer; an administrator takes it away: %1</source>
+        <translation>Está definida para todos los usuarios de este ordenador; un administrador puede quitarla: %1</translation>
     </message>
 </context>
 <context>
@@ -2742,11 +2745,11 @@ Last change: %4</source>
     <name>StudioFollower</name>
     <message>
         <source>The studio’s set-up cannot be reached. The copy of %1 is used.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede acceder a la configuración del estudio. Se usa la copia del %1.</translation>
     </message>
     <message>
         <source>The studio’s set-up cannot be reached. Your own is used.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede acceder a la configuración del estudio. Se usa la suya.</translation>
     </message>
 </context>
 <context>
@@ -3648,94 +3651,94 @@ Adapte las plantillas incluidas a sus necesidades o cree las suyas desde cero.</
     </message>
     <message>
         <source>&amp;Check…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Comprobar…</translation>
     </message>
     <message>
         <source>Choose the project to check</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegir qué proyecto comprobar</translation>
     </message>
     <message>
         <source>Check</source>
-        <translation type="unfinished"></translation>
+        <translation>Comprobar</translation>
     </message>
     <message>
         <source>‘%1’ cannot be checked</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede comprobar «%1»</translation>
     </message>
     <message>
         <source>Tessaro does not remember this project; it was compared with the template “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tessaro no recuerda este proyecto; se comparó con la plantilla «%1».</translation>
     </message>
     <message numerus="yes">
         <source>and %n more; “Tessaro check” names each</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>y %n más; «Tessaro check» lo detalla</numerusform>
+            <numerusform>y %n más; «Tessaro check» los detalla</numerusform>
         </translation>
     </message>
     <message>
-        <source>Items that depend on values, and were not looked for: %L1</source>
-        <translation type="unfinished"></translation>
+        <source>Items that depend on values, not looked for: %L1</source>
+        <translation>Elementos que dependen de valores y no se comprobaron: %L1</translation>
     </message>
     <message>
         <source>Items looked for: %L1</source>
-        <translation type="unfinished"></translation>
+        <translation>Elementos comprobados: %L1</translation>
     </message>
     <message>
         <source>‘%1’ is complete</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» está completo</translation>
     </message>
     <message>
         <source>Something is missing in ‘%1’</source>
-        <translation type="unfinished"></translation>
+        <translation>Falta algo en «%1»</translation>
     </message>
     <message>
         <source>Checking %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Comprobando %1</translation>
     </message>
     <message>
         <source>No project can be created there</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede crear ningún proyecto ahí</translation>
     </message>
     <message>
-        <source>%1 is no folder.</source>
-        <translation type="unfinished"></translation>
+        <source>%1 is not a folder.</source>
+        <translation>%1 no es una carpeta.</translation>
     </message>
     <message>
-        <source>The program that is told of new projects has failed</source>
-        <translation type="unfinished"></translation>
+        <source>The program that runs after each creation has failed</source>
+        <translation>Falló el programa al que se avisa de los proyectos nuevos</translation>
     </message>
     <message>
         <source>Editing: from ingest to delivery</source>
-        <translation type="unfinished"></translation>
+        <translation>Edición: de la ingesta a la entrega</translation>
     </message>
     <message>
         <source>Photography: from card to client</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotografía: de la tarjeta al cliente</translation>
     </message>
     <message>
         <source>Podcast and sound: an episode, a mix</source>
-        <translation type="unfinished"></translation>
+        <translation>Pódcast y sonido: un episodio, una mezcla</translation>
     </message>
     <message>
-        <source>What do you begin with?</source>
-        <translation type="unfinished"></translation>
+        <source>What would you like to start with?</source>
+        <translation>¿Con qué quiere empezar?</translation>
     </message>
     <message>
         <source>The manual cannot be opened</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede abrir el manual</translation>
     </message>
     <message>
         <source>This desktop has no program for PDF files. The same text can be read here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este escritorio no tiene ningún programa para archivos PDF. El mismo texto se puede leer aquí.</translation>
     </message>
     <message>
         <source>Show It Here</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar aquí</translation>
     </message>
     <message>
         <source>It is missing; please install Tessaro again.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se encuentra; vuelva a instalar Tessaro.</translation>
     </message>
 </context>
 <context>

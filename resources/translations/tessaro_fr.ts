@@ -13,22 +13,22 @@
     </message>
     <message>
         <source>Inside the Flatpak there are no administrator rights. Tessaro’s other packages have them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dans le Flatpak, il n’y a pas de droits d’administrateur. Les autres paquets de Tessaro en disposent.</translation>
     </message>
 </context>
 <context>
     <name>AfterCreation</name>
     <message>
         <source>Running %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Exécution de %1</translation>
     </message>
     <message>
         <source>It ended with status %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il s’est terminé avec le code de retour %1.</translation>
     </message>
     <message>
         <source>It ended with status %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Il s’est terminé avec le code de retour %1&#xa0;: %2</translation>
     </message>
 </context>
 <context>
@@ -83,31 +83,31 @@
     <name>CheckCommand</name>
     <message>
         <source>Tessaro does not remember this project, and there is no template to compare it with: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Tessaro n’a pas mémorisé ce projet, et il n’y a aucun modèle auquel le comparer&#xa0;: %1</translation>
     </message>
     <message>
         <source>Not remembered; compared with the template “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Projet non mémorisé&#xa0;; comparé au modèle «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
-        <source>Items that depend on values, and were not looked for: %L1</source>
-        <translation type="unfinished"></translation>
+        <source>Items that depend on values, not looked for: %L1</source>
+        <translation>Éléments dépendant de valeurs, non vérifiés&#xa0;: %L1</translation>
     </message>
     <message>
         <source>Complete. Items: %L1</source>
-        <translation type="unfinished"></translation>
+        <translation>Complet. Éléments&#xa0;: %L1</translation>
     </message>
     <message>
         <source>There is no project to check.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a aucun projet à vérifier.</translation>
     </message>
     <message>
         <source>There is no template “%1”. %2</source>
-        <translation type="unfinished">Le modèle «&#xa0;%1&#xa0;» n’existe pas. %2</translation>
+        <translation>Le modèle «&#xa0;%1&#xa0;» n’existe pas. %2</translation>
     </message>
     <message>
         <source>Checking %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Vérification de %1</translation>
     </message>
 </context>
 <context>
@@ -165,7 +165,7 @@
     </message>
     <message>
         <source>Tessaro --help lists what it understands.</source>
-        <translation type="unfinished">Tessaro --help liste ce qu’il comprend.</translation>
+        <translation>Tessaro --help liste ce qu’il comprend.</translation>
     </message>
 </context>
 <context>
@@ -416,55 +416,55 @@
     </message>
     <message>
         <source>values as a JSON object from titles to values; - is standard input</source>
-        <translation type="unfinished"></translation>
+        <translation>valeurs en objet JSON dont les clés sont les titres&#xa0;; - pour l’entrée standard</translation>
     </message>
     <message>
         <source>ask at the terminal for what is required and missing</source>
-        <translation type="unfinished"></translation>
+        <translation>demander au terminal les valeurs requises manquantes</translation>
     </message>
     <message>
         <source>leave values and counters out of the settings: nothing is remembered or counted</source>
-        <translation type="unfinished"></translation>
+        <translation>ne pas enregistrer les valeurs et les compteurs dans les réglages&#xa0;: rien n’est mémorisé ni compté</translation>
     </message>
     <message>
         <source>what a project that is not remembered is compared with</source>
-        <translation type="unfinished"></translation>
+        <translation>le modèle auquel comparer un projet non mémorisé</translation>
     </message>
     <message>
         <source>Looks whether all that the creation made still stands in a project (the latest, or the one in that folder), and names what is missing. Changes nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vérifie que tout ce que la création a produit se trouve encore dans un projet (le dernier, ou celui de ce dossier) et indique ce qui manque. Ne modifie rien.</translation>
     </message>
     <message>
         <source>Opens the window; the next project goes into the folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvre la fenêtre&#xa0;; le prochain projet sera créé dans ce dossier.</translation>
     </message>
     <message>
         <source>Opens the window, which says whether the project in the folder is complete.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvre la fenêtre, qui indique si le projet de ce dossier est complet.</translation>
     </message>
     <message>
         <source>for every user of this computer; needs root</source>
-        <translation type="unfinished"></translation>
+        <translation>pour tous les utilisateurs de cet ordinateur&#xa0;; exige les droits root</translation>
     </message>
     <message>
         <source>what nobody changes, with commas: parameters, keys of settings, or none; else parameters, separatorChar, dateFormat and strictNaming</source>
-        <translation type="unfinished"></translation>
+        <translation>ce que personne ne peut modifier, séparé par des virgules&#xa0;: parameters, des clés de réglages ou none&#xa0;; sinon, parameters, separatorChar, dateFormat et strictNaming</translation>
     </message>
     <message>
         <source>Says which set-up your studio shares with this computer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Indique quelle configuration votre studio partage avec cet ordinateur.</translation>
     </message>
     <message>
         <source>Takes templates, parameters and settings from a shared folder, and follows it from then on.</source>
-        <translation type="unfinished"></translation>
+        <translation>Reprend les modèles, les paramètres et les réglages d’un dossier partagé et en suit désormais les changements.</translation>
     </message>
     <message>
         <source>Goes back to your own templates, parameters and settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Revient à vos propres modèles, paramètres et réglages.</translation>
     </message>
     <message>
         <source>Writes the present templates, parameters and settings into a folder, for many computers to use.</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistre les modèles, les paramètres et les réglages actuels dans un dossier, à l’usage de nombreux ordinateurs.</translation>
     </message>
 </context>
 <context>
@@ -577,31 +577,31 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     </message>
     <message>
         <source>Standard input can be only one of --values and --from.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’entrée standard ne peut servir qu’à une seule des options --values et --from.</translation>
     </message>
     <message>
         <source>The values cannot be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de lire les valeurs.</translation>
     </message>
     <message>
         <source>The values are no JSON object: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Les valeurs ne forment pas un objet JSON&#xa0;: %1</translation>
     </message>
     <message>
-        <source>it begins with no brace</source>
-        <translation type="unfinished"></translation>
+        <source>it does not begin with a brace</source>
+        <translation>il manque l’accolade au début</translation>
     </message>
     <message>
         <source>The value of “%1” is no text, no number and no list of them.</source>
-        <translation type="unfinished"></translation>
+        <translation>La valeur de «&#xa0;%1&#xa0;» n’est ni un texte, ni un nombre, ni une liste de textes ou de nombres.</translation>
     </message>
     <message>
         <source>--ask needs a terminal to ask at.</source>
-        <translation type="unfinished"></translation>
+        <translation>--ask exige un terminal où poser ses questions.</translation>
     </message>
     <message>
         <source>Stopped. Nothing was created.</source>
-        <translation type="unfinished">Interrompu. Rien n’a été créé.</translation>
+        <translation>Interrompu. Rien n’a été créé.</translation>
     </message>
 </context>
 <context>
@@ -655,19 +655,19 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
         <translation>Lignes ignorées&#xa0;: %L1. Le journal indique chaque élément et la cause&#xa0;: %2</translation>
     </message>
     <message>
-        <source>The program that is told of new projects has failed</source>
-        <translation type="unfinished"></translation>
+        <source>The program that runs after each creation has failed</source>
+        <translation>Le programme informé des nouveaux projets a échoué</translation>
     </message>
 </context>
 <context>
     <name>EditingGuard</name>
     <message>
         <source>These templates are set by your studio</source>
-        <translation type="unfinished"></translation>
+        <translation>Ces modèles sont définis par votre studio</translation>
     </message>
     <message>
         <source>They are changed in the studio’s own folder, and come to every computer from there: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ils se modifient dans le dossier du studio, d’où ils parviennent à tous les ordinateurs&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -779,15 +779,15 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     </message>
     <message>
         <source>Choose the Shared Set-up</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir la configuration partagée</translation>
     </message>
     <message>
         <source>This set-up cannot be used</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’utiliser cette configuration</translation>
     </message>
     <message>
         <source>The folder needs a file “%1”, which “Tessaro setup export” writes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le dossier doit contenir un fichier «&#xa0;%1&#xa0;», que crée «&#xa0;Tessaro setup export&#xa0;».</translation>
     </message>
 </context>
 <context>
@@ -1156,19 +1156,19 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     </message>
     <message>
         <source>C&amp;heck Project…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vérifier un projet…</translation>
     </message>
     <message>
         <source>Cl&amp;ear History</source>
-        <translation type="unfinished"></translation>
+        <translation>Effacer l’&amp;historique</translation>
     </message>
     <message>
         <source>Tessaro &amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;ide de Tessaro</translation>
     </message>
     <message>
         <source>User &amp;Manual (PDF)</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Mode d’emploi (PDF)</translation>
     </message>
 </context>
 <context>
@@ -1288,23 +1288,23 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     <name>ManualWindow</name>
     <message>
         <source>Tessaro User Manual</source>
-        <translation type="unfinished"></translation>
+        <translation>Mode d’emploi de Tessaro</translation>
     </message>
     <message>
         <source>Search</source>
-        <translation type="unfinished">Rechercher</translation>
+        <translation>Rechercher</translation>
     </message>
     <message>
         <source>Search the manual</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechercher dans le mode d’emploi</translation>
     </message>
     <message>
         <source>Chapters</source>
-        <translation type="unfinished"></translation>
+        <translation>Chapitres</translation>
     </message>
     <message>
         <source>Text of the chapter</source>
-        <translation type="unfinished"></translation>
+        <translation>Texte du chapitre</translation>
     </message>
 </context>
 <context>
@@ -1928,19 +1928,19 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     </message>
     <message>
         <source>Shared set-&amp;up:</source>
-        <translation type="unfinished"></translation>
+        <translation>Con&amp;figuration partagée&#xa0;:</translation>
     </message>
     <message>
         <source>Shared set-up</source>
-        <translation type="unfinished"></translation>
+        <translation>Configuration partagée</translation>
     </message>
     <message>
         <source>A folder in which your studio keeps templates, parameters and settings for everybody. Empty: your own.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un dossier où votre studio conserve modèles, paramètres et réglages pour tous. Vide&#xa0;: les vôtres.</translation>
     </message>
     <message>
         <source>Before templates are chan&amp;ged</source>
-        <translation type="unfinished"></translation>
+        <translation>Avant de &amp;modifier les modèles</translation>
     </message>
 </context>
 <context>
@@ -1993,19 +1993,19 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     <name>ProjectCheck</name>
     <message>
         <source>%1: is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;: introuvable</translation>
     </message>
     <message>
         <source>%1: a file stands where a folder was made, or the other way round</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;: un fichier à la place d’un dossier créé, ou l’inverse</translation>
     </message>
     <message>
         <source>%1: had contents, and is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;: avait un contenu et est maintenant vide</translation>
     </message>
     <message>
         <source>%1: cannot be looked at</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;: impossible à vérifier</translation>
     </message>
 </context>
 <context>
@@ -2130,12 +2130,12 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
         <translation>Impossible de rechercher les noms à remplacer dans %@</translation>
     </message>
     <message>
-        <source>The program that is told of new projects has failed</source>
-        <translation type="unfinished"></translation>
+        <source>The program that runs after each creation has failed</source>
+        <translation>Le programme informé des nouveaux projets a échoué</translation>
     </message>
     <message>
         <source>The project was created; nothing was undone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le projet a été créé&#xa0;; rien n’a été annulé.</translation>
     </message>
 </context>
 <context>
@@ -2627,27 +2627,27 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     </message>
     <message>
         <source>Please type the whole path of a program that may be run.</source>
-        <translation type="unfinished"></translation>
+        <translation>Saisissez le chemin entier d’un programme exécutable.</translation>
     </message>
     <message>
         <source>The value is a number of seconds, from 1 to %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>La valeur est un nombre de secondes, de 1 à %1.</translation>
     </message>
     <message>
         <source>program that gets each new project as JSON on its standard input</source>
-        <translation type="unfinished"></translation>
+        <translation>programme qui reçoit chaque nouveau projet en JSON sur son entrée standard</translation>
     </message>
     <message>
         <source>how many seconds it may take</source>
-        <translation type="unfinished"></translation>
+        <translation>sa durée maximale, en secondes</translation>
     </message>
     <message>
         <source>folder of the set-up that your studio shares</source>
-        <translation type="unfinished"></translation>
+        <translation>dossier de la configuration que partage votre studio</translation>
     </message>
     <message>
         <source>Set by your studio</source>
-        <translation type="unfinished"></translation>
+        <translation>Défini par votre studio</translation>
     </message>
 </context>
 <context>
@@ -2673,58 +2673,61 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     <name>SetupCommand</name>
     <message>
         <source>The copy of %1 is used.</source>
-        <translation type="unfinished"></translation>
+        <translation>La copie du %1 est utilisée.</translation>
     </message>
     <message>
         <source>There is no copy yet; your own set-up is used.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a pas encore de copie&#xa0;; votre propre configuration est utilisée.</translation>
     </message>
     <message>
         <source>The studio’s set-up cannot be reached.</source>
-        <translation type="unfinished"></translation>
+        <translation>La configuration du studio est inaccessible.</translation>
     </message>
     <message>
         <source>No set-up is shared.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune configuration n’est partagée.</translation>
     </message>
     <message>
         <source>Folder: %1
 Templates: %2
 Locked: %3
 Last change: %4</source>
-        <translation type="unfinished"></translation>
+        <translation>Dossier&#xa0;: %1
+Modèles&#xa0;: %2
+Verrouillé&#xa0;: %3
+Dernière modification&#xa0;: %4</translation>
     </message>
     <message>
         <source>the studio’s</source>
-        <translation type="unfinished"></translation>
+        <translation>ceux du studio</translation>
     </message>
     <message>
         <source>your own</source>
-        <translation type="unfinished"></translation>
+        <translation>les vôtres</translation>
     </message>
     <message>
         <source>The setting could not be stored.</source>
-        <translation type="unfinished">Impossible d’enregistrer le réglage.</translation>
+        <translation>Impossible d’enregistrer le réglage.</translation>
     </message>
     <message>
         <source>This folder holds no set-up that can be used. Tessaro setup export writes one.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>It is set for every user of this computer; an administrator takes it away there: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce dossier ne contient aucune configuration utilisable. Tessaro setup export en crée une.</translation>
     </message>
     <message>
         <source>What can be locked: parameters, %1; or none.</source>
-        <translation type="unfinished"></translation>
+        <translation>Verrouillage possible&#xa0;: parameters, %1&#xa0;; ou none.</translation>
     </message>
     <message>
         <source>The folder %1 does not exist.</source>
-        <translation type="unfinished">Le dossier %1 n’existe pas.</translation>
+        <translation>Le dossier %1 n’existe pas.</translation>
     </message>
     <message>
         <source>The set-up could not be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’enregistrer la configuration.</translation>
+    </message>
+    <message>
+        <source>It is set for every user of this computer; an administrator takes it away: %1</source>
+        <translation>Elle est définie pour tous les utilisateurs de cet ordinateur ; un administrateur peut la retirer : %1</translation>
     </message>
 </context>
 <context>
@@ -2742,11 +2745,11 @@ Last change: %4</source>
     <name>StudioFollower</name>
     <message>
         <source>The studio’s set-up cannot be reached. The copy of %1 is used.</source>
-        <translation type="unfinished"></translation>
+        <translation>La configuration du studio est inaccessible. La copie du %1 est utilisée.</translation>
     </message>
     <message>
         <source>The studio’s set-up cannot be reached. Your own is used.</source>
-        <translation type="unfinished"></translation>
+        <translation>La configuration du studio est inaccessible. La vôtre est utilisée.</translation>
     </message>
 </context>
 <context>
@@ -3648,94 +3651,94 @@ Adaptez les modèles fournis à vos besoins ou créez les vôtres de A à Z.</tr
     </message>
     <message>
         <source>&amp;Check…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vérifier…</translation>
     </message>
     <message>
         <source>Choose the project to check</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir le projet à vérifier</translation>
     </message>
     <message>
         <source>Check</source>
-        <translation type="unfinished"></translation>
+        <translation>Vérifier</translation>
     </message>
     <message>
         <source>‘%1’ cannot be checked</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de vérifier «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>Tessaro does not remember this project; it was compared with the template “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tessaro n’a pas mémorisé ce projet&#xa0;; il a été comparé au modèle «&#xa0;%1&#xa0;».</translation>
     </message>
     <message numerus="yes">
         <source>and %n more; “Tessaro check” names each</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>et %n autre&#xa0;; «&#xa0;Tessaro check&#xa0;» donne le détail</numerusform>
+            <numerusform>et %n autres&#xa0;; «&#xa0;Tessaro check&#xa0;» donne le détail</numerusform>
         </translation>
     </message>
     <message>
-        <source>Items that depend on values, and were not looked for: %L1</source>
-        <translation type="unfinished"></translation>
+        <source>Items that depend on values, not looked for: %L1</source>
+        <translation>Éléments dépendant de valeurs, non vérifiés&#xa0;: %L1</translation>
     </message>
     <message>
         <source>Items looked for: %L1</source>
-        <translation type="unfinished"></translation>
+        <translation>Éléments vérifiés&#xa0;: %L1</translation>
     </message>
     <message>
         <source>‘%1’ is complete</source>
-        <translation type="unfinished"></translation>
+        <translation>«&#xa0;%1&#xa0;» est complet</translation>
     </message>
     <message>
         <source>Something is missing in ‘%1’</source>
-        <translation type="unfinished"></translation>
+        <translation>Il manque quelque chose dans «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>Checking %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Vérification de %1</translation>
     </message>
     <message>
         <source>No project can be created there</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de créer un projet à cet endroit</translation>
     </message>
     <message>
-        <source>%1 is no folder.</source>
-        <translation type="unfinished"></translation>
+        <source>%1 is not a folder.</source>
+        <translation>%1 n’est pas un dossier.</translation>
     </message>
     <message>
-        <source>The program that is told of new projects has failed</source>
-        <translation type="unfinished"></translation>
+        <source>The program that runs after each creation has failed</source>
+        <translation>Le programme informé des nouveaux projets a échoué</translation>
     </message>
     <message>
         <source>Editing: from ingest to delivery</source>
-        <translation type="unfinished"></translation>
+        <translation>Montage&#xa0;: de l’acquisition à la livraison</translation>
     </message>
     <message>
         <source>Photography: from card to client</source>
-        <translation type="unfinished"></translation>
+        <translation>Photographie&#xa0;: de la carte au client</translation>
     </message>
     <message>
         <source>Podcast and sound: an episode, a mix</source>
-        <translation type="unfinished"></translation>
+        <translation>Podcast et son&#xa0;: un épisode, un mixage</translation>
     </message>
     <message>
-        <source>What do you begin with?</source>
-        <translation type="unfinished"></translation>
+        <source>What would you like to start with?</source>
+        <translation>Par quoi voulez-vous commencer&#xa0;?</translation>
     </message>
     <message>
         <source>The manual cannot be opened</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’ouvrir le mode d’emploi</translation>
     </message>
     <message>
         <source>This desktop has no program for PDF files. The same text can be read here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce bureau n’a pas de programme pour les fichiers PDF. Le même texte peut être lu ici.</translation>
     </message>
     <message>
         <source>Show It Here</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher ici</translation>
     </message>
     <message>
         <source>It is missing; please install Tessaro again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il est introuvable&#xa0;; réinstallez Tessaro.</translation>
     </message>
 </context>
 <context>

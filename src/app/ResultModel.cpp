@@ -19,20 +19,16 @@ namespace {
 
 /// Above every number of a folder: the identifiers of the levels.
 constexpr quintptr levelBase = quintptr{1} << 40;
-/// So much of the accent colour in a name that is new: to be seen, and read in every palette.
-constexpr double accentShare = 0.75;
-constexpr double secondaryShare = 0.62;
 
 QColor accent()
 {
-    const QPalette palette = QApplication::palette();
-    return blended(palette.color(QPalette::Text), palette.color(QPalette::Highlight), accentShare);
+    return accentText(QApplication::palette());
 }
 
 QColor secondary()
 {
     const QPalette palette = QApplication::palette();
-    return blended(palette.color(QPalette::Base), palette.color(QPalette::Text), secondaryShare);
+    return secondaryText(palette.color(QPalette::Base), palette.color(QPalette::Text));
 }
 
 bool isProblem(const TreeItem &item)

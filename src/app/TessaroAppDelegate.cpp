@@ -158,7 +158,7 @@ void TessaroAppDelegate::welcome()
     texts.isGoodNews = true;
     texts.chosen = std::make_shared<int>(0);
     if (kinds.size() > 1) {
-        texts.choicesTitle = tr("What do you begin with?");
+        texts.choicesTitle = tr("What would you like to start with?");
         for (const Kind &kind : std::as_const(kinds))
             texts.choices.append(kind.name);
     }

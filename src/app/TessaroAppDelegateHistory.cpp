@@ -179,7 +179,7 @@ VTAlert::Texts TessaroAppDelegate::textsOf(const ProjectCheck &check)
     if (const auto others = static_cast<int>(check.findings.size() - mostNamed); others > 0)
         lines.append(tr("and %n more; “Tessaro check” names each", nullptr, others));
     if (check.notLooked > 0)
-        lines.append(tr("Items that depend on values, and were not looked for: %L1").arg(check.notLooked));
+        lines.append(tr("Items that depend on values, not looked for: %L1").arg(check.notLooked));
     if (check.isComplete())
         lines.append(tr("Items looked for: %L1").arg(check.looked));
     const QString head = check.isComplete() ? tr("‘%1’ is complete") : tr("Something is missing in ‘%1’");

@@ -84,7 +84,7 @@ void TessaroAppDelegate::performWithFolder(const QString &identifier, const QStr
     if (identifier != u"new-project-here")
         return VTLog::appendLog("Unknown command %@", identifier);
     if (!VTFileManager::isDirectoryAtPath(folder)) {
-        VTAlert::show({tr("No project can be created there"), tr("%1 is no folder.").arg(folder)});
+        VTAlert::show({tr("No project can be created there"), tr("%1 is not a folder.").arg(folder)});
         return;
     }
     takePlace(folder);

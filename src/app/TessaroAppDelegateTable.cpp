@@ -89,7 +89,7 @@ void TessaroAppDelegate::createBatch(const ProjectBatch &batch, BatchManner mann
     if (result.left > 0 && !result.takenBack)
         problems.append(tr("Rows that were left out: %L1").arg(result.left));
     if (!result.told.ok())
-        problems.append(tr("The program that is told of new projects has failed") + QStringLiteral(": ") +
+        problems.append(tr("The program that runs after each creation has failed") + QStringLiteral(": ") +
                         result.told.description());
     if (!problems.isEmpty())
         VTAlert::show({result.takenBack ? tr("The projects could not all be created") : tr("Not all went well"),

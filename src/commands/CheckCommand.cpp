@@ -60,8 +60,7 @@ int report(const ProjectCheck &check, bool asJson)
         complain(ExitStatus::done,
                  Text::tr("Not remembered; compared with the template “%1”.").arg(check.templateName));
     if (check.notLooked > 0)
-        complain(ExitStatus::done,
-                 Text::tr("Items that depend on values, and were not looked for: %L1").arg(check.notLooked));
+        complain(ExitStatus::done, Text::tr("Items that depend on values, not looked for: %L1").arg(check.notLooked));
     for (const CheckFinding &finding : check.findings)
         print(sentenceOf(finding) + u'\n');
     if (check.isComplete())

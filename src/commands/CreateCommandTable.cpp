@@ -144,7 +144,7 @@ void CreateCommand::createAll(const ProjectBatch &batch)
             print(manifest.project + u'\n');
     }
     if (!result.told.ok())
-        fail(result.told, Text::tr("The program that is told of new projects has failed"));
+        fail(result.told, Text::tr("The program that runs after each creation has failed"));
     if (result.takenBack) {
         fail(result.stopped ? ExitStatus::stopped : ExitStatus::failed,
              Text::tr("What had been created was moved to the Trash. --go-on keeps what can be made."));

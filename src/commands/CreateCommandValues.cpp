@@ -58,7 +58,7 @@ bool CreateCommand::readValues()
     if (!document.isObject())
         return fail(ExitStatus::wrongUsage,
                     Text::tr("The values are no JSON object: %1")
-                        .arg(error.error == QJsonParseError::NoError ? Text::tr("it begins with no brace")
+                        .arg(error.error == QJsonParseError::NoError ? Text::tr("it does not begin with a brace")
                                                                      : error.errorString()));
     const QJsonObject object = document.object();
     for (auto entry = object.begin(); entry != object.end(); ++entry) {

@@ -141,7 +141,7 @@ int commands::leaveSetup(const Invocation &)
         return complain(stored, Text::tr("The setting could not be stored."));
     if (!settings::sharedSetup.text().isEmpty())
         return complain(ExitStatus::failed, Text::tr("It is set for every user of this computer; an administrator "
-                                                     "takes it away there: %1")
+                                                     "takes it away: %1")
                                                 .arg(settings::sharedSetup.text()));
     const studio::Followed left = studio::follow();
     return left.outcome.ok() ? ExitStatus::done : complain(left.outcome);

@@ -120,7 +120,7 @@ bool ProjectCreation::build()
 void ProjectCreation::tellProgram()
 {
     if (const Outcome told = tellOfProject(m_result); !told.ok())
-        tell(Text::tr("The program that is told of new projects has failed"),
+        tell(Text::tr("The program that runs after each creation has failed"),
              withCause(Text::tr("The project was created; nothing was undone."), told));
 }
 

@@ -8,9 +8,6 @@
 
 namespace {
 
-/// At least 4.5 to 1 on a window's own colour.
-constexpr double share = 0.68;
-
 class Keeper : public QObject
 {
 public:
@@ -19,7 +16,7 @@ public:
     void keep()
     {
         const QPalette now = QApplication::palette();
-        const QColor wanted = blended(now.color(QPalette::Base), now.color(QPalette::Text), share);
+        const QColor wanted = placeholderText(now);
         if (now.color(QPalette::PlaceholderText) == wanted)
             return;
         QPalette only; // nothing else is to be kept from following the desktop

@@ -1,5 +1,7 @@
 #include "ui/ProgressLine.h"
 
+#include "ui/Colours.h"
+
 #include "platform/base/MainThread.h"
 #include "platform/base/NativePath.h"
 #include "platform/desktop/LauncherEntry.h"
@@ -18,7 +20,6 @@ constexpr int gap = 12;
 constexpr int steps = 1000;
 constexpr int barWidth = 160;
 constexpr double smallFont = 0.85;
-constexpr float secondaryOpacity = 0.65F;
 
 } // namespace
 
@@ -88,9 +89,8 @@ void ProgressLine::show(const WorkState &state)
 void ProgressLine::colourAmount()
 {
     QPalette faint;
-    QColor text = palette().color(QPalette::WindowText);
-    text.setAlphaF(secondaryOpacity);
-    faint.setColor(QPalette::WindowText, text);
+    faint.setColor(QPalette::WindowText,
+                   secondaryText(palette().color(QPalette::Window), palette().color(QPalette::WindowText)));
     m_amount->setPalette(faint);
 }
 

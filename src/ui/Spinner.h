@@ -3,7 +3,8 @@
 #include <QBasicTimer>
 #include <QWidget>
 
-/** Turns while something works. Keeps its place when it stands still, so that nothing around it jumps. */
+/** Turns while something works, or stands there where the desktop wants no animation. Keeps its place when it stands
+ * still, so that nothing around it jumps. */
 class Spinner : public QWidget
 {
     Q_OBJECT
@@ -12,7 +13,7 @@ public:
     explicit Spinner(QWidget *parent = nullptr);
     void start();
     void stop();
-    [[nodiscard]] bool isSpinning() const { return m_timer.isActive(); }
+    [[nodiscard]] bool isSpinning() const { return m_isSpinning; }
     [[nodiscard]] QSize sizeHint() const override;
 
 protected:
@@ -22,4 +23,5 @@ protected:
 private:
     QBasicTimer m_timer;
     int m_step = 0;
+    bool m_isSpinning = false;
 };

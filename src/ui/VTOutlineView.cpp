@@ -1,5 +1,7 @@
 #include "ui/VTOutlineView.h"
 
+#include "ui/Colours.h"
+
 #include "ui/VTImageTextCell.h"
 #include "ui/ValueCellDelegate.h"
 
@@ -64,9 +66,8 @@ void VTOutlineView::paintEvent(QPaintEvent *event)
     if (m_placeholder.isEmpty() || !model() || model()->rowCount() > 0)
         return;
     QPainter painter(viewport());
-    QColor faint = palette().color(QPalette::Text); // not every palette's own placeholder colour can be read
-    faint.setAlphaF(0.6F);
-    painter.setPen(faint);
+    // Not every palette's own placeholder colour can be read.
+    painter.setPen(secondaryText(palette().color(QPalette::Base), palette().color(QPalette::Text)));
     painter.drawText(viewport()->rect().marginsRemoved(QMargins() + placeholderMargin),
                      Qt::AlignCenter | Qt::TextWordWrap, m_placeholder);
 }

@@ -1,5 +1,7 @@
 #include "ui/ValueCellDelegate.h"
 
+#include "ui/Colours.h"
+
 #include "platform/base/NativePath.h"
 #include "ui/EditorFocus.h"
 #include "ui/Icons.h"
@@ -27,7 +29,6 @@ constexpr int signSide = 16;
 constexpr int signGap = 4;
 constexpr int rounding = 2; // a text is elided by fractions of a pixel
 constexpr float hairlineOpacity = 0.15F;
-constexpr float secondaryOpacity = 0.65F;
 constexpr float boxOpacity = 0.6F;
 constexpr float disabledBoxOpacity = 0.25F;
 constexpr int accentWidth = 3;
@@ -123,7 +124,7 @@ void drawHint(QPainter &painter, const QStyleOptionViewItem &option, const QMode
                                       QRect(place.x(), place.center().y() - signSide / 2 + 1, signSide, signSide));
         place.setLeft(place.x() + signSide + signGap);
     }
-    painter.setPen(faint(option.palette.color(QPalette::Text), secondaryOpacity));
+    painter.setPen(secondaryText(option.palette.color(QPalette::Base), option.palette.color(QPalette::Text)));
     painter.drawText(
         place, Qt::AlignVCenter | Qt::AlignRight,
         option.fontMetrics.elidedText(index.data(CellRole::Hint).toString(), Qt::ElideRight, place.width()));
@@ -196,8 +197,11 @@ void ValueCellDelegate::initStyleOption(QStyleOptionViewItem *option, const QMod
                                                       option->rect.width() - hint - chevronWidth(index) - 2 * margin);
     if (!index.data(CellRole::Secondary).toBool())
         return;
-    for (const auto role : {QPalette::Text, QPalette::HighlightedText}) // what cannot be changed is read all the same
-        option->palette.setColor(role, faint(option->palette.color(QPalette::Active, role), secondaryOpacity));
+    // What cannot be changed is read all the same.
+    for (const auto &[role, ground] :
+         {std::pair(QPalette::Text, QPalette::Base), std::pair(QPalette::HighlightedText, QPalette::Highlight)})
+        option->palette.setColor(role, secondaryText(option->palette.color(QPalette::Active, ground),
+                                                     option->palette.color(QPalette::Active, role)));
 }
 
 void ValueCellDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const
