@@ -95,16 +95,19 @@ size 1000 660
 key Tab Tab
 take templates "$main"
 key ctrl+1
-"$program" template default "Multi-Day Shoot" >/dev/null
-sleep 1.5
 key ctrl+2
 sleep 0.5
 size 1260 700
+# The list's fifth template, then by its letters the folder that is made for each day.
+xdotool mousemove --window "$main" $((60 * scale)) $((182 * scale)) click 1
+sleep 1
 key ctrl+i
+xdotool mousemove --window "$main" $((520 * scale)) $((88 * scale)) click 1
+sleep 0.5
+write "Day"
 sleep 1
 take rules "$main"
 key ctrl+i
-"$program" template default "Editing Template" >/dev/null
 key ctrl+1
 size 900 620
 cat >"$work/shots.csv" <<'CSV'
@@ -121,11 +124,15 @@ sleep 2
 take check "$main"
 key Return
 sleep 0.5
+xdotool mousemove --window "$main" $((90 * scale)) $((562 * scale)) click 1
+sleep 0.7
+take place "$main"
+key Escape
 key ctrl+t
 sleep 1.5
 xclip -selection clipboard <"$work/shots.csv"
-key alt+p
-sleep 1
+key ctrl+v
+sleep 1.5
 take table
 key Escape
 sleep 0.5

@@ -3853,6 +3853,37 @@ Passen Sie die mitgelieferten Vorlagen an Ihren Bedarf an, oder bauen Sie eigene
     </message>
 </context>
 <context>
+    <name>VTKeys</name>
+    <message>
+        <source>New project</source>
+        <translation>Neues Projekt</translation>
+    </message>
+    <message>
+        <source>Create the project</source>
+        <translation>Projekt anlegen</translation>
+    </message>
+    <message>
+        <source>Show the project pane</source>
+        <translation>Projektbereich zeigen</translation>
+    </message>
+    <message>
+        <source>Show the template pane</source>
+        <translation>Vorlagenbereich zeigen</translation>
+    </message>
+    <message>
+        <source>New template</source>
+        <translation>Neue Vorlage</translation>
+    </message>
+    <message>
+        <source>Import a template</source>
+        <translation>Vorlage importieren</translation>
+    </message>
+    <message>
+        <source>Preferences</source>
+        <translation>Einstellungen</translation>
+    </message>
+</context>
+<context>
     <name>VTOutlineView</name>
     <message numerus="yes">
         <source>%n items</source>

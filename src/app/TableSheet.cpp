@@ -17,6 +17,7 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QShortcut>
 #include <QSplitter>
 #include <QTableView>
 #include <QTreeView>
@@ -137,6 +138,7 @@ TableSheet::TableSheet(BatchBase base, const QString &location, QWidget *parent)
     setWindowModality(Qt::WindowModal);
     setProperty("manualChapter", "many");
     build();
+    m_view->setFocus(); // what comes first is the table
     connect(&m_model, &BatchModel::tableEdited, this, &TableSheet::look);
     connect(m_view->selectionModel(), &QItemSelectionModel::currentRowChanged, this, &TableSheet::showTree);
     for (QRadioButton *button : {m_allOrNone, m_goOn})
@@ -153,6 +155,8 @@ void TableSheet::build()
 {
     auto *open = new QPushButton(tr("&Open…"));
     auto *pasted = new QPushButton(tr("&Paste"));
+    // As in a spreadsheet; a line that is being typed in takes the key for itself.
+    connect(new QShortcut(QKeySequence::Paste, this), &QShortcut::activated, pasted, &QPushButton::click);
     connect(open, &QPushButton::clicked, this, &TableSheet::chooseFile);
     connect(pasted, &QPushButton::clicked, this, &TableSheet::paste);
     auto *hint = new QLabel(tr("The first row names parameters, each other one is a project (CSV, or a spreadsheet’s "

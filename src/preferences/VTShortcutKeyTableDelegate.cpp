@@ -17,10 +17,26 @@
 
 #include <QCoreApplication>
 #include <QLabel>
+#include <array>
 
 using platform::printToConsole;
 
 namespace {
+
+/// The list of keys speaks English, as every program reads it; what it says of our own commands is shown in the user's
+/// language, and of others as it is.
+[[maybe_unused]] constexpr std::array ownCommands{QT_TRANSLATE_NOOP("VTKeys", "New project"),
+                                                  QT_TRANSLATE_NOOP("VTKeys", "Create the project"),
+                                                  QT_TRANSLATE_NOOP("VTKeys", "Show the project pane"),
+                                                  QT_TRANSLATE_NOOP("VTKeys", "Show the template pane"),
+                                                  QT_TRANSLATE_NOOP("VTKeys", "New template"),
+                                                  QT_TRANSLATE_NOOP("VTKeys", "Import a template"),
+                                                  QT_TRANSLATE_NOOP("VTKeys", "Preferences")};
+
+QString shownDescription(const QString &description)
+{
+    return QCoreApplication::translate("VTKeys", description.toUtf8().constData());
+}
 
 struct KeyNames
 {
@@ -180,7 +196,8 @@ void VTShortcutKeyTableDelegate::populateKeyData()
     for (const QVariant &value : commandList()) {
         const QVariantMap command = value.toMap();
         if (!command.value("id").toString().isEmpty()) // nothing could ever call it
-            m_rows.append({command.value("id").toString(), command.value("description").toString(), {}});
+            m_rows.append(
+                {command.value("id").toString(), shownDescription(command.value("description").toString()), {}});
     }
     const QVariantMap entries = file.valueOr({});
     const auto assigned = shortcuts::assignmentsOf(entries, ownIdentifier());
@@ -276,7 +293,8 @@ void VTShortcutKeyTableDelegate::bindInDesktop()
     for (const QVariant &value : commandList()) {
         const QString identifier = value.toMap().value("id").toString();
         if (const auto shortcut = assigned.constFind(identifier); shortcut != assigned.cend())
-            wanted.append({identifier, value.toMap().value("description").toString(), triggerOf(*shortcut)});
+            wanted.append(
+                {identifier, shownDescription(value.toMap().value("description").toString()), triggerOf(*shortcut)});
     }
     m_refusal = QString();
     m_desktop.bind(wanted);
