@@ -3,7 +3,6 @@
 #include "platform/base/Console.h"
 #include "platform/base/NativePath.h"
 #include "platform/base/Users.h"
-#include "platform/desktop/FileAddress.h"
 #include "platform/files/FileSystem.h"
 #include "platform/files/WholeFile.h"
 
@@ -27,19 +26,41 @@ struct Place
     qsizetype end = -1;
 };
 
-/// The reader counts characters, and the file's bytes are to stay: an entry is found by its text.
-Place entryOf(const QByteArray &list, const QByteArray &address)
+/// What each program writes in its own way: "&apos;", "%27" and "'" are one.
+QByteArray pathIn(QByteArray href)
 {
-    const qsizetype href = list.indexOf("href=\"" + address + '"');
-    const qsizetype begin = href < 0 ? -1 : list.lastIndexOf("<bookmark ", href);
-    if (begin < 0)
-        return {};
-    const qsizetype tagEnd = list.indexOf('>', href);
-    if (tagEnd > 0 && list[tagEnd - 1] == '/')
-        return {begin, tagEnd + 1};
+    href.replace("&apos;", "'").replace("&quot;", "\"").replace("&lt;", "<").replace("&gt;", ">").replace("&amp;", "&");
+    return QByteArray::fromPercentEncoding(href);
+}
+
+/// The entry with the lines that are its own, so that none stay behind.
+Place wholeLines(const QByteArray &list, Place entry)
+{
+    qsizetype begin = entry.begin;
+    while (begin > 0 && (list[begin - 1] == ' ' || list[begin - 1] == '\t'))
+        --begin;
+    const bool isAlone = begin > 0 && list[begin - 1] == '\n' && list.mid(entry.end, 1) == "\n";
+    return isAlone ? Place{begin, entry.end + 1} : entry;
+}
+
+/// The reader counts characters, and the file's bytes are to stay: an entry is found by its text.
+Place entryOf(const QByteArray &list, const QString &folder)
+{
     static const QByteArray closing = "</bookmark>";
-    const qsizetype end = list.indexOf(closing, href);
-    return {begin, end < 0 ? -1 : end + closing.size()};
+    static const QByteArray attribute = "href=\"";
+    const QByteArray wanted = "file://" + toNative(folder);
+    for (qsizetype begin = list.indexOf("<bookmark "); begin >= 0; begin = list.indexOf("<bookmark ", begin + 1)) {
+        const qsizetype tagEnd = list.indexOf('>', begin);
+        const qsizetype href = list.indexOf(attribute, begin) + attribute.size();
+        if (tagEnd < 0 || href < attribute.size() || href > tagEnd ||
+            pathIn(list.mid(href, list.indexOf('"', href) - href)) != wanted)
+            continue;
+        if (list[tagEnd - 1] == '/')
+            return wholeLines(list, {begin, tagEnd + 1});
+        const qsizetype end = list.indexOf(closing, tagEnd);
+        return end < 0 ? Place() : wholeLines(list, {begin, end + closing.size()});
+    }
+    return {};
 }
 
 bool isList(const QByteArray &list)
@@ -71,9 +92,10 @@ QByteArray withRecentFolder(const QByteArray &list, const QString &folder, const
 {
     if (!isList(list))
         return {};
-    const QByteArray address = fileAddress(folder).toHtmlEscaped().toUtf8();
+    // As other programs spell it, who compare addresses letter by letter.
+    const QByteArray address = "file://" + toNative(folder).toPercentEncoding("/!$&'()*+,;=:@").replace('&', "&amp;");
     QByteArray changed = list;
-    if (const Place old = entryOf(changed, address); old.begin >= 0 && old.end > old.begin)
+    if (const Place old = entryOf(changed, folder); old.end > old.begin)
         changed.remove(old.begin, old.end - old.begin);
     const qsizetype end = changed.lastIndexOf("</xbel>");
     if (end < 0) // "<xbel/>"
@@ -84,7 +106,8 @@ QByteArray withRecentFolder(const QByteArray &list, const QString &folder, const
 
 void rememberForDesktop(const QString &folder)
 {
-    const QString data = qEnvironmentVariable("XDG_DATA_HOME", joined(homeFolder(), QStringLiteral(".local/share")));
+    const QString wanted = fromNative(qgetenv("XDG_DATA_HOME")); // one that is not absolute counts as none
+    const QString data = wanted.startsWith(u'/') ? wanted : joined(homeFolder(), QStringLiteral(".local/share"));
     const QString path = joined(data, QStringLiteral("recently-used.xbel"));
     const Result<QByteArray> list = isMissing(path) ? Result<QByteArray>(QByteArray(emptyList)) : readFile(path);
     const QByteArray changed = list ? withRecentFolder(*list, folder, QDateTime::currentDateTimeUtc()) : QByteArray();
