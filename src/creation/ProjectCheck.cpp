@@ -151,12 +151,14 @@ void compareWithTemplate(ProjectCheck &check, const QString &templateFiles, cons
         TemplateComparison(check, plan, *rules, cancelled).look(0, 0, {}, {}, true);
 }
 
-/// By the folder itself, so that one that was moved is known again.
+/// By the folder itself, so that one that was moved is known again. A drive gives the number of a folder that was
+/// deleted to one that comes later.
 std::optional<Manifest> rememberedAs(const QString &project)
 {
     const auto identity = platform::identityOf(project);
+    const auto birth = platform::birthOf(project);
     for (const Manifest &manifest : recentProjects()) {
-        if (identity && manifest.identity == *identity)
+        if (identity && manifest.identity == *identity && (!birth || *birth <= manifest.made))
             return manifest;
     }
     return std::nullopt;
@@ -203,7 +205,10 @@ ProjectCheck checkProject(const QString &project, const QString &templateName, c
     check.templateName = templateName;
     const FileKind kind = platform::kindOf(project);
     if (kind != FileKind::Folder) {
-        check.outcome = Outcome::failure(kind == FileKind::Missing ? Cause::Missing : Cause::NotAFolder, project);
+        const auto isThere = platform::isThereForCertain(project); // what cannot be looked at is not gone
+        check.outcome = !isThere                    ? isThere.outcome()
+                        : kind == FileKind::Missing ? Outcome::failure(Cause::Missing, project)
+                                                    : Outcome::failure(Cause::NotAFolder, project);
         return check;
     }
     const auto manifest = rememberedAs(project);

@@ -95,6 +95,16 @@ std::optional<FileIdentity> identityOf(const QString &path)
     return FileIdentity{info.st_dev, info.st_ino};
 }
 
+std::optional<QDateTime> birthOf(const QString &path)
+{
+    const PathAt at(path);
+    struct statx info;
+    if (statx(at.folder(), at.name(), AT_SYMLINK_NOFOLLOW, STATX_BTIME, &info) != 0 ||
+        (info.stx_mask & STATX_BTIME) == 0)
+        return std::nullopt;
+    return QDateTime::fromMSecsSinceEpoch(info.stx_btime.tv_sec * 1000LL + info.stx_btime.tv_nsec / 1'000'000);
+}
+
 QString linkTarget(const QString &path)
 {
     const PathAt at(path);

@@ -41,6 +41,8 @@ struct FileIdentity
 [[nodiscard]] bool leadsToFolder(const QString &path);
 /** Nothing when nothing stands there. A link is not followed. */
 [[nodiscard]] std::optional<FileIdentity> identityOf(const QString &path);
+/** When the item itself was made, which no copy and no program changes; nothing where the drive does not know. */
+[[nodiscard]] std::optional<QDateTime> birthOf(const QString &path);
 [[nodiscard]] QString linkTarget(const QString &path);
 [[nodiscard]] bool isWritable(const QString &path);
 /** Whether this user lacks the permission to move the item to another folder. */
