@@ -3,6 +3,7 @@
 #include "creation/ProjectJson.h"
 #include "platform/base/MainThread.h"
 #include "platform/base/NativePath.h"
+#include "platform/files/FileSystem.h"
 #include "platform/plain/StartedThread.h"
 #include "platform/process/ChildProcess.h"
 #include "support/LongWork.h"
@@ -26,7 +27,7 @@ struct Text
     Q_DECLARE_TR_FUNCTIONS(AfterCreation)
 };
 
-/// More of what a program complains of is thrown away.
+/// What a program has complained of before is thrown away: the last line counts.
 constexpr qsizetype mostHeard = 65536;
 constexpr auto betweenLooks = 20ms;
 
@@ -48,8 +49,13 @@ struct Run
     void listen()
     {
         QByteArray heard;
-        for (QByteArray bytes = child.readErrorOutput(); !bytes.isEmpty(); bytes = child.readErrorOutput())
-            heard += bytes.first(qMin(bytes.size(), mostHeard - qMin(mostHeard, heard.size())));
+        bool goesOn = true; // what it has left behind may talk for ever
+        while (goesOn) {
+            const bool isRunning = child.isRunning();
+            const QByteArray bytes = child.readErrorOutput();
+            heard = (heard + bytes).last(qMin(mostHeard, heard.size() + bytes.size()));
+            goesOn = isRunning && !bytes.isEmpty();
+        }
         const int ended = child.waitUntilExit();
         const std::scoped_lock lock(mutex);
         complaint = heard;
@@ -60,13 +66,14 @@ struct Run
 };
 
 /// Cause::TimedOut, Cause::Cancelled; good when it has ended.
-Outcome waitFor(Run &run, std::chrono::seconds patience, const std::atomic<bool> &cancelled)
+Outcome waitFor(Run &run, std::chrono::seconds patience, const std::atomic<bool> &cancelled,
+                const std::atomic<bool> &stopped)
 {
     const auto end = std::chrono::steady_clock::now() + patience;
     std::unique_lock lock(run.mutex);
     while (!run.isOver) {
         const bool isLate = std::chrono::steady_clock::now() >= end;
-        if (isLate || cancelled)
+        if (isLate || cancelled || stopped)
             return Outcome::failure(isLate ? Cause::TimedOut : Cause::Cancelled, run.child.tool());
         run.changed.wait_for(lock, betweenLooks);
     }
@@ -80,10 +87,10 @@ QString lastLineOf(const QByteArray &complaint)
 
 } // namespace
 
-Outcome tellOfProject(const CreationResult &result)
+Outcome tellOfProject(const CreationResult &result, const std::atomic<bool> &stopped)
 {
     const QString program = settings::afterCreation.text();
-    if (program.isEmpty())
+    if (program.isEmpty() || platform::isMissing(result.request.destination())) // it could not be made at all
         return {};
     VTLog::appendLog("Telling %@ of the project", program);
     const QByteArray told =
@@ -101,7 +108,8 @@ Outcome tellOfProject(const CreationResult &result)
     platform::CopyMonitor monitor;
     const LongWork work(Text::tr("Running %1").arg(platform::forOneLine(platform::lastComponent(program))), monitor);
     const std::chrono::seconds patience{settings::afterCreationSeconds.number()};
-    const Outcome ended = platform::resultInBackground([&] { return waitFor(*run, patience, monitor.cancelled); });
+    const Outcome ended =
+        platform::resultInBackground([&] { return waitFor(*run, patience, monitor.cancelled, stopped); });
     if (!ended.ok()) {
         run->child.terminate();
         return ended;

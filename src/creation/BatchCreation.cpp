@@ -79,8 +79,9 @@ BatchResult BatchCreation::run(const ProjectBatch &batch,
 /// Of each project, when it is certain that it stays; when the program has failed once, of no other.
 void BatchCreation::tellProgram(const QList<CreationResult> &made, BatchResult &result)
 {
+    m_monitor.cancelled = false; // what was made before it was stopped stays
     for (const CreationResult &one : made) {
-        result.told = tellOfProject(one);
+        result.told = tellOfProject(one, m_monitor.cancelled);
         if (!result.told.ok())
             return;
     }

@@ -119,7 +119,7 @@ bool ProjectCreation::build()
 /// Whatever becomes of the program, the project stands.
 void ProjectCreation::tellProgram()
 {
-    if (const Outcome told = tellOfProject(m_result); !told.ok())
+    if (const Outcome told = tellOfProject(m_result, m_monitor.cancelled); !told.ok())
         tell(Text::tr("The program that runs after each creation has failed"),
              withCause(Text::tr("The project was created; nothing was undone."), told));
 }
