@@ -185,8 +185,16 @@ void ProjectCreation::remember()
     VTLog::appendLog("Unable to remember the project for its undoing: %@", kept.description());
 }
 
+/// Not so where the numbers of a batch count on although the stored ones do not.
+bool ProjectCreation::followsStoredNumbers() const
+{
+    return isAlone() || m_result.request.isRemembered;
+}
+
 void ProjectCreation::takeNextNumbers(const FilenameParameters &stored)
 {
+    if (!followsStoredNumbers())
+        return;
     const QString before = m_result.request.relativePath();
     m_result.request = withNextNumbers(m_result.request, stored);
     if (const QString now = m_result.request.relativePath(); now != before)
@@ -222,7 +230,8 @@ Outcome ProjectCreation::claimOnce()
     Outcome made;
     const Outcome stored = changeParameters(
         scopeOf(m_result.request), [&](const FilenameParameters &list) -> platform::Result<FilenameParameters> {
-            if (withNextNumbers(m_result.request, list).parameters != m_result.request.parameters)
+            if (followsStoredNumbers() &&
+                withNextNumbers(m_result.request, list).parameters != m_result.request.parameters)
                 return made = Outcome::failure(Cause::Busy, destination);
             m_levelsMade = missingLevels(platform::parentPath(destination));
             m_hiddenFolder = Workplace::hiddenFolderFor(destination);

@@ -95,6 +95,7 @@ private:
     void plan();
     platform::Outcome claimDestination();
     platform::Outcome claimOnce();
+    [[nodiscard]] bool followsStoredNumbers() const;
     void takeNextNumbers(const FilenameParameters &stored);
     [[nodiscard]] bool putAwayExisting(const QString &destination);
     [[nodiscard]] bool build();
