@@ -13,6 +13,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QLocale>
+#include <QVariant>
 
 namespace {
 
@@ -21,23 +22,32 @@ struct Text
     Q_DECLARE_TR_FUNCTIONS(CreateCommand)
 };
 
-/// As text that could have been typed; null for what is none.
+/// One text or number, as it could have been typed; null for what is none.
+QString typedWord(const QJsonValue &value)
+{
+    if (value.isString())
+        return value.toString();
+    const QVariant number = value.isDouble() ? value.toVariant() : QVariant();
+    if (number.typeId() == QMetaType::LongLong) // every digit counts
+        return QString::number(number.toLongLong());
+    return number.isNull() ? QString() // a job number is no 41.0
+                           : QString::number(number.toDouble(), 'f', QLocale::FloatingPointShortest);
+}
+
+/// The same of a list, too.
 QString typedForm(const QJsonValue &value)
 {
-    switch (value.type()) {
-    case QJsonValue::String:
-        return value.toString();
-    case QJsonValue::Double: // a job number is no 41.0
-        return QString::number(value.toDouble(), 'f', QLocale::FloatingPointShortest);
-    case QJsonValue::Array: {
-        QStringList several;
-        for (const QJsonValue &one : value.toArray())
-            several.append(typedForm(one));
-        return several.join(QStringLiteral(", "));
+    if (!value.isArray())
+        return typedWord(value);
+    QString several = QStringLiteral("");
+    const QJsonArray list = value.toArray();
+    for (qsizetype i = 0; i < list.size(); ++i) {
+        const QString word = typedWord(list[i]);
+        if (word.isNull())
+            return {};
+        several += (i > 0 ? QStringLiteral(", ") : QString()) + word;
     }
-    default:
-        return {};
-    }
+    return several;
 }
 
 } // namespace
@@ -77,7 +87,8 @@ bool CreateCommand::askForMissing()
 {
     while (m_invocation.has("--ask")) {
         const auto problem = problemOf(m_request, TooLongLevels::AreNamedElsewhere);
-        if (!problem || problem->parameter < 0 || !m_request.parameters[problem->parameter].isBlank())
+        if (!problem || problem->parameter < 0 || !m_request.parameters[problem->parameter].isBlank() ||
+            m_request.parameters[problem->parameter].isLocked()) // no answer could be taken
             return true;
         const FilenameParameter &parameter = m_request.parameters[problem->parameter];
         const QStringList choices = parameter.choices();
