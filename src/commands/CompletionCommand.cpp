@@ -107,11 +107,22 @@ _tessaro_plain() { # what stands on the line, without the marks that the shell n
     word=${word#[\"\']}
     printf '%s' "${word//\\/}"
 }
+_tessaro_marked() { # the word as it has to stand on the line: bare, or behind the quote that is open
+    local word=$1 character
+    case $current in
+    \'*) printf '%s' "${word//\'/\'\\\'\'}" ;;
+    \"*)
+        for character in '\' '"' '$' '`'; do word=${word//"$character"/"\\$character"}; done
+        printf '%s' "$word"
+        ;;
+    *) printf %q "$word" ;;
+    esac
+}
 _tessaro_offer() { # templates | titles | values TITLE
     local line wanted
     wanted=$(_tessaro_plain "$current")
     while IFS= read -r line; do
-        [[ $line == "$wanted"* ]] && COMPREPLY+=("$(printf %q "$line")")
+        [[ $line == "$wanted"* ]] && COMPREPLY+=("$(_tessaro_marked "$line")")
     done < <("${COMP_WORDS[0]}" complete "$@" 2>/dev/null)
 }
 _tessaro_value() { # TITLE, then = and its value: the shell takes the = for a word of its own
@@ -132,7 +143,7 @@ _tessaro() {
     fi
     [ "$COMP_CWORD" -gt 1 ] && verb=${COMP_WORDS[1]}
     case " template parameters settings setup logs updates " in
-    *" $verb "*) [ "$COMP_CWORD" -gt 2 ] && verb+=" ${COMP_WORDS[2]}" ;;
+    *" $verb "*) [[ $COMP_CWORD -gt 2 && ${COMP_WORDS[2]} != -* ]] && verb+=" ${COMP_WORDS[2]}" ;;
     esac
 )sh") + cases(QStringLiteral("mapfile -t COMPREPLY < <(compgen -W '%1' -- \"$current\")")) +
            QStringLiteral("}\n"
@@ -163,7 +174,7 @@ _tessaro() {
     local current=${words[CURRENT]} previous=${words[CURRENT-1]} verb=
     (( CURRENT > 2 )) && verb=${words[2]}
     case " template parameters settings setup logs updates " in
-    *" $verb "*) (( CURRENT > 3 )) && verb+=" ${words[3]}" ;;
+    *" $verb "*) [[ $CURRENT -gt 3 && ${words[3]} != -* ]] && verb+=" ${words[3]}" ;;
     esac
 )sh") + cases(QStringLiteral("compadd -- %1")) +
            QStringLiteral("}\n"
