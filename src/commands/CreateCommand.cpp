@@ -125,15 +125,21 @@ int CreateCommand::run()
 bool CreateCommand::fail(int status, const QString &problem, const char *code)
 {
     m_status = complain(status, problem);
-    if (m_code.isEmpty())
-        m_code = QLatin1String(code ? code : codeOfStatus(status));
-    m_problems.append(platform::forDisplay(problem));
-    return false;
+    return keep(problem, code ? code : codeOfStatus(status));
 }
 
 bool CreateCommand::fail(const platform::Outcome &failure, const QString &problem)
 {
-    return fail(exitStatusOf(failure), problem + u'\n' + failure.description(), platform::codeOf(failure.cause()));
+    m_status = complain(failure, problem);
+    return keep(problem + u'\n' + failure.description(), platform::codeOf(failure.cause()));
+}
+
+bool CreateCommand::keep(const QString &problem, const char *code)
+{
+    if (m_code.isEmpty())
+        m_code = QLatin1String(code);
+    m_problems.append(platform::forDisplay(problem));
+    return false;
 }
 
 int CreateCommand::refused()

@@ -46,6 +46,7 @@ private:
     /** Says it on standard error, remembers it and its status for the end. False, for whoever has to stop then. */
     bool fail(int status, const QString &problem, const char *code = nullptr);
     bool fail(const platform::Outcome &failure, const QString &problem);
+    bool keep(const QString &problem, const char *code);
     /** The status of what was refused before anything was made. */
     int refused();
     void printObject(const CreationResult &result, const CreationPlan *plan) const;
