@@ -1,4 +1,5 @@
 // The command, as a process of its own: what it prints, how it ends, and what it leaves alone.
+#include "commands/CommandLine.h"
 #include "commands/Verb.h"
 #include "harness/Records.h"
 #include "harness/TemporaryHome.h"
@@ -9,6 +10,7 @@
 #include "platform/files/FileTree.h"
 #include "platform/files/WholeFile.h"
 
+#include <QDir>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -397,6 +399,45 @@ private Q_SLOTS:
         QVERIFY2(outcome.errors.contains(said), outcome.errors.constData());
         QCOMPARE(outcome.output, QByteArray());
         QCOMPARE(everythingIn(target()), QStringList());
+    }
+
+    void wordsOfTheWindow_data()
+    {
+        QTest::addColumn<QStringList>("words");
+        QTest::addColumn<QStringList>("expected"); // action and folder; of one word where it is refused
+        const QString here = QDir::currentPath();
+        const QString bad = platform::fromNative("h\xff");
+        const auto row = [](const char *name, const QStringList &words, const QStringList &expected) {
+            QTest::newRow(name) << words << expected;
+        };
+        row("action", {"--action", "create"}, {"create", {}});
+        row("like an option", {"--action", "--json"}, {"--json", {}});
+        row("project", {"--new-project-here", "/p/a b"}, {"new-project-here", "/p/a b"});
+        row("check", {"--check-project", "/p/../q//"}, {"check-project", "/q"});
+        row("where it was started", {"--check-project", "."}, {"check-project", here});
+        row("no UTF-8", {"--new-project-here", bad}, {"new-project-here", here + '/' + bad});
+        row("like an option, too", {"--new-project-here", "--help"}, {"new-project-here", here + "/--help"});
+        for (const char *word : {"--action", "--new-project-here", "--check-project"}) {
+            row(word, {word}, {"refused"});
+            QTest::addRow("%s of nothing", word) << QStringList{word, ""} << QStringList{"refused"};
+            QTest::addRow("%s of two", word) << QStringList{word, "a", "b"} << QStringList{"refused"};
+        }
+        row("behind a verb", {"create", "--check-project", "/p"}, {"refused"});
+    }
+    /// What the desktop's launcher and the file browsers start.
+    void wordsOfTheWindow()
+    {
+        QFETCH(QStringList, words);
+        QFETCH(QStringList, expected);
+        const auto read = readCommandLine(words);
+        if (expected.size() == 1) {
+            QVERIFY(read.outcome().is(platform::Cause::Invalid) && !read.outcome().sentence().isEmpty());
+            return;
+        }
+        QVERIFY2(read, qPrintable(read.outcome().sentence()));
+        QVERIFY(!read->verb && read->files.isEmpty());
+        QCOMPARE((QStringList{read->action, read->actionValue}), expected);
+        QCOMPARE(run(words).status, 1); // without a display it is said, and nothing is begun
     }
 
     void valuesAreSetAsIfTyped()
