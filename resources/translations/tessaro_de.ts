@@ -1349,6 +1349,10 @@ Mit --overwrite kommt es in den Papierkorb und wird neu angelegt.</translation>
         <translation>Etwas mit diesem Namen gibt es dort bereits</translation>
     </message>
     <message>
+        <source>It is no folder</source>
+        <translation>Es ist kein Ordner</translation>
+    </message>
+    <message>
         <source>It did not work</source>
         <translation>Der Vorgang ist fehlgeschlagen</translation>
     </message>

@@ -1349,6 +1349,10 @@ Use --overwrite para moverlo a la papelera y crearlo de nuevo.</translation>
         <translation>Ya hay algo con este nombre</translation>
     </message>
     <message>
+        <source>It is no folder</source>
+        <translation>No es una carpeta</translation>
+    </message>
+    <message>
         <source>It did not work</source>
         <translation>No funcionó</translation>
     </message>

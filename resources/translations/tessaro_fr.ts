@@ -1349,6 +1349,10 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
         <translation>Un élément de ce nom existe déjà</translation>
     </message>
     <message>
+        <source>It is no folder</source>
+        <translation>Ce n’est pas un dossier</translation>
+    </message>
+    <message>
         <source>It did not work</source>
         <translation>L’opération a échoué</translation>
     </message>

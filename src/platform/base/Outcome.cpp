@@ -82,6 +82,8 @@ QString generalSentence(Cause cause)
         return Text::tr("It is not there");
     case Cause::Exists:
         return Text::tr("Something of this name is there already");
+    case Cause::NotAFolder:
+        return Text::tr("It is no folder");
     default:
         return Text::tr("It did not work");
     }
