@@ -217,6 +217,7 @@ private Q_SLOTS:
         CopyMonitor monitor;
         QCOMPARE(shown(check(m_work->filePath("gone"))), "missing");
         QCOMPARE(shown(check(project("Promo.txt"))), "notAFolder");
+        QVERIFY(check(project("Promo.txt")).outcome.description().contains("folder")); // and that is said
         QVERIFY(makeNewFolder(m_work->filePath("strange")).ok());
         const ProjectCheck nothing = checkProject(m_work->filePath("strange"), {}, {}, monitor);
         QVERIFY(!nothing.isRemembered && nothing.templateName.isNull() && nothing.looked == 0);
