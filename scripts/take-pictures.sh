@@ -27,6 +27,8 @@ chmod 700 "$XDG_RUNTIME_DIR"
 if [ -n "${DARK:-}" ]; then
   export XDG_CURRENT_DESKTOP=KDE KDE_SESSION_VERSION=5
   cat >"$HOME/.config/kdeglobals" <<'COLORS'
+[Icons]
+Theme=breeze-dark
 [Colors:Window]
 BackgroundNormal=42,46,50
 ForegroundNormal=252,252,252

@@ -232,7 +232,7 @@
     </message>
     <message>
         <source>make more than 10,000 items of repeats without a question</source>
-        <translation>crear más de 10 000 elementos por repeticiones sin preguntar</translation>
+        <translation>crear más de 10&#xa0;000 elementos por repeticiones sin preguntar</translation>
     </message>
     <message>
         <source>print what would be made and change nothing</source>
@@ -878,7 +878,7 @@ Use --overwrite para moverlo a la papelera y crearlo de nuevo.</translation>
     <name>IndentedList</name>
     <message>
         <source>The list has more than 10,000 lines.</source>
-        <translation>La lista tiene más de 10 000 líneas.</translation>
+        <translation>La lista tiene más de 10&#xa0;000 líneas.</translation>
     </message>
     <message>
         <source>Line %1 gives no name for a folder: %2</source>

@@ -28,14 +28,14 @@
     </message>
     <message>
         <source>It ended with status %1: %2</source>
-        <translation>Il s’est terminé avec le code de retour %1 : %2</translation>
+        <translation>Il s’est terminé avec le code de retour %1&#xa0;: %2</translation>
     </message>
 </context>
 <context>
     <name>BatchCreation</name>
     <message>
         <source>Creating projects: %L1</source>
-        <translation>Création de projets : %L1</translation>
+        <translation>Création de projets&#xa0;: %L1</translation>
     </message>
 </context>
 <context>
@@ -50,7 +50,7 @@
     </message>
     <message>
         <source>No parameter is called like this: the column is not used.</source>
-        <translation>Aucun paramètre ne porte ce nom : la colonne est ignorée.</translation>
+        <translation>Aucun paramètre ne porte ce nom&#xa0;: la colonne est ignorée.</translation>
     </message>
 </context>
 <context>
@@ -76,26 +76,26 @@
     </message>
     <message>
         <source>Makes: %1</source>
-        <translation>À créer : %1</translation>
+        <translation>À créer&#xa0;: %1</translation>
     </message>
 </context>
 <context>
     <name>CheckCommand</name>
     <message>
         <source>Tessaro does not remember this project, and there is no template to compare it with: %1</source>
-        <translation>Tessaro n’a pas mémorisé ce projet, et il n’y a aucun modèle auquel le comparer : %1</translation>
+        <translation>Tessaro n’a pas mémorisé ce projet, et il n’y a aucun modèle auquel le comparer&#xa0;: %1</translation>
     </message>
     <message>
         <source>Not remembered; compared with the template “%1”.</source>
-        <translation>Projet non mémorisé ; comparé au modèle « %1 ».</translation>
+        <translation>Projet non mémorisé&#xa0;; comparé au modèle «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>Items that depend on values, not looked for: %L1</source>
-        <translation>Éléments dépendant de valeurs, non vérifiés : %L1</translation>
+        <translation>Éléments dépendant de valeurs, non vérifiés&#xa0;: %L1</translation>
     </message>
     <message>
         <source>Complete. Items: %L1</source>
-        <translation>Complet. Éléments : %L1</translation>
+        <translation>Complet. Éléments&#xa0;: %L1</translation>
     </message>
     <message>
         <source>There is no project to check.</source>
@@ -103,7 +103,7 @@
     </message>
     <message>
         <source>There is no template “%1”. %2</source>
-        <translation>Le modèle « %1 » n’existe pas. %2</translation>
+        <translation>Le modèle «&#xa0;%1&#xa0;» n’existe pas. %2</translation>
     </message>
     <message>
         <source>Checking %1</source>
@@ -114,34 +114,34 @@
     <name>CommandLine</name>
     <message>
         <source>Usage: %1</source>
-        <translation>Usage : %1</translation>
+        <translation>Usage&#xa0;: %1</translation>
     </message>
     <message numerus="yes">
         <source>“%1” was given %n words, which is not what it takes.</source>
         <translation>
-            <numerusform>« %1 » a reçu %n argument, ce qui ne convient pas.</numerusform>
-            <numerusform>« %1 » a reçu %n arguments, ce qui ne convient pas.</numerusform>
+            <numerusform>«&#xa0;%1&#xa0;» a reçu %n argument, ce qui ne convient pas.</numerusform>
+            <numerusform>«&#xa0;%1&#xa0;» a reçu %n arguments, ce qui ne convient pas.</numerusform>
         </translation>
     </message>
     <message>
         <source>“%1” needs %2.</source>
-        <translation>« %1 » exige %2.</translation>
+        <translation>«&#xa0;%1&#xa0;» exige %2.</translation>
     </message>
     <message>
         <source>%1 does not know “%2”.</source>
-        <translation>%1 ne connaît pas « %2 ».</translation>
+        <translation>%1 ne connaît pas «&#xa0;%2&#xa0;».</translation>
     </message>
     <message>
         <source>“%1” takes no value.</source>
-        <translation>« %1 » ne prend pas de valeur.</translation>
+        <translation>«&#xa0;%1&#xa0;» ne prend pas de valeur.</translation>
     </message>
     <message>
         <source>“%1” needs a value.</source>
-        <translation>« %1 » attend une valeur.</translation>
+        <translation>«&#xa0;%1&#xa0;» attend une valeur.</translation>
     </message>
     <message>
         <source>“%1 %2” is not of the form %3.</source>
-        <translation>« %1 %2 » n’est pas de la forme %3.</translation>
+        <translation>«&#xa0;%1 %2&#xa0;» n’est pas de la forme %3.</translation>
     </message>
     <message>
         <source>Administrator rights are required here, and were refused.</source>
@@ -149,19 +149,19 @@
     </message>
     <message>
         <source>%1 needs to be told what to do: %2.</source>
-        <translation>%1 attend une action : %2.</translation>
+        <translation>%1 attend une action&#xa0;: %2.</translation>
     </message>
     <message>
         <source>%1 cannot “%2”. It can: %3.</source>
-        <translation>%1 n’a pas d’action « %2 ». Actions possibles : %3.</translation>
+        <translation>%1 n’a pas d’action «&#xa0;%2&#xa0;». Actions possibles&#xa0;: %3.</translation>
     </message>
     <message>
         <source>“%1” is no command of Tessaro.</source>
-        <translation>« %1 » n’est pas une commande de Tessaro.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas une commande de Tessaro.</translation>
     </message>
     <message>
         <source>The settings cannot be read, and nothing is done without them: neither the parameters nor the numbers that are taken are known.</source>
-        <translation>Impossible de lire les réglages, et rien n’est fait sans eux : ni les paramètres ni les numéros déjà attribués ne sont connus.</translation>
+        <translation>Impossible de lire les réglages, et rien n’est fait sans eux&#xa0;: ni les paramètres ni les numéros déjà attribués ne sont connus.</translation>
     </message>
     <message>
         <source>Tessaro --help lists what it understands.</source>
@@ -172,7 +172,7 @@
     <name>Commands</name>
     <message>
         <source>Exit status: 0 done; 1 failed, or partly failed; 2 wrong usage; 3 the project or template exists and was not overwritten, the command was declined (--yes says yes), or the administrator&apos;s rights were refused; 4 stopped on the way (Ctrl+C): nothing was kept.</source>
-        <translation>Code de retour : 0 réussite ; 1 échec total ou partiel ; 2 utilisation incorrecte ; 3 le projet ou le modèle existe et n’a pas été remplacé, la commande n’a pas été confirmée (--yes la confirme) ou les droits d’administrateur ont été refusés ; 4 interruption en cours de route (Ctrl+C) : rien n’a été conservé.</translation>
+        <translation>Code de retour&#xa0;: 0 réussite&#xa0;; 1 échec total ou partiel&#xa0;; 2 utilisation incorrecte&#xa0;; 3 le projet ou le modèle existe et n’a pas été remplacé, la commande n’a pas été confirmée (--yes la confirme) ou les droits d’administrateur ont été refusés&#xa0;; 4 interruption en cours de route (Ctrl+C)&#xa0;: rien n’a été conservé.</translation>
     </message>
     <message>
         <source>Tessaro starts media and production projects from templates.</source>
@@ -188,7 +188,7 @@
     </message>
     <message>
         <source>“%1” is no command of Tessaro. Tessaro --help lists them.</source>
-        <translation>« %1 » n’est pas une commande de Tessaro. Tessaro --help en donne la liste.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas une commande de Tessaro. Tessaro --help en donne la liste.</translation>
     </message>
     <message>
         <source>starts media and production projects from templates</source>
@@ -208,23 +208,23 @@
     </message>
     <message>
         <source>the template; else the one that the window would choose</source>
-        <translation>le modèle ; sinon, celui que choisirait la fenêtre</translation>
+        <translation>le modèle&#xa0;; sinon, celui que choisirait la fenêtre</translation>
     </message>
     <message>
         <source>the folder to create it in; else the fixed project location, when that is on</source>
-        <translation>le dossier où le créer ; sinon, l’emplacement fixe des projets, s’il est activé</translation>
+        <translation>le dossier où le créer&#xa0;; sinon, l’emplacement fixe des projets, s’il est activé</translation>
     </message>
     <message>
         <source>a parameter&apos;s value, as if typed into its row; may be repeated</source>
-        <translation>la valeur d’un paramètre, comme saisie dans sa ligne ; répétable</translation>
+        <translation>la valeur d’un paramètre, comme saisie dans sa ligne&#xa0;; répétable</translation>
     </message>
     <message>
         <source>a project for each row of a table (CSV; - is standard input), all or none</source>
-        <translation>un projet par ligne d’un tableau (CSV ; - pour l’entrée standard), tous ou aucun</translation>
+        <translation>un projet par ligne d’un tableau (CSV&#xa0;; - pour l’entrée standard), tous ou aucun</translation>
     </message>
     <message>
         <source>with --from: leave out rows with problems, make the others</source>
-        <translation>avec --from : ignorer les lignes en erreur, créer les autres</translation>
+        <translation>avec --from&#xa0;: ignorer les lignes en erreur, créer les autres</translation>
     </message>
     <message>
         <source>move an existing project of the name to the Trash first</source>
@@ -232,7 +232,7 @@
     </message>
     <message>
         <source>make more than 10,000 items of repeats without a question</source>
-        <translation>créer plus de 10 000 éléments par répétition sans demander</translation>
+        <translation>créer plus de 10&#xa0;000 éléments par répétition sans demander</translation>
     </message>
     <message>
         <source>print what would be made and change nothing</source>
@@ -252,7 +252,7 @@
     </message>
     <message>
         <source>the rules as JSON; - is standard input, {} takes them away</source>
-        <translation>les règles en JSON ; - pour l’entrée standard, {} les supprime</translation>
+        <translation>les règles en JSON&#xa0;; - pour l’entrée standard, {} les supprime</translation>
     </message>
     <message>
         <source>remove rules whose item is gone</source>
@@ -268,11 +268,11 @@
     </message>
     <message>
         <source>where it goes; else the desktop</source>
-        <translation>le dossier où l’enregistrer ; sinon, le bureau</translation>
+        <translation>le dossier où l’enregistrer&#xa0;; sinon, le bureau</translation>
     </message>
     <message>
         <source>a file that goes along; may be repeated</source>
-        <translation>un fichier à joindre ; répétable</translation>
+        <translation>un fichier à joindre&#xa0;; répétable</translation>
     </message>
     <message>
         <source>Makes a project and prints its path.</source>
@@ -280,7 +280,7 @@
     </message>
     <message>
         <source>Lists what creations that were cut off have left behind, and moves it to the Trash; names the projects that a power cut has damaged.</source>
-        <translation>Liste ce qu’ont laissé les créations interrompues et le met à la corbeille ; signale les projets endommagés par une coupure de courant.</translation>
+        <translation>Liste ce qu’ont laissé les créations interrompues et le met à la corbeille&#xa0;; signale les projets endommagés par une coupure de courant.</translation>
     </message>
     <message>
         <source>Lists the last hundred projects that were made, the latest first.</source>
@@ -288,11 +288,11 @@
     </message>
     <message>
         <source>Moves what a creation made to the Trash, but for what was changed or added since; the latest, or the one of that path or name.</source>
-        <translation>Met à la corbeille ce qu’une création a produit, sauf ce qui a été modifié ou ajouté depuis ; la dernière, ou celle du chemin ou du nom donné.</translation>
+        <translation>Met à la corbeille ce qu’une création a produit, sauf ce qui a été modifié ou ajouté depuis&#xa0;; la dernière, ou celle du chemin ou du nom donné.</translation>
     </message>
     <message>
         <source>Lists the templates, one a line; the default is marked with a star.</source>
-        <translation>Liste les modèles, un par ligne ; une étoile marque le modèle par défaut.</translation>
+        <translation>Liste les modèles, un par ligne&#xa0;; une étoile marque le modèle par défaut.</translation>
     </message>
     <message>
         <source>Makes an empty template.</source>
@@ -320,11 +320,11 @@
     </message>
     <message>
         <source>Prints a template&apos;s rules as JSON, or takes them from a file; --gone removes those whose item is not there any more.</source>
-        <translation>Affiche les règles d’un modèle en JSON, ou les lit dans un fichier ; --gone supprime celles dont l’élément n’existe plus.</translation>
+        <translation>Affiche les règles d’un modèle en JSON, ou les lit dans un fichier&#xa0;; --gone supprime celles dont l’élément n’existe plus.</translation>
     </message>
     <message>
         <source>Takes in bundles (NAME.tzt) and archives of them (NAME.tzt.zip); one of the same name goes to the Trash.</source>
-        <translation>Importe des modèles (NAME.tzt) ou leurs archives (NAME.tzt.zip) ; un modèle de même nom va à la corbeille.</translation>
+        <translation>Importe des modèles (NAME.tzt) ou leurs archives (NAME.tzt.zip)&#xa0;; un modèle de même nom va à la corbeille.</translation>
     </message>
     <message>
         <source>Writes a template as one archive, NAME.tzt.zip, and prints its path.</source>
@@ -336,19 +336,19 @@
     </message>
     <message>
         <source>Puts back the templates that ship with Tessaro; changed ones go to the Trash.</source>
-        <translation>Restaure les modèles fournis avec Tessaro ; ceux qui ont été modifiés vont à la corbeille.</translation>
+        <translation>Restaure les modèles fournis avec Tessaro&#xa0;; ceux qui ont été modifiés vont à la corbeille.</translation>
     </message>
     <message>
         <source>Lists title, kind and value of each parameter; a / marks those that begin a folder level.</source>
-        <translation>Liste le titre, le type et la valeur de chaque paramètre ; un / marque ceux qui ouvrent un niveau de dossier.</translation>
+        <translation>Liste le titre, le type et la valeur de chaque paramètre&#xa0;; un / marque ceux qui ouvrent un niveau de dossier.</translation>
     </message>
     <message>
         <source>Adds a parameter. Kinds: text, counter, date, user, choice.</source>
-        <translation>Ajoute un paramètre. Types : text, counter, date, user, choice.</translation>
+        <translation>Ajoute un paramètre. Types&#xa0;: text, counter, date, user, choice.</translation>
     </message>
     <message>
         <source>Changes a parameter. Keys: title, kind, default, folder, history, required, locked; form (number, date, folder), pattern, message, computed, case (upper, lower, title), length, several, in-name.</source>
-        <translation>Modifie un paramètre. Clés : title, kind, default, folder, history, required, locked ; form (number, date, folder), pattern, message, computed, case (upper, lower, title), length, several, in-name.</translation>
+        <translation>Modifie un paramètre. Clés&#xa0;: title, kind, default, folder, history, required, locked&#xa0;; form (number, date, folder), pattern, message, computed, case (upper, lower, title), length, several, in-name.</translation>
     </message>
     <message>
         <source>Moves a parameter to a position, counted from 1.</source>
@@ -380,7 +380,7 @@
     </message>
     <message>
         <source>Changes a setting; the value is checked first, as in the window.</source>
-        <translation>Modifie un réglage ; la valeur est d’abord vérifiée, comme dans la fenêtre.</translation>
+        <translation>Modifie un réglage&#xa0;; la valeur est d’abord vérifiée, comme dans la fenêtre.</translation>
     </message>
     <message>
         <source>The setting&apos;s default applies again.</source>
@@ -400,7 +400,7 @@
     </message>
     <message>
         <source>Explains all verbs, or one; --help behind a verb does so, too.</source>
-        <translation>Explique toutes les commandes, ou une seule ; --help après une commande fait de même.</translation>
+        <translation>Explique toutes les commandes, ou une seule&#xa0;; --help après une commande fait de même.</translation>
     </message>
     <message>
         <source>Prints what makes that shell complete Tessaro&apos;s words.</source>
@@ -416,7 +416,7 @@
     </message>
     <message>
         <source>values as a JSON object from titles to values; - is standard input</source>
-        <translation>valeurs en objet JSON dont les clés sont les titres ; - pour l’entrée standard</translation>
+        <translation>valeurs en objet JSON dont les clés sont les titres&#xa0;; - pour l’entrée standard</translation>
     </message>
     <message>
         <source>ask at the terminal for what is required and missing</source>
@@ -424,7 +424,7 @@
     </message>
     <message>
         <source>leave values and counters out of the settings: nothing is remembered or counted</source>
-        <translation>ne pas enregistrer les valeurs et les compteurs dans les réglages : rien n’est mémorisé ni compté</translation>
+        <translation>ne pas enregistrer les valeurs et les compteurs dans les réglages&#xa0;: rien n’est mémorisé ni compté</translation>
     </message>
     <message>
         <source>what a project that is not remembered is compared with</source>
@@ -436,7 +436,7 @@
     </message>
     <message>
         <source>Opens the window; the next project goes into the folder.</source>
-        <translation>Ouvre la fenêtre ; le prochain projet sera créé dans ce dossier.</translation>
+        <translation>Ouvre la fenêtre&#xa0;; le prochain projet sera créé dans ce dossier.</translation>
     </message>
     <message>
         <source>Opens the window, which says whether the project in the folder is complete.</source>
@@ -444,11 +444,11 @@
     </message>
     <message>
         <source>for every user of this computer; needs root</source>
-        <translation>pour tous les utilisateurs de cet ordinateur ; exige les droits root</translation>
+        <translation>pour tous les utilisateurs de cet ordinateur&#xa0;; exige les droits root</translation>
     </message>
     <message>
         <source>what nobody changes, with commas: parameters, keys of settings, or none; else parameters, separatorChar, dateFormat and strictNaming</source>
-        <translation>ce que personne ne peut modifier, séparé par des virgules : parameters, des clés de réglages ou none ; sinon, parameters, separatorChar, dateFormat et strictNaming</translation>
+        <translation>ce que personne ne peut modifier, séparé par des virgules&#xa0;: parameters, des clés de réglages ou none&#xa0;; sinon, parameters, separatorChar, dateFormat et strictNaming</translation>
     </message>
     <message>
         <source>Says which set-up your studio shares with this computer.</source>
@@ -475,7 +475,7 @@
     </message>
     <message>
         <source>A creation was cut off. This is left of it: %1</source>
-        <translation>Une création a été interrompue. Voici ce qu’il en reste : %1</translation>
+        <translation>Une création a été interrompue. Voici ce qu’il en reste&#xa0;: %1</translation>
     </message>
     <message>
         <source>Tessaro clean-up --yes moves it to the Trash.</source>
@@ -487,12 +487,12 @@
     </message>
     <message>
         <source>Nothing was moved to the Trash; say --yes to do it.</source>
-        <translation>Rien n’a été mis à la corbeille ; ajoutez --yes pour le faire.</translation>
+        <translation>Rien n’a été mis à la corbeille&#xa0;; ajoutez --yes pour le faire.</translation>
     </message>
     <message>
         <source>A project with this name already exists: %1
 Use --overwrite to move it to the Trash and create it anew.</source>
-        <translation>Un projet de ce nom existe déjà : %1
+        <translation>Un projet de ce nom existe déjà&#xa0;: %1
 Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation>
     </message>
     <message>
@@ -513,7 +513,7 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     </message>
     <message>
         <source>There is no template “%1”. %2</source>
-        <translation>Le modèle « %1 » n’existe pas. %2</translation>
+        <translation>Le modèle «&#xa0;%1&#xa0;» n’existe pas. %2</translation>
     </message>
     <message>
         <source>The template’s rules cannot be read. Mend them, or remove the file.</source>
@@ -541,11 +541,11 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     </message>
     <message>
         <source>The folder name is too long: %1</source>
-        <translation>Nom de dossier trop long : %1</translation>
+        <translation>Nom de dossier trop long&#xa0;: %1</translation>
     </message>
     <message>
         <source>This folder of the template cannot be read: %1</source>
-        <translation>Impossible de lire ce dossier du modèle : %1</translation>
+        <translation>Impossible de lire ce dossier du modèle&#xa0;: %1</translation>
     </message>
     <message>
         <source>Stopped. Nothing of the project was kept.</source>
@@ -553,19 +553,19 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     </message>
     <message>
         <source>The project was made, and is gone: %1</source>
-        <translation>Le projet a été créé, puis a disparu : %1</translation>
+        <translation>Le projet a été créé, puis a disparu&#xa0;: %1</translation>
     </message>
     <message>
         <source>The log names each item and the cause: %1</source>
-        <translation>Le journal indique chaque élément et la cause : %1</translation>
+        <translation>Le journal indique chaque élément et la cause&#xa0;: %1</translation>
     </message>
     <message>
         <source>  (keeps this name: its new one is taken)</source>
-        <translation>  (garde ce nom : le nouveau est déjà pris)</translation>
+        <translation>  (garde ce nom&#xa0;: le nouveau est déjà pris)</translation>
     </message>
     <message>
         <source>  (keeps this name: its new one is too long)</source>
-        <translation>  (garde ce nom : le nouveau est trop long)</translation>
+        <translation>  (garde ce nom&#xa0;: le nouveau est trop long)</translation>
     </message>
     <message>
         <source>  (left out)</source>
@@ -585,7 +585,7 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     </message>
     <message>
         <source>The values are no JSON object: %1</source>
-        <translation>Les valeurs ne forment pas un objet JSON : %1</translation>
+        <translation>Les valeurs ne forment pas un objet JSON&#xa0;: %1</translation>
     </message>
     <message>
         <source>it does not begin with a brace</source>
@@ -593,7 +593,7 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     </message>
     <message>
         <source>The value of “%1” is no text, no number and no list of them.</source>
-        <translation>La valeur de « %1 » n’est ni un texte, ni un nombre, ni une liste de textes ou de nombres.</translation>
+        <translation>La valeur de «&#xa0;%1&#xa0;» n’est ni un texte, ni un nombre, ni une liste de textes ou de nombres.</translation>
     </message>
     <message>
         <source>--ask needs a terminal to ask at.</source>
@@ -624,7 +624,7 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     </message>
     <message>
         <source>Looking at projects: %L1</source>
-        <translation>Examen des projets : %L1</translation>
+        <translation>Examen des projets&#xa0;: %L1</translation>
     </message>
     <message>
         <source>Stopped. Nothing was created.</source>
@@ -632,11 +632,11 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     </message>
     <message>
         <source>No parameter is called: %1</source>
-        <translation>Aucun paramètre ne s’appelle : %1</translation>
+        <translation>Aucun paramètre ne s’appelle&#xa0;: %1</translation>
     </message>
     <message>
         <source>Other problems: %L1</source>
-        <translation>Autres problèmes : %L1</translation>
+        <translation>Autres problèmes&#xa0;: %L1</translation>
     </message>
     <message>
         <source>Stopped.</source>
@@ -648,11 +648,11 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     </message>
     <message>
         <source>Stopped. Projects that were not begun: %L1</source>
-        <translation>Interrompu. Projets non commencés : %L1</translation>
+        <translation>Interrompu. Projets non commencés&#xa0;: %L1</translation>
     </message>
     <message>
         <source>Rows left out: %L1. The log names each item and the cause: %2</source>
-        <translation>Lignes ignorées : %L1. Le journal indique chaque élément et la cause : %2</translation>
+        <translation>Lignes ignorées&#xa0;: %L1. Le journal indique chaque élément et la cause&#xa0;: %2</translation>
     </message>
     <message>
         <source>The program that runs after each creation has failed</source>
@@ -667,7 +667,7 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     </message>
     <message>
         <source>They are changed in the studio’s own folder, and come to every computer from there: %1</source>
-        <translation>Ils se modifient dans le dossier du studio, d’où ils parviennent à tous les ordinateurs : %1</translation>
+        <translation>Ils se modifient dans le dossier du studio, d’où ils parviennent à tous les ordinateurs&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -694,7 +694,7 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     </message>
     <message>
         <source>“%1” cannot be moved to the Trash</source>
-        <translation>Impossible de mettre « %1 » à la corbeille</translation>
+        <translation>Impossible de mettre «&#xa0;%1&#xa0;» à la corbeille</translation>
     </message>
     <message>
         <source>Its drive has no Trash that you may use. It can be put beside under a name with today&apos;s date, be deleted for good, or be kept as it is.</source>
@@ -729,15 +729,15 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     </message>
     <message>
         <source>Templates in %1: %2</source>
-        <translation>Modèles dans %1 : %2</translation>
+        <translation>Modèles dans %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>New location: %1</source>
-        <translation>Nouvel emplacement : %1</translation>
+        <translation>Nouvel emplacement&#xa0;: %1</translation>
     </message>
     <message>
         <source>Would you like to move your templates to the new location?</source>
-        <translation>Voulez-vous déplacer vos modèles vers le nouvel emplacement ?</translation>
+        <translation>Voulez-vous déplacer vos modèles vers le nouvel emplacement&#xa0;?</translation>
     </message>
     <message>
         <source>Any templates outside of the new backup location will not be displayed in the Templates pane.</source>
@@ -775,7 +775,7 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     </message>
     <message>
         <source>These have stayed where they were: %1.</source>
-        <translation>Sont restés à leur place : %1.</translation>
+        <translation>Sont restés à leur place&#xa0;: %1.</translation>
     </message>
     <message>
         <source>Choose the Shared Set-up</source>
@@ -787,14 +787,14 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     </message>
     <message>
         <source>The folder needs a file “%1”, which “Tessaro setup export” writes.</source>
-        <translation>Le dossier doit contenir un fichier « %1 », que crée « Tessaro setup export ».</translation>
+        <translation>Le dossier doit contenir un fichier «&#xa0;%1&#xa0;», que crée «&#xa0;Tessaro setup export&#xa0;».</translation>
     </message>
 </context>
 <context>
     <name>HistoryCommand</name>
     <message>
         <source>The project is not at its place any more: %1</source>
-        <translation>Le projet n’est plus à sa place : %1</translation>
+        <translation>Le projet n’est plus à sa place&#xa0;: %1</translation>
     </message>
     <message>
         <source>%1 could not be undone.</source>
@@ -802,19 +802,19 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     </message>
     <message>
         <source>The project that had its place is still in the Trash: %1</source>
-        <translation>Le projet remplacé est encore dans la corbeille : %1</translation>
+        <translation>Le projet remplacé est encore dans la corbeille&#xa0;: %1</translation>
     </message>
     <message>
         <source>This stays; the rest is in the Trash.</source>
-        <translation>Ceci reste en place ; le reste est dans la corbeille.</translation>
+        <translation>Ceci reste en place&#xa0;; le reste est dans la corbeille.</translation>
     </message>
     <message>
         <source>Undoing projects: %L1</source>
-        <translation>Annulation de projets : %L1</translation>
+        <translation>Annulation de projets&#xa0;: %L1</translation>
     </message>
     <message>
         <source>Stopped. Projects that stay: %L1</source>
-        <translation>Interrompu. Projets laissés en place : %L1</translation>
+        <translation>Interrompu. Projets laissés en place&#xa0;: %L1</translation>
     </message>
     <message>
         <source>  (not there any more)</source>
@@ -826,7 +826,7 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     </message>
     <message>
         <source>“%1” is no project that is remembered. Tessaro history lists them.</source>
-        <translation>« %1 » ne figure pas parmi les projets mémorisés. Tessaro history en donne la liste.</translation>
+        <translation>«&#xa0;%1&#xa0;» ne figure pas parmi les projets mémorisés. Tessaro history en donne la liste.</translation>
     </message>
     <message>
         <source>Undoing %1</source>
@@ -837,7 +837,7 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     <name>ImportJobs</name>
     <message>
         <source>%@ already exists in this location. Are you sure you wish to overwrite it?</source>
-        <translation>%@ existe déjà à cet emplacement. Voulez-vous vraiment le remplacer ?</translation>
+        <translation>%@ existe déjà à cet emplacement. Voulez-vous vraiment le remplacer&#xa0;?</translation>
     </message>
     <message>
         <source>What is there goes to the Trash.</source>
@@ -878,22 +878,22 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     <name>IndentedList</name>
     <message>
         <source>The list has more than 10,000 lines.</source>
-        <translation>La liste dépasse 10 000 lignes.</translation>
+        <translation>La liste dépasse 10&#xa0;000 lignes.</translation>
     </message>
     <message>
         <source>Line %1 gives no name for a folder: %2</source>
-        <translation>La ligne %1 ne donne pas de nom de dossier : %2</translation>
+        <translation>La ligne %1 ne donne pas de nom de dossier&#xa0;: %2</translation>
     </message>
 </context>
 <context>
     <name>ItemNames</name>
     <message>
         <source>The name would be empty: its values are.</source>
-        <translation>Le nom serait vide : ses valeurs le sont.</translation>
+        <translation>Le nom serait vide&#xa0;: ses valeurs le sont.</translation>
     </message>
     <message>
         <source>The name would be “%1”, which leads elsewhere.</source>
-        <translation>Le nom serait « %1 », qui mène ailleurs.</translation>
+        <translation>Le nom serait «&#xa0;%1&#xa0;», qui mène ailleurs.</translation>
     </message>
     <message>
         <source>The name would have %1 bytes, and 255 are possible.</source>
@@ -901,7 +901,7 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     </message>
     <message>
         <source>%1 puts a “/” into the name: %2</source>
-        <translation>%1 met un « / » dans le nom : %2</translation>
+        <translation>%1 met un «&#xa0;/&#xa0;» dans le nom&#xa0;: %2</translation>
     </message>
 </context>
 <context>
@@ -1006,7 +1006,7 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     <name>LogsCommand</name>
     <message>
         <source>There is no log at %1.</source>
-        <translation>Journal introuvable : %1.</translation>
+        <translation>Journal introuvable&#xa0;: %1.</translation>
     </message>
     <message>
         <source>%1 does not exist.</source>
@@ -1187,7 +1187,7 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     </message>
     <message>
         <source>No templates yet: &amp;install the standard ones</source>
-        <translation>Pas encore de modèle : &amp;installer ceux fournis</translation>
+        <translation>Pas encore de modèle&#xa0;: &amp;installer ceux fournis</translation>
     </message>
     <message>
         <source>Try &amp;Again</source>
@@ -1203,7 +1203,7 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     </message>
     <message>
         <source>Project:</source>
-        <translation>Projet :</translation>
+        <translation>Projet&#xa0;:</translation>
     </message>
     <message>
         <source>A project with this name already exists.</source>
@@ -1263,21 +1263,21 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     </message>
     <message>
         <source>Created ‘%1’ in %2.</source>
-        <translation>« %1 » a été créé dans %2.</translation>
+        <translation>«&#xa0;%1&#xa0;» a été créé dans %2.</translation>
     </message>
     <message>
         <source>Created in %1: %L2 projects.</source>
-        <translation>Projets créés dans %1 : %L2.</translation>
+        <translation>Projets créés dans %1&#xa0;: %L2.</translation>
     </message>
     <message>
         <source>&amp;Undo %1</source>
         <comment>what is undone</comment>
-        <translation>A&amp;nnuler : %1</translation>
+        <translation>A&amp;nnuler&#xa0;: %1</translation>
     </message>
     <message>
         <source>&amp;Redo %1</source>
         <comment>what is done again</comment>
-        <translation>&amp;Rétablir : %1</translation>
+        <translation>&amp;Rétablir&#xa0;: %1</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
@@ -1361,7 +1361,7 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     <name>OwnParametersSheet</name>
     <message>
         <source>Parameters of “%1”</source>
-        <translation>Paramètres de « %1 »</translation>
+        <translation>Paramètres de «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>Add a parameter</source>
@@ -1377,11 +1377,11 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     </message>
     <message>
         <source>Projects of this template have these parameters, after the common ones:</source>
-        <translation>Les projets de ce modèle ont ces paramètres, après les paramètres communs :</translation>
+        <translation>Les projets de ce modèle ont ces paramètres, après les paramètres communs&#xa0;:</translation>
     </message>
     <message>
         <source>The common parameters in projects of this template:</source>
-        <translation>Les paramètres communs dans les projets de ce modèle :</translation>
+        <translation>Les paramètres communs dans les projets de ce modèle&#xa0;:</translation>
     </message>
     <message>
         <source>Parameters of the template</source>
@@ -1433,7 +1433,7 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     </message>
     <message>
         <source>Two parameters are called “%1”.</source>
-        <translation>Deux paramètres s’appellent « %1 ».</translation>
+        <translation>Deux paramètres s’appellent «&#xa0;%1&#xa0;».</translation>
     </message>
 </context>
 <context>
@@ -1452,7 +1452,7 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     </message>
     <message>
         <source>Values of “%1”</source>
-        <translation>Valeurs de « %1 »</translation>
+        <translation>Valeurs de «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>Any text</source>
@@ -1492,31 +1492,31 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     </message>
     <message>
         <source>&amp;Value:</source>
-        <translation>&amp;Valeur :</translation>
+        <translation>&amp;Valeur&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Letters:</source>
-        <translation>&amp;Casse :</translation>
+        <translation>&amp;Casse&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Most characters:</source>
-        <translation>&amp;Longueur max. :</translation>
+        <translation>&amp;Longueur max.&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Pattern:</source>
-        <translation>&amp;Motif :</translation>
+        <translation>&amp;Motif&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Said when it does not fit:</source>
-        <translation>Message en cas d’&amp;erreur :</translation>
+        <translation>Message en cas d’&amp;erreur&#xa0;:</translation>
     </message>
     <message>
         <source>Computed &amp;from others:</source>
-        <translation>Calculée d’&amp;après :</translation>
+        <translation>Calculée d’&amp;après&#xa0;:</translation>
     </message>
     <message>
         <source>The pattern is no regular expression: %1</source>
-        <translation>Le motif n’est pas une expression régulière : %1</translation>
+        <translation>Le motif n’est pas une expression régulière&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -1566,7 +1566,7 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     </message>
     <message>
         <source>The choices, each on a line of its own; the first is the default.</source>
-        <translation>Les choix, un par ligne ; le premier est le choix par défaut.</translation>
+        <translation>Les choix, un par ligne&#xa0;; le premier est le choix par défaut.</translation>
     </message>
     <message>
         <source>Title</source>
@@ -1606,7 +1606,7 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     </message>
     <message>
         <source>What it begins with; for a choice, the choices</source>
-        <translation>Valeur de départ ; pour un choix, la liste des choix</translation>
+        <translation>Valeur de départ&#xa0;; pour un choix, la liste des choix</translation>
     </message>
     <message>
         <source>Begins a new folder level</source>
@@ -1633,15 +1633,15 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     <name>ParametersCommand</name>
     <message>
         <source>There is no parameter “%1”.</source>
-        <translation>Le paramètre « %1 » n’existe pas.</translation>
+        <translation>Le paramètre «&#xa0;%1&#xa0;» n’existe pas.</translation>
     </message>
     <message>
         <source>There are several parameters “%1”. Please give them titles of their own, in the window.</source>
-        <translation>Plusieurs paramètres s’appellent « %1 ». Donnez à chacun son propre titre, dans la fenêtre.</translation>
+        <translation>Plusieurs paramètres s’appellent «&#xa0;%1&#xa0;». Donnez à chacun son propre titre, dans la fenêtre.</translation>
     </message>
     <message>
         <source>“%1” is no kind of parameter. There are: %2.</source>
-        <translation>« %1 » n’est pas un type de paramètre. Types possibles : %2.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un type de paramètre. Types possibles&#xa0;: %2.</translation>
     </message>
     <message>
         <source>The parameters could not be stored.</source>
@@ -1649,7 +1649,7 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     </message>
     <message>
         <source>Nothing was removed. This cannot be undone; say --yes to do it.</source>
-        <translation>Rien n’a été supprimé. Cette action est irréversible ; ajoutez --yes pour la confirmer.</translation>
+        <translation>Rien n’a été supprimé. Cette action est irréversible&#xa0;; ajoutez --yes pour la confirmer.</translation>
     </message>
     <message>
         <source>The position is a number from 1 to %1.</source>
@@ -1657,11 +1657,11 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     </message>
     <message>
         <source>A parameter has no “%1”. It has: %2.</source>
-        <translation>Un paramètre n’a pas de clé « %1 ». Clés possibles : %2.</translation>
+        <translation>Un paramètre n’a pas de clé «&#xa0;%1&#xa0;». Clés possibles&#xa0;: %2.</translation>
     </message>
     <message>
         <source>“%1” cannot be that. It can be: %2.</source>
-        <translation>« %1 » n’est pas admis. Valeurs possibles : %2.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas admis. Valeurs possibles&#xa0;: %2.</translation>
     </message>
     <message>
         <source>The length is a number from 0 (any) to 255.</source>
@@ -1669,7 +1669,7 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     </message>
     <message>
         <source>The pattern is no regular expression: %1</source>
-        <translation>Le motif n’est pas une expression régulière : %1</translation>
+        <translation>Le motif n’est pas une expression régulière&#xa0;: %1</translation>
     </message>
     <message>
         <source>The parameters could not be exported.</source>
@@ -1681,7 +1681,7 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     </message>
     <message>
         <source>Nothing was changed. The list would be replaced; say --yes to do it.</source>
-        <translation>Rien n’a été modifié. La liste serait remplacée ; ajoutez --yes pour le faire.</translation>
+        <translation>Rien n’a été modifié. La liste serait remplacée&#xa0;; ajoutez --yes pour le faire.</translation>
     </message>
 </context>
 <context>
@@ -1696,7 +1696,7 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     </message>
     <message>
         <source>Are you sure you wish to remove this parameter?</source>
-        <translation>Voulez-vous vraiment supprimer ce paramètre ?</translation>
+        <translation>Voulez-vous vraiment supprimer ce paramètre&#xa0;?</translation>
     </message>
     <message>
         <source>Ctrl+Z brings it back for as long as this window is open.</source>
@@ -1716,11 +1716,11 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     </message>
     <message>
         <source>Today: %1</source>
-        <translation>Aujourd’hui : %1</translation>
+        <translation>Aujourd’hui&#xa0;: %1</translation>
     </message>
     <message>
         <source>Slashes and colons are left out of folder names: it will be less than %1.</source>
-        <translation>Barres obliques et deux-points sont retirés des noms de dossier : il restera moins que %1.</translation>
+        <translation>Barres obliques et deux-points sont retirés des noms de dossier&#xa0;: il restera moins que %1.</translation>
     </message>
 </context>
 <context>
@@ -1769,11 +1769,11 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     </message>
     <message>
         <source>Place: none yet</source>
-        <translation>Emplacement : aucun pour l’instant</translation>
+        <translation>Emplacement&#xa0;: aucun pour l’instant</translation>
     </message>
     <message>
         <source>Place: %1</source>
-        <translation>Emplacement : %1</translation>
+        <translation>Emplacement&#xa0;: %1</translation>
     </message>
     <message>
         <source>&amp;Choose a Folder…</source>
@@ -1796,7 +1796,7 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     </message>
     <message>
         <source>Template &amp;library:</source>
-        <translation>&amp;Bibliothèque de modèles :</translation>
+        <translation>&amp;Bibliothèque de modèles&#xa0;:</translation>
     </message>
     <message>
         <source>Template library</source>
@@ -1812,7 +1812,7 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     </message>
     <message>
         <source>After a project:</source>
-        <translation>Après la création :</translation>
+        <translation>Après la création&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Open its folder</source>
@@ -1824,7 +1824,7 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     </message>
     <message>
         <source>Template pane:</source>
-        <translation>Volet Modèles :</translation>
+        <translation>Volet Modèles&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Show every folder opened</source>
@@ -1832,7 +1832,7 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     </message>
     <message>
         <source>Ask for a password:</source>
-        <translation>Demander un mot de passe :</translation>
+        <translation>Demander un mot de passe&#xa0;:</translation>
     </message>
     <message>
         <source>When &amp;Tessaro starts</source>
@@ -1848,11 +1848,11 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     </message>
     <message>
         <source>Location:</source>
-        <translation>Emplacement :</translation>
+        <translation>Emplacement&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Create every project in this folder:</source>
-        <translation>&amp;Créer tous les projets dans ce dossier :</translation>
+        <translation>&amp;Créer tous les projets dans ce dossier&#xa0;:</translation>
     </message>
     <message>
         <source>Fixed project location</source>
@@ -1868,7 +1868,7 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     </message>
     <message>
         <source>Names:</source>
-        <translation>Noms :</translation>
+        <translation>Noms&#xa0;:</translation>
     </message>
     <message>
         <source>Only &amp;letters, digits, hyphens and underscores</source>
@@ -1876,7 +1876,7 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     </message>
     <message>
         <source>Anything else is left out of what you type: for servers and programs that stumble over spaces and accents.</source>
-        <translation>Tout autre caractère est retiré de vos saisies : pour les serveurs et les programmes que gênent espaces et accents.</translation>
+        <translation>Tout autre caractère est retiré de vos saisies&#xa0;: pour les serveurs et les programmes que gênent espaces et accents.</translation>
     </message>
     <message>
         <source>Filename parameters</source>
@@ -1900,7 +1900,7 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     </message>
     <message>
         <source>&amp;Separator:</source>
-        <translation>&amp;Séparateur :</translation>
+        <translation>&amp;Séparateur&#xa0;:</translation>
     </message>
     <message>
         <source>Separator</source>
@@ -1908,7 +1908,7 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     </message>
     <message>
         <source>&amp;Date format:</source>
-        <translation>Format de &amp;date :</translation>
+        <translation>Format de &amp;date&#xa0;:</translation>
     </message>
     <message>
         <source>Date format</source>
@@ -1920,7 +1920,7 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     </message>
     <message>
         <source>A project now:</source>
-        <translation>Aperçu du projet :</translation>
+        <translation>Aperçu du projet&#xa0;:</translation>
     </message>
     <message>
         <source>Folders of a project</source>
@@ -1932,7 +1932,7 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     </message>
     <message>
         <source>Shared set-&amp;up:</source>
-        <translation>Con&amp;figuration partagée :</translation>
+        <translation>Con&amp;figuration partagée&#xa0;:</translation>
     </message>
     <message>
         <source>Shared set-up</source>
@@ -1940,7 +1940,7 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     </message>
     <message>
         <source>A folder in which your studio keeps templates, parameters and settings for everybody. Empty: your own.</source>
-        <translation>Un dossier où votre studio conserve modèles, paramètres et réglages pour tous. Vide : les vôtres.</translation>
+        <translation>Un dossier où votre studio conserve modèles, paramètres et réglages pour tous. Vide&#xa0;: les vôtres.</translation>
     </message>
     <message>
         <source>Before templates are chan&amp;ged</source>
@@ -1974,7 +1974,7 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     </message>
     <message>
         <source>Line %1 makes the same project: %2</source>
-        <translation>La ligne %1 donne le même projet : %2</translation>
+        <translation>La ligne %1 donne le même projet&#xa0;: %2</translation>
     </message>
     <message>
         <source>This row has more cells than there are columns.</source>
@@ -1982,7 +1982,7 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     </message>
     <message>
         <source>A project with this name already exists: %1</source>
-        <translation>Un projet de ce nom existe déjà : %1</translation>
+        <translation>Un projet de ce nom existe déjà&#xa0;: %1</translation>
     </message>
     <message>
         <source>Repeats would make more than %L1 items.</source>
@@ -1997,19 +1997,19 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     <name>ProjectCheck</name>
     <message>
         <source>%1: is missing</source>
-        <translation>%1 : introuvable</translation>
+        <translation>%1&#xa0;: introuvable</translation>
     </message>
     <message>
         <source>%1: a file stands where a folder was made, or the other way round</source>
-        <translation>%1 : un fichier à la place d’un dossier créé, ou l’inverse</translation>
+        <translation>%1&#xa0;: un fichier à la place d’un dossier créé, ou l’inverse</translation>
     </message>
     <message>
         <source>%1: had contents, and is empty</source>
-        <translation>%1 : avait un contenu et est maintenant vide</translation>
+        <translation>%1&#xa0;: avait un contenu et est maintenant vide</translation>
     </message>
     <message>
         <source>%1: cannot be looked at</source>
-        <translation>%1 : impossible à vérifier</translation>
+        <translation>%1&#xa0;: impossible à vérifier</translation>
     </message>
 </context>
 <context>
@@ -2048,11 +2048,11 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     </message>
     <message>
         <source>A project with this name already exists: %1</source>
-        <translation>Un projet de ce nom existe déjà : %1</translation>
+        <translation>Un projet de ce nom existe déjà&#xa0;: %1</translation>
     </message>
     <message>
         <source>A project with this name already exists. Are you sure you wish to overwrite it?</source>
-        <translation>Un projet de ce nom existe déjà. Voulez-vous vraiment le remplacer ?</translation>
+        <translation>Un projet de ce nom existe déjà. Voulez-vous vraiment le remplacer&#xa0;?</translation>
     </message>
     <message>
         <source>The old project will be placed in the trash.</source>
@@ -2093,8 +2093,8 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     <message numerus="yes">
         <source>and %n more; the log names each</source>
         <translation>
-            <numerusform>et %n autre ; le détail est dans le journal</numerusform>
-            <numerusform>et %n autres ; le détail est dans le journal</numerusform>
+            <numerusform>et %n autre&#xa0;; le détail est dans le journal</numerusform>
+            <numerusform>et %n autres&#xa0;; le détail est dans le journal</numerusform>
         </translation>
     </message>
     <message>
@@ -2103,7 +2103,7 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     </message>
     <message>
         <source>Is that what you want?</source>
-        <translation>Est-ce bien ce que vous voulez ?</translation>
+        <translation>Est-ce bien ce que vous voulez&#xa0;?</translation>
     </message>
     <message>
         <source>Create Them</source>
@@ -2115,11 +2115,11 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     </message>
     <message>
         <source>Others like this: %1</source>
-        <translation>Autres cas semblables : %1</translation>
+        <translation>Autres cas semblables&#xa0;: %1</translation>
     </message>
     <message>
         <source>The template’s rules and the values do not fit; nothing was created</source>
-        <translation>Les règles du modèle et les valeurs ne s’accordent pas ; rien n’a été créé</translation>
+        <translation>Les règles du modèle et les valeurs ne s’accordent pas&#xa0;; rien n’a été créé</translation>
     </message>
     <message>
         <source>Unable to copy contents of template</source>
@@ -2127,7 +2127,7 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     </message>
     <message>
         <source>The drive at %@ does not keep everything. The project is complete, but for the template&apos;s %@.</source>
-        <translation>Le disque de %@ ne conserve pas tout. Le projet est complet, sauf ceci, qui vient du modèle : %@.</translation>
+        <translation>Le disque de %@ ne conserve pas tout. Le projet est complet, sauf ceci, qui vient du modèle&#xa0;: %@.</translation>
     </message>
     <message>
         <source>Unable to look for names to replace in %@</source>
@@ -2139,7 +2139,7 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     </message>
     <message>
         <source>The project was created; nothing was undone.</source>
-        <translation>Le projet a été créé ; rien n’a été annulé.</translation>
+        <translation>Le projet a été créé&#xa0;; rien n’a été annulé.</translation>
     </message>
 </context>
 <context>
@@ -2165,7 +2165,7 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     </message>
     <message>
         <source>Two columns are called “%1”.</source>
-        <translation>Deux colonnes s’appellent « %1 ».</translation>
+        <translation>Deux colonnes s’appellent «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>The quotes that are opened in line %1 are never closed.</source>
@@ -2187,19 +2187,19 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     </message>
     <message>
         <source>Day ## counts: Day 01, Day 02 …</source>
-        <translation>Jour ## numérote : Jour 01, Jour 02 …</translation>
+        <translation>Jour ## numérote&#xa0;: Jour 01, Jour 02 …</translation>
     </message>
     <message>
         <source>&amp;Find:</source>
-        <translation>Re&amp;chercher :</translation>
+        <translation>Re&amp;chercher&#xa0;:</translation>
     </message>
     <message>
         <source>Replace &amp;with:</source>
-        <translation>Remplacer &amp;par :</translation>
+        <translation>Remplacer &amp;par&#xa0;:</translation>
     </message>
     <message>
         <source>First &amp;number:</source>
-        <translation>Premier &amp;numéro :</translation>
+        <translation>Premier &amp;numéro&#xa0;:</translation>
     </message>
     <message>
         <source>Name</source>
@@ -2234,7 +2234,7 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     </message>
     <message>
         <source>The name of a folder can have 255 bytes, and this one has %1. Please shorten a value.</source>
-        <translation>Le nom d’un dossier peut compter 255 octets ; celui-ci en a %1. Raccourcissez une valeur.</translation>
+        <translation>Le nom d’un dossier peut compter 255 octets&#xa0;; celui-ci en a %1. Raccourcissez une valeur.</translation>
     </message>
     <message>
         <source>Unable to create folder</source>
@@ -2242,7 +2242,7 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     </message>
     <message>
         <source>&apos;%@&apos; cannot be left blank</source>
-        <translation>« %@ » ne peut pas rester vide</translation>
+        <translation>«&#xa0;%@&#xa0;» ne peut pas rester vide</translation>
     </message>
     <message>
         <source>Please fill in this parameter before creating a project.</source>
@@ -2250,27 +2250,27 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     </message>
     <message>
         <source>&apos;%@&apos; cannot count any further</source>
-        <translation>« %@ » ne peut pas compter plus loin</translation>
+        <translation>«&#xa0;%@&#xa0;» ne peut pas compter plus loin</translation>
     </message>
     <message>
         <source>Its number has too many digits: counters end at 2147483646. A date in front of a number is better a parameter of its own.</source>
-        <translation>Son numéro a trop de chiffres : les compteurs s’arrêtent à 2147483646. Plutôt que devant un numéro, placez la date dans son propre paramètre.</translation>
+        <translation>Son numéro a trop de chiffres&#xa0;: les compteurs s’arrêtent à 2147483646. Plutôt que devant un numéro, placez la date dans son propre paramètre.</translation>
     </message>
     <message>
         <source>&apos;%@&apos; has to be changed</source>
-        <translation>« %@ » doit être modifié</translation>
+        <translation>«&#xa0;%@&#xa0;» doit être modifié</translation>
     </message>
     <message>
         <source>There is no parameter “%1”. %2</source>
-        <translation>Le paramètre « %1 » n’existe pas. %2</translation>
+        <translation>Le paramètre «&#xa0;%1&#xa0;» n’existe pas. %2</translation>
     </message>
     <message>
         <source>The parameter “%1” is locked.</source>
-        <translation>Le paramètre « %1 » est verrouillé.</translation>
+        <translation>Le paramètre «&#xa0;%1&#xa0;» est verrouillé.</translation>
     </message>
     <message>
         <source>“%1” is not among the choices of “%2”. %3</source>
-        <translation>« %1 » ne figure pas parmi les choix de « %2 ». %3</translation>
+        <translation>«&#xa0;%1&#xa0;» ne figure pas parmi les choix de «&#xa0;%2&#xa0;». %3</translation>
     </message>
     <message>
         <source>There are none.</source>
@@ -2278,7 +2278,7 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     </message>
     <message>
         <source>There are: %1.</source>
-        <translation>Disponibles : %1.</translation>
+        <translation>Disponibles&#xa0;: %1.</translation>
     </message>
 </context>
 <context>
@@ -2328,19 +2328,19 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     </message>
     <message>
         <source>Folders: %1, files: %2, %3</source>
-        <translation>Dossiers : %1, fichiers : %2, %3</translation>
+        <translation>Dossiers&#xa0;: %1, fichiers&#xa0;: %2, %3</translation>
     </message>
     <message>
         <source>Problems: %1</source>
-        <translation>Problèmes : %1</translation>
+        <translation>Problèmes&#xa0;: %1</translation>
     </message>
     <message>
         <source>Names that cannot be given: %1</source>
-        <translation>Noms impossibles : %1</translation>
+        <translation>Noms impossibles&#xa0;: %1</translation>
     </message>
     <message>
         <source>The template’s rules cannot be read: %1</source>
-        <translation>Impossible de lire les règles du modèle : %1</translation>
+        <translation>Impossible de lire les règles du modèle&#xa0;: %1</translation>
     </message>
     <message>
         <source>Repeats make more than %L1 items. These are the first.</source>
@@ -2348,7 +2348,7 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     </message>
     <message>
         <source>A project of this name is there already. It goes to the Trash when this one is created. Items: %1</source>
-        <translation>Un projet de ce nom existe déjà. Il ira à la corbeille à la création de celui-ci. Éléments : %1</translation>
+        <translation>Un projet de ce nom existe déjà. Il ira à la corbeille à la création de celui-ci. Éléments&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -2395,7 +2395,7 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     </message>
     <message>
         <source>How &amp;often:</source>
-        <translation>Fré&amp;quence :</translation>
+        <translation>Fré&amp;quence&#xa0;:</translation>
     </message>
     <message>
         <source>Of the parameter</source>
@@ -2431,7 +2431,7 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     </message>
     <message>
         <source>Va&amp;lues in the text of:</source>
-        <translation>Valeurs dans le &amp;texte de :</translation>
+        <translation>Valeurs dans le &amp;texte de&#xa0;:</translation>
     </message>
     <message>
         <source>Its Pa&amp;rameters…</source>
@@ -2451,7 +2451,7 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     </message>
     <message>
         <source>&amp;Made if:</source>
-        <translation>Créé s&amp;i :</translation>
+        <translation>Créé s&amp;i&#xa0;:</translation>
     </message>
     <message>
         <source>Parameter</source>
@@ -2479,7 +2479,7 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     </message>
     <message>
         <source>Rules of items that are gone:</source>
-        <translation>Règles d’éléments disparus :</translation>
+        <translation>Règles d’éléments disparus&#xa0;:</translation>
     </message>
     <message>
         <source>Remove the rule of %1</source>
@@ -2490,22 +2490,22 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     <name>RuledTree</name>
     <message>
         <source>Another item here gets the name “%1”, too.</source>
-        <translation>Un autre élément reçoit ici aussi le nom « %1 ».</translation>
+        <translation>Un autre élément reçoit ici aussi le nom «&#xa0;%1&#xa0;».</translation>
     </message>
 </context>
 <context>
     <name>RulesCommand</name>
     <message>
         <source>This is no JSON: %1, at byte %2.</source>
-        <translation>Ce n’est pas du JSON : %1, à l’octet %2.</translation>
+        <translation>Ce n’est pas du JSON&#xa0;: %1, à l’octet %2.</translation>
     </message>
     <message>
         <source>Rules are one JSON object: { … }.</source>
-        <translation>Les règles forment un seul objet JSON : { … }.</translation>
+        <translation>Les règles forment un seul objet JSON&#xa0;: { … }.</translation>
     </message>
     <message>
         <source>The old rules were damaged; they are kept as %1.</source>
-        <translation>Les anciennes règles étaient endommagées ; elles sont conservées sous %1.</translation>
+        <translation>Les anciennes règles étaient endommagées&#xa0;; elles sont conservées sous %1.</translation>
     </message>
     <message>
         <source>The rules cannot be read.</source>
@@ -2517,7 +2517,7 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     </message>
     <message>
         <source>There is no template “%1”.</source>
-        <translation>Le modèle « %1 » n’existe pas.</translation>
+        <translation>Le modèle «&#xa0;%1&#xa0;» n’existe pas.</translation>
     </message>
     <message>
         <source>Administrator rights are required here, and were refused.</source>
@@ -2525,11 +2525,11 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     </message>
     <message>
         <source>The template’s rules cannot be read; --set puts others in their place and keeps them beside.</source>
-        <translation>Impossible de lire les règles du modèle ; --set en met d’autres à leur place et garde les anciennes à côté.</translation>
+        <translation>Impossible de lire les règles du modèle&#xa0;; --set en met d’autres à leur place et garde les anciennes à côté.</translation>
     </message>
     <message>
         <source>There is a rule for an item that is gone: %1</source>
-        <translation>Une règle concerne un élément disparu : %1</translation>
+        <translation>Une règle concerne un élément disparu&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -2627,7 +2627,7 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     </message>
     <message>
         <source>There is no template “%1”. There are: %2.</source>
-        <translation>Le modèle « %1 » n’existe pas. Disponibles : %2.</translation>
+        <translation>Le modèle «&#xa0;%1&#xa0;» n’existe pas. Disponibles&#xa0;: %2.</translation>
     </message>
     <message>
         <source>Please type the whole path of a program that may be run.</source>
@@ -2658,7 +2658,7 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     <name>SettingsCommand</name>
     <message>
         <source>There is no setting “%1”. Tessaro settings lists them.</source>
-        <translation>Le réglage « %1 » n’existe pas. Tessaro settings en donne la liste.</translation>
+        <translation>Le réglage «&#xa0;%1&#xa0;» n’existe pas. Tessaro settings en donne la liste.</translation>
     </message>
     <message>
         <source>Administrator rights are required here, and were refused.</source>
@@ -2681,7 +2681,7 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     </message>
     <message>
         <source>There is no copy yet; your own set-up is used.</source>
-        <translation>Il n’y a pas encore de copie ; votre propre configuration est utilisée.</translation>
+        <translation>Il n’y a pas encore de copie&#xa0;; votre propre configuration est utilisée.</translation>
     </message>
     <message>
         <source>The studio’s set-up cannot be reached.</source>
@@ -2696,10 +2696,10 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
 Templates: %2
 Locked: %3
 Last change: %4</source>
-        <translation>Dossier : %1
-Modèles : %2
-Verrouillé : %3
-Dernière modification : %4</translation>
+        <translation>Dossier&#xa0;: %1
+Modèles&#xa0;: %2
+Verrouillé&#xa0;: %3
+Dernière modification&#xa0;: %4</translation>
     </message>
     <message>
         <source>the studio’s</source>
@@ -2719,7 +2719,7 @@ Dernière modification : %4</translation>
     </message>
     <message>
         <source>What can be locked: parameters, %1; or none.</source>
-        <translation>Verrouillage possible : parameters, %1 ; ou none.</translation>
+        <translation>Verrouillage possible&#xa0;: parameters, %1&#xa0;; ou none.</translation>
     </message>
     <message>
         <source>The folder %1 does not exist.</source>
@@ -2731,7 +2731,7 @@ Dernière modification : %4</translation>
     </message>
     <message>
         <source>It is set for every user of this computer; an administrator takes it away: %1</source>
-        <translation>Elle est définie pour tous les utilisateurs de cet ordinateur ; un administrateur peut la retirer : %1</translation>
+        <translation>Elle est définie pour tous les utilisateurs de cet ordinateur&#xa0;; un administrateur peut la retirer&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -2780,7 +2780,7 @@ Dernière modification : %4</translation>
     </message>
     <message>
         <source>The first row names parameters, each other one is a project (CSV, or a spreadsheet’s cells). A column “Template” chooses the template.</source>
-        <translation>La première ligne nomme les paramètres, chacune des suivantes est un projet (CSV ou cellules d’un tableur). Une colonne « Template » choisit le modèle.</translation>
+        <translation>La première ligne nomme les paramètres, chacune des suivantes est un projet (CSV ou cellules d’un tableur). Une colonne «&#xa0;Template&#xa0;» choisit le modèle.</translation>
     </message>
     <message>
         <source>The folder that the projects go to</source>
@@ -2792,7 +2792,7 @@ Dernière modification : %4</translation>
     </message>
     <message>
         <source>In:</source>
-        <translation>Dans :</translation>
+        <translation>Dans&#xa0;:</translation>
     </message>
     <message>
         <source>Create Pro&amp;jects</source>
@@ -2828,30 +2828,30 @@ Dernière modification : %4</translation>
     </message>
     <message>
         <source>Projects: %L1</source>
-        <translation>Projets : %L1</translation>
+        <translation>Projets&#xa0;: %L1</translation>
     </message>
     <message>
         <source>Projects: %L1, with problems: %L2</source>
-        <translation>Projets : %L1, en erreur : %L2</translation>
+        <translation>Projets&#xa0;: %L1, en erreur&#xa0;: %L2</translation>
     </message>
     <message>
         <source>No parameter is called: %1</source>
-        <translation>Aucun paramètre ne s’appelle : %1</translation>
+        <translation>Aucun paramètre ne s’appelle&#xa0;: %1</translation>
     </message>
 </context>
 <context>
     <name>TemplateCommand</name>
     <message>
         <source>There is no template “%1”. There are: %2.</source>
-        <translation>Le modèle « %1 » n’existe pas. Disponibles : %2.</translation>
+        <translation>Le modèle «&#xa0;%1&#xa0;» n’existe pas. Disponibles&#xa0;: %2.</translation>
     </message>
     <message>
         <source>“%1” cannot be a template&apos;s name. Leave out slashes, colons, and dots at the beginning.</source>
-        <translation>« %1 » ne peut pas être un nom de modèle. Pas de barres obliques, de deux-points ni de points au début.</translation>
+        <translation>«&#xa0;%1&#xa0;» ne peut pas être un nom de modèle. Pas de barres obliques, de deux-points ni de points au début.</translation>
     </message>
     <message>
         <source>There is a template “%1” already.</source>
-        <translation>Le modèle « %1 » existe déjà.</translation>
+        <translation>Le modèle «&#xa0;%1&#xa0;» existe déjà.</translation>
     </message>
     <message>
         <source>Nothing was removed. Say --yes to move the template to the Trash.</source>
@@ -2867,15 +2867,15 @@ Dernière modification : %4</translation>
     </message>
     <message>
         <source>The template has no folder “Files”: %1</source>
-        <translation>Le modèle n’a pas de dossier « Files » : %1</translation>
+        <translation>Le modèle n’a pas de dossier «&#xa0;Files&#xa0;»&#xa0;: %1</translation>
     </message>
     <message>
         <source>This folder of the template cannot be read:</source>
-        <translation>Impossible de lire ce dossier du modèle :</translation>
+        <translation>Impossible de lire ce dossier du modèle&#xa0;:</translation>
     </message>
     <message>
         <source>%1 is not a template: its name ends neither in “.tzt” nor in “.tzt.zip”.</source>
-        <translation>%1 n’est pas un modèle : son nom ne finit ni par « .tzt » ni par « .tzt.zip ».</translation>
+        <translation>%1 n’est pas un modèle&#xa0;: son nom ne finit ni par «&#xa0;.tzt&#xa0;» ni par «&#xa0;.tzt.zip&#xa0;».</translation>
     </message>
     <message>
         <source>%1 exists already. Please say another name.</source>
@@ -2887,7 +2887,7 @@ Dernière modification : %4</translation>
     </message>
     <message>
         <source>%1 is a link; what it leads to is not changed from here.</source>
-        <translation>%1 est un lien ; sa cible ne se modifie pas d’ici.</translation>
+        <translation>%1 est un lien&#xa0;; sa cible ne se modifie pas d’ici.</translation>
     </message>
     <message>
         <source>This is no template, it lacks the folder %1.</source>
@@ -2899,7 +2899,7 @@ Dernière modification : %4</translation>
     </message>
     <message>
         <source>Nothing was restored. Say --yes to put back the templates that ship with Tessaro; changed ones go to the Trash.</source>
-        <translation>Rien n’a été restauré. Ajoutez --yes pour restaurer les modèles fournis avec Tessaro ; ceux qui ont été modifiés vont à la corbeille.</translation>
+        <translation>Rien n’a été restauré. Ajoutez --yes pour restaurer les modèles fournis avec Tessaro&#xa0;; ceux qui ont été modifiés vont à la corbeille.</translation>
     </message>
     <message>
         <source>Not all templates could be restored.</source>
@@ -2918,7 +2918,7 @@ Dernière modification : %4</translation>
     </message>
     <message>
         <source>Are you sure you wish to remove the template &apos;%@&apos;?</source>
-        <translation>Voulez-vous vraiment supprimer le modèle « %@ » ?</translation>
+        <translation>Voulez-vous vraiment supprimer le modèle «&#xa0;%@&#xa0;»&#xa0;?</translation>
     </message>
     <message>
         <source>The template file will be placed in your Trash.</source>
@@ -2954,7 +2954,7 @@ Dernière modification : %4</translation>
     </message>
     <message>
         <source>You cannot rename this template to %@ because there is already a template with this name.</source>
-        <translation>Impossible de renommer ce modèle en %@ : un modèle porte déjà ce nom.</translation>
+        <translation>Impossible de renommer ce modèle en %@&#xa0;: un modèle porte déjà ce nom.</translation>
     </message>
     <message>
         <source>Unable to move file %@ to %@</source>
@@ -2985,7 +2985,7 @@ Dernière modification : %4</translation>
     </message>
     <message>
         <source>An archive of a template holds one folder whose name ends in “.tzt”.</source>
-        <translation>L’archive d’un modèle contient un seul dossier, dont le nom finit par « .tzt ».</translation>
+        <translation>L’archive d’un modèle contient un seul dossier, dont le nom finit par «&#xa0;.tzt&#xa0;».</translation>
     </message>
     <message>
         <source>%@ is not a template</source>
@@ -2993,7 +2993,7 @@ Dernière modification : %4</translation>
     </message>
     <message>
         <source>A template is a folder whose name ends in “.tzt”, with a folder “Files” in it. Please choose such a folder.</source>
-        <translation>Un modèle est un dossier dont le nom finit par « .tzt » et qui contient un dossier « Files ». Choisissez un dossier de ce type.</translation>
+        <translation>Un modèle est un dossier dont le nom finit par «&#xa0;.tzt&#xa0;» et qui contient un dossier «&#xa0;Files&#xa0;». Choisissez un dossier de ce type.</translation>
     </message>
 </context>
 <context>
@@ -3112,7 +3112,7 @@ Dernière modification : %4</translation>
     </message>
     <message>
         <source>The rules cannot be read: %1</source>
-        <translation>Impossible de lire les règles : %1</translation>
+        <translation>Impossible de lire les règles&#xa0;: %1</translation>
     </message>
     <message>
         <source>Select a template on the left.</source>
@@ -3140,38 +3140,38 @@ Dernière modification : %4</translation>
     </message>
     <message>
         <source>“%1” cannot be undone</source>
-        <translation>Impossible d’annuler : %1</translation>
+        <translation>Impossible d’annuler&#xa0;: %1</translation>
     </message>
     <message>
         <source>“%1” cannot be done again</source>
-        <translation>Impossible de rétablir : %1</translation>
+        <translation>Impossible de rétablir&#xa0;: %1</translation>
     </message>
 </context>
 <context>
     <name>TemplateRules</name>
     <message>
         <source>“%1” is compared by size, and “%2” is no number.</source>
-        <translation>« %1 » se compare par grandeur, et « %2 » n’est pas un nombre.</translation>
+        <translation>«&#xa0;%1&#xa0;» se compare par grandeur, et «&#xa0;%2&#xa0;» n’est pas un nombre.</translation>
     </message>
     <message>
         <source>A condition asks for the parameter “%1”, which there is none of.</source>
-        <translation>Une condition utilise le paramètre « %1 », qui n’existe pas.</translation>
+        <translation>Une condition utilise le paramètre «&#xa0;%1&#xa0;», qui n’existe pas.</translation>
     </message>
     <message>
         <source>A repeat asks for the parameter “%1”, which there is none of.</source>
-        <translation>Une répétition utilise le paramètre « %1 », qui n’existe pas.</translation>
+        <translation>Une répétition utilise le paramètre «&#xa0;%1&#xa0;», qui n’existe pas.</translation>
     </message>
     <message>
         <source>“%1” has no value yet: how many?</source>
-        <translation>« %1 » n’a pas encore de valeur : combien ?</translation>
+        <translation>«&#xa0;%1&#xa0;» n’a pas encore de valeur&#xa0;: combien&#xa0;?</translation>
     </message>
     <message>
         <source>“%1” is no number to count to: %2</source>
-        <translation>« %1 » n’est pas un nombre jusqu’auquel compter : %2</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un nombre jusqu’auquel compter&#xa0;: %2</translation>
     </message>
     <message>
         <source>“%1” is too large a number: %2</source>
-        <translation>« %1 » est un nombre trop grand : %2</translation>
+        <translation>«&#xa0;%1&#xa0;» est un nombre trop grand&#xa0;: %2</translation>
     </message>
     <message>
         <source>is</source>
@@ -3199,19 +3199,19 @@ Dernière modification : %4</translation>
     </message>
     <message>
         <source>“%1” holds something that is no text</source>
-        <translation>« %1 » contient autre chose que du texte</translation>
+        <translation>«&#xa0;%1&#xa0;» contient autre chose que du texte</translation>
     </message>
     <message>
         <source>“%1” holds something that is no dictionary</source>
-        <translation>« %1 » contient autre chose qu’un dictionnaire</translation>
+        <translation>«&#xa0;%1&#xa0;» contient autre chose qu’un dictionnaire</translation>
     </message>
     <message>
         <source>“%1” is not of the right kind</source>
-        <translation>« %1 » n’est pas du bon type</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas du bon type</translation>
     </message>
     <message>
         <source>“%1” is no condition; there are: is, isNot, contains, isEmpty, isNotEmpty, isGreater</source>
-        <translation>« %1 » n’est pas une condition ; conditions possibles : is, isNot, contains, isEmpty, isNotEmpty, isGreater</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas une condition&#xa0;; conditions possibles&#xa0;: is, isNot, contains, isEmpty, isNotEmpty, isGreater</translation>
     </message>
     <message>
         <source>a condition names no parameter</source>
@@ -3219,19 +3219,19 @@ Dernière modification : %4</translation>
     </message>
     <message>
         <source>“when” takes “all” or “any”, not “%1”</source>
-        <translation>« when » accepte « all » ou « any », pas « %1 »</translation>
+        <translation>«&#xa0;when&#xa0;» accepte «&#xa0;all&#xa0;» ou «&#xa0;any&#xa0;», pas «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>“repeat” names no parameter: {&quot;count&quot;: TITLE} or {&quot;values&quot;: TITLE}</source>
-        <translation>« repeat » ne nomme aucun paramètre : {&quot;count&quot;: TITLE} ou {&quot;values&quot;: TITLE}</translation>
+        <translation>«&#xa0;repeat&#xa0;» ne nomme aucun paramètre&#xa0;: {&quot;count&quot;: TITLE} ou {&quot;values&quot;: TITLE}</translation>
     </message>
     <message>
         <source>“%1” cannot be the name of a repeat</source>
-        <translation>« %1 » ne peut pas être le nom d’une répétition</translation>
+        <translation>«&#xa0;%1&#xa0;» ne peut pas être le nom d’une répétition</translation>
     </message>
     <message>
         <source>“repeat” takes “count” or “values”, and “as”, not “%1”</source>
-        <translation>« repeat » accepte « count » ou « values », et « as », pas « %1 »</translation>
+        <translation>«&#xa0;repeat&#xa0;» accepte «&#xa0;count&#xa0;» ou «&#xa0;values&#xa0;», et «&#xa0;as&#xa0;», pas «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>Item %1 (%2)</source>
@@ -3247,11 +3247,11 @@ Dernière modification : %4</translation>
     </message>
     <message>
         <source>a parameter of “parameters” has no title</source>
-        <translation>un paramètre de « parameters » n’a pas de titre</translation>
+        <translation>un paramètre de «&#xa0;parameters&#xa0;» n’a pas de titre</translation>
     </message>
     <message>
         <source>two parameters of “parameters” are called “%1”</source>
-        <translation>deux paramètres de « parameters » s’appellent « %1 »</translation>
+        <translation>deux paramètres de «&#xa0;parameters&#xa0;» s’appellent «&#xa0;%1&#xa0;»</translation>
     </message>
 </context>
 <context>
@@ -3320,7 +3320,7 @@ Dernière modification : %4</translation>
     </message>
     <message>
         <source>It was not given, or there is nobody who could ask for it. An administrator can switch this off with: sudo Tessaro settings unset requireAdminPassword</source>
-        <translation>Il n’a pas été saisi, ou rien ne permet de le demander. Un administrateur peut désactiver cette protection avec : sudo Tessaro settings unset requireAdminPassword</translation>
+        <translation>Il n’a pas été saisi, ou rien ne permet de le demander. Un administrateur peut désactiver cette protection avec&#xa0;: sudo Tessaro settings unset requireAdminPassword</translation>
     </message>
     <message>
         <source>Your settings cannot be read</source>
@@ -3338,7 +3338,7 @@ Dernière modification : %4</translation>
         <source>Simplify your creative workflows by organizing your assets before you start. Tessaro makes it easy to create customized folder structures for each project.
 
 Modify the included templates to meet your needs or create your own from scratch.</source>
-        <translation>Simplifiez votre travail de création : organisez tout avant de commencer. Avec Tessaro, créez facilement une arborescence de dossiers sur mesure pour chaque projet.
+        <translation>Simplifiez votre travail de création&#xa0;: organisez tout avant de commencer. Avec Tessaro, créez facilement une arborescence de dossiers sur mesure pour chaque projet.
 
 Adaptez les modèles fournis à vos besoins ou créez les vôtres de A à Z.</translation>
     </message>
@@ -3356,7 +3356,7 @@ Adaptez les modèles fournis à vos besoins ou créez les vôtres de A à Z.</tr
     </message>
     <message>
         <source>A report of it lies on this computer; what it says of the program helps to mend the fault. Your projects and templates are as they were.</source>
-        <translation>Un rapport est conservé sur cet ordinateur ; ce qu’il dit du programme aide à corriger l’erreur. Vos projets et vos modèles sont intacts.</translation>
+        <translation>Un rapport est conservé sur cet ordinateur&#xa0;; ce qu’il dit du programme aide à corriger l’erreur. Vos projets et vos modèles sont intacts.</translation>
     </message>
     <message>
         <source>Show Report</source>
@@ -3370,7 +3370,7 @@ Adaptez les modèles fournis à vos besoins ou créez les vôtres de A à Z.</tr
         <source>Tessaro or the computer stopped while ‘%1’ was being made. What had been copied is here:
 
 %2</source>
-        <translation>Tessaro ou l’ordinateur s’est arrêté pendant la création de « %1 ». Ce qui avait été copié se trouve ici :
+        <translation>Tessaro ou l’ordinateur s’est arrêté pendant la création de «&#xa0;%1&#xa0;». Ce qui avait été copié se trouve ici&#xa0;:
 
 %2</translation>
     </message>
@@ -3388,11 +3388,11 @@ Adaptez les modèles fournis à vos besoins ou créez les vôtres de A à Z.</tr
     </message>
     <message>
         <source>‘%1’ is not whole</source>
-        <translation>« %1 » est incomplet</translation>
+        <translation>«&#xa0;%1&#xa0;» est incomplet</translation>
     </message>
     <message>
         <source>Projects that are not whole: %1</source>
-        <translation>Projets incomplets : %1</translation>
+        <translation>Projets incomplets&#xa0;: %1</translation>
     </message>
     <message>
         <source>Create it once more, or take these files from the template.</source>
@@ -3424,7 +3424,7 @@ Adaptez les modèles fournis à vos besoins ou créez les vôtres de A à Z.</tr
     </message>
     <message>
         <source>Creation of ‘%1’</source>
-        <translation>Création de « %1 »</translation>
+        <translation>Création de «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>Creation From Table</source>
@@ -3440,7 +3440,7 @@ Adaptez les modèles fournis à vos besoins ou créez les vôtres de A à Z.</tr
     </message>
     <message>
         <source>‘%1’ cannot be undone</source>
-        <translation>Impossible d’annuler « %1 »</translation>
+        <translation>Impossible d’annuler «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>It is not at its place any more.</source>
@@ -3448,7 +3448,7 @@ Adaptez les modèles fournis à vos besoins ou créez les vôtres de A à Z.</tr
     </message>
     <message>
         <source>‘%1’ is in the Trash.</source>
-        <translation>« %1 » est dans la corbeille.</translation>
+        <translation>«&#xa0;%1&#xa0;» est dans la corbeille.</translation>
     </message>
     <message>
         <source>The old project is still in the Trash</source>
@@ -3461,13 +3461,13 @@ Adaptez les modèles fournis à vos besoins ou créez les vôtres de A à Z.</tr
     <message numerus="yes">
         <source>and %n more; the log names each</source>
         <translation>
-            <numerusform>et %n autre ; le détail est dans le journal</numerusform>
-            <numerusform>et %n autres ; le détail est dans le journal</numerusform>
+            <numerusform>et %n autre&#xa0;; le détail est dans le journal</numerusform>
+            <numerusform>et %n autres&#xa0;; le détail est dans le journal</numerusform>
         </translation>
     </message>
     <message>
         <source>Part of ‘%1’ stays</source>
-        <translation>Une partie de « %1 » reste en place</translation>
+        <translation>Une partie de «&#xa0;%1&#xa0;» reste en place</translation>
     </message>
     <message>
         <source>None Yet</source>
@@ -3507,7 +3507,7 @@ Adaptez les modèles fournis à vos besoins ou créez les vôtres de A à Z.</tr
     </message>
     <message>
         <source>Are you sure you wish to overwrite %@?</source>
-        <translation>Voulez-vous vraiment remplacer %@ ?</translation>
+        <translation>Voulez-vous vraiment remplacer %@&#xa0;?</translation>
     </message>
     <message>
         <source>Overwrite</source>
@@ -3519,7 +3519,7 @@ Adaptez les modèles fournis à vos besoins ou créez les vôtres de A à Z.</tr
     </message>
     <message>
         <source>Stopped; nothing of the project was kept.</source>
-        <translation>Interrompu ; rien du projet n’a été conservé.</translation>
+        <translation>Interrompu&#xa0;; rien du projet n’a été conservé.</translation>
     </message>
     <message>
         <source>The template’s rules cannot be read</source>
@@ -3547,19 +3547,19 @@ Adaptez les modèles fournis à vos besoins ou créez les vôtres de A à Z.</tr
     </message>
     <message>
         <source>and others: %L1; the log names each</source>
-        <translation>et d’autres : %L1 ; le détail est dans le journal</translation>
+        <translation>et d’autres&#xa0;: %L1&#xa0;; le détail est dans le journal</translation>
     </message>
     <message>
         <source>There is no template “%1”.</source>
-        <translation>Le modèle « %1 » n’existe pas.</translation>
+        <translation>Le modèle «&#xa0;%1&#xa0;» n’existe pas.</translation>
     </message>
     <message>
         <source>Nothing was kept: what had been created is in the Trash.</source>
-        <translation>Rien n’a été conservé : ce qui avait été créé est dans la corbeille.</translation>
+        <translation>Rien n’a été conservé&#xa0;: ce qui avait été créé est dans la corbeille.</translation>
     </message>
     <message>
         <source>Rows that were left out: %L1</source>
-        <translation>Lignes ignorées : %L1</translation>
+        <translation>Lignes ignorées&#xa0;: %L1</translation>
     </message>
     <message>
         <source>The projects could not all be created</source>
@@ -3571,11 +3571,11 @@ Adaptez les modèles fournis à vos besoins ou créez les vôtres de A à Z.</tr
     </message>
     <message>
         <source>Undoing projects: %L1</source>
-        <translation>Annulation de projets : %L1</translation>
+        <translation>Annulation de projets&#xa0;: %L1</translation>
     </message>
     <message>
         <source>In the Trash: %L1 projects.</source>
-        <translation>Projets mis à la corbeille : %L1.</translation>
+        <translation>Projets mis à la corbeille&#xa0;: %L1.</translation>
     </message>
     <message>
         <source>Part of the projects stays</source>
@@ -3591,7 +3591,7 @@ Adaptez les modèles fournis à vos besoins ou créez les vôtres de A à Z.</tr
     </message>
     <message>
         <source>%@ already exists. Overwrite?</source>
-        <translation>%@ existe déjà. Le remplacer ?</translation>
+        <translation>%@ existe déjà. Le remplacer&#xa0;?</translation>
     </message>
     <message>
         <source>What is there goes to the Trash.</source>
@@ -3599,7 +3599,7 @@ Adaptez les modèles fournis à vos besoins ou créez les vôtres de A à Z.</tr
     </message>
     <message>
         <source>Export “%1”</source>
-        <translation>Exporter « %1 »</translation>
+        <translation>Exporter «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>Export</source>
@@ -3607,7 +3607,7 @@ Adaptez les modèles fournis à vos besoins ou créez les vôtres de A à Z.</tr
     </message>
     <message>
         <source>Tessaro: closes when everything has been taken in</source>
-        <translation>Tessaro : fermeture une fois l’import terminé</translation>
+        <translation>Tessaro&#xa0;: fermeture une fois l’import terminé</translation>
     </message>
     <message>
         <source>%@ is not a template</source>
@@ -3615,7 +3615,7 @@ Adaptez les modèles fournis à vos besoins ou créez les vôtres de A à Z.</tr
     </message>
     <message>
         <source>Tessaro takes in templates: folders whose name ends in “.tzt”, and archives of them, in “.tzt.zip”.</source>
-        <translation>Tessaro importe des modèles : des dossiers dont le nom finit par « .tzt » et leurs archives, en « .tzt.zip ».</translation>
+        <translation>Tessaro importe des modèles&#xa0;: des dossiers dont le nom finit par «&#xa0;.tzt&#xa0;» et leurs archives, en «&#xa0;.tzt.zip&#xa0;».</translation>
     </message>
     <message>
         <source>Tessaro</source>
@@ -3635,7 +3635,7 @@ Adaptez les modèles fournis à vos besoins ou créez les vôtres de A à Z.</tr
     </message>
     <message>
         <source>Are you sure you wish to restore the default Tessaro templates?</source>
-        <translation>Voulez-vous vraiment restaurer les modèles fournis avec Tessaro ?</translation>
+        <translation>Voulez-vous vraiment restaurer les modèles fournis avec Tessaro&#xa0;?</translation>
     </message>
     <message>
         <source>This will restore the templates Tessaro ships with by default and will overwrite any modifications you have made to them.</source>
@@ -3667,34 +3667,34 @@ Adaptez les modèles fournis à vos besoins ou créez les vôtres de A à Z.</tr
     </message>
     <message>
         <source>‘%1’ cannot be checked</source>
-        <translation>Impossible de vérifier « %1 »</translation>
+        <translation>Impossible de vérifier «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>Tessaro does not remember this project; it was compared with the template “%1”.</source>
-        <translation>Tessaro n’a pas mémorisé ce projet ; il a été comparé au modèle « %1 ».</translation>
+        <translation>Tessaro n’a pas mémorisé ce projet&#xa0;; il a été comparé au modèle «&#xa0;%1&#xa0;».</translation>
     </message>
     <message numerus="yes">
         <source>and %n more; “Tessaro check” names each</source>
         <translation>
-            <numerusform>et %n autre ; « Tessaro check » donne le détail</numerusform>
-            <numerusform>et %n autres ; « Tessaro check » donne le détail</numerusform>
+            <numerusform>et %n autre&#xa0;; «&#xa0;Tessaro check&#xa0;» donne le détail</numerusform>
+            <numerusform>et %n autres&#xa0;; «&#xa0;Tessaro check&#xa0;» donne le détail</numerusform>
         </translation>
     </message>
     <message>
         <source>Items that depend on values, not looked for: %L1</source>
-        <translation>Éléments dépendant de valeurs, non vérifiés : %L1</translation>
+        <translation>Éléments dépendant de valeurs, non vérifiés&#xa0;: %L1</translation>
     </message>
     <message>
         <source>Items looked for: %L1</source>
-        <translation>Éléments vérifiés : %L1</translation>
+        <translation>Éléments vérifiés&#xa0;: %L1</translation>
     </message>
     <message>
         <source>‘%1’ is complete</source>
-        <translation>« %1 » est complet</translation>
+        <translation>«&#xa0;%1&#xa0;» est complet</translation>
     </message>
     <message>
         <source>Something is missing in ‘%1’</source>
-        <translation>Il manque quelque chose dans « %1 »</translation>
+        <translation>Il manque quelque chose dans «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>Checking %1</source>
@@ -3714,19 +3714,19 @@ Adaptez les modèles fournis à vos besoins ou créez les vôtres de A à Z.</tr
     </message>
     <message>
         <source>Editing: from ingest to delivery</source>
-        <translation>Montage : de l’acquisition à la livraison</translation>
+        <translation>Montage&#xa0;: de l’acquisition à la livraison</translation>
     </message>
     <message>
         <source>Photography: from card to client</source>
-        <translation>Photographie : de la carte au client</translation>
+        <translation>Photographie&#xa0;: de la carte au client</translation>
     </message>
     <message>
         <source>Podcast and sound: an episode, a mix</source>
-        <translation>Podcast et son : un épisode, un mixage</translation>
+        <translation>Podcast et son&#xa0;: un épisode, un mixage</translation>
     </message>
     <message>
         <source>What would you like to start with?</source>
-        <translation>Par quoi voulez-vous commencer ?</translation>
+        <translation>Par quoi voulez-vous commencer&#xa0;?</translation>
     </message>
     <message>
         <source>The manual cannot be opened</source>
@@ -3742,7 +3742,7 @@ Adaptez les modèles fournis à vos besoins ou créez les vôtres de A à Z.</tr
     </message>
     <message>
         <source>It is missing; please install Tessaro again.</source>
-        <translation>Il est introuvable ; réinstallez Tessaro.</translation>
+        <translation>Il est introuvable&#xa0;; réinstallez Tessaro.</translation>
     </message>
 </context>
 <context>
@@ -3764,46 +3764,46 @@ Adaptez les modèles fournis à vos besoins ou créez les vôtres de A à Z.</tr
     </message>
     <message>
         <source>This is no text: no values can be filled in.</source>
-        <translation>Ce n’est pas du texte : impossible d’y insérer des valeurs.</translation>
+        <translation>Ce n’est pas du texte&#xa0;: impossible d’y insérer des valeurs.</translation>
     </message>
     <message>
         <source>Values cannot be filled in: %1</source>
-        <translation>Impossible d’insérer les valeurs : %1</translation>
+        <translation>Impossible d’insérer les valeurs&#xa0;: %1</translation>
     </message>
 </context>
 <context>
     <name>Tokens</name>
     <message>
         <source>“%1” has no value yet.</source>
-        <translation>« %1 » n’a pas encore de valeur.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’a pas encore de valeur.</translation>
     </message>
     <message>
         <source>“%1” is no number: %2</source>
-        <translation>« %1 » n’est pas un nombre : %2</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un nombre&#xa0;: %2</translation>
     </message>
     <message>
         <source>“%1” is no form of a date, as %Y-%m-%d is.</source>
-        <translation>« %1 » n’est pas un format de date tel que %Y-%m-%d.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un format de date tel que %Y-%m-%d.</translation>
     </message>
     <message>
         <source>“%1” is no date: %2</source>
-        <translation>« %1 » n’est pas une date : %2</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas une date&#xa0;: %2</translation>
     </message>
     <message>
         <source>“%1” is neither places of a number, as 000 is, nor a form of a date, as %Y is.</source>
-        <translation>« %1 » n’est ni un format de nombre tel que 000, ni un format de date tel que %Y.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est ni un format de nombre tel que 000, ni un format de date tel que %Y.</translation>
     </message>
     <message>
         <source>There is no parameter “%1”.</source>
-        <translation>Le paramètre « %1 » n’existe pas.</translation>
+        <translation>Le paramètre «&#xa0;%1&#xa0;» n’existe pas.</translation>
     </message>
     <message>
         <source>“%1” changes no value. There are: %2.</source>
-        <translation>« %1 » ne transforme aucune valeur. Disponibles : %2.</translation>
+        <translation>«&#xa0;%1&#xa0;» ne transforme aucune valeur. Disponibles&#xa0;: %2.</translation>
     </message>
     <message>
         <source>A “{” without its “}”. Two of them, “{{”, stand for one that is meant.</source>
-        <translation>Un « { » sans son « } ». Doublez-le, « {{ », pour l’écrire tel quel.</translation>
+        <translation>Un «&#xa0;{&#xa0;» sans son «&#xa0;}&#xa0;». Doublez-le, «&#xa0;{{&#xa0;», pour l’écrire tel quel.</translation>
     </message>
 </context>
 <context>
@@ -3830,8 +3830,8 @@ Adaptez les modèles fournis à vos besoins ou créez les vôtres de A à Z.</tr
     <message numerus="yes">
         <source>The computer lost its power, or was switched off, before all of the project had reached its drive. %n of its files are empty or cut off:</source>
         <translation>
-            <numerusform>L’ordinateur a été éteint ou privé de courant avant que le projet ne soit entièrement écrit sur son disque. %n de ses fichiers est vide ou tronqué :</numerusform>
-            <numerusform>L’ordinateur a été éteint ou privé de courant avant que le projet ne soit entièrement écrit sur son disque. %n de ses fichiers sont vides ou tronqués :</numerusform>
+            <numerusform>L’ordinateur a été éteint ou privé de courant avant que le projet ne soit entièrement écrit sur son disque. %n de ses fichiers est vide ou tronqué&#xa0;:</numerusform>
+            <numerusform>L’ordinateur a été éteint ou privé de courant avant que le projet ne soit entièrement écrit sur son disque. %n de ses fichiers sont vides ou tronqués&#xa0;:</numerusform>
         </translation>
     </message>
 </context>
@@ -3839,7 +3839,7 @@ Adaptez les modèles fournis à vos besoins ou créez les vôtres de A à Z.</tr
     <name>UserDefaults</name>
     <message>
         <source>It is set for every user of this computer, and only an administrator can change it, with sudo Tessaro settings.</source>
-        <translation>Ce réglage vaut pour tous les utilisateurs de cet ordinateur ; seul un administrateur peut le modifier, avec sudo Tessaro settings.</translation>
+        <translation>Ce réglage vaut pour tous les utilisateurs de cet ordinateur&#xa0;; seul un administrateur peut le modifier, avec sudo Tessaro settings.</translation>
     </message>
 </context>
 <context>
@@ -3901,7 +3901,7 @@ Adaptez les modèles fournis à vos besoins ou créez les vôtres de A à Z.</tr
     <name>VTPreferenceController</name>
     <message>
         <source>“%@” cannot be used</source>
-        <translation>Impossible d’utiliser « %@ »</translation>
+        <translation>Impossible d’utiliser «&#xa0;%@&#xa0;»</translation>
     </message>
     <message>
         <source>Unable to create folder %@</source>
@@ -3928,7 +3928,7 @@ Adaptez les modèles fournis à vos besoins ou créez les vôtres de A à Z.</tr
     <name>VTProjectTableController</name>
     <message>
         <source>%1: %2</source>
-        <translation>%1 : %2</translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
     <message>
         <source>%1, locked</source>
@@ -3964,7 +3964,7 @@ Adaptez les modèles fournis à vos besoins ou créez les vôtres de A à Z.</tr
     </message>
     <message>
         <source>The name of a folder can have 255 bytes, and this one gets more.</source>
-        <translation>Le nom d’un dossier peut compter 255 octets ; celui-ci en a davantage.</translation>
+        <translation>Le nom d’un dossier peut compter 255 octets&#xa0;; celui-ci en a davantage.</translation>
     </message>
     <message>
         <source>too long</source>
@@ -3992,7 +3992,7 @@ Adaptez les modèles fournis à vos besoins ou créez les vôtres de A à Z.</tr
     </message>
     <message>
         <source>Typed in place of “%1”. Delete puts that back.</source>
-        <translation>Saisi à la place de « %1 ». Suppr rétablit cette valeur.</translation>
+        <translation>Saisi à la place de «&#xa0;%1&#xa0;». Suppr rétablit cette valeur.</translation>
     </message>
     <message>
         <source>typed over</source>
@@ -4015,7 +4015,7 @@ Adaptez les modèles fournis à vos besoins ou créez les vôtres de A à Z.</tr
     </message>
     <message>
         <source>Folder:</source>
-        <translation>Dossier :</translation>
+        <translation>Dossier&#xa0;:</translation>
     </message>
 </context>
 <context>
@@ -4048,11 +4048,11 @@ Adaptez les modèles fournis à vos besoins ou créez les vôtres de A à Z.</tr
     </message>
     <message>
         <source>The shortcuts cannot be changed: %1 Please put that file aside and try again.</source>
-        <translation>Impossible de modifier les raccourcis : %1 Mettez ce fichier de côté et réessayez.</translation>
+        <translation>Impossible de modifier les raccourcis&#xa0;: %1 Mettez ce fichier de côté et réessayez.</translation>
     </message>
     <message>
         <source>Your desktop does not watch these keys now: %1</source>
-        <translation>Votre bureau ne surveille pas ces touches pour l’instant : %1</translation>
+        <translation>Votre bureau ne surveille pas ces touches pour l’instant&#xa0;: %1</translation>
     </message>
     <message>
         <source>Your desktop watches these keys while Tessaro runs, and may ask you about them.</source>
@@ -4060,11 +4060,11 @@ Adaptez les modèles fournis à vos besoins ou créez les vôtres de A à Z.</tr
     </message>
     <message>
         <source>Nothing on this computer watches these keys: neither the shortcut key manager nor a desktop with global shortcuts is there.</source>
-        <translation>Rien ne surveille ces touches sur cet ordinateur : il n’y a ni gestionnaire de raccourcis ni bureau avec raccourcis globaux.</translation>
+        <translation>Rien ne surveille ces touches sur cet ordinateur&#xa0;: il n’y a ni gestionnaire de raccourcis ni bureau avec raccourcis globaux.</translation>
     </message>
     <message>
         <source>%1 (also for “%2”)</source>
-        <translation>%1 (aussi pour « %2 »)</translation>
+        <translation>%1 (aussi pour «&#xa0;%2&#xa0;»)</translation>
     </message>
     <message>
         <source>Only one of the two can have these keys. Please press others for one of them.</source>
@@ -4139,7 +4139,7 @@ Adaptez les modèles fournis à vos besoins ou créez les vôtres de A à Z.</tr
     </message>
     <message>
         <source>Are you sure you wish to remove %@?</source>
-        <translation>Voulez-vous vraiment supprimer %@ ?</translation>
+        <translation>Voulez-vous vraiment supprimer %@&#xa0;?</translation>
     </message>
     <message>
         <source>What is removed goes to the Trash. Undo brings it back.</source>
@@ -4179,7 +4179,7 @@ Adaptez les modèles fournis à vos besoins ou créez les vôtres de A à Z.</tr
     </message>
     <message>
         <source>You cannot rename this item to %@ because there is already a file or folder with this name.</source>
-        <translation>Impossible de renommer cet élément en %@ : un fichier ou un dossier porte déjà ce nom.</translation>
+        <translation>Impossible de renommer cet élément en %@&#xa0;: un fichier ou un dossier porte déjà ce nom.</translation>
     </message>
     <message>
         <source>Unable to rename item</source>
@@ -4203,7 +4203,7 @@ Adaptez les modèles fournis à vos besoins ou créez les vôtres de A à Z.</tr
     </message>
     <message>
         <source>%@ already exists. Overwrite?</source>
-        <translation>%@ existe déjà. Le remplacer ?</translation>
+        <translation>%@ existe déjà. Le remplacer&#xa0;?</translation>
     </message>
     <message>
         <source>What is there goes to the Trash.</source>
@@ -4235,15 +4235,15 @@ Adaptez les modèles fournis à vos besoins ou créez les vôtres de A à Z.</tr
     </message>
     <message>
         <source>“%1” cannot be a name.</source>
-        <translation>« %1 » ne peut pas être un nom.</translation>
+        <translation>«&#xa0;%1&#xa0;» ne peut pas être un nom.</translation>
     </message>
     <message>
         <source>Two of them would be called “%1”.</source>
-        <translation>Deux d’entre eux s’appelleraient « %1 ».</translation>
+        <translation>Deux d’entre eux s’appelleraient «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>There is another item called “%1”.</source>
-        <translation>Un autre élément s’appelle « %1 ».</translation>
+        <translation>Un autre élément s’appelle «&#xa0;%1&#xa0;».</translation>
     </message>
 </context>
 <context>
@@ -4258,7 +4258,7 @@ Adaptez les modèles fournis à vos besoins ou créez les vôtres de A à Z.</tr
     </message>
     <message>
         <source>Import of ‘%1’</source>
-        <translation>Import de « %1 »</translation>
+        <translation>Import de «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>Untitled</source>
@@ -4347,15 +4347,15 @@ Adaptez les modèles fournis à vos besoins ou créez les vôtres de A à Z.</tr
     </message>
     <message>
         <source>“%1” is not among the choices.</source>
-        <translation>« %1 » ne figure pas parmi les choix.</translation>
+        <translation>«&#xa0;%1&#xa0;» ne figure pas parmi les choix.</translation>
     </message>
     <message>
         <source>This may have %1 characters, and has %2.</source>
-        <translation>%1 caractères au maximum ; il y en a %2.</translation>
+        <translation>%1 caractères au maximum&#xa0;; il y en a %2.</translation>
     </message>
     <message>
         <source>The parameter’s pattern is wrong: %1</source>
-        <translation>Le motif du paramètre est incorrect : %1</translation>
+        <translation>Le motif du paramètre est incorrect&#xa0;: %1</translation>
     </message>
     <message>
         <source>This does not fit the pattern %1.</source>
@@ -4381,11 +4381,11 @@ Adaptez les modèles fournis à vos besoins ou créez les vôtres de A à Z.</tr
     <name>main</name>
     <message>
         <source>Tessaro: the window cannot be started; please install Tessaro again. %1</source>
-        <translation>Tessaro : impossible d’ouvrir la fenêtre ; réinstallez Tessaro. %1</translation>
+        <translation>Tessaro&#xa0;: impossible d’ouvrir la fenêtre&#xa0;; réinstallez Tessaro. %1</translation>
     </message>
     <message>
         <source>Tessaro: there is no display for the window; “Tessaro create” makes a project without one (see --help).</source>
-        <translation>Tessaro : aucun écran pour la fenêtre ; « Tessaro create » crée un projet sans elle (voir --help).</translation>
+        <translation>Tessaro&#xa0;: aucun écran pour la fenêtre&#xa0;; «&#xa0;Tessaro create&#xa0;» crée un projet sans elle (voir --help).</translation>
     </message>
 </context>
 <context>

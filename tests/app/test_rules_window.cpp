@@ -146,6 +146,7 @@ private Q_SLOTS:
         for (QLineEdit *line : inspector().findChildren<QLineEdit *>())
             value = line->accessibleName() == "Value" && line->isVisible() ? line : value;
         value->setFocus();
+        QTRY_VERIFY(value->hasFocus());
         QTest::keyClicks(value, "5");
         select("B"); // what was typed is taken in, and belongs to A
         QTRY_COMPARE(rules().ruleOf("A").when.tests.value(0).value, "5");
@@ -272,6 +273,7 @@ private Q_SLOTS:
             QCOMPARE(answers.seen, QStringList{"'Days' has to be changed|This must be a whole number."});
             QVERIFY(QDir(m_work->filePath("Projects")).isEmpty());
         }
+        QTRY_VERIFY(QApplication::focusWidget()); // the sheet gives it back when the window is active again
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
         QVERIFY(controller.setData(controller.index(1, 1), "3", Qt::EditRole));
         QVERIFY(controller.setData(controller.index(0, 1), "Bolt", Qt::EditRole));
