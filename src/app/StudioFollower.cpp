@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr qint64 betweenQuestions = 5 * 60 * 1000; // milliseconds
+constexpr qint64 betweenQuestions = 300'000; // milliseconds
 
 } // namespace
 

@@ -28,6 +28,12 @@ public:
     void quitIfWanted() override {}
 };
 
+/// Whether there is a project, complete or not.
+bool stands(const CreationResult &made)
+{
+    return !made.cancelled && !made.stopped && !made.refused;
+}
+
 } // namespace
 
 BatchResult BatchCreation::run(const ProjectBatch &batch,
@@ -53,11 +59,8 @@ BatchResult BatchCreation::run(const ProjectBatch &batch,
             const CreationResult made = creation.createProject(batch.requestOf(row));
             result.stopped = result.stopped || m_monitor.cancelled;
             result.failed += made.ok() ? 0 : 1;
-            if (!made.manifest.file.isEmpty())
-                result.made.append(made.manifest);
-            else if (!made.cancelled && !made.stopped && !made.refused)
-                m_notRemembered.append(made.request.destination());
-            if (!made.cancelled && !made.stopped && !made.refused)
+            note(made, result);
+            if (stands(made))
                 all.append(made);
             done(row, made);
         }
@@ -74,6 +77,14 @@ BatchResult BatchCreation::run(const ProjectBatch &batch,
         m_host.quitIfWanted();
     m_host.finishProcessing();
     return result;
+}
+
+void BatchCreation::note(const CreationResult &made, BatchResult &result)
+{
+    if (!made.manifest.file.isEmpty())
+        result.made.append(made.manifest);
+    else if (stands(made))
+        m_notRemembered.append(made.request.destination());
 }
 
 /// Of each project, when it is certain that it stays; when the program has failed once, of no other.

@@ -40,6 +40,7 @@ public:
     [[nodiscard]] std::atomic<bool> &stop() { return m_monitor.cancelled; }
 
 private:
+    void note(const CreationResult &made, BatchResult &result);
     void tellProgram(const QList<CreationResult> &made, BatchResult &result);
     void takeBack(BatchResult &result);
 

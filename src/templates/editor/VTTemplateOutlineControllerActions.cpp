@@ -50,6 +50,7 @@ void VTTemplateOutlineController::changeRules(const QString &name, const std::fu
     if (m_baseFilename.isNull() || !editingIsAllowed())
         return rereadRules(); // shows what they are
     DiskChange change{name, {}};
+    std::optional<TemplateRules> made;
     const platform::Outcome changed = changes::changeRules(
         m_baseFilename,
         [&](const QVariantMap &current) -> platform::Result<QVariantMap> {
@@ -60,11 +61,15 @@ void VTTemplateOutlineController::changeRules(const QString &name, const std::fu
             edit(wanted);
             const QVariantMap stored = variantFromRules(wanted);
             const auto readable = rulesFromVariant(stored); // nothing is stored that would be refused afterwards
+            if (readable)
+                made = *readable;
             return readable ? platform::Result<QVariantMap>(stored) : readable.outcome();
         },
         change.steps);
     if (!changed.ok())
         VTAlert::show({tr("The rules cannot be changed"), changed.description()});
+    else if (made) // whoever asks before they have been read again would take back what is being typed after them
+        m_rules.rules = *made;
     m_history.add(change);
     rereadRules();
 }
