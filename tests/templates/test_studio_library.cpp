@@ -1,0 +1,219 @@
+// What a studio shares: the copy that each computer keeps, what counts, and what nobody changes.
+#include "harness/StoredSettings.h"
+#include "harness/TemporaryHome.h"
+#include "parameters/ParameterStore.h"
+#include "platform/base/PropertyList.h"
+#include "platform/files/FileTree.h"
+#include "platform/files/WholeFile.h"
+#include "support/StudioCopy.h"
+#include "templates/EditingGuard.h"
+#include "templates/StudioLibrary.h"
+#include "templates/VTDataController.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QTest>
+#include <sys/stat.h>
+#include <unistd.h>
+
+using platform::Cause;
+
+namespace {
+
+QVariantMap record(const QVariantMap &values)
+{
+    return values;
+}
+
+} // namespace
+
+class TestStudioLibrary : public QObject
+{
+    Q_OBJECT
+
+    std::unique_ptr<QTemporaryDir> m_work;
+    QString shared(const QString &below = {}) const { return m_work->filePath("Server/" + below); }
+    /// As the studio's folder is written by hand, or by a later version.
+    void write(const QVariantMap &setup) const
+    {
+        QVERIFY(QDir().mkpath(shared()));
+        QVERIFY(platform::writePropertyListFile(shared(studio::setupFile), setup).ok());
+    }
+    void use() const { storeSetting(settings::sharedSetup, m_work->filePath("Server")); }
+    static QStringList listed()
+    {
+        return VTDataController::templateNames(VTDataController::templateLocation()).valueOr({});
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        m_work = std::make_unique<QTemporaryDir>();
+        storeFirstSettings(m_work->path());
+        QVERIFY(studio::follow().outcome.ok()); // leaves what the case before has used
+        QVERIFY(!studio::isInForce());
+        writeFile(m_work->filePath("Library/Own.tzt/Files/own.txt"), "own");
+        writeFile(shared("Templates/Film.tzt/Files/A/x.txt"), "one");
+        write({{"separatorChar", "-"}, {"autoQuit", 1LL}, {"lockedSettings", QVariantList{"separatorChar"}}});
+    }
+
+    void defaultsAndLocks()
+    {
+        QCOMPARE(settings::separatorChar.text(), "_");
+        use();
+        QVERIFY(studio::follow().hasChanged);
+        QVERIFY(!studio::follow().hasChanged); // the same once more
+        QCOMPARE(settings::separatorChar.text(), "-");
+        QVERIFY(settings::separatorChar.isLocked() && settings::autoQuit.isOn() && !settings::autoQuit.isLocked());
+        QVERIFY(settings::separatorChar.store("+").is(Cause::Declined));
+        QVERIFY(settings::separatorChar.reset().is(Cause::Declined));
+        storeSetting(settings::separatorChar, "+"); // by an earlier version, or before
+        QCOMPARE(settings::separatorChar.text(), "-");
+        QVERIFY(settings::autoQuit.turn(false).ok()); // a default only
+        QVERIFY(!settings::autoQuit.isOn());
+        storeSetting(settings::sharedSetup, "");
+        QVERIFY(studio::follow().hasChanged);
+        QCOMPARE(settings::separatorChar.text(), "+");
+        QVERIFY(!QDir(studio::copyFolder()).exists());
+    }
+
+    /// A server decides nothing about programs, passwords and places of this computer.
+    void onlyWhatMayBeShared()
+    {
+        QVariantMap setup{{"afterCreation", "/tmp/evil"},
+                          {"requireAdminPassword", 1LL},
+                          {"templateLocation", "/"},
+                          {"sharedSetup", "/elsewhere"},
+                          {"firstRun", true}};
+        setup.insert("lockedSettings", setup.keys());
+        write(setup);
+        use();
+        QVERIFY(studio::follow().outcome.ok());
+        QVERIFY(settings::afterCreation.text().isEmpty() && !settings::requireAdminPassword.isOn());
+        QVERIFY(!settings::firstRun.isOn() && !settings::afterCreation.isLocked());
+        QCOMPARE(settings::sharedSetup.text(), m_work->filePath("Server"));
+        QVERIFY(settings::standard().value("lockedSettings").toList().isEmpty());
+    }
+
+    void templatesFollow()
+    {
+        QCOMPARE(listed(), QStringList{"Own"});
+        use();
+        QVERIFY(studio::follow().outcome.ok());
+        QCOMPARE(listed(), QStringList{"Film"});
+        const QString copy = VTDataController::filesFolder("Film");
+        QCOMPARE(readFile(copy + "/A/x.txt"), "one");
+        QVERIFY(!editingIsAllowed());
+        // Changed, of the same length and, as a server's clock may go, a second later; added; gone.
+        writeFile(shared("Templates/Film.tzt/Files/A/x.txt"), "two");
+        QFile changed(shared("Templates/Film.tzt/Files/A/x.txt"));
+        QVERIFY(changed.open(QIODevice::ReadWrite));
+        QVERIFY(changed.setFileTime(QDateTime::currentDateTime().addSecs(10), QFileDevice::FileModificationTime));
+        writeFile(shared("Templates/Film.tzt/Rules.plist"), platform::writePropertyList({}));
+        writeFile(shared("Templates/New.tzt/Files/n.txt"), "n");
+        writeFile(shared("Templates/.tessaro-staged-1/x"), "being copied by somebody");
+        QVERIFY(studio::follow().hasChanged);
+        QCOMPARE(listed(), QStringList({"Film", "New"}));
+        QCOMPARE(readFile(copy + "/A/x.txt"), "two");
+        QVERIFY(platform::removeTree(shared("Templates/Film.tzt")).ok());
+        QVERIFY(studio::follow().hasChanged);
+        QCOMPARE(listed(), QStringList{"New"});
+        QVERIFY(platform::removeTree(shared("Templates")).ok()); // settings alone from now on
+        QVERIFY(studio::follow().hasChanged);
+        QCOMPARE(listed(), QStringList{"Own"});
+        QVERIFY(editingIsAllowed() && settings::separatorChar.isLocked());
+    }
+
+    void serverIsAway()
+    {
+        use();
+        QVERIFY(studio::follow().outcome.ok());
+        QVERIFY(QFile::rename(m_work->filePath("Server"), m_work->filePath("Gone")));
+        const auto followed = studio::follow();
+        QVERIFY(followed.outcome.is(Cause::Missing) && !followed.hasChanged);
+        QVERIFY(settings::separatorChar.isLocked() && studio::lastChange().isValid());
+        QCOMPARE(listed(), QStringList{"Film"}); // the last copy
+        QVERIFY(QFile::rename(m_work->filePath("Gone"), m_work->filePath("Server")));
+        writeFile(shared(studio::setupFile), "nonsense");
+        QVERIFY(studio::follow().outcome.is(Cause::Damaged));
+        QVERIFY(settings::separatorChar.isLocked());
+        QCOMPARE(readFile(shared(studio::setupFile)), "nonsense"); // nobody's to put aside
+    }
+
+    /// A template that cannot be read whole is not taken over in part.
+    void templateThatCannotBeRead()
+    {
+        if (geteuid() == 0)
+            QSKIP("to root everything can be read");
+        use();
+        QVERIFY(studio::follow().outcome.ok());
+        writeFile(shared("Templates/Film.tzt/Files/B/secret.txt"), "s");
+        QCOMPARE(chmod(shared("Templates/Film.tzt/Files/B").toUtf8(), 0), 0);
+        QVERIFY(studio::follow().outcome.needsRights());
+        QCOMPARE(chmod(shared("Templates/Film.tzt/Files/B").toUtf8(), 0755), 0);
+        QVERIFY(!QDir(VTDataController::filesFolder("Film") + "/B").exists());
+        QCOMPARE(readFile(VTDataController::filesFolder("Film") + "/A/x.txt"), "one");
+        QVERIFY(studio::follow().outcome.ok());
+        QCOMPARE(readFile(VTDataController::filesFolder("Film") + "/B/secret.txt"), "s");
+    }
+
+    /// Definitions are the studio's; values, numbers and memories each user's own.
+    void parameters()
+    {
+        storeSetting(settings::filenameTemplate,
+                     QVariantList{record({{"title", "Client"},
+                                          {"val", "Acme"},
+                                          {"saveHistory", true},
+                                          {"history", QVariantList{"Acme", "Bolt"}}}),
+                                  record({{"title", "Job"}, {"type", 2LL}, {"val", "041"}}),
+                                  record({{"title", "Kind"}, {"type", 5LL}, {"val", "Old"}, {"defaultVal", "Old,New"}}),
+                                  record({{"title", "Mine"}, {"val", "x"}})});
+        write({{"filenameTemplate",
+                QVariantList{record({{"title", "Job"}, {"type", 2LL}, {"val", "001"}}),
+                             record({{"title", "Client"}, {"saveHistory", true}, {"disallowEmpty", true}}),
+                             record({{"title", "Kind"}, {"type", 5LL}, {"val", "New"}, {"defaultVal", "New,Newer"}}),
+                             record({{"title", "House"}, {"val", "TV"}, {"locked", true}})}},
+               {"lockedSettings", QVariantList{"filenameTemplate"}}});
+        use();
+        QVERIFY(studio::follow().outcome.ok());
+        const auto values = [] {
+            QStringList all;
+            for (const FilenameParameter &parameter : storedParameters())
+                all.append(parameter.title() + '=' + parameter.value());
+            return all;
+        };
+        QCOMPARE(values(), QStringList({"Job=041", "Client=Acme", "Kind=New", "House=TV"}));
+        QCOMPARE(storedParameters()[1].history(), QStringList({"Acme", "Bolt"}));
+        QVERIFY(storedParameters()[1].isRequired());
+        QVERIFY(changeParameters([](FilenameParameters list) -> platform::Result<FilenameParameters> {
+                    list[0].setValue("042");
+                    list[1].setValue("Cell");
+                    return list;
+                }).ok());
+        QCOMPARE(values(), QStringList({"Job=042", "Client=Cell", "Kind=New", "House=TV"}));
+        // Another number of the studio's is no reason to count from there again.
+        write({{"filenameTemplate", QVariantList{record({{"title", "Job"}, {"type", 2LL}, {"val", "500"}})}},
+               {"lockedSettings", QVariantList{"filenameTemplate"}}});
+        QVERIFY(studio::follow().outcome.ok());
+        QCOMPARE(values(), QStringList{"Job=042"});
+    }
+
+    void exported()
+    {
+        const QString folder = m_work->filePath("New studio");
+        QVERIFY(QDir().mkpath(folder));
+        QVERIFY(studio::exportSetup(folder, {{"separatorChar", "+"}, {"afterCreation", "/bin/sh"}}, {"separatorChar"})
+                    .ok());
+        const QVariantMap written =
+            platform::readPropertyListFile(folder + '/' + studio::setupFile).valueOr({}).toMap();
+        QCOMPARE(written.keys(), QStringList({"lockedSettings", "separatorChar"}));
+        QCOMPARE(readFile(folder + "/Templates/Own.tzt/Files/own.txt"), "own");
+        storeSetting(settings::sharedSetup, folder);
+        QVERIFY(studio::follow().outcome.ok());
+        QCOMPARE(settings::separatorChar.text(), "+");
+        QCOMPARE(listed(), QStringList{"Own"});
+    }
+};
+
+TESSARO_TEST_MAIN(QCoreApplication, TestStudioLibrary)
+#include "test_studio_library.moc"
