@@ -59,7 +59,7 @@ build_and_check_package() { # BUILD FOLDER
 }
 
 # What every desktop has and must match its drivers, its fonts and its C library.
-of_the_system='^(ld-linux.*|linux-vdso|lib(c|m|dl|rt|pthread|resolv|stdc\+\+|gcc_s|gomp|GL|EGL|GLX|OpenGL|GLdispatch|X11|X11-xcb|xcb|Xau|Xdmcp|fontconfig|freetype|expat|z|uuid|systemd|cap|gcrypt|gpg-error|dbus-1|selinux|drm|gbm|wayland-.*))\.so'
+of_the_system='^(ld-linux.*|linux-vdso|lib(c|m|dl|rt|pthread|resolv|stdc\+\+|gcc_s|GL|EGL|GLX|OpenGL|GLdispatch|X11|X11-xcb|xcb|Xau|Xdmcp|fontconfig|freetype|expat|z|uuid|drm|gbm|wayland-.*))\.so'
 
 copy_libraries() { # FOLDER FILE...
   local folder=$1 path
@@ -75,7 +75,7 @@ make_archive() { # BUILD FOLDER
   version=$(sed -n 's/^CPACK_PACKAGE_VERSION:STATIC=//p; s/^set(CPACK_PACKAGE_VERSION "\(.*\)")/\1/p' "$1/CPackConfig.cmake" | head -n 1)
   name=tessaro-$version-linux-$(uname -m)
   stage=$1/archive/$name
-  rm -rf "$1/archive"
+  rm -rf "$1/archive" "$2"/tessaro-*-linux-*.tar.xz
   mkdir -p "$stage"
   quietly "$1/install.log" env DESTDIR="$1/archive/root" cmake --install "$1" --prefix /usr --strip
   mv "$1/archive/root/usr"/* "$stage/"
