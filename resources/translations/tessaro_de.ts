@@ -658,6 +658,10 @@ Mit --overwrite kommt es in den Papierkorb und wird neu angelegt.</translation>
         <source>The program that runs after each creation has failed</source>
         <translation>Das Programm, dem neue Projekte gemeldet werden, ist fehlgeschlagen</translation>
     </message>
+    <message>
+        <source>--ask asks for one project; a table with --from has its values in its cells.</source>
+        <translation>--ask fragt für ein Projekt; eine Tabelle mit --from hat ihre Werte in den Zellen.</translation>
+    </message>
 </context>
 <context>
     <name>EditingGuard</name>
@@ -3743,6 +3747,10 @@ Passen Sie die mitgelieferten Vorlagen an Ihren Bedarf an, oder bauen Sie eigene
     <message>
         <source>It is missing; please install Tessaro again.</source>
         <translation>Es fehlt; bitte installieren Sie Tessaro neu.</translation>
+    </message>
+    <message>
+        <source>Tessaro is at work; please ask again when it has finished.</source>
+        <translation>Tessaro arbeitet gerade; bitte versuchen Sie es noch einmal, wenn es fertig ist.</translation>
     </message>
 </context>
 <context>

@@ -658,6 +658,10 @@ Use --overwrite para moverlo a la papelera y crearlo de nuevo.</translation>
         <source>The program that runs after each creation has failed</source>
         <translation>Falló el programa al que se avisa de los proyectos nuevos</translation>
     </message>
+    <message>
+        <source>--ask asks for one project; a table with --from has its values in its cells.</source>
+        <translation>--ask pregunta por un solo proyecto; una tabla con --from tiene sus valores en las celdas.</translation>
+    </message>
 </context>
 <context>
     <name>EditingGuard</name>
@@ -3744,6 +3748,10 @@ Adapte las plantillas incluidas a sus necesidades o cree las suyas desde cero.</
         <source>It is missing; please install Tessaro again.</source>
         <translation>No se encuentra; vuelva a instalar Tessaro.</translation>
     </message>
+    <message>
+        <source>Tessaro is at work; please ask again when it has finished.</source>
+        <translation>Tessaro está trabajando; vuelva a pedirlo cuando termine.</translation>
+    </message>
 </context>
 <context>
     <name>Text</name>
@@ -3860,7 +3868,7 @@ Adapte las plantillas incluidas a sus necesidades o cree las suyas desde cero.</
     <name>VTKeys</name>
     <message>
         <source>New project</source>
-        <translation>Proyecto nuevo</translation>
+        <translation>Nuevo proyecto</translation>
     </message>
     <message>
         <source>Create the project</source>
@@ -3876,7 +3884,7 @@ Adapte las plantillas incluidas a sus necesidades o cree las suyas desde cero.</
     </message>
     <message>
         <source>New template</source>
-        <translation>Plantilla nueva</translation>
+        <translation>Nueva plantilla</translation>
     </message>
     <message>
         <source>Import a template</source>

@@ -658,6 +658,10 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
         <source>The program that runs after each creation has failed</source>
         <translation>Le programme informé des nouveaux projets a échoué</translation>
     </message>
+    <message>
+        <source>--ask asks for one project; a table with --from has its values in its cells.</source>
+        <translation>--ask pose ses questions pour un seul projet ; un tableau avec --from a ses valeurs dans ses cellules.</translation>
+    </message>
 </context>
 <context>
     <name>EditingGuard</name>
@@ -3743,6 +3747,10 @@ Adaptez les modèles fournis à vos besoins ou créez les vôtres de A à Z.</tr
     <message>
         <source>It is missing; please install Tessaro again.</source>
         <translation>Il est introuvable&#xa0;; réinstallez Tessaro.</translation>
+    </message>
+    <message>
+        <source>Tessaro is at work; please ask again when it has finished.</source>
+        <translation>Tessaro travaille ; réessayez quand il aura terminé.</translation>
     </message>
 </context>
 <context>

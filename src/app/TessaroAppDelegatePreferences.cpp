@@ -76,9 +76,9 @@ const QHash<QString, void (TessaroAppDelegate::*)()> &TessaroAppDelegate::comman
 /// What the file browsers' menus offer.
 void TessaroAppDelegate::performWithFolder(const QString &identifier, const QString &folder)
 {
-    if (m_creating)
-        return;
     bringToFront();
+    if (m_creating)
+        return m_window->showMessage(tr("Tessaro is at work; please ask again when it has finished."));
     if (identifier == u"check-project")
         return checkProjectAt(folder);
     if (identifier != u"new-project-here")

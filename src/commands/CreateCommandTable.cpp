@@ -47,6 +47,9 @@ QString shown(const ProjectBatch &batch, qsizetype row, const CellProblem &probl
 int CreateCommand::runTable()
 {
     ProjectBatch batch;
+    if (m_invocation.has("--ask"))
+        return complain(ExitStatus::wrongUsage,
+                        Text::tr("--ask asks for one project; a table with --from has its values in its cells."));
     if (!readValues() || !findTemplate() || !findDestination() || !readBatch(batch))
         return m_status;
     complainAbout(batch);
