@@ -110,6 +110,7 @@ ManualWindow::ManualWindow(const QString &manual, const QString &folder)
     , m_page(new ManualPage)
 {
     setAttribute(Qt::WA_DeleteOnClose);
+    setAttribute(Qt::WA_QuitOnClose, false); // the program ends with its main window
     setWindowTitle(tr("Tessaro User Manual"));
     m_search->setPlaceholderText(tr("Search"));
     m_search->setAccessibleName(tr("Search the manual"));

@@ -12,6 +12,7 @@
 #include "support/VTAlert.h"
 #include "support/VTLocalPaths.h"
 #include "support/VTLog.h"
+#include "templates/EditingGuard.h"
 #include "templates/TemplateLibrary.h"
 #include "templates/TemplateMigration.h"
 #include "templates/VTDataController.h"
@@ -23,6 +24,8 @@
 
 void TessaroAppDelegate::importTemplate()
 {
+    if (!studioAllowsEditing())
+        return;
     auto *panel = new ImportPanel(m_window.get(), ImportPanel::Takes::Bundles, QStringLiteral("tzt"));
     panel->setWindowTitle(tr("Import Template"));
     whenLeft<ImportPanel>(*panel, *this, [this](ImportPanel &left, bool) { openFiles(left.chosen()); });
@@ -75,6 +78,8 @@ bool TessaroAppDelegate::openFile(const QString &path)
     VTLog::appendLog("User opened file %@", path);
     if (!library::isTemplateFile(path))
         return false;
+    if (!studioAllowsEditing())
+        return true; // it was said
     bringToFront();
     if (m_window->shownPane() != MainWindow::Pane::Templates) // where a name may be being typed
         toolbarTemplateAction();
@@ -148,6 +153,8 @@ void TessaroAppDelegate::restoreShippedTemplates()
 
 void TessaroAppDelegate::restoreDefaultTemplates()
 {
+    if (!studioAllowsEditing())
+        return;
     const int answer = VTAlert::show({tr("Are you sure you wish to restore the default Tessaro templates?"),
                                       tr("This will restore the templates Tessaro ships with by default and will "
                                          "overwrite any modifications you have "

@@ -132,6 +132,8 @@ int commands::duplicateTemplate(const Invocation &invocation)
 
 int commands::renameTemplate(const Invocation &invocation)
 {
+    if (!studioAllowsEditing())
+        return ExitStatus::notOverwritten;
     const Outcome isKnown = known(invocation.argument(0));
     return isKnown.ok() ? finish(library::renameTemplate(invocation.argument(0), invocation.argument(1)))
                         : complain(isKnown);
@@ -194,6 +196,8 @@ int commands::showTemplate(const Invocation &invocation)
 
 int commands::importTemplates(const Invocation &invocation)
 {
+    if (!studioAllowsEditing())
+        return ExitStatus::notOverwritten;
     int status = ExitStatus::done;
     for (const QString &path : invocation.arguments) {
         const QString bundle = platform::absolutePath(path);
@@ -252,6 +256,8 @@ int commands::importStructure(const Invocation &invocation)
 
 int commands::restoreTemplates(const Invocation &invocation)
 {
+    if (!studioAllowsEditing())
+        return ExitStatus::notOverwritten;
     if (!invocation.has("--yes"))
         return complain(ExitStatus::notOverwritten,
                         Text::tr("Nothing was restored. Say --yes to put back the templates that ship with Tessaro; "

@@ -112,18 +112,38 @@ QVariantList variantFromParameters(const FilenameParameters &parameters)
     return list;
 }
 
+namespace {
+
+/// The one of the same title and kind, of several the one at the same place among them; null without one.
+const FilenameParameter *ownOf(const FilenameParameters &definitions, qsizetype row, const FilenameParameters &own)
+{
+    const auto isSame = [&definition = definitions[row]](const FilenameParameter &other) {
+        return other.title() == definition.title() && other.kind() == definition.kind();
+    };
+    auto before = std::count_if(definitions.begin(), definitions.begin() + row, isSame);
+    for (const FilenameParameter &other : own) {
+        if (isSame(other) && before-- == 0)
+            return &other;
+    }
+    return nullptr;
+}
+
+} // namespace
+
 FilenameParameters withOwnValues(FilenameParameters definitions, const FilenameParameters &own)
 {
-    for (FilenameParameter &definition : definitions) {
-        const auto mine = std::find_if(own.begin(), own.end(), [&](const FilenameParameter &other) {
-            return other.title() == definition.title() && other.kind() == definition.kind();
-        });
-        if (mine == own.end() || definition.isLocked())
+    using Kind = FilenameParameter::Kind;
+    const FilenameParameters given = definitions;
+    for (qsizetype row = 0; row < definitions.size(); ++row) {
+        FilenameParameter &definition = definitions[row];
+        const FilenameParameter *mine = ownOf(given, row, own);
+        if (!mine || (definition.isLocked() && definition.kind() != Kind::Counter)) // which counts by itself
             continue;
-        const bool isOffered = definition.kind() != FilenameParameter::Kind::Choice || definition.takesSeveral() ||
+        const bool isOffered = definition.kind() != Kind::Choice || definition.takesSeveral() ||
                                definition.choices().contains(mine->value());
-        if (isOffered && mine->entry(QLatin1String(recordkey::value)).isValid())
-            definition.setEntry(QLatin1String(recordkey::value), mine->entry(QLatin1String(recordkey::value)));
+        const QVariant value = mine->entry(QLatin1String(recordkey::value));
+        if (isOffered && value.isValid())
+            definition.setEntry(QLatin1String(recordkey::value), value);
         if (definition.savesHistory() && !mine->history().isEmpty())
             definition.setHistory(mine->history());
     }
@@ -134,6 +154,8 @@ FilenameParameters withoutOwnValues(FilenameParameters parameters)
 {
     for (FilenameParameter &parameter : parameters) {
         parameter.removeHistory();
+        if (parameter.isLocked() && parameter.kind() != FilenameParameter::Kind::Counter)
+            continue; // its value is part of the definition
         const QStringList choices = parameter.choices();
         parameter.setValue(parameter.kind() == FilenameParameter::Kind::Choice ? choices.value(0)
                                                                                : parameter.defaultValue());

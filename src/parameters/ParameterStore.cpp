@@ -14,8 +14,16 @@ FilenameParameters listFrom(const QVariant &stored)
 {
     if (!settings::filenameTemplate.isLocked())
         return parametersFromVariant(stored);
-    return withOwnValues(parametersFromVariant(settings::filenameTemplate.value()),
-                         parametersFromVariant(settings::standard().usersValue(settings::filenameTemplate)));
+    const QVariant kept = settings::standard().usersValue(settings::studioParameterValues);
+    return withOwnValues(
+        parametersFromVariant(settings::filenameTemplate.value()),
+        parametersFromVariant(kept.isValid() ? kept : settings::standard().usersValue(settings::filenameTemplate)));
+}
+
+/// Where the list is kept: beside the studio's definitions the user's own list stays as it was.
+const settings::Setting &placeOfList()
+{
+    return settings::filenameTemplate.isLocked() ? settings::studioParameterValues : settings::filenameTemplate;
 }
 
 } // namespace
@@ -56,7 +64,7 @@ FilenameParameters withDynamicValues(FilenameParameters parameters)
 
 Outcome changeParameters(const ListChange &change)
 {
-    return settings::filenameTemplate.change([&](const QVariant &stored) -> platform::Result<QVariant> {
+    return placeOfList().change([&](const QVariant &stored) -> platform::Result<QVariant> {
         const auto list = change(listFrom(stored));
         if (!list)
             return list.outcome();
@@ -69,7 +77,7 @@ Outcome changeParameters(const ParameterScope &scope, const ListChange &change)
     if (scope.isEmpty())
         return changeParameters(change);
     return settings::standard().changeValues(
-        {settings::filenameTemplate, settings::ownParameterValues},
+        {placeOfList(), settings::ownParameterValues},
         [&](const QVariantList &stored) -> platform::Result<QVariantList> {
             const FilenameParameters common = listFrom(stored[0]);
             QVariantMap all = stored[1].toMap();

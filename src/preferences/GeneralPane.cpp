@@ -91,11 +91,13 @@ void GeneralPane::useSharedSetup(const QString &typed)
     if (!folder || folder->toString() == before)
         return m_shared->refresh();
     VTLog::appendLog("User changed the shared set-up from %@ to %@", before, folder->toString());
-    const platform::Outcome stored = settings::sharedSetup.store(*folder);
+    const platform::Outcome stored =
+        folder->toString().isEmpty() ? settings::sharedSetup.reset() : settings::sharedSetup.store(*folder);
     const platform::Outcome followed =
         stored.ok() ? platform::resultInBackground([] { return studio::follow().outcome; }) : stored;
     if (!followed.ok()) {
-        static_cast<void>(settings::sharedSetup.store(before)); // it stood there a moment ago
+        // It stood there a moment ago; where nothing did, nothing is to stand before the machine's.
+        static_cast<void>(before.isEmpty() ? settings::sharedSetup.reset() : settings::sharedSetup.store(before));
         VTAlert::show(
             {tr("This set-up cannot be used"),
              withCause(tr("The folder needs a file “%1”, which “Tessaro setup export” writes.").arg(studio::setupFile),

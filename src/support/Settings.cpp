@@ -201,6 +201,7 @@ const SwitchSetting requireAdminPasswordForPrefs{{"requireAdminPasswordForPrefs"
 const Setting filenameTemplate{"filenameTemplate", Type::Value, nullptr, shippedParameters};
 const TextSetting selectedProjectTemplate{{"selectedProjectTemplate", Type::Text, nullptr, editingTemplate}};
 const SwitchSetting firstRun{{"firstRun", Type::Boolean, nullptr, yes}};
+const Setting studioParameterValues{"studioParameterValues", Type::Value};
 const Setting ownParameterValues{"ownParameterValues", Type::Value};
 const Setting recentLocations{"recentLocations", Type::Value};
 const Setting pinnedLocations{"pinnedLocations", Type::Value};
@@ -232,6 +233,7 @@ const QList<const Setting *> &all()
                                              &requireAdminPasswordForEditing,
                                              &requireAdminPasswordForPrefs,
                                              &filenameTemplate,
+                                             &studioParameterValues,
                                              &selectedProjectTemplate,
                                              &firstRun,
                                              &recentLocations,
@@ -365,6 +367,7 @@ platform::UserDefaults &standard()
             if (setting->scope == Scope::Machine)
                 protections.append(*setting);
         }
+        protections.append(sharedSetup);
         made->letMachineDecide(protections);
         made->setShared(studio::copiedFile());
         return made;

@@ -72,7 +72,8 @@ struct NumberSetting : Setting
 };
 
 // Their rows are in Settings.cpp.
-extern const Setting filenameTemplate;   ///< the parameters: a list of records
+extern const Setting filenameTemplate;      ///< the parameters: a list of records
+extern const Setting studioParameterValues; ///< the list as the studio has it, for this user's values in it
 extern const Setting ownParameterValues; ///< dictionary: of a template's own parameters, by its name and their titles
 extern const TextSetting separatorChar;
 extern const TextSetting dateFormat;

@@ -16,7 +16,7 @@ struct Text
 
 } // namespace
 
-bool editingIsAllowed()
+bool studioAllowsEditing()
 {
     if (studio::decidesTemplates()) {
         VTAlert::show(
@@ -25,5 +25,12 @@ bool editingIsAllowed()
                  .arg(settings::sharedSetup.text())});
         return false;
     }
+    return true;
+}
+
+bool editingIsAllowed()
+{
+    if (!studioAllowsEditing())
+        return false;
     return !settings::requireAdminPasswordForEditing.isOn() || administratorAgrees();
 }

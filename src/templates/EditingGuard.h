@@ -3,3 +3,5 @@
 /** Where the settings protect the templates, asks for an administrator's password, afresh each time. The studio's
    cannot be changed at all, which is said. False: do nothing. */
 [[nodiscard]] bool editingIsAllowed();
+/** The same without a password, for what the settings do not protect. */
+[[nodiscard]] bool studioAllowsEditing();

@@ -81,16 +81,12 @@ QStringList bundlesIn(const QList<platform::FolderEntry> &entries)
 {
     QStringList names;
     for (const platform::FolderEntry &entry : entries) {
-        if (platform::extensionOf(entry.name).toLower() == u"tzt")
+        // Other systems leave files of that name beside them, with a dot before it.
+        if (platform::extensionOf(entry.name).toLower() == u"tzt" && !entry.name.startsWith(u'.') &&
+            entry.kind == platform::FileKind::Folder)
             names.append(entry.name);
     }
     return names;
-}
-
-/// What the user's program made is no loss: the original is on the server.
-Outcome removeCopy(const QString &path, const QString &)
-{
-    return platform::removeTree(path);
 }
 
 Outcome copyBundle(const QString &from, const QString &to, const fileoperations::PutAway &putAway)
@@ -127,19 +123,21 @@ Outcome followTemplates(const QString &shared, bool &hasChanged)
         if (!platform::leadsToFolder(copiedTemplates()))
             return {};
         hasChanged = true;
-        return platform::removeTree(copiedTemplates());
+        return fileoperations::putInTrash(copiedTemplates(), copiedTemplates());
     }
     if (!entries)
         return entries.outcome();
     const QStringList bundles = bundlesIn(*entries);
-    const Outcome copied = copyBundles(shared, copiedTemplates(), bundles, removeCopy, hasChanged);
+    const Outcome copied = copyBundles(shared, copiedTemplates(), bundles, fileoperations::putInTrash, hasChanged);
     if (!copied.ok())
         return copied;
     for (const QString &bundle : bundlesIn(platform::listFolder(copiedTemplates()).valueOr({}))) {
         if (bundles.contains(bundle))
             continue;
         hasChanged = true;
-        if (const Outcome gone = platform::removeTree(joined(copiedTemplates(), bundle)); !gone.ok())
+        // Somebody may have worked in the copy all the same.
+        const QString copy = joined(copiedTemplates(), bundle);
+        if (const Outcome gone = fileoperations::putInTrash(copy, copy); !gone.ok())
             return gone;
     }
     return {};
@@ -168,7 +166,7 @@ Outcome leave(bool &hasChanged)
     hasChanged = true;
     // The file first: without it the rest does not count.
     const Outcome gone = platform::removeTree(copiedFile());
-    return gone.ok() ? platform::removeTree(copyFolder()) : gone;
+    return gone.ok() ? fileoperations::putInTrash(copyFolder(), copyFolder()) : gone;
 }
 
 Outcome followFolder(const QString &folder, bool &hasChanged)

@@ -3,6 +3,7 @@
 #include "platform/base/NativePath.h"
 #include "platform/files/FileSystem.h"
 #include "support/FileOperations.h"
+#include "support/StudioCopy.h"
 #include "support/VTLocalPaths.h"
 #include "support/VTLog.h"
 #include "templates/VTDataController.h"
@@ -11,6 +12,8 @@ using platform::joined;
 
 void migration::importFirstVersionTemplate()
 {
+    if (studio::decidesTemplates()) // it waits for a library of the user's own
+        return;
     const QString old =
         joined(VTLocalPaths::appSupportDirectory(VTLocalPaths::Domain::User), QStringLiteral("Tessaro/Template"));
     const QString bundle = VTDataController::bundlePath(QStringLiteral("Tessaro 1.0 Template"));

@@ -240,6 +240,8 @@ void VTTemplateTableController::removeTemplate()
 
 void VTTemplateTableController::rename(const QString &name, const QString &typed)
 {
+    if (!studioAllowsEditing())
+        return;
     const library::Change result = library::renameTemplate(name, typed);
     if (!result.isChanged)
         return;
