@@ -660,7 +660,7 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     </message>
     <message>
         <source>--ask asks for one project; a table with --from has its values in its cells.</source>
-        <translation>--ask pose ses questions pour un seul projet ; un tableau avec --from a ses valeurs dans ses cellules.</translation>
+        <translation>--ask pose ses questions pour un seul projet&#xa0;; un tableau avec --from a ses valeurs dans ses cellules.</translation>
     </message>
 </context>
 <context>
@@ -3750,7 +3750,7 @@ Adaptez les modèles fournis à vos besoins ou créez les vôtres de A à Z.</tr
     </message>
     <message>
         <source>Tessaro is at work; please ask again when it has finished.</source>
-        <translation>Tessaro travaille ; réessayez quand il aura terminé.</translation>
+        <translation>Tessaro travaille&#xa0;; réessayez quand il aura terminé.</translation>
     </message>
 </context>
 <context>

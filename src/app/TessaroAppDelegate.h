@@ -121,7 +121,6 @@ public Q_SLOTS:
     void quit();
 
 private:
-    // CreationHost
     void startProcessing() override;
     void finishProcessing() override;
     void incrementDynamicValues() override;
@@ -156,6 +155,8 @@ private:
     [[nodiscard]] bool mayOverwriteAtFixedLocation(const ProjectRequest &request);
     void askForDestination();
     [[nodiscard]] VTSavePanel *placePanel();
+    using FolderUse = void (TessaroAppDelegate::*)(const QString &folder);
+    void chooseFolder(const QString &title, const QString &button, FolderUse use);
 
     int m_awakeCount = 0;
     bool m_creating = false;

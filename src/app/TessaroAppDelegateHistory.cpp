@@ -11,8 +11,6 @@
 #include "support/VTAlert.h"
 #include "templates/VTDataController.h"
 #include "templates/editor/TemplatePane.h"
-#include "ui/FilePanels.h"
-#include "ui/VTSavePanel.h"
 
 #include <QMenu>
 
@@ -147,21 +145,6 @@ void TessaroAppDelegate::fillRecentProjects(QMenu *menu)
             ->setEnabled(!m_creating);
         project->addAction(tr("&Undo"), this, [this, manifest] { undoProject(manifest); })->setEnabled(!m_creating);
     }
-}
-
-void TessaroAppDelegate::chooseProjectToCheck()
-{
-    if (m_savePanel)
-        return;
-    m_savePanel = placePanel();
-    m_savePanel->setWindowTitle(tr("Choose the project to check"));
-    m_savePanel->setLabelText(QFileDialog::Accept, tr("Check"));
-    whenLeft<VTSavePanel>(*m_savePanel, *this, [this](VTSavePanel &panel, bool accepted) {
-        m_savePanel = nullptr;
-        if (accepted)
-            checkProjectAt(panel.chosenFolder());
-    });
-    m_savePanel->open();
 }
 
 /// What is said of a project that was looked at.

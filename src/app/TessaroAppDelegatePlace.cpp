@@ -52,19 +52,30 @@ void TessaroAppDelegate::destinationBrowseDidEnd(int returnCode)
     createTemplate(m_request);
 }
 
-void TessaroAppDelegate::choosePlace()
+/// One panel at a time; the function gets the folder that was chosen.
+void TessaroAppDelegate::chooseFolder(const QString &title, const QString &button, FolderUse use)
 {
     if (m_savePanel)
         return;
     m_savePanel = placePanel();
-    m_savePanel->setWindowTitle(tr("Choose where projects go"));
-    m_savePanel->setLabelText(QFileDialog::Accept, tr("Choose"));
-    whenLeft<VTSavePanel>(*m_savePanel, *this, [this](VTSavePanel &panel, bool accepted) {
+    m_savePanel->setWindowTitle(title);
+    m_savePanel->setLabelText(QFileDialog::Accept, button);
+    whenLeft<VTSavePanel>(*m_savePanel, *this, [this, use](VTSavePanel &panel, bool accepted) {
         m_savePanel = nullptr;
         if (accepted)
-            takePlace(panel.chosenFolder());
+            (this->*use)(panel.chosenFolder());
     });
     m_savePanel->open();
+}
+
+void TessaroAppDelegate::choosePlace()
+{
+    chooseFolder(tr("Choose where projects go"), tr("Choose"), &TessaroAppDelegate::takePlace);
+}
+
+void TessaroAppDelegate::chooseProjectToCheck()
+{
+    chooseFolder(tr("Choose the project to check"), tr("Check"), &TessaroAppDelegate::checkProjectAt);
 }
 
 void TessaroAppDelegate::takePlace(const QString &folder)
