@@ -6,7 +6,6 @@
 #include "templates/StudioLibrary.h"
 
 #include <QGuiApplication>
-#include <QLocale>
 #include <QPointer>
 
 namespace {
@@ -19,7 +18,7 @@ StudioFollower::StudioFollower(QObject *parent)
     : QObject(parent)
 {
     connect(qApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
-        if (state == Qt::ApplicationActive && m_sinceAsked.hasExpired(betweenQuestions))
+        if (state == Qt::ApplicationActive && (!m_sinceAsked.isValid() || m_sinceAsked.hasExpired(betweenQuestions)))
             follow();
     });
 }
@@ -34,19 +33,19 @@ void StudioFollower::follow()
     platform::performBeside([followed] { *followed = studio::follow(); },
                             [followed, self = QPointer(this)] {
                                 if (self)
-                                    self->take(followed->outcome, followed->hasChanged);
+                                    self->take(*followed);
                             });
 }
 
-void StudioFollower::take(const platform::Outcome &outcome, bool hasChanged)
+void StudioFollower::take(const studio::Followed &followed)
 {
+    const platform::Outcome &outcome = followed.outcome;
     m_isAsking = false;
+    if (outcome.is(platform::Cause::Busy)) // what was in the way is soon over
+        m_sinceAsked.invalidate();
     const bool wasAway = std::exchange(m_isAway, !outcome.ok() && !outcome.is(platform::Cause::Busy));
     if (m_isAway && !wasAway)
-        Q_EMIT unreachable(studio::isInForce()
-                               ? tr("The studio’s set-up cannot be reached. The copy of %1 is used.")
-                                     .arg(QLocale().toString(studio::lastChange(), QLocale::ShortFormat))
-                               : tr("The studio’s set-up cannot be reached. Your own is used."));
-    if (hasChanged)
+        Q_EMIT unreachable(studio::sentenceOf(followed));
+    if (followed.hasChanged)
         Q_EMIT changed();
 }

@@ -1,9 +1,11 @@
 #pragma once
 
-#include "platform/base/Outcome.h"
-
 #include <QElapsedTimer>
 #include <QObject>
+
+namespace studio {
+struct Followed;
+}
 
 /**
  * Keeps the copy of the studio's set-up up to date while the window is open: at its start, and when the user comes back
@@ -26,7 +28,7 @@ Q_SIGNALS:
     void unreachable(const QString &message);
 
 private:
-    void take(const platform::Outcome &outcome, bool hasChanged);
+    void take(const studio::Followed &followed);
 
     bool m_isAsking = false;
     bool m_isAway = false;

@@ -106,9 +106,18 @@ void TessaroAppDelegate::watchSettings()
     });
 }
 
+/// Of a creation, an undoing or a look at a project, each from its begin to its end.
+void TessaroAppDelegate::setCreating(bool isCreating)
+{
+    m_creating = isCreating;
+    if (!isCreating && m_hasMissedStudio)
+        QMetaObject::invokeMethod(this, &TessaroAppDelegate::followStudio, Qt::QueuedConnection);
+}
+
 /// What is typed stays; everything else may come from the studio.
 void TessaroAppDelegate::followStudio()
 {
+    m_hasMissedStudio = m_creating;
     if (m_creating)
         return;
     populateTemplatePopUp();

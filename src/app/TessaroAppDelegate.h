@@ -144,6 +144,7 @@ private:
     void welcome();
     void followSettings();
     void followStudio();
+    void setCreating(bool isCreating);
     void followTemplate(const QString &name, QString &seen);
     void createBatch(const ProjectBatch &batch, BatchManner manner, const QString &location);
     void undoProject(const Manifest &manifest);
@@ -160,6 +161,7 @@ private:
 
     int m_awakeCount = 0;
     bool m_creating = false;
+    bool m_hasMissedStudio = false;     ///< it came during a creation
     QElapsedTimer m_sinceCreation;      ///< not valid before the first
     FilenameParameters m_afterCreation; ///< what the table showed when it had ended
     bool m_templatesShown = false;      ///< the pane is filled when it is first shown: that would only slow the start

@@ -83,7 +83,7 @@ void TessaroAppDelegate::showUndo()
 void TessaroAppDelegate::undoProject(const Manifest &given)
 {
     const Manifest manifest = given; // it may be the one that is forgotten below
-    m_creating = true;
+    setCreating(true);
     startProcessing();
     platform::CopyMonitor monitor;
     UndoResult result;
@@ -92,7 +92,7 @@ void TessaroAppDelegate::undoProject(const Manifest &given)
         result = platform::resultInBackground([&] { return ::undoCreation(manifest, monitor); });
     }
     finishProcessing();
-    m_creating = false;
+    setCreating(false);
     m_tableController->follow();
     const bool isOver = result.outcome.ok() || result.outcome.is(platform::Cause::Missing);
     if (isOver) {
@@ -175,7 +175,7 @@ void TessaroAppDelegate::checkProjectAt(const QString &folder)
 {
     const QString name = m_window->selectedTemplate();
     const QString files = name.isEmpty() ? QString() : VTDataController::filesFolder(name);
-    m_creating = true;
+    setCreating(true);
     startProcessing();
     platform::CopyMonitor monitor;
     ProjectCheck check;
@@ -184,7 +184,7 @@ void TessaroAppDelegate::checkProjectAt(const QString &folder)
         check = platform::resultInBackground([&] { return ::checkProject(folder, name, files, monitor); });
     }
     finishProcessing();
-    m_creating = false;
+    setCreating(false);
     if (!check.outcome.is(platform::Cause::Cancelled))
         VTAlert::show(textsOf(check));
 }

@@ -7,6 +7,7 @@
 #include "support/AdministratorQuestion.h"
 #include "support/RecentPlaces.h"
 #include "support/Settings.h"
+#include "support/VTAlert.h"
 #include "support/VTFileManager.h"
 #include "support/VTLocalPaths.h"
 #include "support/VTLog.h"
@@ -43,13 +44,14 @@ void TessaroAppDelegate::destinationBrowseDidEnd(int returnCode)
 {
     VTSavePanel *panel = m_savePanel;
     m_savePanel = nullptr;
+    ProjectRequest request = std::exchange(m_request, {});
     if (returnCode != QDialog::Accepted)
         return;
-    m_request.location = panel->chosenFolder();
+    request.location = panel->chosenFolder();
     if (settings::useFixedProjectLocation.isOn())
-        static_cast<void>(settings::fixedProjectLocationPath.store(
-            m_request.location)); // logged; this project goes there all the same
-    createTemplate(m_request);
+        static_cast<void>(
+            settings::fixedProjectLocationPath.store(request.location)); // logged; this project goes there all the same
+    createTemplate(request);
 }
 
 /// One panel at a time; the function gets the folder that was chosen.
@@ -83,6 +85,10 @@ void TessaroAppDelegate::takePlace(const QString &folder)
     const bool isSetting = settings::useFixedProjectLocation.isOn() && settings::requireAdminPasswordForPrefs.isOn();
     if (isSetting && !administratorAgrees()) // the preferences would have asked
         return;
+    if (settings::useFixedProjectLocation.isOn() && settings::fixedProjectLocationPath.isLocked()) {
+        VTAlert::show({tr("Where projects go is set by your studio"), settings::fixedProjectLocationPath.text()});
+        return;
+    }
     VTLog::appendLog("The next project goes to %@", folder);
     setNextPlace(folder);
     m_tableController->updateFilenamePreview();

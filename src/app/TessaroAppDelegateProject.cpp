@@ -103,10 +103,10 @@ bool TessaroAppDelegate::mayOverwriteAtFixedLocation(const ProjectRequest &reque
 
 void TessaroAppDelegate::createTemplate(const ProjectRequest &request)
 {
-    m_creating = true;
+    setCreating(true);
     m_window->showCreated({});
     const CreationResult result = ProjectCreation(*this).createProject(request);
-    m_creating = false;
+    setCreating(false);
     m_tableController->follow(); // what came during the creation
     if (result.ok()) {
         m_sinceCreation.start();

@@ -34,6 +34,14 @@ void TessaroAppDelegate::followRules()
 /// seen are not made a project of.
 bool TessaroAppDelegate::takeRules(ProjectRequest &request)
 {
+    using Begun = platform::Result<studio::Use>;
+    const auto use = platform::resultInBackground([] { return std::optional<Begun>(studio::useCopy()); });
+    if (!*use) {
+        VTAlert::show({tr("The studio’s templates are just being brought up to date"),
+                       tr("Nothing was created. Please try again in a moment.")});
+        return false;
+    }
+    request.use = **use;
     const ReadRules rules = platform::resultInBackground(
         [&] { return ReadRules(readRules(VTDataController::bundlePath(request.templateName))); });
     if (!*rules) {

@@ -64,7 +64,7 @@ void TessaroAppDelegate::createFromTable()
 
 void TessaroAppDelegate::createBatch(const ProjectBatch &batch, BatchManner manner, const QString &location)
 {
-    m_creating = true;
+    setCreating(true);
     m_window->showCreated({});
     QStringList problems;
     const BatchResult result = BatchCreation(*this, manner).run(batch, [&](qsizetype, const CreationResult &made) {
@@ -72,7 +72,7 @@ void TessaroAppDelegate::createBatch(const ProjectBatch &batch, BatchManner mann
             problems.append(platform::forOneLine(made.request.name()) + QStringLiteral(": ") + error);
         problems += made.notes;
     });
-    m_creating = false;
+    setCreating(false);
     for (const KeptItem &kept : result.kept)
         problems.append(sentenceOf(kept));
     if (!result.made.isEmpty()) {
@@ -100,7 +100,7 @@ void TessaroAppDelegate::createBatch(const ProjectBatch &batch, BatchManner mann
 void TessaroAppDelegate::undoProjects(const QList<Manifest> &given)
 {
     const QList<Manifest> projects = given; // they may be the ones that are forgotten below
-    m_creating = true;
+    setCreating(true);
     startProcessing();
     platform::CopyMonitor monitor;
     QList<UndoResult> results;
@@ -109,7 +109,7 @@ void TessaroAppDelegate::undoProjects(const QList<Manifest> &given)
         results = platform::resultInBackground([&] { return undoBatch(projects, monitor); });
     }
     finishProcessing();
-    m_creating = false;
+    setCreating(false);
     m_tableController->follow();
     QStringList stays;
     qsizetype undone = 0;

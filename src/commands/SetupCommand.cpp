@@ -10,11 +10,11 @@
 #include "support/Settings.h"
 #include "support/StudioCopy.h"
 #include "templates/StudioLibrary.h"
+#include "templates/VTDataController.h"
 
 #include <QCoreApplication>
 #include <QJsonArray>
 #include <QJsonObject>
-#include <QLocale>
 
 using platform::Outcome;
 
@@ -25,13 +25,14 @@ struct Text
     Q_DECLARE_TR_FUNCTIONS(SetupCommand)
 };
 
-QString unreachable(const Outcome &why)
+constexpr std::chrono::seconds patience{2};
+/// A new server may be asleep.
+constexpr std::chrono::seconds patienceToBegin{15};
+
+QString setForAll()
 {
-    const QString copy =
-        studio::isInForce()
-            ? Text::tr("The copy of %1 is used.").arg(QLocale().toString(studio::lastChange(), QLocale::ShortFormat))
-            : Text::tr("There is no copy yet; your own set-up is used.");
-    return Text::tr("The studio’s set-up cannot be reached.") + u' ' + copy + u'\n' + why.description();
+    return Text::tr("It is set for every user of this computer; an administrator takes it away: %1")
+        .arg(settings::sharedSetup.text());
 }
 
 QStringList lockedNow()
@@ -80,14 +81,9 @@ void tellOfStudio()
 {
     if (settings::sharedSetup.text().isEmpty() && !studio::isInForce())
         return;
-    constexpr std::chrono::seconds patience{2};
-    const auto followed = std::make_shared<studio::Followed>();
-    const bool isOver = platform::performWithin(
-        patience, [followed] { *followed = studio::follow(); }, [] {});
-    const Outcome silence = Outcome::failure(platform::Cause::Unreachable, settings::sharedSetup.text());
-    if (const Outcome &outcome = isOver ? followed->outcome : silence;
-        !outcome.ok() && !outcome.is(platform::Cause::Busy))
-        complain(ExitStatus::done, unreachable(outcome));
+    const studio::Followed followed = studio::followInTime(patience);
+    if (!followed.outcome.ok() && !followed.outcome.is(platform::Cause::Busy))
+        complain(ExitStatus::done, studio::sentenceOf(followed) + u'\n' + followed.outcome.description());
 }
 
 int commands::showSetup(const Invocation &invocation)
@@ -118,20 +114,31 @@ int commands::useSetup(const Invocation &invocation)
     const auto folder = settings::checked(settings::sharedSetup, platform::absolutePath(invocation.argument(0)));
     if (!folder)
         return complain(folder.outcome());
+    auto &standard = settings::standard();
     const bool forAll = invocation.has("--all-users");
-    const QVariant before = settings::sharedSetup.value();
-    const auto put = [&](const QVariant &value) {
-        return forAll ? settings::standard().setMachineWideValue(settings::sharedSetup, value)
-                      : settings::standard().setValue(settings::sharedSetup, value);
-    };
-    if (const Outcome stored = put(*folder); !stored.ok())
+    const bool isMachines = standard.isSetForMachine(settings::sharedSetup);
+    if (isMachines && !forAll)
+        return complain(ExitStatus::failed, setForAll());
+    const QVariant machines = isMachines ? settings::sharedSetup.value() : QVariant();
+    const QVariant own = standard.usersValue(settings::sharedSetup);
+    const Outcome stored = forAll ? standard.setMachineWideValue(settings::sharedSetup, *folder)
+                                  : standard.setValue(settings::sharedSetup, *folder);
+    if (!stored.ok())
         return complain(stored, Text::tr("The setting could not be stored."));
-    const studio::Followed followed = platform::resultInBackground([] { return studio::follow(); });
+    const studio::Followed followed = studio::followInTime(patienceToBegin);
     if (followed.outcome.ok())
         return ExitStatus::done;
-    static_cast<void>(put(before)); // it stood there a moment ago
-    return complain(followed.outcome, Text::tr("This folder holds no set-up that can be used. Tessaro setup export "
-                                               "writes one."));
+    // All stood there a moment ago; of what the folder held, some may have come.
+    if (forAll)
+        static_cast<void>(standard.setMachineWideValue(settings::sharedSetup, machines));
+    static_cast<void>(own.isValid() ? standard.setValue(settings::sharedSetup, own)
+                                    : standard.removeValue(settings::sharedSetup));
+    static_cast<void>(studio::followInTime(patience));
+    const bool isAtWork = followed.outcome.is(platform::Cause::Busy);
+    return complain(followed.outcome, isAtWork ? Text::tr("Another program takes over or uses a set-up just now. "
+                                                          "Please try again in a moment.")
+                                               : Text::tr("This folder holds no set-up that can be used. Tessaro "
+                                                          "setup export writes one."));
 }
 
 int commands::leaveSetup(const Invocation &)
@@ -140,10 +147,8 @@ int commands::leaveSetup(const Invocation &)
     if (!stored.ok())
         return complain(stored, Text::tr("The setting could not be stored."));
     if (!settings::sharedSetup.text().isEmpty())
-        return complain(ExitStatus::failed, Text::tr("It is set for every user of this computer; an administrator "
-                                                     "takes it away: %1")
-                                                .arg(settings::sharedSetup.text()));
-    const studio::Followed left = studio::follow();
+        return complain(ExitStatus::failed, setForAll());
+    const studio::Followed left = platform::resultInBackground([] { return studio::follow(); });
     return left.outcome.ok() ? ExitStatus::done : complain(left.outcome);
 }
 
@@ -156,6 +161,9 @@ int commands::exportSetup(const Invocation &invocation)
     const QString folder = platform::absolutePath(invocation.argument(0));
     if (!platform::leadsToFolder(folder))
         return complain(ExitStatus::failed, Text::tr("The folder %1 does not exist.").arg(folder));
+    // Before the first start there is no library yet.
+    if (const Outcome library = VTDataController::sharedController().populateTemplates(); !library.ok())
+        return complain(library, Text::tr("The template library cannot be read."));
     const QVariantMap shared = sharedSettings();
     const Outcome written = platform::resultInBackground([&] { return studio::exportSetup(folder, shared, *locked); });
     if (!written.ok())

@@ -2,6 +2,7 @@
 
 #include "creation/CreationPlan.h"
 #include "parameters/ParameterScope.h"
+#include "support/StudioCopy.h"
 
 #include <QMap>
 #include <QString>
@@ -23,6 +24,7 @@ struct ProjectRequest
     QString dateFormat{};     ///< in which the values' dates are
     std::time_t moment = 0;   ///< when it was asked for
     bool isRemembered = true; ///< its values and numbers go into the settings
+    studio::Use use{};        ///< of a studio's templates, which stay as they are until the project stands
 
     /** The folder levels, outermost first; empty when no parameter has a value. */
     [[nodiscard]] QStringList levels() const;

@@ -91,10 +91,14 @@ platform::Result<ProjectRequest> withNamedValue(const ProjectRequest &request, c
 platform::Result<ProjectRequest> freshRequest(const QString &library, const QString &templateName)
 {
     const QString bundle = library + formatString("/%@.tzt", templateName);
+    const auto use = studio::useCopy();
+    if (!use)
+        return use.outcome();
     const auto rules = readRules(bundle);
     if (!rules)
         return rules.outcome();
     ProjectRequest request;
+    request.use = *use;
     request.templateName = templateName;
     request.templateFiles = platform::joined(bundle, QStringLiteral("Files"));
     request.rules = std::make_shared<const TemplateRules>(*rules);

@@ -27,6 +27,7 @@ constexpr std::chrono::seconds movePatience{10};
 constexpr qsizetype mostNamed = 5;
 
 constexpr std::chrono::seconds patienceForOld{2};
+constexpr std::chrono::seconds patienceForServer{15}; // it may be asleep
 
 QStringList bundlesIn(const QString &folder)
 {
@@ -83,6 +84,17 @@ GeneralPane::GeneralPane(Ui::Prefs_Dialog &ui, QWidget &window)
     bindProtection(*ui.prefsAdminPassPrefs, settings::requireAdminPasswordForPrefs);
 }
 
+void GeneralPane::tellWhyNot(const platform::Outcome &followed)
+{
+    if (followed.is(platform::Cause::Cancelled))
+        return;
+    const QString advice =
+        followed.is(platform::Cause::Busy)
+            ? tr("Another program takes over or uses a set-up just now. Please try again in a moment.")
+            : tr("The folder needs a file “%1”, which “Tessaro setup export” writes.").arg(studio::setupFile);
+    VTAlert::show({tr("This set-up cannot be used"), withCause(advice, followed)}, &m_window);
+}
+
 /// What cannot be used is not kept: without a server nobody could say what would count.
 void GeneralPane::useSharedSetup(const QString &typed)
 {
@@ -93,16 +105,16 @@ void GeneralPane::useSharedSetup(const QString &typed)
     VTLog::appendLog("User changed the shared set-up from %@ to %@", before, folder->toString());
     const platform::Outcome stored =
         folder->toString().isEmpty() ? settings::sharedSetup.reset() : settings::sharedSetup.store(*folder);
-    const platform::Outcome followed =
-        stored.ok() ? platform::resultInBackground([] { return studio::follow().outcome; }) : stored;
-    if (!followed.ok()) {
+    const platform::Outcome followed = stored.ok() ? studio::followInTime(patienceForServer).outcome : stored;
+    if (!followed.ok() && folder->toString().isEmpty()) {
+        VTAlert::show({tr("The studio’s set-up is still in use"),
+                       withCause(tr("Your own counts again as soon as what uses it has finished."), followed)},
+                      &m_window);
+    } else if (!followed.ok()) {
         // It stood there a moment ago; where nothing did, nothing is to stand before the machine's.
         static_cast<void>(before.isEmpty() ? settings::sharedSetup.reset() : settings::sharedSetup.store(before));
-        VTAlert::show(
-            {tr("This set-up cannot be used"),
-             withCause(tr("The folder needs a file “%1”, which “Tessaro setup export” writes.").arg(studio::setupFile),
-                       followed)},
-            &m_window);
+        static_cast<void>(studio::followInTime(patienceForOld)); // some of it may have come
+        tellWhyNot(followed);
     }
     m_shared->refresh();
     m_path->refresh();
@@ -111,6 +123,8 @@ void GeneralPane::useSharedSetup(const QString &typed)
 
 void GeneralPane::modifyTemplatePath(const QString &typed)
 {
+    if (studio::decidesTemplates()) // it has come since the line was drawn
+        return m_path->refresh();
     const QString old = VTDataController::templateLocation();
     const auto path = folderchoice::usablePath(m_window, settings::templateLocation, typed);
     const bool isNew = path && !VTFileManager::fileExistsAtPath(*path);

@@ -6,6 +6,10 @@ class QCheckBox;
 class PathField;
 class QWidget;
 
+namespace platform {
+class Outcome;
+}
+
 namespace Ui {
 class Prefs_Dialog;
 }
@@ -31,6 +35,7 @@ Q_SIGNALS:
     void templateLocationChanged();
 
 private:
+    void tellWhyNot(const platform::Outcome &followed);
     enum class Move { No, Yes, Cancelled };
     [[nodiscard]] Move askToMove(const QString &from, const QString &to, qsizetype count);
     void moveTemplates(const QString &from, const QString &to, const QStringList &names);

@@ -122,8 +122,14 @@ void ParametersPane::setUpTable()
         connect(action, &QAction::triggered, this, slot);
         m_window.addAction(action);
     };
-    key({QKeySequence(Qt::CTRL | Qt::Key_Z)}, [this] { m_parameters.undo(); });
-    key({QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z)}, [this] { m_parameters.redo(); });
+    key({QKeySequence(Qt::CTRL | Qt::Key_Z)}, [this, table] {
+        if (table->isEnabled())
+            m_parameters.undo();
+    });
+    key({QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z)}, [this, table] {
+        if (table->isEnabled())
+            m_parameters.redo();
+    });
     key({QKeySequence(Qt::ALT | Qt::Key_Up)}, [this] { moveSelected(-1); });
     key({QKeySequence(Qt::ALT | Qt::Key_Down)}, [this] { moveSelected(1); });
     table->setTabKeyNavigation(false); // Tab leads out of the table; the arrows lead around in it
@@ -156,7 +162,7 @@ void ParametersPane::moveSelected(int by)
 {
     auto *table = m_ui.parameterTable;
     const auto row = table->firstSelectedRow();
-    if (!row || !table->isVisible() || *row + by < 0 || *row + by >= m_parameters.rowCount())
+    if (!row || !table->isVisible() || !table->isEnabled() || *row + by < 0 || *row + by >= m_parameters.rowCount())
         return;
     const std::unique_ptr<QMimeData> dragged(m_parameters.mimeData({m_parameters.index(*row, 0)}));
     m_parameters.dropMimeData(dragged.get(), Qt::MoveAction, by < 0 ? *row - 1 : *row + 2, 0, {});
@@ -274,5 +280,5 @@ void ParametersPane::showPreview()
     const QString path = pathNameFromParameters();
     m_ui.parametersPreview->setPath(u'/' + path);
     m_ui.parametersPreview->setToolTip(path);
-    m_ui.removeParameter->setEnabled(m_parameters.rowCount() > 0);
+    m_ui.removeParameter->setEnabled(m_parameters.rowCount() > 0 && m_ui.parameterTable->isEnabled());
 }

@@ -6,6 +6,22 @@
 #include "support/VTLocalPaths.h"
 
 namespace studio {
+namespace {
+
+constexpr std::chrono::seconds patienceToUse{5};
+constexpr std::chrono::seconds patienceToChange{1};
+
+platform::Result<Use> locked(std::chrono::milliseconds patience, platform::FileLock::Access access)
+{
+    // Beside the copy: it stays when the copy goes.
+    const QString file = platform::joined(platform::parentPath(copyFolder()), QStringLiteral(".Studio.lock"));
+    auto lock = platform::FileLock::acquire(file, patience, access);
+    if (lock)
+        return Use(std::make_shared<const platform::FileLock>(*std::move(lock)));
+    return lock.outcome().is(platform::Cause::Busy) ? platform::Result<Use>(lock.outcome()) : Use();
+}
+
+} // namespace
 
 QString copyFolder()
 {
@@ -46,6 +62,16 @@ const QStringList &sharedKeys()
                                   settings::autoQuit,
                                   settings::autoExpandFolders};
     return keys;
+}
+
+platform::Result<Use> useCopy()
+{
+    return decidesTemplates() ? locked(patienceToUse, platform::FileLock::Access::Read) : platform::Result<Use>(Use());
+}
+
+platform::Result<Use> changeCopy()
+{
+    return locked(patienceToChange, platform::FileLock::Access::Change);
 }
 
 } // namespace studio

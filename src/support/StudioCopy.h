@@ -1,7 +1,10 @@
 #pragma once
 
+#include "platform/files/FileLock.h"
+
 #include <QString>
 #include <QStringList>
+#include <memory>
 
 /**
  * What a studio shares with many computers: one folder on a server with a file of settings and a folder of templates.
@@ -23,6 +26,14 @@ inline const QString templatesFolder = QStringLiteral("Templates");
 [[nodiscard]] bool isInForce();
 /** Whether the studio's templates are the library. */
 [[nodiscard]] bool decidesTemplates();
+
+/** Held while projects are made of the copy, from the first look at a template to the end: until then the copy stays as
+    it is, whoever follows. Null where there is nothing to hold. */
+using Use = std::shared_ptr<const platform::FileLock>;
+/** Cause::Busy where the copy is being exchanged, and that takes longer than it should. Blocks; any thread. */
+[[nodiscard]] platform::Result<Use> useCopy();
+/** Whoever exchanges the copy has it for itself. Waits a second for those who use it, then Cause::Busy. */
+[[nodiscard]] platform::Result<Use> changeCopy();
 
 /** What may be shared. Programs to be run, protections and places of this computer are none of a server's business. */
 [[nodiscard]] const QStringList &sharedKeys();

@@ -28,6 +28,11 @@ bool studioAllowsEditing()
     return true;
 }
 
+bool studioAllowsChanging(const QString &item)
+{
+    return !item.startsWith(studio::copiedTemplates() + u'/') || studioAllowsEditing();
+}
+
 bool editingIsAllowed()
 {
     if (!studioAllowsEditing())

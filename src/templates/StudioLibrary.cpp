@@ -1,19 +1,26 @@
 #include "templates/StudioLibrary.h"
 
+#include "platform/base/MainThread.h"
 #include "platform/base/NativePath.h"
 #include "platform/base/PropertyList.h"
 #include "platform/files/FileLock.h"
 #include "platform/files/FileSystem.h"
 #include "platform/files/FileTree.h"
+#include "platform/files/StagingFolder.h"
 #include "platform/files/Tree.h"
 #include "platform/files/TreeCopy.h"
 #include "platform/files/WholeFile.h"
+#include "platform/plain/CopyMonitor.h"
 #include "support/InPlace.h"
+#include "support/LongWork.h"
 #include "support/Settings.h"
 #include "support/StudioCopy.h"
 #include "support/VTLog.h"
 #include "templates/VTDataController.h"
 
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QLocale>
 #include <QMap>
 
 using platform::Cause;
@@ -24,7 +31,14 @@ using platform::Result;
 namespace studio {
 namespace {
 
+struct Text
+{
+    Q_DECLARE_TR_FUNCTIONS(StudioLibrary)
+};
+
 constexpr std::chrono::seconds lockPatience{1};
+constexpr std::chrono::milliseconds turn{100};
+constexpr std::chrono::milliseconds longestSilence{15'000};
 /// Drives of other systems keep dates to two seconds.
 constexpr long long coarsestDate = 2'000'000'000; // nanoseconds
 
@@ -35,11 +49,10 @@ struct Item
 };
 
 /// All below a folder by its path, but for what folders weigh; Cause of the first that could not be read.
-Result<QMap<QString, Item>> itemsBelow(const QString &folder)
+Result<QMap<QString, Item>> itemsBelow(const QString &folder, platform::CopyMonitor &monitor)
 {
-    const std::atomic<bool> never = false;
     const platform::Tree tree = platform::readTree(
-        folder, [](platform::TreeFolder &) {}, never);
+        folder, [&](platform::TreeFolder &) { ++monitor.items; }, monitor.cancelled);
     QMap<QString, Item> items;
     for (std::uint32_t number = 0; number < tree.folders.size(); ++number) {
         const platform::TreeFolder &own = tree.folders[number];
@@ -52,95 +65,157 @@ Result<QMap<QString, Item>> itemsBelow(const QString &folder)
             items.insert(below, {platform::kindOfType(item.type), platform::madeItemAt(joined(folder, below))});
         }
     }
-    return items;
+    return monitor.cancelled ? Result<QMap<QString, Item>>(Outcome::failure(Cause::Cancelled, folder)) : items;
 }
 
-/// By names, kinds, sizes and dates, as a copy keeps them.
-Result<bool> isSame(const QString &shared, const QString &copy)
+bool isSameFile(const QString &shared, const Item &wanted, const QString &copy, const Item &given)
+{
+    return wanted.made.size == given.made.size && qAbs(wanted.made.modified - given.made.modified) <= coarsestDate &&
+           platform::hasExecuteBit(shared) == platform::hasExecuteBit(copy);
+}
+
+/// By names, kinds, sizes, dates, targets of links and what may be executed, as a copy keeps them.
+Result<bool> isSame(const QString &shared, const QString &copy, platform::CopyMonitor &monitor)
 {
     if (!platform::leadsToFolder(copy))
         return false;
-    const auto wanted = itemsBelow(shared);
+    const auto wanted = itemsBelow(shared, monitor);
     if (!wanted)
         return wanted.outcome();
-    const auto given = itemsBelow(copy);
+    const auto given = itemsBelow(copy, monitor);
     if (!given || given->keys() != wanted->keys())
         return false;
     for (auto item = wanted->begin(); item != wanted->end(); ++item) {
         const Item &other = given->value(item.key());
-        const bool isFile = item->kind == platform::FileKind::File;
-        const bool isOther = isFile && (item->made.size != other.made.size ||
-                                        qAbs(item->made.modified - other.made.modified) > coarsestDate);
-        if (item->kind != other.kind || isOther)
+        const QString from = joined(shared, item.key());
+        const QString to = joined(copy, item.key());
+        if (item->kind != other.kind ||
+            (item->kind == platform::FileKind::File && !isSameFile(from, *item, to, other)) ||
+            (item->kind == platform::FileKind::Link && platform::linkTarget(from) != platform::linkTarget(to)))
             return false;
     }
     return true;
 }
 
+/// A link to a template is one: a studio may keep them elsewhere. What it leads to may be out of reach just now.
 QStringList bundlesIn(const QList<platform::FolderEntry> &entries)
 {
     QStringList names;
     for (const platform::FolderEntry &entry : entries) {
         // Other systems leave files of that name beside them, with a dot before it.
         if (platform::extensionOf(entry.name).toLower() == u"tzt" && !entry.name.startsWith(u'.') &&
-            entry.kind == platform::FileKind::Folder)
+            (entry.kind == platform::FileKind::Folder || entry.kind == platform::FileKind::Link))
             names.append(entry.name);
     }
     return names;
 }
 
-Outcome copyBundle(const QString &from, const QString &to, const fileoperations::PutAway &putAway)
+/// Where the work of copying bundles from one folder into another stands.
+struct BundleCopy
 {
-    const Outcome copied =
-        fileoperations::makeInPlace({to, {}, fileoperations::Replaces::WhatStandsThere, putAway},
-                                    [&](const QString &path) { return platform::copyItem(from, path); });
-    if (!copied.ok())
-        VTLog::appendLog("Unable to copy %@: %@", from, copied.description());
-    return copied;
-}
+    QString from;
+    QString to;
+    QString standing; ///< what differs from this is copied
+    platform::CopyMonitor &monitor;
+    QStringList copied;
+    Outcome first; ///< failure; the others are copied all the same
 
-/// The templates of one folder in the other: those that differ are copied.
-Outcome copyBundles(const QString &from, const QString &to, const QStringList &bundles,
-                    const fileoperations::PutAway &putAway, bool &hasChanged)
-{
-    Outcome first = platform::makeFolders(to);
-    for (const QString &bundle : bundles) {
-        if (!first.ok())
-            break;
-        const auto same = isSame(joined(from, bundle), joined(to, bundle));
-        if (same && *same)
-            continue;
-        first = same ? copyBundle(joined(from, bundle), joined(to, bundle), putAway) : same.outcome();
-        hasChanged = hasChanged || first.ok();
+    void copy(const QString &bundle, const fileoperations::PutAway &putAway)
+    {
+        const QString shared = platform::realPath(joined(from, bundle));
+        if (!platform::leadsToFolder(shared))
+            return fail(Outcome::failure(Cause::Missing, joined(from, bundle)));
+        const auto same = isSame(shared, joined(standing, bundle), monitor);
+        if (!same)
+            return fail(same.outcome());
+        if (*same)
+            return;
+        const auto half = standing == to ? Result<bool>(false) : isSame(shared, joined(to, bundle), monitor);
+        const Outcome done =
+            half.valueOr(false)
+                ? Outcome()
+                : fileoperations::makeInPlace(
+                      {joined(to, bundle), {}, fileoperations::Replaces::WhatStandsThere, putAway},
+                      [&](const QString &path) { return platform::copyItem(shared, path, nullptr, &monitor); });
+        if (!done.ok())
+            return fail(done);
+        copied.append(bundle);
     }
-    return first;
+    void fail(const Outcome &outcome)
+    {
+        VTLog::appendLog("Unable to copy %@", outcome.description());
+        if (first.ok())
+            first = outcome;
+    }
+};
+
+Outcome removed(const QString &path, const QString &)
+{
+    return platform::removeTree(path);
 }
 
-Outcome followTemplates(const QString &shared, bool &hasChanged)
+/// What of the templates is to become of the copy.
+struct Exchange
+{
+    bool isAll = false;    ///< the studio shares settings alone: its templates go
+    QStringList bundles{}; ///< to come from the folder for what is on its way
+    QStringList gone{};
+    Outcome first{}; ///< failure
+};
+
+QString onItsWay()
+{
+    return joined(copyFolder(), QStringLiteral(".incoming"));
+}
+
+/// Copies what differs to where it is on its way; what an ended program has left there goes on from where it was.
+Exchange prepareTemplates(const QString &shared, platform::CopyMonitor &monitor)
 {
     const auto entries = platform::listFolder(shared);
-    if (entries.outcome().is(Cause::Missing)) { // the studio shares settings alone
-        if (!platform::leadsToFolder(copiedTemplates()))
-            return {};
+    if (entries.outcome().is(Cause::Missing))
+        return {platform::leadsToFolder(copiedTemplates())};
+    if (!entries)
+        return {.first = entries.outcome()};
+    const Outcome made = platform::makeFolders(onItsWay());
+    if (!made.ok())
+        return {.first = made};
+    for (const QString &item : platform::StagingFolder::abandonedIn(onItsWay()))
+        static_cast<void>(platform::removeTree(platform::parentPath(item)));
+    BundleCopy copy{shared, onItsWay(), copiedTemplates(), monitor, {}, {}};
+    const QStringList wanted = bundlesIn(*entries);
+    for (const QString &bundle : wanted)
+        copy.copy(bundle, removed);
+    Exchange exchange{.bundles = copy.copied, .first = copy.first};
+    for (const QString &bundle : bundlesIn(platform::listFolder(copiedTemplates()).valueOr({}))) {
+        if (!wanted.contains(bundle))
+            exchange.gone.append(bundle);
+    }
+    return exchange;
+}
+
+/// Somebody may have worked in the copy all the same: nothing of it is removed.
+Outcome exchangeTemplates(const Exchange &exchange, bool &hasChanged)
+{
+    if (exchange.isAll) {
         hasChanged = true;
         return fileoperations::putInTrash(copiedTemplates(), copiedTemplates());
     }
-    if (!entries)
-        return entries.outcome();
-    const QStringList bundles = bundlesIn(*entries);
-    const Outcome copied = copyBundles(shared, copiedTemplates(), bundles, fileoperations::putInTrash, hasChanged);
-    if (!copied.ok())
-        return copied;
-    for (const QString &bundle : bundlesIn(platform::listFolder(copiedTemplates()).valueOr({}))) {
-        if (bundles.contains(bundle))
-            continue;
-        hasChanged = true;
-        // Somebody may have worked in the copy all the same.
-        const QString copy = joined(copiedTemplates(), bundle);
-        if (const Outcome gone = fileoperations::putInTrash(copy, copy); !gone.ok())
-            return gone;
+    Outcome done = platform::makeFolders(copiedTemplates());
+    for (const QString &bundle : exchange.bundles) {
+        if (!done.ok())
+            return done;
+        done = fileoperations::makeInPlace(
+            {joined(copiedTemplates(), bundle), {}, fileoperations::Replaces::WhatStandsThere},
+            [&](const QString &path) { return platform::moveItem(joined(onItsWay(), bundle), path); });
+        hasChanged = hasChanged || done.ok();
     }
-    return {};
+    for (const QString &bundle : exchange.gone) {
+        const QString copy = joined(copiedTemplates(), bundle);
+        if (done.ok())
+            done = fileoperations::putInTrash(copy, copy);
+        hasChanged = hasChanged || done.ok();
+    }
+    return done;
 }
 
 /// Only what may be shared.
@@ -159,17 +234,41 @@ QVariantMap onlyShared(const QVariantMap &given)
     return kept;
 }
 
+unsigned long long amountOf(const platform::CopyMonitor &monitor)
+{
+    return monitor.items + monitor.bytes;
+}
+
+/// A server that has answered may take its time, as long as something comes. Main thread, as what says that it is over.
+void waitWhileItComes(const platform::CopyMonitor &monitor, const bool &isOver)
+{
+    const platform::InputClosed closed;
+    QElapsedTimer silence;
+    silence.start();
+    for (unsigned long long seen = 0; !isOver && !silence.hasExpired(longestSilence.count());) {
+        platform::MainThread::turnLoop(turn);
+        const unsigned long long now = amountOf(monitor);
+        if (std::exchange(seen, now) != now)
+            silence.start();
+    }
+}
+
 Outcome leave(bool &hasChanged)
 {
     if (!isInForce())
         return {};
+    const auto alone = changeCopy();
+    if (!alone)
+        return alone.outcome();
+    if (!settings::sharedSetup.text().isEmpty()) // set again meanwhile
+        return Outcome::failure(Cause::Busy, copyFolder());
     hasChanged = true;
     // The file first: without it the rest does not count.
     const Outcome gone = platform::removeTree(copiedFile());
     return gone.ok() ? fileoperations::putInTrash(copyFolder(), copyFolder()) : gone;
 }
 
-Outcome followFolder(const QString &folder, bool &hasChanged)
+Outcome followFolder(const QString &folder, platform::CopyMonitor &monitor, Followed &followed)
 {
     const auto shared = platform::readPropertyListFile(joined(folder, setupFile));
     if (!shared)
@@ -178,31 +277,89 @@ Outcome followFolder(const QString &folder, bool &hasChanged)
         return Outcome::failure(Cause::Damaged, joined(folder, setupFile));
     if (const Outcome made = platform::makeFolders(copyFolder()); !made.ok())
         return made;
-    const auto lock = platform::FileLock::acquire(joined(copyFolder(), QStringLiteral(".lock")), lockPatience);
+    const auto lock = platform::FileLock::acquire(
+        joined(platform::parentPath(copyFolder()), QStringLiteral(".Studio follows.lock")), lockPatience);
     if (lock.outcome().is(Cause::Busy))
         return lock.outcome();
-    const Outcome templates = followTemplates(joined(folder, templatesFolder), hasChanged);
-    if (!templates.ok())
-        return templates;
+    const Exchange exchange = prepareTemplates(joined(folder, templatesFolder), monitor);
     const QVariantMap wanted = onlyShared(shared->toMap());
-    if (isInForce() && platform::readPropertyListFile(copiedFile()).valueOr({}).toMap() == wanted)
-        return {};
-    hasChanged = true;
-    return platform::writePropertyListFile(copiedFile(), wanted);
+    const bool isOther = !isInForce() || platform::readPropertyListFile(copiedFile()).valueOr({}).toMap() != wanted;
+    if (monitor.cancelled)
+        return Outcome::failure(Cause::Cancelled, folder);
+    if (exchange.isAll || isOther || !exchange.bundles.isEmpty() || !exchange.gone.isEmpty()) {
+        const auto alone = changeCopy();
+        if (!alone)
+            return alone.outcome();
+        if (settings::sharedSetup.text() != folder) { // another one counts by now
+            static_cast<void>(platform::removeTree(onItsWay()));
+            return Outcome::failure(Cause::Busy, folder);
+        }
+        if (const Outcome exchanged = exchangeTemplates(exchange, followed.hasChanged); !exchanged.ok())
+            return exchanged;
+        if (isOther) {
+            followed.hasChanged = true;
+            if (const Outcome written = platform::writePropertyListFile(copiedFile(), wanted); !written.ok())
+                return written;
+        }
+    }
+    static_cast<void>(platform::removeTree(onItsWay())); // what stays is looked at the next time
+    followed.isInPart = !exchange.first.ok();
+    return exchange.first;
 }
 
 } // namespace
 
-Followed follow()
+Followed follow(platform::CopyMonitor &monitor)
 {
     Followed followed;
     const QString folder = settings::sharedSetup.text();
-    followed.outcome = folder.isEmpty() ? leave(followed.hasChanged) : followFolder(folder, followed.hasChanged);
+    followed.outcome = folder.isEmpty() ? leave(followed.hasChanged) : followFolder(folder, monitor, followed);
     if (!followed.outcome.ok())
         VTLog::appendLog("The studio's set-up cannot be followed: %@", followed.outcome.description());
-    else if (followed.hasChanged)
-        VTLog::appendLog("The studio's set-up was taken from %@", folder);
+    if (followed.hasChanged)
+        VTLog::appendLog(folder.isEmpty() ? "The studio's set-up was left%@" : "The studio's set-up was taken from %@",
+                         folder);
     return followed;
+}
+
+Followed follow()
+{
+    platform::CopyMonitor monitor;
+    return follow(monitor);
+}
+
+Followed followInTime(std::chrono::milliseconds patience)
+{
+    struct Asked
+    {
+        Followed followed;
+        platform::CopyMonitor monitor;
+        bool isOver = false;
+    };
+    const auto asked = std::make_shared<Asked>();
+    const LongWork work(Text::tr("Taking over the studio’s set-up"), asked->monitor);
+    const auto ask = [asked] {
+        asked->followed = follow(asked->monitor);
+    };
+    const auto over = [asked] {
+        asked->isOver = true;
+    };
+    asked->isOver = platform::performWithin(patience, ask, over);
+    if (!asked->isOver && amountOf(asked->monitor) > 0)
+        waitWhileItComes(asked->monitor, asked->isOver);
+    if (asked->isOver)
+        return asked->followed;
+    const bool isCancelled = asked->monitor.cancelled.exchange(true);
+    return {Outcome::failure(isCancelled ? Cause::Cancelled : Cause::Unreachable, settings::sharedSetup.text())};
+}
+
+QString sentenceOf(const Followed &followed)
+{
+    if (followed.isInPart)
+        return Text::tr("Part of the studio’s set-up cannot be read.");
+    return isInForce() ? Text::tr("The studio’s set-up cannot be reached. The copy of %1 is used.")
+                             .arg(QLocale().toString(lastChange(), QLocale::ShortFormat))
+                       : Text::tr("The studio’s set-up cannot be reached. Your own is used.");
 }
 
 QDateTime lastChange()
@@ -217,11 +374,16 @@ Outcome exportSetup(const QString &folder, const QVariantMap &settings, const QS
     const auto entries = platform::listFolder(library);
     if (!entries)
         return entries.outcome();
-    bool hasChanged = false;
-    const Outcome copied = copyBundles(library, joined(folder, templatesFolder), bundlesIn(*entries),
-                                       fileoperations::putInTrash, hasChanged);
-    if (!copied.ok())
-        return copied;
+    const QString templates = joined(folder, templatesFolder);
+    if (const Outcome made = platform::makeFolders(templates); !made.ok())
+        return made;
+    platform::CopyMonitor monitor;
+    const LongWork work(Text::tr("Writing the studio’s set-up"), monitor);
+    BundleCopy copy{library, templates, templates, work.monitor(), {}, {}};
+    for (const QString &bundle : bundlesIn(*entries))
+        copy.copy(bundle, fileoperations::putInTrash);
+    if (!copy.first.ok())
+        return copy.first;
     QVariantMap setup = settings;
     setup.insert(QLatin1String(platform::UserDefaults::lockedKeys), locked);
     return platform::writePropertyListFile(joined(folder, setupFile), onlyShared(setup));

@@ -13,8 +13,11 @@ mount -t tmpfs -o mode=755 tmpfs /run
 mkdir -p /run/etc /run/Library
 cp -a /etc/. /run/etc && mount --bind /run/etc /etc
 mkdir -p /Library && mount --bind /run/Library /Library # machine-wide settings
+groupdel studio 2>/dev/null
 groupadd studio
 for user in anna ben cleo; do
+  userdel "$user" 2>/dev/null # the machine may know one of that name; this is a copy of its list
+  groupdel "$user" 2>/dev/null
   useradd --no-create-home --home-dir "/run/home/$user" --groups studio "$user"
   install -d -m 750 -o "$user" -g "$user" "/run/home/$user"
 done

@@ -1,4 +1,5 @@
 // What a studio shares: the copy that each computer keeps, what counts, and what nobody changes.
+#include "creation/RequestCheck.h"
 #include "harness/StoredSettings.h"
 #include "harness/TemporaryHome.h"
 #include "parameters/ParameterStore.h"
@@ -140,6 +141,77 @@ private Q_SLOTS:
         QCOMPARE(readFile(shared(studio::setupFile)), "nonsense"); // nobody's to put aside
     }
 
+    /// What a project is being made of stays as it is, and comes when that is over.
+    void notWhileItIsUsed()
+    {
+        use();
+        QVERIFY(studio::follow().outcome.ok());
+        auto user =
+            std::make_unique<ProjectRequest>(freshRequest(VTDataController::templateLocation(), "Film").valueOr({}));
+        QVERIFY(user->use);
+        writeFile(shared("Templates/Film.tzt/Files/A/new.txt"), "n");
+        writeFile(shared("Templates/Other.tzt/Files/o.txt"), "o");
+        write({{"separatorChar", "+"}});
+        const auto followed = studio::follow();
+        QVERIFY(followed.outcome.is(Cause::Busy) && !followed.hasChanged);
+        QCOMPARE(listed(), QStringList{"Film"});
+        QCOMPARE(settings::separatorChar.text(), "-");
+        QVERIFY(!QDir(studio::copiedTemplates() + "/Film.tzt/Files/A").exists("new.txt"));
+        // It has been copied, and is not copied again.
+        const QString ready = studio::copyFolder() + "/.incoming/Other.tzt/Files/o.txt";
+        const auto identity = platform::identityOf(ready);
+        QVERIFY(identity);
+        // Two may use it at a time, and neither waits for the other.
+        QVERIFY(studio::useCopy());
+        user.reset();
+        QVERIFY(studio::follow().hasChanged);
+        QCOMPARE(listed(), QStringList({"Film", "Other"}));
+        QVERIFY(platform::identityOf(VTDataController::filesFolder("Other") + "/o.txt") == identity);
+        QCOMPARE(settings::separatorChar.text(), "+");
+        QVERIFY(!QDir(studio::copyFolder()).exists(".incoming"));
+    }
+
+    /// Left while somebody uses it, the copy goes when that is over; and a set-up that is chosen meanwhile stays.
+    void notLeftWhileItIsUsed()
+    {
+        use();
+        QVERIFY(studio::follow().outcome.ok());
+        {
+            const auto inUse = studio::useCopy();
+            QVERIFY(inUse && *inUse);
+            storeSetting(settings::sharedSetup, "");
+            QVERIFY(studio::follow().outcome.is(Cause::Busy));
+            QVERIFY(studio::isInForce());
+        }
+        QVERIFY(studio::follow().hasChanged);
+        QVERIFY(!studio::isInForce());
+    }
+
+    /// Templates behind links come as what they lead to; links in them, and what may be executed, as they are.
+    void linksAndPrograms()
+    {
+        writeFile(m_work->filePath("Elsewhere/Real.tzt/Files/tool.sh"), "#!/bin/sh");
+        QVERIFY(QFile::link("tool.sh", m_work->filePath("Elsewhere/Real.tzt/Files/link")));
+        QVERIFY(QFile::link(m_work->filePath("Elsewhere/Real.tzt"), shared("Templates/Linked.tzt")));
+        use();
+        QVERIFY(studio::follow().outcome.ok());
+        QCOMPARE(listed(), QStringList({"Film", "Linked"}));
+        const QString files = VTDataController::filesFolder("Linked");
+        QVERIFY(!QFileInfo(files).isSymLink() && QFileInfo(files + "/link").isSymLink());
+        QCOMPARE(chmod(m_work->filePath("Elsewhere/Real.tzt/Files/tool.sh").toUtf8(), 0755), 0);
+        QVERIFY(studio::follow().hasChanged);
+        QVERIFY(QFileInfo(files + "/tool.sh").isExecutable());
+        QVERIFY(QFile::remove(m_work->filePath("Elsewhere/Real.tzt/Files/link")));
+        QVERIFY(QFile::link("other", m_work->filePath("Elsewhere/Real.tzt/Files/link")));
+        QVERIFY(studio::follow().hasChanged);
+        QVERIFY(!studio::follow().hasChanged);
+        QCOMPARE(platform::linkTarget(files + "/link"), "other");
+        // The other server is away: what is here stays.
+        QVERIFY(QFile::rename(m_work->filePath("Elsewhere"), m_work->filePath("Gone")));
+        QVERIFY(studio::follow().outcome.is(Cause::Missing));
+        QCOMPARE(listed(), QStringList({"Film", "Linked"}));
+    }
+
     /// A template that cannot be read whole is not taken over in part.
     void templateThatCannotBeRead()
     {
@@ -149,7 +221,11 @@ private Q_SLOTS:
         QVERIFY(studio::follow().outcome.ok());
         writeFile(shared("Templates/Film.tzt/Files/B/secret.txt"), "s");
         QCOMPARE(chmod(shared("Templates/Film.tzt/Files/B").toUtf8(), 0), 0);
+        writeFile(shared("Templates/Late.tzt/Files/l.txt"), "l");
+        write({{"separatorChar", "+"}});
         QVERIFY(studio::follow().outcome.needsRights());
+        QCOMPARE(listed(), QStringList({"Film", "Late"})); // the rest comes
+        QCOMPARE(settings::separatorChar.text(), "+");
         QCOMPARE(chmod(shared("Templates/Film.tzt/Files/B").toUtf8(), 0755), 0);
         QVERIFY(!QDir(VTDataController::filesFolder("Film") + "/B").exists());
         QCOMPARE(readFile(VTDataController::filesFolder("Film") + "/A/x.txt"), "one");

@@ -84,6 +84,8 @@ QString generalSentence(Cause cause)
         return Text::tr("Something of this name is there already");
     case Cause::NotAFolder:
         return Text::tr("It is no folder");
+    case Cause::Busy:
+        return Text::tr("Another program uses it just now");
     default:
         return Text::tr("It did not work");
     }

@@ -13,12 +13,12 @@ namespace platform {
 namespace {
 
 /// Of the open file and not of the process: two threads exclude each other as two programs do.
-bool tryLock(int file)
+bool tryLock(int file, FileLock::Access access)
 {
     struct flock lock
     {
     };
-    lock.l_type = F_WRLCK;
+    lock.l_type = access == FileLock::Access::Read ? F_RDLCK : F_WRLCK;
     lock.l_whence = SEEK_SET;
     return fcntl(file, F_OFD_SETLK, &lock) == 0;
 }
@@ -36,7 +36,7 @@ void giveToOwnerOfFolder(const UniqueDescriptor &file, const PathAt &at)
 
 } // namespace
 
-Result<FileLock> FileLock::acquire(const QString &lockFile, std::chrono::milliseconds patience)
+Result<FileLock> FileLock::acquire(const QString &lockFile, std::chrono::milliseconds patience, Access access)
 {
     const PathAt at(lockFile);
     UniqueDescriptor file(openat(at.folder(), at.name(), O_RDWR | O_CREAT | O_NOFOLLOW | O_CLOEXEC, 0644));
@@ -44,7 +44,7 @@ Result<FileLock> FileLock::acquire(const QString &lockFile, std::chrono::millise
         return Outcome::fromErrno(lockFile);
     giveToOwnerOfFolder(file, at);
     const auto start = std::chrono::steady_clock::now();
-    while (!tryLock(file.get())) {
+    while (!tryLock(file.get(), access)) {
         const bool isHeld = errno == EAGAIN || errno == EACCES;
         if (!isHeld && errno != EINTR)
             return errno == ENOLCK ? Outcome::failure(Cause::NotSupported, lockFile) : Outcome::fromErrno(lockFile);

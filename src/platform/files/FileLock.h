@@ -16,11 +16,15 @@ namespace platform {
 class FileLock
 {
 public:
+    /** Any number read at a time while nobody changes anything. */
+    enum class Access { Change, Read };
+
     /**
      * Waits for others, at most the given time. Cause::Busy when they hold it for longer; Cause::NotSupported where the
      * file system knows no locks; anything else is why the lock's file cannot be made.
      */
-    [[nodiscard]] static Result<FileLock> acquire(const QString &lockFile, std::chrono::milliseconds patience);
+    [[nodiscard]] static Result<FileLock> acquire(const QString &lockFile, std::chrono::milliseconds patience,
+                                                  Access access = Access::Change);
 
 private:
     explicit FileLock(UniqueDescriptor file)

@@ -136,6 +136,12 @@ bool isExecutableFile(const QString &path)
     return statItem(path, info, 0) && S_ISREG(info.st_mode) && mayAccess(path, X_OK);
 }
 
+bool hasExecuteBit(const QString &path)
+{
+    struct stat info;
+    return statItem(path, info, AT_SYMLINK_NOFOLLOW) && S_ISREG(info.st_mode) && (info.st_mode & S_IXUSR) != 0;
+}
+
 quint64 fileSizeOf(const QString &path)
 {
     struct stat info;

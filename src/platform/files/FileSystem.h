@@ -48,6 +48,8 @@ struct FileIdentity
 /** Whether this user lacks the permission to move the item to another folder. */
 [[nodiscard]] bool moveNeedsRights(const QString &path);
 [[nodiscard]] bool isExecutableFile(const QString &path);
+/** Whether the plain file itself may be executed by its owner, whoever asks. */
+[[nodiscard]] bool hasExecuteBit(const QString &path);
 /** Bytes of the item that the path leads to; 0 when missing or no plain file. */
 [[nodiscard]] quint64 fileSizeOf(const QString &path);
 /** When its contents last changed; links are followed. Nothing when it is missing. */

@@ -10,6 +10,7 @@
 #include "support/Settings.h"
 #include "support/VTLocalPaths.h"
 #include "support/VTLog.h"
+#include "templates/EditingGuard.h"
 #include "ui/FileIcons.h"
 #include "ui/Spinner.h"
 #include "ui/VTOutlineView.h"
@@ -392,6 +393,8 @@ void VTTemplateOutlineController::editSelectedName()
 void VTTemplateOutlineController::startJob(const ImportJob &job,
                                            platform::Outcome (*work)(const ImportJob &, const ImportHost &))
 {
+    if (!studioAllowsChanging(job.destFolder + u'/'))
+        return;
     using platform::MainThread;
     const auto waiting = platform::Waiting::Yes;
     ImportHost host;

@@ -357,7 +357,7 @@ void VTTemplateOutlineController::rename(const QString &path, const QString &typ
         VTAlert::show({tr("Invalid filename"), tr("You must enter a filename without invalid characters.")});
         return;
     }
-    if (cleaned == platform::lastComponent(path))
+    if (cleaned == platform::lastComponent(path) || !studioAllowsChanging(path))
         return;
     const QString renamed = joined(platform::parentPath(path), cleaned);
     // In other letters it may be the item itself, or, where these tell names apart, another one.
@@ -407,7 +407,10 @@ void VTTemplateOutlineController::colorCodeFiles(int tag)
 {
     const int index = tag * 2; // the labels are the even indexes
     DiskChange change{tr("Label"), {}};
-    for (const QString &path : selectedPaths()) {
+    const QStringList paths = selectedPaths();
+    if (paths.isEmpty() || !studioAllowsChanging(paths.constFirst()))
+        return;
+    for (const QString &path : paths) {
         VTLog::appendLog("Color coding %@", path);
         if (platform::kindOf(path) == platform::FileKind::Link)
             continue; // the label would be its target's
