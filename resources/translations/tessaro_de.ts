@@ -793,6 +793,18 @@ Mit --overwrite kommt es in den Papierkorb und wird neu angelegt.</translation>
         <source>The folder needs a file “%1”, which “Tessaro setup export” writes.</source>
         <translation>Im Ordner muss eine Datei „%1“ liegen, die „Tessaro setup export“ anlegt.</translation>
     </message>
+    <message>
+        <source>Another program takes over or uses a set-up just now. Please try again in a moment.</source>
+        <translation>Ein anderes Programm übernimmt oder verwendet gerade eine Einrichtung. Bitte versuchen Sie es gleich noch einmal.</translation>
+    </message>
+    <message>
+        <source>The studio’s set-up is still in use</source>
+        <translation>Die Einrichtung des Studios wird noch verwendet</translation>
+    </message>
+    <message>
+        <source>Your own counts again as soon as what uses it has finished.</source>
+        <translation>Ihre eigene gilt wieder, sobald das fertig ist, was sie verwendet.</translation>
+    </message>
 </context>
 <context>
     <name>HistoryCommand</name>
@@ -1359,6 +1371,10 @@ Mit --overwrite kommt es in den Papierkorb und wird neu angelegt.</translation>
     <message>
         <source>It did not work</source>
         <translation>Der Vorgang ist fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>Another program uses it just now</source>
+        <translation>Ein anderes Programm verwendet es gerade</translation>
     </message>
 </context>
 <context>
@@ -1949,6 +1965,10 @@ Mit --overwrite kommt es in den Papierkorb und wird neu angelegt.</translation>
     <message>
         <source>Before templates are chan&amp;ged</source>
         <translation>Vor Änderungen an &amp;Vorlagen</translation>
+    </message>
+    <message>
+        <source>What is grey is set by your studio.</source>
+        <translation>Was grau ist, gibt Ihr Studio vor.</translation>
     </message>
 </context>
 <context>
@@ -2680,18 +2700,6 @@ Mit --overwrite kommt es in den Papierkorb und wird neu angelegt.</translation>
 <context>
     <name>SetupCommand</name>
     <message>
-        <source>The copy of %1 is used.</source>
-        <translation>Die Kopie vom %1 wird verwendet.</translation>
-    </message>
-    <message>
-        <source>There is no copy yet; your own set-up is used.</source>
-        <translation>Es gibt noch keine Kopie; Ihre eigene Einrichtung wird verwendet.</translation>
-    </message>
-    <message>
-        <source>The studio’s set-up cannot be reached.</source>
-        <translation>Die Einrichtung des Studios ist nicht erreichbar.</translation>
-    </message>
-    <message>
         <source>No set-up is shared.</source>
         <translation>Es gibt keine gemeinsame Einrichtung.</translation>
     </message>
@@ -2737,6 +2745,14 @@ Letzte Änderung: %4</translation>
         <source>It is set for every user of this computer; an administrator takes it away: %1</source>
         <translation>Sie ist für alle Benutzer dieses Computers eingestellt; ein Administrator kann sie entfernen: %1</translation>
     </message>
+    <message>
+        <source>Another program takes over or uses a set-up just now. Please try again in a moment.</source>
+        <translation>Ein anderes Programm übernimmt oder verwendet gerade eine Einrichtung. Bitte versuchen Sie es gleich noch einmal.</translation>
+    </message>
+    <message>
+        <source>The template library cannot be read.</source>
+        <translation>Die Vorlagenbibliothek lässt sich nicht lesen.</translation>
+    </message>
 </context>
 <context>
     <name>Spinner</name>
@@ -2750,7 +2766,15 @@ Letzte Änderung: %4</translation>
     </message>
 </context>
 <context>
-    <name>StudioFollower</name>
+    <name>StudioLibrary</name>
+    <message>
+        <source>Taking over the studio’s set-up</source>
+        <translation>Die Einrichtung des Studios wird übernommen</translation>
+    </message>
+    <message>
+        <source>Part of the studio’s set-up cannot be read.</source>
+        <translation>Ein Teil der Einrichtung des Studios lässt sich nicht lesen.</translation>
+    </message>
     <message>
         <source>The studio’s set-up cannot be reached. The copy of %1 is used.</source>
         <translation>Die Einrichtung des Studios ist nicht erreichbar. Die Kopie vom %1 wird verwendet.</translation>
@@ -2758,6 +2782,10 @@ Letzte Änderung: %4</translation>
     <message>
         <source>The studio’s set-up cannot be reached. Your own is used.</source>
         <translation>Die Einrichtung des Studios ist nicht erreichbar. Ihre eigene wird verwendet.</translation>
+    </message>
+    <message>
+        <source>Writing the studio’s set-up</source>
+        <translation>Die Einrichtung des Studios wird geschrieben</translation>
     </message>
 </context>
 <context>
@@ -3149,6 +3177,14 @@ Letzte Änderung: %4</translation>
     <message>
         <source>“%1” cannot be done again</source>
         <translation>„%1“ lässt sich nicht wiederholen</translation>
+    </message>
+    <message>
+        <source>Your studio shares no templates yet.</source>
+        <translation>Ihr Studio stellt noch keine Vorlagen bereit.</translation>
+    </message>
+    <message>
+        <source>It is empty.</source>
+        <translation>Sie ist leer.</translation>
     </message>
 </context>
 <context>
@@ -3751,6 +3787,18 @@ Passen Sie die mitgelieferten Vorlagen an Ihren Bedarf an, oder bauen Sie eigene
     <message>
         <source>Tessaro is at work; please ask again when it has finished.</source>
         <translation>Tessaro arbeitet gerade; bitte versuchen Sie es noch einmal, wenn es fertig ist.</translation>
+    </message>
+    <message>
+        <source>Where projects go is set by your studio</source>
+        <translation>Wohin Projekte kommen, gibt Ihr Studio vor</translation>
+    </message>
+    <message>
+        <source>The studio’s templates are just being brought up to date</source>
+        <translation>Die Vorlagen des Studios werden gerade auf den neuesten Stand gebracht</translation>
+    </message>
+    <message>
+        <source>Nothing was created. Please try again in a moment.</source>
+        <translation>Es wurde nichts angelegt. Bitte versuchen Sie es gleich noch einmal.</translation>
     </message>
 </context>
 <context>

@@ -793,6 +793,18 @@ Use --overwrite para moverlo a la papelera y crearlo de nuevo.</translation>
         <source>The folder needs a file “%1”, which “Tessaro setup export” writes.</source>
         <translation>En la carpeta debe haber un archivo «%1», que crea «Tessaro setup export».</translation>
     </message>
+    <message>
+        <source>Another program takes over or uses a set-up just now. Please try again in a moment.</source>
+        <translation>Otro programa está adoptando o usando una configuración en este momento. Vuelva a intentarlo dentro de un instante.</translation>
+    </message>
+    <message>
+        <source>The studio’s set-up is still in use</source>
+        <translation>La configuración del estudio todavía se está usando</translation>
+    </message>
+    <message>
+        <source>Your own counts again as soon as what uses it has finished.</source>
+        <translation>La suya volverá a aplicarse en cuanto termine lo que la usa.</translation>
+    </message>
 </context>
 <context>
     <name>HistoryCommand</name>
@@ -1359,6 +1371,10 @@ Use --overwrite para moverlo a la papelera y crearlo de nuevo.</translation>
     <message>
         <source>It did not work</source>
         <translation>No funcionó</translation>
+    </message>
+    <message>
+        <source>Another program uses it just now</source>
+        <translation>Otro programa lo está usando en este momento</translation>
     </message>
 </context>
 <context>
@@ -1949,6 +1965,10 @@ Use --overwrite para moverlo a la papelera y crearlo de nuevo.</translation>
     <message>
         <source>Before templates are chan&amp;ged</source>
         <translation>Antes de &amp;cambiar plantillas</translation>
+    </message>
+    <message>
+        <source>What is grey is set by your studio.</source>
+        <translation>Lo que aparece en gris lo establece su estudio.</translation>
     </message>
 </context>
 <context>
@@ -2680,18 +2700,6 @@ Use --overwrite para moverlo a la papelera y crearlo de nuevo.</translation>
 <context>
     <name>SetupCommand</name>
     <message>
-        <source>The copy of %1 is used.</source>
-        <translation>Se usa la copia del %1.</translation>
-    </message>
-    <message>
-        <source>There is no copy yet; your own set-up is used.</source>
-        <translation>Aún no hay ninguna copia; se usa su propia configuración.</translation>
-    </message>
-    <message>
-        <source>The studio’s set-up cannot be reached.</source>
-        <translation>No se puede acceder a la configuración del estudio.</translation>
-    </message>
-    <message>
         <source>No set-up is shared.</source>
         <translation>No hay ninguna configuración compartida.</translation>
     </message>
@@ -2737,6 +2745,14 @@ Bloqueado: %3
         <source>It is set for every user of this computer; an administrator takes it away: %1</source>
         <translation>Está definida para todos los usuarios de este ordenador; un administrador puede quitarla: %1</translation>
     </message>
+    <message>
+        <source>Another program takes over or uses a set-up just now. Please try again in a moment.</source>
+        <translation>Otro programa está adoptando o usando una configuración en este momento. Vuelva a intentarlo dentro de un instante.</translation>
+    </message>
+    <message>
+        <source>The template library cannot be read.</source>
+        <translation>No se puede leer la biblioteca de plantillas.</translation>
+    </message>
 </context>
 <context>
     <name>Spinner</name>
@@ -2750,7 +2766,15 @@ Bloqueado: %3
     </message>
 </context>
 <context>
-    <name>StudioFollower</name>
+    <name>StudioLibrary</name>
+    <message>
+        <source>Taking over the studio’s set-up</source>
+        <translation>Adoptando la configuración del estudio</translation>
+    </message>
+    <message>
+        <source>Part of the studio’s set-up cannot be read.</source>
+        <translation>No se puede leer una parte de la configuración del estudio.</translation>
+    </message>
     <message>
         <source>The studio’s set-up cannot be reached. The copy of %1 is used.</source>
         <translation>No se puede acceder a la configuración del estudio. Se usa la copia del %1.</translation>
@@ -2758,6 +2782,10 @@ Bloqueado: %3
     <message>
         <source>The studio’s set-up cannot be reached. Your own is used.</source>
         <translation>No se puede acceder a la configuración del estudio. Se usa la suya.</translation>
+    </message>
+    <message>
+        <source>Writing the studio’s set-up</source>
+        <translation>Guardando la configuración del estudio</translation>
     </message>
 </context>
 <context>
@@ -3149,6 +3177,14 @@ Bloqueado: %3
     <message>
         <source>“%1” cannot be done again</source>
         <translation>No se puede rehacer «%1»</translation>
+    </message>
+    <message>
+        <source>Your studio shares no templates yet.</source>
+        <translation>Su estudio todavía no comparte plantillas.</translation>
+    </message>
+    <message>
+        <source>It is empty.</source>
+        <translation>Está vacía.</translation>
     </message>
 </context>
 <context>
@@ -3751,6 +3787,18 @@ Adapte las plantillas incluidas a sus necesidades o cree las suyas desde cero.</
     <message>
         <source>Tessaro is at work; please ask again when it has finished.</source>
         <translation>Tessaro está trabajando; vuelva a pedirlo cuando termine.</translation>
+    </message>
+    <message>
+        <source>Where projects go is set by your studio</source>
+        <translation>El lugar de los proyectos lo establece su estudio</translation>
+    </message>
+    <message>
+        <source>The studio’s templates are just being brought up to date</source>
+        <translation>Las plantillas del estudio se están actualizando en este momento</translation>
+    </message>
+    <message>
+        <source>Nothing was created. Please try again in a moment.</source>
+        <translation>No se ha creado nada. Vuelva a intentarlo dentro de un instante.</translation>
     </message>
 </context>
 <context>

@@ -793,6 +793,18 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
         <source>The folder needs a file “%1”, which “Tessaro setup export” writes.</source>
         <translation>Le dossier doit contenir un fichier «&#xa0;%1&#xa0;», que crée «&#xa0;Tessaro setup export&#xa0;».</translation>
     </message>
+    <message>
+        <source>Another program takes over or uses a set-up just now. Please try again in a moment.</source>
+        <translation>Un autre programme reprend ou utilise une configuration en ce moment. Veuillez réessayer dans un instant.</translation>
+    </message>
+    <message>
+        <source>The studio’s set-up is still in use</source>
+        <translation>La configuration du studio est encore utilisée</translation>
+    </message>
+    <message>
+        <source>Your own counts again as soon as what uses it has finished.</source>
+        <translation>La vôtre s’appliquera de nouveau dès que ce qui l’utilise aura terminé.</translation>
+    </message>
 </context>
 <context>
     <name>HistoryCommand</name>
@@ -1359,6 +1371,10 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     <message>
         <source>It did not work</source>
         <translation>L’opération a échoué</translation>
+    </message>
+    <message>
+        <source>Another program uses it just now</source>
+        <translation>Un autre programme l’utilise en ce moment</translation>
     </message>
 </context>
 <context>
@@ -1949,6 +1965,10 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
     <message>
         <source>Before templates are chan&amp;ged</source>
         <translation>Avant de &amp;modifier les modèles</translation>
+    </message>
+    <message>
+        <source>What is grey is set by your studio.</source>
+        <translation>Ce qui est grisé est défini par votre studio.</translation>
     </message>
 </context>
 <context>
@@ -2680,18 +2700,6 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
 <context>
     <name>SetupCommand</name>
     <message>
-        <source>The copy of %1 is used.</source>
-        <translation>La copie du %1 est utilisée.</translation>
-    </message>
-    <message>
-        <source>There is no copy yet; your own set-up is used.</source>
-        <translation>Il n’y a pas encore de copie&#xa0;; votre propre configuration est utilisée.</translation>
-    </message>
-    <message>
-        <source>The studio’s set-up cannot be reached.</source>
-        <translation>La configuration du studio est inaccessible.</translation>
-    </message>
-    <message>
         <source>No set-up is shared.</source>
         <translation>Aucune configuration n’est partagée.</translation>
     </message>
@@ -2737,6 +2745,14 @@ Dernière modification&#xa0;: %4</translation>
         <source>It is set for every user of this computer; an administrator takes it away: %1</source>
         <translation>Elle est définie pour tous les utilisateurs de cet ordinateur&#xa0;; un administrateur peut la retirer&#xa0;: %1</translation>
     </message>
+    <message>
+        <source>Another program takes over or uses a set-up just now. Please try again in a moment.</source>
+        <translation>Un autre programme reprend ou utilise une configuration en ce moment. Veuillez réessayer dans un instant.</translation>
+    </message>
+    <message>
+        <source>The template library cannot be read.</source>
+        <translation>Impossible de lire la bibliothèque de modèles.</translation>
+    </message>
 </context>
 <context>
     <name>Spinner</name>
@@ -2750,7 +2766,15 @@ Dernière modification&#xa0;: %4</translation>
     </message>
 </context>
 <context>
-    <name>StudioFollower</name>
+    <name>StudioLibrary</name>
+    <message>
+        <source>Taking over the studio’s set-up</source>
+        <translation>Reprise de la configuration du studio</translation>
+    </message>
+    <message>
+        <source>Part of the studio’s set-up cannot be read.</source>
+        <translation>Une partie de la configuration du studio est illisible.</translation>
+    </message>
     <message>
         <source>The studio’s set-up cannot be reached. The copy of %1 is used.</source>
         <translation>La configuration du studio est inaccessible. La copie du %1 est utilisée.</translation>
@@ -2758,6 +2782,10 @@ Dernière modification&#xa0;: %4</translation>
     <message>
         <source>The studio’s set-up cannot be reached. Your own is used.</source>
         <translation>La configuration du studio est inaccessible. La vôtre est utilisée.</translation>
+    </message>
+    <message>
+        <source>Writing the studio’s set-up</source>
+        <translation>Enregistrement de la configuration du studio</translation>
     </message>
 </context>
 <context>
@@ -3149,6 +3177,14 @@ Dernière modification&#xa0;: %4</translation>
     <message>
         <source>“%1” cannot be done again</source>
         <translation>Impossible de rétablir&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Your studio shares no templates yet.</source>
+        <translation>Votre studio ne partage encore aucun modèle.</translation>
+    </message>
+    <message>
+        <source>It is empty.</source>
+        <translation>Il est vide.</translation>
     </message>
 </context>
 <context>
@@ -3751,6 +3787,18 @@ Adaptez les modèles fournis à vos besoins ou créez les vôtres de A à Z.</tr
     <message>
         <source>Tessaro is at work; please ask again when it has finished.</source>
         <translation>Tessaro travaille&#xa0;; réessayez quand il aura terminé.</translation>
+    </message>
+    <message>
+        <source>Where projects go is set by your studio</source>
+        <translation>L’emplacement des projets est défini par votre studio</translation>
+    </message>
+    <message>
+        <source>The studio’s templates are just being brought up to date</source>
+        <translation>Les modèles du studio sont en cours de mise à jour</translation>
+    </message>
+    <message>
+        <source>Nothing was created. Please try again in a moment.</source>
+        <translation>Rien n’a été créé. Veuillez réessayer dans un instant.</translation>
     </message>
 </context>
 <context>

@@ -45,16 +45,21 @@ QStringList lockedNow()
     return locked;
 }
 
-/// What everybody starts with, without what this user has typed.
+/// What everybody starts with, without what this user has typed. Defaults are in it, too: what is locked has a value.
 QVariantMap sharedSettings()
 {
     QVariantMap shared;
-    for (const QString &key : studio::sharedKeys())
-        shared.insert(key, settings::standard().value(key));
-    shared.insert(settings::strictNaming, settings::strictNaming.valueFor(settings::strictNaming.isOn()));
+    for (const settings::Setting *setting : settings::all()) {
+        if (!studio::sharedKeys().contains(*setting))
+            continue;
+        const QVariant value = setting->value();
+        if (setting->type == settings::Type::Switch || setting->type == settings::Type::Boolean)
+            shared.insert(*setting, static_cast<const settings::SwitchSetting *>(setting)->valueFor(
+                                        static_cast<const settings::SwitchSetting *>(setting)->isOn()));
+        else
+            shared.insert(*setting, value.isValid() ? value : QVariant(QString()));
+    }
     shared.insert(settings::filenameTemplate, variantFromParameters(withoutOwnValues(storedParameters())));
-    for (auto entry = shared.begin(); entry != shared.end();)
-        entry = entry->isValid() ? std::next(entry) : shared.erase(entry);
     return shared;
 }
 

@@ -1,9 +1,9 @@
 #include "preferences/BoundSwitch.h"
 
-#include "preferences/LockedControls.h"
 #include "support/AdministratorQuestion.h"
 #include "support/VTAlert.h"
 #include "support/VTAuthorization.h"
+#include "ui/LockedControls.h"
 
 #include <QCheckBox>
 #include <QCoreApplication>

@@ -7,7 +7,6 @@
 #include "platform/plain/CopyMonitor.h"
 #include "preferences/BoundSwitch.h"
 #include "preferences/FolderChoice.h"
-#include "preferences/LockedControls.h"
 #include "preferences/PathField.h"
 #include "support/FileOperations.h"
 #include "support/Notifications.h"
@@ -16,6 +15,7 @@
 #include "support/VTLog.h"
 #include "templates/StudioLibrary.h"
 #include "templates/VTDataController.h"
+#include "ui/LockedControls.h"
 #include "ui_Prefs_Dialog.h"
 
 using platform::formatString;
@@ -65,6 +65,7 @@ GeneralPane::GeneralPane(Ui::Prefs_Dialog &ui, QWidget &window)
         greyWhereLocked(settings::autoOpenFolder, {ui.autoOpenFolder});
         greyWhereLocked(settings::autoQuit, {ui.autoQuit});
         greyWhereLocked(settings::autoExpandFolders, {ui.autoExpandFolders});
+        sayWhereGrey(*ui.hintGreyGeneral);
     };
     grey();
     connect(&Notifications::hub(), &Notifications::settingsWritten, this, grey);

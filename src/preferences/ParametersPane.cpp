@@ -1,6 +1,6 @@
 #include "preferences/ParametersPane.h"
 
-#include "preferences/LockedControls.h"
+#include "ui/LockedControls.h"
 
 #include "parameters/table/ParameterDetails.h"
 
@@ -82,6 +82,7 @@ void ParametersPane::greyWhatIsLocked()
                                                  m_ui.parameterDetails, m_ui.restoreParameters});
     greyWhereLocked(settings::separatorChar, {m_ui.separator});
     greyWhereLocked(settings::dateFormat, {m_ui.dateFormatPopUp, m_ui.dateFormatText});
+    sayWhereGrey(*m_ui.hintGreyParameters);
 }
 
 /// What is being typed here stays; it is stored when it is finished, and all else comes then.

@@ -2,10 +2,10 @@
 
 #include "preferences/BoundSwitch.h"
 #include "preferences/FolderChoice.h"
-#include "preferences/LockedControls.h"
 #include "preferences/PathField.h"
 #include "support/Notifications.h"
 #include "support/VTLog.h"
+#include "ui/LockedControls.h"
 #include "ui_Prefs_Dialog.h"
 
 ProjectPane::ProjectPane(Ui::Prefs_Dialog &ui, QWidget &window)
@@ -28,6 +28,7 @@ ProjectPane::ProjectPane(Ui::Prefs_Dialog &ui, QWidget &window)
         greyWhereLocked(settings::fixedProjectLocationPath, {ui.prefsFixedPath, ui.browseFixed});
         greyWhereLocked(settings::useFixedProjectLocation, {ui.useFixedProjectLocation});
         greyWhereLocked(settings::strictNaming, {ui.strictNaming});
+        sayWhereGrey(*ui.hintGreyProject);
     };
     grey();
     connect(&Notifications::hub(), &Notifications::settingsWritten, this, grey);

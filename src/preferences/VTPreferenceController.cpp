@@ -4,10 +4,12 @@
 #include "preferences/ParametersPane.h"
 #include "preferences/ProjectPane.h"
 #include "support/VTLog.h"
+#include "ui/Colours.h"
 #include "ui/Icons.h"
 #include "ui_Prefs_Dialog.h"
 
 #include <QCloseEvent>
+#include <QEvent>
 #include <QKeyEvent>
 #include <QToolButton>
 
@@ -21,13 +23,12 @@ void dressHints(const QWidget &window)
     for (QLabel *label : window.findChildren<QLabel *>()) {
         if (!label->objectName().startsWith(QLatin1String("hint")))
             continue;
-        QFont font = label->font();
+        QFont font = window.font();
         font.setPointSizeF(font.pointSizeF() * 0.9);
         label->setFont(font);
-        QPalette palette = label->palette();
-        QColor faint = palette.color(QPalette::WindowText);
-        faint.setAlphaF(0.7F);
-        palette.setColor(QPalette::WindowText, faint);
+        QPalette palette = window.palette();
+        palette.setColor(QPalette::WindowText,
+                         secondaryText(palette.color(QPalette::Window), palette.color(QPalette::WindowText)));
         label->setPalette(palette);
     }
 }
@@ -50,6 +51,14 @@ VTPreferenceController::~VTPreferenceController()
 {
     hide(); // takes what is being typed while there is still something to take it to
     tellDelegate("enablePrefsMenu");
+}
+
+/// The desktop's colours and letters may change while they are open.
+void VTPreferenceController::changeEvent(QEvent *event)
+{
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange || event->type() == QEvent::FontChange)
+        dressHints(*this);
 }
 
 void VTPreferenceController::tellDelegate(const char *operation)

@@ -49,6 +49,7 @@ Q_SIGNALS:
     void sharedSetupChanged();
 
 protected:
+    void changeEvent(QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
 

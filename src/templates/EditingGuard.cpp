@@ -35,7 +35,10 @@ bool studioAllowsChanging(const QString &item)
 
 bool editingIsAllowed()
 {
-    if (!studioAllowsEditing())
-        return false;
+    return studioAllowsEditing() && settingsAllowEditing();
+}
+
+bool settingsAllowEditing()
+{
     return !settings::requireAdminPasswordForEditing.isOn() || administratorAgrees();
 }

@@ -7,5 +7,7 @@
 [[nodiscard]] bool editingIsAllowed();
 /** The same without a password, for what the settings do not protect. */
 [[nodiscard]] bool studioAllowsEditing();
-/** The same of one item, which may be of a library that is not the one in force any more. */
+/** What the settings say alone: the user's own choices need no leave of the studio. */
+[[nodiscard]] bool settingsAllowEditing();
+/** The same as studioAllowsEditing() of one item, which may be of a library that is not the one in force any more. */
 [[nodiscard]] bool studioAllowsChanging(const QString &item);

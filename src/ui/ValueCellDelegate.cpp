@@ -78,10 +78,17 @@ int chevronWidth(const QModelIndex &index)
     return offersItems && !index.data(CellRole::Items).toStringList().isEmpty() ? chevronSide + margin : 0;
 }
 
+bool isGrey(const QStyleOptionViewItem &cell)
+{
+    return cell.widget && !cell.widget->isEnabled();
+}
+
 QColor textColor(const QStyleOptionViewItem &cell)
 {
     const bool isSelected = cell.state.testFlag(QStyle::State_Selected);
-    const auto group = cell.state.testFlag(QStyle::State_Active) ? QPalette::Active : QPalette::Inactive;
+    auto group = cell.state.testFlag(QStyle::State_Active) ? QPalette::Active : QPalette::Inactive;
+    if (isGrey(cell))
+        group = QPalette::Disabled;
     return cell.palette.color(group, isSelected ? QPalette::HighlightedText : QPalette::Text);
 }
 
@@ -124,7 +131,9 @@ void drawHint(QPainter &painter, const QStyleOptionViewItem &option, const QMode
                                       QRect(place.x(), place.center().y() - signSide / 2 + 1, signSide, signSide));
         place.setLeft(place.x() + signSide + signGap);
     }
-    painter.setPen(secondaryText(option.palette.color(QPalette::Base), option.palette.color(QPalette::Text)));
+    painter.setPen(isGrey(option)
+                       ? textColor(option)
+                       : secondaryText(option.palette.color(QPalette::Base), option.palette.color(QPalette::Text)));
     painter.drawText(
         place, Qt::AlignVCenter | Qt::AlignRight,
         option.fontMetrics.elidedText(index.data(CellRole::Hint).toString(), Qt::ElideRight, place.width()));
@@ -195,7 +204,7 @@ void ValueCellDelegate::initStyleOption(QStyleOptionViewItem *option, const QMod
     if (const int hint = hintWidth(*option, index); hint > 0)
         option->text = option->fontMetrics.elidedText(option->text, Qt::ElideRight,
                                                       option->rect.width() - hint - chevronWidth(index) - 2 * margin);
-    if (!index.data(CellRole::Secondary).toBool())
+    if (!index.data(CellRole::Secondary).toBool() || isGrey(*option))
         return;
     // What cannot be changed is read all the same.
     for (const auto &[role, ground] :
@@ -224,7 +233,8 @@ void ValueCellDelegate::paint(QPainter *painter, const QStyleOptionViewItem &opt
     if (chevronWidth(index) > 0) {
         const QRect place(option.rect.right() - margin - chevronSide, option.rect.center().y() - chevronSide / 2 + 1,
                           chevronSide, chevronSide);
-        icons::named("chevron-down", icons::Tone::Secondary).paint(painter, place);
+        icons::named("chevron-down", icons::Tone::Secondary)
+            .paint(painter, place, Qt::AlignCenter, isGrey(option) ? QIcon::Disabled : QIcon::Normal);
     }
     painter->restore();
 }

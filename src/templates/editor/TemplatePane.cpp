@@ -2,12 +2,14 @@
 
 #include "parameters/ParameterStore.h"
 #include "support/Settings.h"
+#include "support/StudioCopy.h"
 #include "support/VTAlert.h"
 #include "support/VTFileManager.h"
 #include "templates/EditingGuard.h"
 #include "templates/VTDataController.h"
 #include "templates/editor/RuleInspector.h"
 #include "templates/editor/TreeFilter.h"
+#include "ui/ElidedLabel.h"
 #include "ui/Icons.h"
 #include "ui/VTImageTextCell.h"
 #include "ui_TemplatePane.h"
@@ -60,6 +62,11 @@ QIcon labelIcon(int tag, const QPalette &palette)
     return icon;
 }
 
+constexpr QAbstractItemView::EditTriggers namesAreEdited =
+    QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed;
+/// Duplicate, rename, remove: of the items' commands those after the first.
+constexpr qsizetype changingItems = 3;
+
 QAction *addTo(QWidget &widget, const QString &text, const QList<QKeySequence> &keys)
 {
     auto *action = new QAction(text, &widget);
@@ -78,6 +85,7 @@ TemplatePane::TemplatePane(QWidget *parent)
     , m_table(m_outline, m_history)
     , m_toggleDefault(new QAction(this))
     , m_addMenu(new QMenu(this))
+    , m_studioLine(new ElidedLabel(this))
 {
     m_ui->setupUi(this);
     m_ui->splitter->setStretchFactor(0, 0);
@@ -90,6 +98,8 @@ TemplatePane::TemplatePane(QWidget *parent)
         button->setIcon(icons::named("add"));
     for (QToolButton *button : {m_ui->removeTemplateButton, m_ui->removeButton})
         button->setIcon(icons::named("remove"));
+    m_studioLine->setText(settings::lockedText());
+    m_ui->treeBarLayout->insertWidget(m_ui->treeBarLayout->indexOf(m_ui->treeBarSpacer), m_studioLine, 100);
     buildLabels();
     buildTable();
     buildOutline();
@@ -116,7 +126,7 @@ void TemplatePane::buildTable()
     table->verticalHeader()->hide();
     table->verticalHeader()->setDefaultSectionSize(qMax(rowHeight, fontMetrics().height() + 8));
     table->setShowGrid(false);
-    table->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed);
+    table->setEditTriggers(namesAreEdited);
     table->setTabKeyNavigation(false);
     m_table.setViews(table, m_toggleDefault);
 
@@ -128,10 +138,11 @@ void TemplatePane::buildTable()
         return action;
     };
     using Table = VTTemplateTableController;
-    item(tr("&New Template"), {}, &Table::createNewTemplate);
+    m_changing = {item(tr("&New Template"), {}, &Table::createNewTemplate)};
     m_forTemplate = {item(tr("D&uplicate"), {Qt::CTRL | Qt::Key_D}, &Table::duplicateTemplate),
                      item(tr("Re&name"), {Qt::Key_F2, Qt::Key_Return, Qt::Key_Enter}, &Table::editSelectedName),
                      item(tr("&Remove…"), {}, &Table::removeTemplate)};
+    m_changing += m_forTemplate;
     menu->addSeparator();
     menu->addAction(m_toggleDefault);
     connect(m_toggleDefault, &QAction::triggered, &m_table, &Table::toggleDefault);
@@ -143,9 +154,14 @@ void TemplatePane::buildTable()
     connect(m_ui->newTemplateButton, &QToolButton::clicked, &m_table, &Table::createNewTemplate);
     connect(m_ui->removeTemplateButton, &QToolButton::clicked, &m_table, &Table::removeTemplate);
     connect(&m_table, &Table::selectionChanged, this, [this](bool any) {
-        m_ui->removeTemplateButton->setEnabled(any);
+        const bool mayChange = !greyForStudio();
+        m_ui->newTemplateButton->setEnabled(mayChange);
+        m_ui->removeTemplateButton->setEnabled(any && mayChange);
+        m_changing.constFirst()->setEnabled(mayChange);
         for (QAction *action : std::as_const(m_forTemplate))
-            action->setEnabled(any);
+            action->setEnabled(any && (mayChange || !m_changing.contains(action)));
+        if (settings::defaultTemplate.isLocked())
+            m_toggleDefault->setEnabled(false);
     });
 }
 
@@ -189,6 +205,7 @@ void TemplatePane::buildOutline()
     menu->addSeparator();
     menu->addMenu(labelMenu());
     m_forItems += item(tr("&Show in File Manager"), {Qt::CTRL | Qt::Key_R}, &Outline::revealFilesInFinder);
+    m_changing += adding + m_labels + QList<QAction *>{cut, m_paste} + m_forItems.mid(1, changingItems);
     m_treeActions = adding + m_forItems;
     m_forItems += {cut, copy};
     outline->setContextMenu(menu);
@@ -203,8 +220,9 @@ void TemplatePane::buildOutline()
     });
     connect(m_ui->removeButton, &QToolButton::clicked, &m_outline, &Outline::removeFiles);
     connect(&m_outline, &Outline::selectionChanged, this, [this, adding](qsizetype count, bool isLoaded) {
+        const bool mayChange = !studio::decidesTemplates();
         for (QAction *action : adding + QList<QAction *>{m_paste})
-            action->setEnabled(isLoaded);
+            action->setEnabled(isLoaded && mayChange);
         setTreeSelection(count, isLoaded);
     });
 }
@@ -278,13 +296,28 @@ void TemplatePane::updateInspector()
 
 void TemplatePane::setTreeSelection(qsizetype count, bool isLoaded)
 {
-    m_ui->addButton->setEnabled(isLoaded);
-    m_ui->removeButton->setEnabled(count > 0);
+    const bool mayChange = !studio::decidesTemplates();
+    m_ui->addButton->setEnabled(isLoaded && mayChange);
+    m_ui->removeButton->setEnabled(count > 0 && mayChange);
     for (QAction *action : m_forItems + m_labels)
-        action->setEnabled(count > 0);
-    const QString hint = m_table.rowCount() > 0 ? tr("Select a template on the left.")
-                                                : tr("Make a template with the plus sign on the left.");
-    m_ui->outlineView->setPlaceholder(isLoaded ? tr("Drop files and folders here, or add a folder.") : hint);
+        action->setEnabled(count > 0 && (mayChange || !m_changing.contains(action)));
+    const QString none =
+        mayChange ? tr("Make a template with the plus sign on the left.") : tr("Your studio shares no templates yet.");
+    const QString hint = m_table.rowCount() > 0 ? tr("Select a template on the left.") : none;
+    const QString empty = mayChange ? tr("Drop files and folders here, or add a folder.") : tr("It is empty.");
+    m_ui->outlineView->setPlaceholder(isLoaded ? empty : hint);
+}
+
+/// Whether the studio's templates are shown: all can be looked at, and nothing changed.
+bool TemplatePane::greyForStudio()
+{
+    const bool isStudios = studio::decidesTemplates();
+    m_studioLine->setVisible(isStudios);
+    m_ui->inspector->widget()->setEnabled(!isStudios);
+    m_ui->templateTable->setEditTriggers(isStudios ? QAbstractItemView::NoEditTriggers : namesAreEdited);
+    m_ui->outlineView->setEditTriggers(isStudios ? QAbstractItemView::NoEditTriggers
+                                                 : QAbstractItemView::EditTriggers(QAbstractItemView::EditKeyPressed));
+    return isStudios;
 }
 
 void TemplatePane::buildLabels()

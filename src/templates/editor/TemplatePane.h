@@ -6,6 +6,7 @@
 #include <QWidget>
 #include <memory>
 
+class ElidedLabel;
 class QAction;
 class QMenu;
 class TreeFilter;
@@ -59,6 +60,7 @@ private:
     void updateInspector();
     void drawLabels();
     void showAfter(const platform::Outcome &outcome, const QString &sentence);
+    bool greyForStudio();
     void setTreeSelection(qsizetype count, bool isLoaded);
 
     std::unique_ptr<Ui::TemplatePane> m_ui;
@@ -67,6 +69,7 @@ private:
     VTTemplateTableController m_table;
     QAction *m_toggleDefault;
     QMenu *m_addMenu;
+    ElidedLabel *m_studioLine;
     QList<QAction *> m_listActions;
     QList<QAction *> m_treeActions;
     QList<QAction *> m_editActions;
@@ -76,4 +79,5 @@ private:
     QList<QAction *> m_labels;      ///< none, then the seven
     QList<QAction *> m_forTemplate; ///< need a selected template
     QList<QAction *> m_forItems;    ///< need selected items
+    QList<QAction *> m_changing;    ///< change the library; the first makes a template
 };

@@ -256,7 +256,7 @@ void VTTemplateTableController::rename(const QString &name, const QString &typed
 void VTTemplateTableController::toggleDefault()
 {
     const QString name = selectedTemplate();
-    if (name.isNull() || !editingIsAllowed())
+    if (name.isNull() || !settingsAllowEditing()) // which template one begins with is the user's own affair
         return;
     if (isDefaultTemplate(name))
         unsetDefaultTemplate();

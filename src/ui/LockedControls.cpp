@@ -1,10 +1,16 @@
-#include "preferences/LockedControls.h"
+#include "ui/LockedControls.h"
 
-#include <QWidget>
+#include <QLabel>
+#include <algorithm>
+
+namespace {
+
+constexpr const char *usualTip = "usualTip"; // there while the control is grey for this reason
+
+} // namespace
 
 void greyWhere(bool isLocked, const QList<QWidget *> &controls)
 {
-    constexpr const char *usualTip = "usualTip"; // there while the control is grey for this reason
     for (QWidget *control : controls) {
         const QVariant kept = control->property(usualTip);
         if (isLocked == kept.isValid())
@@ -19,4 +25,11 @@ void greyWhere(bool isLocked, const QList<QWidget *> &controls)
 void greyWhereLocked(const settings::Setting &setting, const QList<QWidget *> &controls)
 {
     greyWhere(setting.isLocked(), controls);
+}
+
+void sayWhereGrey(QLabel &line)
+{
+    const QList<QWidget *> controls = line.parentWidget()->findChildren<QWidget *>();
+    line.setVisible(std::any_of(controls.begin(), controls.end(),
+                                [](const QWidget *control) { return control->property(usualTip).isValid(); }));
 }
