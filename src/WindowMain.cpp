@@ -8,14 +8,15 @@
 #include "platform/base/Console.h"
 #include "platform/base/NativePath.h"
 #include "platform/desktop/Desktop.h"
+#include "platform/desktop/DesktopAppearance.h"
 #include "platform/desktop/DesktopPanels.h"
 #include "platform/desktop/FontLoading.h"
 #include "platform/desktop/SingleInstance.h"
 #include "support/Translations.h"
 #include "support/VTAlert.h"
 #include "support/VTLog.h"
+#include "ui/Appearance.h"
 #include "ui/Icons.h"
-#include "ui/Placeholders.h"
 #include "ui/SheetPresenter.h"
 
 #include <QApplication>
@@ -48,7 +49,8 @@ int runWindow(int &argc, char **argv, const platform::SingleInstance::Request &r
         return ExitStatus::done;
     platform::SingleInstance instance;
     fonts.finish();
-    keepPlaceholdersReadable();
+    platform::DesktopAppearance appearance;
+    followAppearance(appearance);
     openManualByKey();
     SheetPresenter sheets;
     VTAlert::setPresenter(&sheets);

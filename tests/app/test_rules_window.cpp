@@ -303,6 +303,7 @@ private Q_SLOTS:
     void ownParameters()
     {
         m_delegate->toolbarTemplateAction();
+        QTRY_VERIFY(window().templatePane().outlineController().rules().isRead);
         m_delegate->editTemplateParameters();
         auto *sheet = window().findChild<OwnParametersSheet *>();
         QVERIFY(sheet && QTest::qWaitForWindowExposed(sheet));
