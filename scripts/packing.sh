@@ -98,6 +98,7 @@ make_archive() { # BUILD FOLDER
   patchelf --set-rpath '$ORIGIN' "$stage/lib"/*.so*
   find "$stage/lib/qt6" -name '*.so' -exec patchelf --set-rpath '$ORIGIN/../../..' {} +
   printf '[Paths]\nPrefix=../../../../..\nPlugins=lib/qt6/plugins\n' >"$contents/MacOS/qt.conf"
+  chmod -R u=rwX,go=rX "$stage"
   tar -C "$1/archive" --sort=name --owner=0 --group=0 --numeric-owner -cJf "$2/$name.tar.xz" "$name"
   rm -rf "$1/archive"
 }
