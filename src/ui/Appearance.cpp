@@ -19,6 +19,11 @@ bool isDark(const QPalette &palette)
     return palette.color(QPalette::Window).lightnessF() < palette.color(QPalette::WindowText).lightnessF();
 }
 
+QColor furthestFrom(const QColor &ground)
+{
+    return contrastOf(Qt::black, ground) > contrastOf(Qt::white, ground) ? Qt::black : Qt::white;
+}
+
 QColor turned(const QColor &colour)
 {
     float hue = 0;
@@ -34,10 +39,11 @@ QPalette turned(const QPalette &palette)
 {
     QPalette other(turned(palette.color(QPalette::Button)), turned(palette.color(QPalette::Window)));
     for (const auto group : groups) {
-        for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::BrightText,
-                                QPalette::Base, QPalette::AlternateBase, QPalette::Window, QPalette::Button,
-                                QPalette::Highlight, QPalette::HighlightedText})
+        for (const auto role :
+             {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::BrightText, QPalette::Base,
+              QPalette::AlternateBase, QPalette::Window, QPalette::Button, QPalette::Highlight})
             other.setColor(group, role, turned(palette.color(group, role)));
+        other.setColor(group, QPalette::HighlightedText, furthestFrom(other.color(group, QPalette::Highlight)));
         for (const auto role : {QPalette::Link, QPalette::LinkVisited})
             other.setColor(
                 group, role,
@@ -46,11 +52,6 @@ QPalette turned(const QPalette &palette)
         other.setColor(group, QPalette::ToolTipText, other.color(group, QPalette::ButtonText));
     }
     return other;
-}
-
-QColor furthestFrom(const QColor &ground)
-{
-    return contrastOf(Qt::black, ground) > contrastOf(Qt::white, ground) ? Qt::black : Qt::white;
 }
 
 void heighten(QPalette &palette)

@@ -5,7 +5,6 @@
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusServiceWatcher>
-#include <QDBusVariant>
 
 namespace platform {
 namespace {
@@ -23,6 +22,7 @@ DesktopAppearance::DesktopAppearance(QObject *parent)
     auto bus = QDBusConnection::sessionBus();
     if (!bus.isConnected())
         return;
+    qRegisterMetaType<QDBusVariant>(); // before the first message nothing is connected by the type's name
     bus.connect(service, path, interfaceName, QStringLiteral("SettingChanged"), this,
                 SLOT(settingChanged(QString, QString, QDBusVariant)));
     // A portal that is started later, or anew, may say something else.

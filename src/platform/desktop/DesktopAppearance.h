@@ -1,10 +1,9 @@
 #pragma once
 
+#include <QDBusVariant>
 #include <QObject>
 
-class QDBusMessage;
 class QDBusPendingCallWatcher;
-class QDBusVariant;
 
 namespace platform {
 
