@@ -28,6 +28,7 @@ make_debian_package() { # BUILD FOLDER
   dpkg-deb -R "$symbols" "$contents"
   install -d -m 755 "$contents/usr/share" "$contents/usr/share/doc"
   ln -s tessaro "$contents/usr/share/doc/tessaro-dbgsym"
+  chmod -R u=rwX,go=rX "$contents"
   (cd "$contents" && find usr -type f -exec md5sum {} + >DEBIAN/md5sums)
   quietly "$1/dpkg-deb.log" dpkg-deb --root-owner-group -b "$contents" "$symbols"
   rm -rf "$contents"
