@@ -48,6 +48,7 @@ OwnParametersSheet::OwnParametersSheet(const QString &templateName, const Templa
     , m_problem(new QLabel(this))
 {
     setWindowTitle(tr("Parameters of “%1”").arg(platform::forOneLine(templateName)));
+    m_common->setTabKeyNavigation(false); // Tab would go around in it
     setWindowModality(Qt::WindowModal);
     setUpOwn();
     setUpCommon(rules);

@@ -29,11 +29,11 @@ double contrastOf(const QColor &one, const QColor &other)
     return a > b ? a / b : b / a;
 }
 
-QColor readable(const QColor &colour, const QColor &ground, const QColor &text)
+QColor readable(const QColor &colour, const QColor &ground, const QColor &text, double least)
 {
     for (double share = 0; share < 1; share += step) {
         const QColor mixed = blended(colour, text, share);
-        if (contrastOf(mixed, ground) >= leastContrast)
+        if (contrastOf(mixed, ground) >= least)
             return mixed;
     }
     return text;

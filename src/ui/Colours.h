@@ -19,7 +19,8 @@
 inline constexpr double leastContrast = 4.5;
 
 /** The colour, with as much of the text's as it takes to be read on the ground; at the end the text's own. Pure. */
-[[nodiscard]] QColor readable(const QColor &colour, const QColor &ground, const QColor &text);
+[[nodiscard]] QColor readable(const QColor &colour, const QColor &ground, const QColor &text,
+                              double least = leastContrast);
 
 /** Text that steps back, and can be read in every palette. Pure. */
 [[nodiscard]] QColor secondaryText(const QColor &ground, const QColor &text);

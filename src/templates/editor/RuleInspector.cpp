@@ -73,6 +73,7 @@ RuleInspector::RuleInspector(QWidget *parent)
     setFrameShape(QFrame::NoFrame);
     setProperty("manualChapter", "rules");
     setWidgetResizable(true);
+    setFocusPolicy(Qt::NoFocus); // what lies in it has the keys, and comes to light with them
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setMinimumWidth(least);
     setAccessibleName(tr("Rules"));
