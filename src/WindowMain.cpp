@@ -16,6 +16,7 @@
 #include "support/VTAlert.h"
 #include "support/VTLog.h"
 #include "ui/Appearance.h"
+#include "ui/BoxStyle.h"
 #include "ui/FocusRing.h"
 #include "ui/Icons.h"
 #include "ui/SheetPresenter.h"
@@ -51,6 +52,7 @@ int runWindow(int &argc, char **argv, const platform::SingleInstance::Request &r
     platform::SingleInstance instance;
     fonts.finish();
     platform::DesktopAppearance appearance;
+    BoxStyle::use();
     followAppearance(appearance);
     FocusRing ring;
     openManualByKey();

@@ -54,11 +54,30 @@ protected:
 
 } // namespace
 
+ManualPage::ManualPage(QWidget *parent)
+    : QTextBrowser(parent)
+{
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn); // else it would take room from pictures that are there already
+}
+
+/// The text flows by itself; the pictures are scaled.
+void ManualPage::resizeEvent(QResizeEvent *event)
+{
+    QTextBrowser::resizeEvent(event);
+    if (event->size().width() == event->oldSize().width() || m_pictures.isEmpty())
+        return;
+    for (const QUrl &picture : std::as_const(m_pictures))
+        document()->addResource(QTextDocument::ImageResource, picture,
+                                loadResource(QTextDocument::ImageResource, picture));
+    document()->markContentsDirty(0, document()->characterCount());
+}
+
 QVariant ManualPage::loadResource(int type, const QUrl &name)
 {
     const QVariant loaded = QTextBrowser::loadResource(type, name);
     if (type != QTextDocument::ImageResource)
         return loaded;
+    m_pictures.insert(name);
     QImage image =
         loaded.userType() == QMetaType::QByteArray ? QImage::fromData(loaded.toByteArray()) : loaded.value<QImage>();
     const int room = viewport()->width() - 2 * textMargin;

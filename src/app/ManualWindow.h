@@ -14,9 +14,15 @@ class ManualPage : public QTextBrowser
     Q_OBJECT
 
 public:
-    using QTextBrowser::QTextBrowser;
+    explicit ManualPage(QWidget *parent = nullptr);
 
     [[nodiscard]] QVariant loadResource(int type, const QUrl &name) override;
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    QSet<QUrl> m_pictures; ///< of what is shown
 };
 
 /**

@@ -71,6 +71,13 @@ void heighten(QPalette &palette)
     }
 }
 
+/// The style's own would be too light for the text on it, in light and in dark. WCAG 2.1, 1.4.3.
+QColor highlightFor(const QPalette &palette, QPalette::ColorGroup group)
+{
+    const QColor text = palette.color(group, QPalette::HighlightedText);
+    return readable(palette.color(group, QPalette::Highlight), text, furthestFrom(text));
+}
+
 class Follower : public QObject
 {
 public:
@@ -92,17 +99,19 @@ public:
             wanted.scheme = Appearance::Scheme::Light;
         if (!m_wasDark && wanted.scheme == Appearance::Scheme::Light)
             wanted.scheme = Appearance::Scheme::Any; // a dark theme was chosen on purpose
-        if (m_isOwn)
+        if (m_isSet)
             QApplication::setPalette(QPalette()); // the desktop's comes to light
         const QPalette desktop = QApplication::palette();
         QPalette palette = paletteFor(wanted, desktop);
-        m_isOwn = palette != desktop;
-        const QColor placeholder = placeholderText(palette);
-        if (!m_isOwn)
+        if (palette == desktop)
             palette.setResolveMask(0); // nothing else is to be kept from following the desktop
-        for (const auto group : groups)
-            palette.setColor(group, QPalette::PlaceholderText, placeholder);
-        if (m_isOwn || desktop.color(QPalette::PlaceholderText) != placeholder)
+        for (const auto group : groups) {
+            palette.setColor(group, QPalette::PlaceholderText, placeholderText(palette));
+            if (group != QPalette::Disabled)
+                palette.setColor(group, QPalette::Highlight, highlightFor(palette, group));
+        }
+        m_isSet = palette != desktop;
+        if (m_isSet)
             QApplication::setPalette(palette);
         m_isFollowing = false;
     }
@@ -117,7 +126,7 @@ public:
 private:
     DesktopAppearance &m_appearance;
     bool m_isFollowing = false;
-    bool m_isOwn = false; ///< the palette is not the desktop's
+    bool m_isSet = false; ///< something of the palette is not the desktop's
     bool m_wasDark = false;
 };
 

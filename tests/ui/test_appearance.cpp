@@ -132,8 +132,10 @@ private Q_SLOTS:
         Portal portal;
         portal.values = {{"color-scheme", 0U}};
         DesktopAppearance appearance;
-        const QPalette desktop = QApplication::palette();
         followAppearance(appearance);
+        const QPalette before = QApplication::palette();
+        QVERIFY(contrastOf(before.color(QPalette::HighlightedText), before.color(QPalette::Highlight)) >=
+                leastContrast);
         QVERIFY(!isDark());
         portal.set("color-scheme", 1U);
         QTRY_VERIFY(isDark());
@@ -143,7 +145,7 @@ private Q_SLOTS:
         portal.set("contrast", 0U);
         portal.set("color-scheme", 0U);
         QTRY_VERIFY(!isDark());
-        QCOMPARE(QApplication::palette().color(QPalette::Highlight), desktop.color(QPalette::Highlight));
+        QCOMPARE(QApplication::palette().color(QPalette::Highlight), before.color(QPalette::Highlight));
         QCOMPARE(QApplication::palette().resolveMask() & (1ULL << QPalette::Window), 0ULL); // the desktop's again
     }
 };

@@ -137,7 +137,7 @@ void RuleInspector::buildItem(QVBoxLayout &column)
     m_repeatParameter->setAccessibleName(tr("Of the parameter"));
     m_repeatName = new QLineEdit;
     m_repeatName->setAccessibleName(tr("Called in names"));
-    m_repeatName->setMaximumWidth(fontMetrics().averageCharWidth() * 10);
+    m_repeatName->setMaximumWidth(fontMetrics().averageCharWidth() * 6);
     connect(m_repeatParameter, &QComboBox::activated, this, &RuleInspector::tellItem);
     connect(m_repeatName, &QLineEdit::editingFinished, this, &RuleInspector::tellItem);
     repeat->addWidget(new QLabel(tr("of")));
