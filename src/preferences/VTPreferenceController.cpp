@@ -43,8 +43,10 @@ VTPreferenceController::VTPreferenceController(QObject *delegate, QWidget *paren
     setAttribute(Qt::WA_DeleteOnClose);
     m_ui->setupUi(this);
     dressHints(*this);
-    resize(fontMetrics().averageCharWidth() * 102, fontMetrics().height() * 31); // every pane, at any font size
     awakeFromNib();
+    // Every pane, at any font size and in any language, with the line about the studio where there is one.
+    const int lines = m_ui->hintGreyGeneral->isHidden() ? 31 : 34;
+    resize(fontMetrics().averageCharWidth() * 102, fontMetrics().height() * lines);
 }
 
 VTPreferenceController::~VTPreferenceController()

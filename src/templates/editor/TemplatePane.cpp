@@ -313,6 +313,8 @@ bool TemplatePane::greyForStudio()
 {
     const bool isStudios = studio::decidesTemplates();
     m_studioLine->setVisible(isStudios);
+    for (int i = 0; i < m_ui->labelsLayout->count(); ++i) // grey, they would only take its room
+        m_ui->labelsLayout->itemAt(i)->widget()->setVisible(!isStudios);
     m_ui->inspector->widget()->setEnabled(!isStudios);
     m_ui->templateTable->setEditTriggers(isStudios ? QAbstractItemView::NoEditTriggers : namesAreEdited);
     m_ui->outlineView->setEditTriggers(isStudios ? QAbstractItemView::NoEditTriggers
