@@ -32,6 +32,16 @@ QLabel *heading(const QString &text)
     return label;
 }
 
+/// A reader that walks the table comes to the cell, not to what lies in it.
+void putIn(QTableWidget &table, int row, int column, QWidget *control)
+{
+    auto *cell = new QTableWidgetItem;
+    cell->setFlags(Qt::ItemIsEnabled);
+    cell->setData(Qt::AccessibleTextRole, control->accessibleName());
+    table.setItem(row, column, cell);
+    table.setCellWidget(row, column, control);
+}
+
 } // namespace
 
 OwnParametersSheet::OwnParametersSheet(const QString &templateName, const TemplateRules &rules, QWidget *parent)
@@ -150,8 +160,8 @@ void OwnParametersSheet::setUpCommon(const TemplateRules &rules)
         };
         connect(kind, &QComboBox::currentIndexChanged, value, follow);
         follow();
-        m_common->setCellWidget(row, 1, kind);
-        m_common->setCellWidget(row, 2, value);
+        putIn(*m_common, row, 1, kind);
+        putIn(*m_common, row, 2, value);
     }
 }
 

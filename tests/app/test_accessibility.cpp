@@ -1,5 +1,6 @@
 // What a screen reader finds in every pane, panel and sheet, and what it says on the main road.
 #include "app/MainWindow.h"
+#include "app/ManualWindow.h"
 #include "app/TessaroAppDelegate.h"
 #include "harness/Records.h"
 #include "harness/StoredSettings.h"
@@ -44,6 +45,28 @@ QString describe(QAccessibleInterface &item)
              item.text(QAccessible::Name));
 }
 
+/// What a control says of itself beside its name: what it is, whether it can be used, and whose label it has.
+QString untrueOf(QAccessibleInterface &item)
+{
+    const auto *widget = qobject_cast<const QWidget *>(item.object());
+    if (!widget || (widget->focusPolicy() & Qt::TabFocus) == 0 || widget->isWindow())
+        return {};
+    if (item.role() == QAccessible::NoRole || item.role() == QAccessible::Client || item.role() == QAccessible::Pane)
+        return QStringLiteral("has no role");
+    if (widget->isEnabled() == item.state().disabled)
+        return QStringLiteral("says the wrong thing of its use");
+    if (widget->isEnabled() && !item.state().focusable)
+        return QStringLiteral("says that it takes no keys");
+    for (const QLabel *label : widget->window()->findChildren<QLabel *>()) {
+        const auto labels = item.relations(QAccessible::Label);
+        const bool isTold = std::any_of(labels.begin(), labels.end(),
+                                        [&](const auto &relation) { return relation.first->object() == label; });
+        if (label->buddy() == widget && !isTold)
+            return QStringLiteral("does not know its label");
+    }
+    return {};
+}
+
 /// What is to be seen and could not be named aloud.
 void collectNameless(QAccessibleInterface *item, QStringList &nameless)
 {
@@ -60,6 +83,8 @@ void collectNameless(QAccessibleInterface *item, QStringList &nameless)
     if (needsName(item->role()) && (name.trimmed().isEmpty() || (isHeader && isNumber)) &&
         item->text(QAccessible::Description).isEmpty())
         nameless.append(describe(*item));
+    if (const QString untrue = untrueOf(*item); !untrue.isEmpty())
+        nameless.append(describe(*item) + u' ' + untrue);
     for (int i = 0; i < item->childCount(); ++i)
         collectNameless(item->child(i), nameless);
 }
@@ -162,6 +187,16 @@ private Q_SLOTS:
         walkPanel<QDialog>("import template", [&] { m_delegate->importTemplate(); });
         walkPanel<QDialog>("export template", [&] { m_delegate->exportTemplate(); });
         walkPanel<QDialog>("place", [&] { m_delegate->choosePlace(); });
+        QTRY_VERIFY(editor.rules().isRead);
+        QTest::keyClick(&window().templatePane(), Qt::Key_I, Qt::ControlModifier);
+        walkWindow(window(), "rules");
+        walkPanel<QDialog>("own parameters", [&] { m_delegate->editTemplateParameters(); });
+        walkPanel<QDialog>("table", [&] { m_delegate->createFromTable(); });
+        m_delegate->toolbarTemplateAction();
+        QVERIFY(ManualWindow::open({}));
+        QTRY_VERIFY(QApplication::activeWindow() && QApplication::activeWindow()->inherits("ManualWindow"));
+        walkWindow(*QApplication::activeWindow(), "manual");
+        QApplication::activeWindow()->close();
         QTimer::singleShot(0, this, [&] { walkPanel<QMessageBox>("a question", [] {}); });
         editor.removeFiles();
 
