@@ -30,11 +30,11 @@ QString remarkWord(PlanItem::Remark remark)
 void addItems(QJsonObject &object, const CreationPlan &plan)
 {
     QJsonArray items;
-    QJsonArray leftOut;
+    QStringList leftOut;
     plan.forEachItem([&](const PlanItem &item) {
         const QString path = item.folder.isEmpty() ? item.newName : joined(item.folder, item.newName);
         if (item.remark == PlanItem::Remark::LeftOut) {
-            leftOut.append(platform::forDisplay(path));
+            leftOut.append(path);
             return;
         }
         QJsonObject entry{{"folder", item.kind == platform::FileKind::Folder}};
@@ -48,7 +48,7 @@ void addItems(QJsonObject &object, const CreationPlan &plan)
     });
     object.insert("items", items);
     if (!leftOut.isEmpty())
-        object.insert("leftOut", leftOut);
+        insertPaths(object, QStringLiteral("leftOut"), leftOut);
 }
 
 } // namespace

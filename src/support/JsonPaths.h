@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 class QJsonObject;
 
@@ -9,3 +10,5 @@ class QJsonObject;
  * then stands KEYEncoded, its bytes percent-encoded (RFC 3986), from which a program gets the name back. Pure.
  */
 void insertPath(QJsonObject &object, const QString &key, const QString &path);
+/** The same of several: KEYEncoded has all of them, where one of them is no text. */
+void insertPaths(QJsonObject &object, const QString &key, const QStringList &paths);

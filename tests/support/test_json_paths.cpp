@@ -4,6 +4,7 @@
 #include "support/JsonPaths.h"
 
 #include <QCoreApplication>
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QTest>
@@ -37,6 +38,13 @@ private Q_SLOTS:
         QCOMPARE(isText ? read["path"].toString().toUtf8()
                         : QByteArray::fromPercentEncoding(read["pathEncoded"].toString().toLatin1()),
                  path);
+        QJsonObject several;
+        insertPaths(several, "paths", {"plain", platform::fromNative(path)});
+        const QJsonObject readOnes = QJsonDocument::fromJson(QJsonDocument(several).toJson()).object();
+        QCOMPARE(readOnes["paths"].toArray().size(), 2);
+        QCOMPARE(readOnes["pathsEncoded"].toArray().size(), isText ? 0 : 2);
+        QCOMPARE(readOnes[isText ? "paths" : "pathsEncoded"].toArray()[1].toString(),
+                 read[isText ? "path" : "pathEncoded"].toString());
     }
 };
 
