@@ -7,25 +7,29 @@
 
 #include <QGuiApplication>
 #include <QPointer>
+#include <QTimer>
 
 namespace {
 
 constexpr qint64 betweenQuestions = 300'000; // milliseconds
+constexpr std::chrono::seconds afterBusy{5};
 
 } // namespace
 
 StudioFollower::StudioFollower(QObject *parent)
     : QObject(parent)
+    , m_date(studio::lastChange())
 {
     connect(qApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
-        if (state == Qt::ApplicationActive && (!m_sinceAsked.isValid() || m_sinceAsked.hasExpired(betweenQuestions)))
+        if (state == Qt::ApplicationActive && m_sinceAsked.hasExpired(betweenQuestions))
             follow();
     });
 }
 
 void StudioFollower::follow()
 {
-    if (m_isAsking || (settings::sharedSetup.text().isEmpty() && !studio::isInForce()))
+    const bool isConcerned = !settings::sharedSetup.text().isEmpty() || studio::isInForce() || m_date.isValid();
+    if (m_isAsking || !isConcerned)
         return;
     m_isAsking = true;
     m_sinceAsked.start();
@@ -39,13 +43,17 @@ void StudioFollower::follow()
 
 void StudioFollower::take(const studio::Followed &followed)
 {
-    const platform::Outcome &outcome = followed.outcome;
     m_isAsking = false;
-    if (outcome.is(platform::Cause::Busy)) // what was in the way is soon over
-        m_sinceAsked.invalidate();
-    const bool wasAway = std::exchange(m_isAway, !outcome.ok() && !outcome.is(platform::Cause::Busy));
-    if (m_isAway && !wasAway)
-        Q_EMIT unreachable(studio::sentenceOf(followed));
-    if (followed.hasChanged)
+    if (followed.outcome.is(platform::Cause::Busy)) // what is in the way is soon over
+        QTimer::singleShot(afterBusy, this, &StudioFollower::follow);
+    QString said = followed.outcome.ok() ? QString() : studio::sentenceOf(followed);
+    if (followed.isInPart)
+        said += u' ' + followed.outcome.description();
+    if (m_said != said && !said.isEmpty())
+        Q_EMIT unreachable(said);
+    m_said = said;
+    // Another program may have exchanged it.
+    const QDateTime date = studio::lastChange();
+    if (std::exchange(m_date, date) != date || followed.hasChanged)
         Q_EMIT changed();
 }

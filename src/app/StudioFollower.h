@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDateTime>
 #include <QElapsedTimer>
 #include <QObject>
 
@@ -24,13 +25,14 @@ public:
 Q_SIGNALS:
     /** Templates, parameters or settings are different. */
     void changed();
-    /** Said once for each time that the server goes away, in words. */
+    /** Said once for each time that something gets in the way, in words. */
     void unreachable(const QString &message);
 
 private:
     void take(const studio::Followed &followed);
 
     bool m_isAsking = false;
-    bool m_isAway = false;
+    QString m_said;             ///< what is in the way; null: nothing
+    QDateTime m_date;           ///< of the copy as this program has seen it
     QElapsedTimer m_sinceAsked; ///< not valid before the first time
 };

@@ -2,6 +2,7 @@
 #include "app/TessaroAppDelegate.h"
 
 #include "app/MainWindow.h"
+#include "app/StudioFollower.h"
 #include "parameters/table/VTProjectTableController.h"
 #include "preferences/VTPreferenceController.h"
 #include "support/AdministratorQuestion.h"
@@ -32,6 +33,7 @@ void TessaroAppDelegate::showPreferences()
             m_window->templatePane().tableController().switchedToView();
     });
     connect(m_preferences, &VTPreferenceController::sharedSetupChanged, this, &TessaroAppDelegate::followStudio);
+    connect(m_preferences, &VTPreferenceController::sharedSetupChanged, m_studio.get(), &StudioFollower::follow);
     m_preferences->setWindowFlag(Qt::Window);
     // In front of the window that they belong to, and on its screen, until they have been put elsewhere.
     if (!keepPlaceOf(*m_preferences, settings::preferencesPlace))

@@ -42,6 +42,7 @@ bool TessaroAppDelegate::takeRules(ProjectRequest &request)
         return false;
     }
     request.use = **use;
+    request.templateFiles = VTDataController::filesFolder(request.templateName); // of the library that now stays
     const ReadRules rules = platform::resultInBackground(
         [&] { return ReadRules(readRules(VTDataController::bundlePath(request.templateName))); });
     if (!*rules) {

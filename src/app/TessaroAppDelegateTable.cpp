@@ -140,7 +140,10 @@ void TessaroAppDelegate::editTemplateParameters()
                                          outline.rules().rules, m_window.get());
     whenLeft<OwnParametersSheet>(*sheet, *this, [this, bundle](const OwnParametersSheet &left, bool accepted) {
         auto &now = m_window->templatePane().outlineController();
-        if (accepted && now.baseFilename() == bundle)
+        if (accepted && now.baseFilename() != bundle)
+            VTAlert::show({tr("The parameters were not stored"),
+                           tr("Another template is shown by now: that of a studio’s set-up, or of another library.")});
+        else if (accepted)
             now.changeRules(tr("Parameters"), [&](TemplateRules &rules) { left.takeInto(rules); });
     });
     sheet->open();

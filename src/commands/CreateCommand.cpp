@@ -194,6 +194,8 @@ platform::Result<ProjectRequest> CreateCommand::requestFor(const QString &templa
             platform::Cause::Invalid, {},
             Text::tr("There is no template “%1”. %2").arg(templateName, listed(m_templates)));
     const auto fresh = freshRequest(m_library, templateName);
+    if (fresh.outcome().is(platform::Cause::Busy))
+        return fresh.outcome();
     if (!fresh)
         return platform::Outcome::failure(
             fresh.outcome().cause(), {},

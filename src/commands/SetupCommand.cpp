@@ -87,7 +87,7 @@ void tellOfStudio()
     if (settings::sharedSetup.text().isEmpty() && !studio::isInForce())
         return;
     const studio::Followed followed = studio::followInTime(patience);
-    if (!followed.outcome.ok() && !followed.outcome.is(platform::Cause::Busy))
+    if (!followed.outcome.ok())
         complain(ExitStatus::done, studio::sentenceOf(followed) + u'\n' + followed.outcome.description());
 }
 
@@ -105,7 +105,9 @@ int commands::showSetup(const Invocation &invocation)
         return ExitStatus::done;
     }
     if (folder.isEmpty())
-        print(Text::tr("No set-up is shared.") + u'\n');
+        print((studio::isInForce() ? Text::tr("The set-up was left; it counts until whatever uses it has finished.")
+                                   : Text::tr("No set-up is shared.")) +
+              u'\n');
     else
         print(Text::tr("Folder: %1\nTemplates: %2\nLocked: %3\nLast change: %4")
                   .arg(folder, studio::decidesTemplates() ? Text::tr("the studio’s") : Text::tr("your own"),
@@ -131,7 +133,9 @@ int commands::useSetup(const Invocation &invocation)
     if (!stored.ok())
         return complain(stored, Text::tr("The setting could not be stored."));
     const studio::Followed followed = studio::followInTime(patienceToBegin);
-    if (followed.outcome.ok())
+    if (followed.isInPart)
+        complain(ExitStatus::done, studio::sentenceOf(followed) + u'\n' + followed.outcome.description());
+    if (followed.outcome.ok() || followed.isInPart)
         return ExitStatus::done;
     // All stood there a moment ago; of what the folder held, some may have come.
     if (forAll)

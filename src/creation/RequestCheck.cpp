@@ -92,8 +92,11 @@ platform::Result<ProjectRequest> freshRequest(const QString &library, const QStr
 {
     const QString bundle = library + formatString("/%@.tzt", templateName);
     const auto use = studio::useCopy();
-    if (!use)
-        return use.outcome();
+    const bool isOther = (library == studio::copiedTemplates()) != studio::decidesTemplates(); // since it was chosen
+    if (!use || isOther)
+        return platform::Outcome::failure(platform::Cause::Busy, {},
+                                          Text::tr("The studio’s templates are just being brought up to date. Please "
+                                                   "try again in a moment."));
     const auto rules = readRules(bundle);
     if (!rules)
         return rules.outcome();

@@ -1,12 +1,14 @@
 #include "preferences/BoundSwitch.h"
 
 #include "support/AdministratorQuestion.h"
+#include "support/Notifications.h"
 #include "support/VTAlert.h"
 #include "support/VTAuthorization.h"
 #include "ui/LockedControls.h"
 
 #include <QCheckBox>
 #include <QCoreApplication>
+#include <QSignalBlocker>
 
 namespace {
 
@@ -19,8 +21,13 @@ struct Text
 
 void bindSwitch(QCheckBox &box, const settings::SwitchSetting &setting)
 {
-    box.setChecked(setting.isOn());
-    greyWhereLocked(setting, {&box});
+    const auto show = [&box, &setting] {
+        const QSignalBlocker quiet(box);
+        box.setChecked(setting.isOn());
+        greyWhereLocked(setting, {&box});
+    };
+    show();
+    QObject::connect(&Notifications::hub(), &Notifications::settingsWritten, &box, show);
     QObject::connect(&box, &QCheckBox::toggled, &box,
                      [&setting](bool isOn) { static_cast<void>(setting.turn(isOn)); }); // the log says what failed
 }

@@ -59,12 +59,14 @@ GeneralPane::GeneralPane(Ui::Prefs_Dialog &ui, QWidget &window)
         folderchoice::browse(m_window, tr("Choose the Shared Set-up"),
                              [this](const QString &path) { useSharedSetup(path); });
     });
-    const auto grey = [&ui] {
+    bindSwitch(*ui.autoOpenFolder, settings::autoOpenFolder);
+    bindSwitch(*ui.autoQuit, settings::autoQuit);
+    bindSwitch(*ui.autoExpandFolders, settings::autoExpandFolders);
+    const auto grey = [this, &ui] {
+        m_path->follow();
+        m_shared->follow();
         greyWhere(studio::decidesTemplates(), {ui.prefsTemplatePath, ui.browseTemplates});
         greyWhere(settings::standard().isSetForMachine(settings::sharedSetup), {ui.prefsSharedPath, ui.browseShared});
-        greyWhereLocked(settings::autoOpenFolder, {ui.autoOpenFolder});
-        greyWhereLocked(settings::autoQuit, {ui.autoQuit});
-        greyWhereLocked(settings::autoExpandFolders, {ui.autoExpandFolders});
         sayWhereGrey(*ui.hintGreyGeneral);
     };
     grey();
@@ -73,9 +75,6 @@ GeneralPane::GeneralPane(Ui::Prefs_Dialog &ui, QWidget &window)
         folderchoice::browse(m_window, tr("Choose the Template Library"),
                              [this](const QString &path) { modifyTemplatePath(path); });
     });
-    bindSwitch(*ui.autoOpenFolder, settings::autoOpenFolder);
-    bindSwitch(*ui.autoQuit, settings::autoQuit);
-    bindSwitch(*ui.autoExpandFolders, settings::autoExpandFolders);
     if (!settings::holdForEveryUser())
         ui.hintAdmin->setText(
             tr("An administrator’s. It holds for you alone, unless an administrator sets it for every "
@@ -106,16 +105,19 @@ void GeneralPane::useSharedSetup(const QString &typed)
     VTLog::appendLog("User changed the shared set-up from %@ to %@", before, folder->toString());
     const platform::Outcome stored =
         folder->toString().isEmpty() ? settings::sharedSetup.reset() : settings::sharedSetup.store(*folder);
-    const platform::Outcome followed = stored.ok() ? studio::followInTime(patienceForServer).outcome : stored;
-    if (!followed.ok() && folder->toString().isEmpty()) {
-        VTAlert::show({tr("The studio’s set-up is still in use"),
-                       withCause(tr("Your own counts again as soon as what uses it has finished."), followed)},
-                      &m_window);
-    } else if (!followed.ok()) {
+    const studio::Followed followed = stored.ok() ? studio::followInTime(patienceForServer) : studio::Followed{stored};
+    if (!followed.outcome.ok() && (followed.isInPart || folder->toString().isEmpty())) {
+        const bool isUsed = followed.outcome.is(platform::Cause::Busy);
+        VTAlert::show(
+            {isUsed ? tr("The studio’s set-up is still in use") : studio::sentenceOf(followed),
+             isUsed ? withCause(tr("Your own counts again as soon as what uses it has finished."), followed.outcome)
+                    : followed.outcome.description()},
+            &m_window);
+    } else if (!followed.outcome.ok()) {
         // It stood there a moment ago; where nothing did, nothing is to stand before the machine's.
         static_cast<void>(before.isEmpty() ? settings::sharedSetup.reset() : settings::sharedSetup.store(before));
-        static_cast<void>(studio::followInTime(patienceForOld)); // some of it may have come
-        tellWhyNot(followed);
+        static_cast<void>(studio::followInTime(patienceForOld)); // an exchange may have begun
+        tellWhyNot(followed.outcome);
     }
     m_shared->refresh();
     m_path->refresh();

@@ -21,6 +21,7 @@
 #include <QHeaderView>
 #include <QMimeData>
 #include <QRegularExpressionValidator>
+#include <QSignalBlocker>
 #include <QStyledItemDelegate>
 #include <ctime>
 #include <memory>
@@ -91,6 +92,13 @@ void ParametersPane::follow()
     if (m_ui.parameterTable->indexWidget(m_ui.parameterTable->currentIndex()))
         return;
     greyWhatIsLocked();
+    if (const QString separator = settings::separatorChar.text();
+        m_ui.separator->currentText() != separator && !m_ui.separator->hasFocus()) {
+        const QSignalBlocker quiet(m_ui.separator);
+        m_ui.separator->setEditText(separator);
+    }
+    if (settings::dateFormat.text() != m_ui.dateFormatText->text() && !m_ui.dateFormatText->hasFocus())
+        showDateFormat();
     m_parameters.reload();
 }
 
@@ -235,6 +243,12 @@ void ParametersPane::populateDateFormats()
     for (const QString &format : parameterlist::dateFormats())
         popUp->addItem(platform::formatDate(format, now), format);
     popUp->addItem(tr("Custom"));
+    showDateFormat();
+}
+
+void ParametersPane::showDateFormat()
+{
+    auto *popUp = m_ui.dateFormatPopUp;
     const QString stored = settings::dateFormat.text();
     const int known = popUp->findData(stored);
     popUp->setCurrentIndex(known >= 0 ? known : popUp->count() - 1);

@@ -35,6 +35,7 @@ private:
     void greyWhatIsLocked();
     void follow();
     void populateDateFormats();
+    void showDateFormat();
     void changeDateFormat();
     void changeCustomDateFormat();
     void changeSeparator(const QString &typed);

@@ -35,6 +35,12 @@ void PathField::refresh()
     m_hint.setText(m_usualHint);
 }
 
+void PathField::follow()
+{
+    if (!m_line.hasFocus() || !m_line.isModified())
+        refresh();
+}
+
 void PathField::check()
 {
     const auto path = settings::checked(m_place.setting, m_line.text());

@@ -29,6 +29,8 @@ public:
 
     /** Shows what is in force. */
     void refresh();
+    /** The same, but for what is being typed. */
+    void follow();
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;

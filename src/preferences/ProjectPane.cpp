@@ -24,10 +24,9 @@ ProjectPane::ProjectPane(Ui::Prefs_Dialog &ui, QWidget &window)
     });
     bindSwitch(*ui.useFixedProjectLocation, settings::useFixedProjectLocation);
     bindSwitch(*ui.strictNaming, settings::strictNaming);
-    const auto grey = [&ui] {
+    const auto grey = [this, &ui] {
+        m_path->follow();
         greyWhereLocked(settings::fixedProjectLocationPath, {ui.prefsFixedPath, ui.browseFixed});
-        greyWhereLocked(settings::useFixedProjectLocation, {ui.useFixedProjectLocation});
-        greyWhereLocked(settings::strictNaming, {ui.strictNaming});
         sayWhereGrey(*ui.hintGreyProject);
     };
     grey();

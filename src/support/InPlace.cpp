@@ -42,12 +42,12 @@ Outcome makeDirectly(const InPlace &place, const std::function<Outcome(const QSt
 /// File systems that cannot exchange two items in one step: the old one comes here first, and goes back if need be.
 Outcome swap(const InPlace &place, const StagingFolder &staging, const QString &old)
 {
-    const Outcome taken = platform::moveItem(place.destination, old);
+    const Outcome taken = platform::moveMade(place.destination, old);
     if (!taken.ok())
         return taken;
     const Outcome moved = staging.moveOut(platform::lastComponent(place.destination), place.destination);
     if (!moved.ok())
-        static_cast<void>(platform::moveItem(old, place.destination)); // else it is looked after as what is left here
+        static_cast<void>(platform::moveMade(old, place.destination)); // else it is looked after as what is left here
     return moved;
 }
 

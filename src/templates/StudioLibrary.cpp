@@ -38,7 +38,7 @@ struct Text
 
 constexpr std::chrono::seconds lockPatience{1};
 constexpr std::chrono::milliseconds turn{100};
-constexpr std::chrono::milliseconds longestSilence{15'000};
+constexpr std::chrono::milliseconds longestSilence{60'000}; // a large template is written out to the disk
 /// Drives of other systems keep dates to two seconds.
 constexpr long long coarsestDate = 2'000'000'000; // nanoseconds
 
@@ -60,6 +60,9 @@ Result<QMap<QString, Item>> itemsBelow(const QString &folder, platform::CopyMoni
         if (own.error != 0)
             return Outcome::fromNumber(own.error, joined(folder, path));
         for (const platform::TreeItem &item : own.items) {
+            if (monitor.cancelled)
+                break;
+            ++monitor.items;
             const QString name = platform::fromNative(own.nameOf(item));
             const QString below = path.isEmpty() ? name : joined(path, name);
             items.insert(below, {platform::kindOfType(item.type), platform::madeItemAt(joined(folder, below))});
@@ -85,7 +88,8 @@ Result<bool> isSame(const QString &shared, const QString &copy, platform::CopyMo
     const auto given = itemsBelow(copy, monitor);
     if (!given || given->keys() != wanted->keys())
         return false;
-    for (auto item = wanted->begin(); item != wanted->end(); ++item) {
+    for (auto item = wanted->begin(); item != wanted->end() && !monitor.cancelled; ++item) {
+        ++monitor.items;
         const Item &other = given->value(item.key());
         const QString from = joined(shared, item.key());
         const QString to = joined(copy, item.key());
@@ -94,7 +98,7 @@ Result<bool> isSame(const QString &shared, const QString &copy, platform::CopyMo
             (item->kind == platform::FileKind::Link && platform::linkTarget(from) != platform::linkTarget(to)))
             return false;
     }
-    return true;
+    return monitor.cancelled ? Result<bool>(Outcome::failure(Cause::Cancelled, shared)) : true;
 }
 
 /// A link to a template is one: a studio may keep them elsewhere. What it leads to may be out of reach just now.
@@ -151,13 +155,21 @@ struct BundleCopy
 
 Outcome removed(const QString &path, const QString &)
 {
-    return platform::removeTree(path);
+    return platform::removeOwnTree(path);
+}
+
+/// As the server has them, some may not be changed even by their owner.
+Outcome putInTrashOpened(const QString &path, const QString &knownAs)
+{
+    platform::makeMovable(path);
+    return fileoperations::putInTrash(path, knownAs);
 }
 
 /// What of the templates is to become of the copy.
 struct Exchange
 {
-    bool isAll = false;    ///< the studio shares settings alone: its templates go
+    bool isListed = false; ///< what the studio has is known
+    bool isAll = false;    ///< it shares settings alone: its templates go
     QStringList bundles{}; ///< to come from the folder for what is on its way
     QStringList gone{};
     Outcome first{}; ///< failure
@@ -172,20 +184,22 @@ QString onItsWay()
 Exchange prepareTemplates(const QString &shared, platform::CopyMonitor &monitor)
 {
     const auto entries = platform::listFolder(shared);
-    if (entries.outcome().is(Cause::Missing))
-        return {platform::leadsToFolder(copiedTemplates())};
+    // Behind a link that leads nowhere, and on a server that has just gone, it is missing in another sense.
+    if (entries.outcome().is(Cause::Missing) && platform::isMissing(shared) &&
+        platform::targetExists(joined(platform::parentPath(shared), setupFile)))
+        return {true, platform::leadsToFolder(copiedTemplates())};
     if (!entries)
         return {.first = entries.outcome()};
     const Outcome made = platform::makeFolders(onItsWay());
     if (!made.ok())
         return {.first = made};
     for (const QString &item : platform::StagingFolder::abandonedIn(onItsWay()))
-        static_cast<void>(platform::removeTree(platform::parentPath(item)));
+        static_cast<void>(platform::removeOwnTree(platform::parentPath(item)));
     BundleCopy copy{shared, onItsWay(), copiedTemplates(), monitor, {}, {}};
     const QStringList wanted = bundlesIn(*entries);
     for (const QString &bundle : wanted)
         copy.copy(bundle, removed);
-    Exchange exchange{.bundles = copy.copied, .first = copy.first};
+    Exchange exchange{.isListed = true, .bundles = copy.copied, .first = copy.first};
     for (const QString &bundle : bundlesIn(platform::listFolder(copiedTemplates()).valueOr({}))) {
         if (!wanted.contains(bundle))
             exchange.gone.append(bundle);
@@ -193,29 +207,25 @@ Exchange prepareTemplates(const QString &shared, platform::CopyMonitor &monitor)
     return exchange;
 }
 
-/// Somebody may have worked in the copy all the same: nothing of it is removed.
-Outcome exchangeTemplates(const Exchange &exchange, bool &hasChanged)
+/// Somebody may have worked in the copy all the same: nothing of it is removed. One that cannot be exchanged keeps none
+/// of the others.
+void exchangeTemplates(Exchange &exchange, bool &hasChanged)
 {
-    if (exchange.isAll) {
-        hasChanged = true;
-        return fileoperations::putInTrash(copiedTemplates(), copiedTemplates());
-    }
-    Outcome done = platform::makeFolders(copiedTemplates());
-    for (const QString &bundle : exchange.bundles) {
-        if (!done.ok())
-            return done;
-        done = fileoperations::makeInPlace(
-            {joined(copiedTemplates(), bundle), {}, fileoperations::Replaces::WhatStandsThere},
-            [&](const QString &path) { return platform::moveItem(joined(onItsWay(), bundle), path); });
+    const auto note = [&](const Outcome &done) {
         hasChanged = hasChanged || done.ok();
-    }
-    for (const QString &bundle : exchange.gone) {
-        const QString copy = joined(copiedTemplates(), bundle);
-        if (done.ok())
-            done = fileoperations::putInTrash(copy, copy);
-        hasChanged = hasChanged || done.ok();
-    }
-    return done;
+        if (!done.ok() && exchange.first.ok())
+            exchange.first = done;
+    };
+    if (exchange.isAll)
+        return note(fileoperations::putInTrash(copiedTemplates(), copiedTemplates()));
+    if (const Outcome made = platform::makeFolders(copiedTemplates()); !made.ok())
+        return note(made);
+    for (const QString &bundle : std::as_const(exchange.bundles))
+        note(fileoperations::makeInPlace(
+            {joined(copiedTemplates(), bundle), {}, fileoperations::Replaces::WhatStandsThere, putInTrashOpened},
+            [&](const QString &path) { return platform::moveMade(joined(onItsWay(), bundle), path); }));
+    for (const QString &bundle : std::as_const(exchange.gone))
+        note(putInTrashOpened(joined(copiedTemplates(), bundle), joined(copiedTemplates(), bundle)));
 }
 
 /// Only what may be shared.
@@ -281,28 +291,31 @@ Outcome followFolder(const QString &folder, platform::CopyMonitor &monitor, Foll
         joined(platform::parentPath(copyFolder()), QStringLiteral(".Studio follows.lock")), lockPatience);
     if (lock.outcome().is(Cause::Busy))
         return lock.outcome();
-    const Exchange exchange = prepareTemplates(joined(folder, templatesFolder), monitor);
-    const QVariantMap wanted = onlyShared(shared->toMap());
-    const bool isOther = !isInForce() || platform::readPropertyListFile(copiedFile()).valueOr({}).toMap() != wanted;
+    Exchange exchange = prepareTemplates(joined(folder, templatesFolder), monitor);
     if (monitor.cancelled)
         return Outcome::failure(Cause::Cancelled, folder);
-    if (exchange.isAll || isOther || !exchange.bundles.isEmpty() || !exchange.gone.isEmpty()) {
+    if (!exchange.isListed && !platform::leadsToFolder(copiedTemplates()))
+        return exchange.first; // settings without their templates would be half of a set-up
+    const QVariantMap wanted = onlyShared(shared->toMap());
+    const bool isOther = !isInForce() || platform::readPropertyListFile(copiedFile()).valueOr({}).toMap() != wanted;
+    const bool isMoving = exchange.isAll || !exchange.bundles.isEmpty() || !exchange.gone.isEmpty();
+    if (isMoving || isOther) {
         const auto alone = changeCopy();
         if (!alone)
             return alone.outcome();
         if (settings::sharedSetup.text() != folder) { // another one counts by now
-            static_cast<void>(platform::removeTree(onItsWay()));
+            static_cast<void>(platform::removeOwnTree(onItsWay()));
             return Outcome::failure(Cause::Busy, folder);
         }
-        if (const Outcome exchanged = exchangeTemplates(exchange, followed.hasChanged); !exchanged.ok())
-            return exchanged;
-        if (isOther) {
-            followed.hasChanged = true;
-            if (const Outcome written = platform::writePropertyListFile(copiedFile(), wanted); !written.ok())
-                return written;
-        }
+        if (isMoving)
+            exchangeTemplates(exchange, followed.hasChanged);
+        // Also when it is the same: its date says of when the copy is.
+        if (const Outcome written = platform::writePropertyListFile(copiedFile(), wanted); !written.ok())
+            return written;
+        followed.hasChanged = true;
     }
-    static_cast<void>(platform::removeTree(onItsWay())); // what stays is looked at the next time
+    if (const Outcome gone = platform::removeOwnTree(onItsWay()); !gone.ok())
+        VTLog::appendLog("Unable to remove %@", gone.description());
     followed.isInPart = !exchange.first.ok();
     return exchange.first;
 }
@@ -355,11 +368,21 @@ Followed followInTime(std::chrono::milliseconds patience)
 
 QString sentenceOf(const Followed &followed)
 {
+    const QString copy = QLocale().toString(lastChange(), QLocale::ShortFormat);
     if (followed.isInPart)
-        return Text::tr("Part of the studio’s set-up cannot be read.");
-    return isInForce() ? Text::tr("The studio’s set-up cannot be reached. The copy of %1 is used.")
-                             .arg(QLocale().toString(lastChange(), QLocale::ShortFormat))
-                       : Text::tr("The studio’s set-up cannot be reached. Your own is used.");
+        return Text::tr("Part of the studio’s set-up could not be taken over.");
+    switch (followed.outcome.cause()) {
+    case Cause::Missing:
+    case Cause::Unreachable:
+    case Cause::TimedOut:
+        return isInForce() ? Text::tr("The studio’s set-up cannot be reached. The copy of %1 is used.").arg(copy)
+                           : Text::tr("The studio’s set-up cannot be reached. Your own is used.");
+    case Cause::Busy:
+        return Text::tr("Another program takes over or uses the studio’s set-up just now; what is new waits.");
+    default:
+        return isInForce() ? Text::tr("The studio’s set-up could not be taken over. The copy of %1 is used.").arg(copy)
+                           : Text::tr("The studio’s set-up could not be taken over. Your own is used.");
+    }
 }
 
 QDateTime lastChange()

@@ -11,6 +11,7 @@
 #include <QMenuBar>
 #include <QPainter>
 #include <QRadioButton>
+#include <QStyle>
 
 namespace {
 
@@ -67,38 +68,53 @@ FocusRing::~FocusRing()
 
 void FocusRing::follow(QWidget *focus)
 {
-    if (m_around)
-        m_around->removeEventFilter(this);
+    for (const auto &watched : std::as_const(m_watched)) {
+        if (watched)
+            watched->removeEventFilter(this);
+    }
+    m_watched.clear();
     m_around = focus && needsRing(*focus) ? focus : nullptr;
-    if (m_around)
-        m_around->installEventFilter(this);
+    m_ground = m_around;
+    // What lies between moves it, too; beyond what scrolls nothing of it is to be seen.
+    while (m_ground && !qobject_cast<QAbstractScrollArea *>(m_around) && !m_ground->isWindow() &&
+           !qobject_cast<QAbstractScrollArea *>(m_ground->parentWidget())) {
+        m_watched.append(m_ground);
+        m_ground = m_ground->parentWidget();
+    }
+    if (m_ground)
+        m_watched.append(m_ground);
+    for (const auto &watched : std::as_const(m_watched))
+        watched->installEventFilter(this);
     place();
 }
 
 void FocusRing::place()
 {
-    const bool isAround = !qobject_cast<QAbstractScrollArea *>(m_around);
-    QWidget *ground = !m_around ? nullptr : isAround ? m_around->parentWidget() : m_around.data();
-    if (!ground || !m_around->isVisible() || !m_around->window()->testAttribute(Qt::WA_KeyboardFocusChange)) {
+    if (!m_around || !m_ground || !m_around->isVisible() ||
+        !m_around->window()->testAttribute(Qt::WA_KeyboardFocusChange)) {
         if (m_ring)
             m_ring->hide();
         return;
     }
-    if (!m_ring || m_ring->parentWidget() != ground) {
+    if (!m_ring || m_ring->parentWidget() != m_ground) {
         delete m_ring;
-        m_ring = new Ring(ground);
+        m_ring = new Ring(m_ground);
     }
-    QRect area = m_around->geometry();
+    QRect area = m_around->rect();
     if (qobject_cast<QCheckBox *>(m_around) || qobject_cast<QRadioButton *>(m_around)) // often as wide as its column
-        area.setWidth(qMin(area.width(), m_around->sizeHint().width()));
-    m_ring->setGeometry(isAround ? area.adjusted(-outside, -outside, outside, outside) : m_around->rect());
+        area = QStyle::alignedRect(m_around->layoutDirection(), Qt::AlignLeft | Qt::AlignVCenter,
+                                   {qMin(area.width(), m_around->sizeHint().width()), area.height()}, area);
+    const bool isInside = m_ground == m_around;
+    m_ring->setGeometry(isInside ? area
+                                 : area.translated(m_around->mapTo(m_ground.data(), QPoint()))
+                                       .adjusted(-outside, -outside, outside, outside));
     m_ring->show();
     m_ring->raise();
 }
 
 bool FocusRing::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched != m_around)
+    if (!m_around)
         return false;
     switch (event->type()) {
     case QEvent::Move:
@@ -109,7 +125,7 @@ bool FocusRing::eventFilter(QObject *watched, QEvent *event)
         place();
         break;
     case QEvent::MouseButtonPress:
-        if (m_ring)
+        if (m_ring && watched == m_around)
             m_ring->hide();
         break;
     default:

@@ -22,6 +22,8 @@ private:
     void follow(QWidget *focus);
     void place();
 
-    QPointer<QWidget> m_around; ///< null: nothing needs it
-    QPointer<QWidget> m_ring;   ///< goes with whatever it is drawn on, and is made anew
+    QPointer<QWidget> m_around;         ///< null: nothing needs it
+    QPointer<QWidget> m_ground;         ///< what it is drawn on: the window, what scrolls, or the list itself
+    QList<QPointer<QWidget>> m_watched; ///< from the one to the other
+    QPointer<QWidget> m_ring;           ///< goes with whatever it is drawn on, and is made anew
 };

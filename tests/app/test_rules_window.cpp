@@ -142,6 +142,7 @@ private Q_SLOTS:
         button(inspector(), "Add Condition")->click();
         QTRY_COMPARE(rules().ruleOf("A").when.tests.size(), 1);
         choose(box("Comparison"), "is greater than");
+        QTest::qWait(200); // the row is made anew when the rules have been read again
         auto *value = inspector().findChild<QLineEdit *>();
         for (QLineEdit *line : inspector().findChildren<QLineEdit *>())
             value = line->accessibleName() == "Value" && line->isVisible() ? line : value;

@@ -212,6 +212,54 @@ private Q_SLOTS:
         QCOMPARE(listed(), QStringList({"Film", "Linked"}));
     }
 
+    /// What the server lets nobody change comes, is replaced, and comes anew, wherever it was left.
+    void closedFolders()
+    {
+        if (geteuid() == 0)
+            QSKIP("to root everything is open");
+        const auto close = [this](mode_t mode) {
+            for (const char *folder : {"Templates/Film.tzt/Files/A", "Templates/Film.tzt/Files", "Templates/Film.tzt"})
+                QCOMPARE(chmod(shared(folder).toUtf8(), mode), 0);
+        };
+        use();
+        for (const char *text : {"first", "second", "the third one"}) {
+            close(0755);
+            writeFile(shared("Templates/Film.tzt/Files/A/x.txt"), text);
+            close(0555);
+            const auto inUse = studio::useCopy(); // what is on its way is replaced there, too
+            const auto followed = *inUse ? studio::follow() : studio::Followed();
+            QVERIFY2(!*inUse || followed.outcome.is(Cause::Busy), qPrintable(followed.outcome.description()));
+            if (*inUse)
+                continue;
+            QVERIFY(studio::follow().outcome.ok());
+        }
+        QVERIFY(studio::follow().outcome.ok());
+        QCOMPARE(readFile(VTDataController::filesFolder("Film") + "/A/x.txt"), "the third one");
+        QVERIFY(!QDir(studio::copyFolder()).exists(".incoming"));
+        close(0755);
+    }
+
+    /// A folder of templates that cannot be looked into is not taken for none, nor for an empty one.
+    void templatesOutOfReach()
+    {
+        const QString templates = shared("Templates");
+        QVERIFY(QFile::rename(templates, m_work->filePath("Away")));
+        QVERIFY(QFile::link(templates, templates)); // leads to itself
+        use();
+        QVERIFY(!studio::follow().outcome.ok());
+        QVERIFY(!studio::isInForce());
+        QCOMPARE(listed(), QStringList{"Own"});
+        QVERIFY(QFile::remove(templates) && QFile::rename(m_work->filePath("Away"), templates));
+        QVERIFY(studio::follow().outcome.ok());
+        QVERIFY(QFile::rename(templates, m_work->filePath("Away")));
+        QVERIFY(QFile::link(m_work->filePath("nowhere"), templates));
+        write({{"separatorChar", "+"}});
+        const auto followed = studio::follow();
+        QVERIFY(followed.isInPart);
+        QCOMPARE(listed(), QStringList{"Film"});
+        QCOMPARE(settings::separatorChar.text(), "+");
+    }
+
     /// A template that cannot be read whole is not taken over in part.
     void templateThatCannotBeRead()
     {

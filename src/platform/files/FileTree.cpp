@@ -79,6 +79,8 @@ private:
         m_top = openFolder(parent, name);
         if (!m_top.isOpen()) // it is opened another way, or fails, in its turn
             return;
+        if (m_closed == Closed::IsOpened)
+            fchmod(m_top.get(), 0700);
         std::string below;
         removeBelow(m_top.get(), below, 0);
         while (!m_broughtUp.empty() && m_error == 0) {

@@ -124,23 +124,36 @@ void StagingFolder::giveToOwnerOfPlace() const
     giveAllBelow(m_lock.get(), place);
 }
 
-Outcome StagingFolder::takeIn(const QString &item) const
+void makeMovable(const QString &folder)
+{
+    const PathAt at(folder);
+    const UniqueDescriptor opened(openat(at.folder(), at.name(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+    struct stat info;
+    if (opened.isOpen() && fstat(opened.get(), &info) == 0)
+        static_cast<void>(fchmod(opened.get(), (info.st_mode & 07777U) | S_IWUSR) == 0); // else the move says why not
+}
+
+Outcome moveMade(const QString &item, const QString &destination)
 {
     const MadeMovable movable(item);
-    return moveItem(item, joined(m_path, lastComponent(item)));
+    return moveItem(item, destination);
+}
+
+Outcome StagingFolder::takeIn(const QString &item) const
+{
+    return moveMade(item, joined(m_path, lastComponent(item)));
 }
 
 Outcome StagingFolder::moveOut(const QString &name, const QString &destination) const
 {
-    const QString made = joined(m_path, name);
-    const MadeMovable movable(made);
-    return moveItem(made, destination);
+    return moveMade(joined(m_path, name), destination);
 }
 
 Outcome StagingFolder::exchange(const QString &name, const QString &destination) const
 {
     const QString made = joined(m_path, name);
     const MadeMovable movable(made);
+    const MadeMovable movesToo(destination);
     const PathAt from(made);
     const PathAt to(destination);
     if (renameat2(from.folder(), from.name(), to.folder(), to.name(), RENAME_EXCHANGE) == 0)

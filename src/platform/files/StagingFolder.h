@@ -55,4 +55,10 @@ private:
     UniqueDescriptor m_lock; ///< of the folder itself, locked as long as it lives
 };
 
+/** moveItem() of what was made here: a folder that its owner may not change moves, too, and is closed again. */
+Outcome moveMade(const QString &item, const QString &destination);
+/** From now on its owner may change the folder, and so it can be moved by whatever moves it; nothing for other items.
+ */
+void makeMovable(const QString &folder);
+
 } // namespace platform
