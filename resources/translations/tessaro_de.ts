@@ -2304,6 +2304,10 @@ Mit --overwrite kommt es in den Papierkorb und wird neu angelegt.</translation>
         <source>There are: %1.</source>
         <translation>Vorhanden sind: %1.</translation>
     </message>
+    <message>
+        <source>The studio’s templates are just being brought up to date. Please try again in a moment.</source>
+        <translation>Die Vorlagen des Studios werden gerade auf den neuesten Stand gebracht. Bitte versuchen Sie es gleich noch einmal.</translation>
+    </message>
 </context>
 <context>
     <name>ResultModel</name>
@@ -2753,6 +2757,10 @@ Letzte Änderung: %4</translation>
         <source>The template library cannot be read.</source>
         <translation>Die Vorlagenbibliothek lässt sich nicht lesen.</translation>
     </message>
+    <message>
+        <source>The set-up was left; it counts until whatever uses it has finished.</source>
+        <translation>Die Einrichtung wurde verlassen; sie gilt, bis fertig ist, was sie verwendet.</translation>
+    </message>
 </context>
 <context>
     <name>Spinner</name>
@@ -2772,10 +2780,6 @@ Letzte Änderung: %4</translation>
         <translation>Die Einrichtung des Studios wird übernommen</translation>
     </message>
     <message>
-        <source>Part of the studio’s set-up cannot be read.</source>
-        <translation>Ein Teil der Einrichtung des Studios lässt sich nicht lesen.</translation>
-    </message>
-    <message>
         <source>The studio’s set-up cannot be reached. The copy of %1 is used.</source>
         <translation>Die Einrichtung des Studios ist nicht erreichbar. Die Kopie vom %1 wird verwendet.</translation>
     </message>
@@ -2786,6 +2790,22 @@ Letzte Änderung: %4</translation>
     <message>
         <source>Writing the studio’s set-up</source>
         <translation>Die Einrichtung des Studios wird geschrieben</translation>
+    </message>
+    <message>
+        <source>Part of the studio’s set-up could not be taken over.</source>
+        <translation>Ein Teil der Einrichtung des Studios ließ sich nicht übernehmen.</translation>
+    </message>
+    <message>
+        <source>Another program takes over or uses the studio’s set-up just now; what is new waits.</source>
+        <translation>Ein anderes Programm übernimmt oder verwendet gerade die Einrichtung des Studios; Neues wartet so lange.</translation>
+    </message>
+    <message>
+        <source>The studio’s set-up could not be taken over. The copy of %1 is used.</source>
+        <translation>Die Einrichtung des Studios ließ sich nicht übernehmen. Die Kopie vom %1 wird verwendet.</translation>
+    </message>
+    <message>
+        <source>The studio’s set-up could not be taken over. Your own is used.</source>
+        <translation>Die Einrichtung des Studios ließ sich nicht übernehmen. Ihre eigene wird verwendet.</translation>
     </message>
 </context>
 <context>
@@ -3799,6 +3819,14 @@ Passen Sie die mitgelieferten Vorlagen an Ihren Bedarf an, oder bauen Sie eigene
     <message>
         <source>Nothing was created. Please try again in a moment.</source>
         <translation>Es wurde nichts angelegt. Bitte versuchen Sie es gleich noch einmal.</translation>
+    </message>
+    <message>
+        <source>The parameters were not stored</source>
+        <translation>Die Parameter wurden nicht gespeichert</translation>
+    </message>
+    <message>
+        <source>Another template is shown by now: that of a studio’s set-up, or of another library.</source>
+        <translation>Inzwischen wird eine andere Vorlage gezeigt: die der Einrichtung eines Studios oder einer anderen Bibliothek.</translation>
     </message>
 </context>
 <context>

@@ -2304,6 +2304,10 @@ Use --overwrite para moverlo a la papelera y crearlo de nuevo.</translation>
         <source>There are: %1.</source>
         <translation>Disponibles: %1.</translation>
     </message>
+    <message>
+        <source>The studio’s templates are just being brought up to date. Please try again in a moment.</source>
+        <translation>Las plantillas del estudio se están actualizando en este momento. Vuelva a intentarlo dentro de un instante.</translation>
+    </message>
 </context>
 <context>
     <name>ResultModel</name>
@@ -2753,6 +2757,10 @@ Bloqueado: %3
         <source>The template library cannot be read.</source>
         <translation>No se puede leer la biblioteca de plantillas.</translation>
     </message>
+    <message>
+        <source>The set-up was left; it counts until whatever uses it has finished.</source>
+        <translation>Se ha dejado la configuración; se aplica hasta que termine lo que la usa.</translation>
+    </message>
 </context>
 <context>
     <name>Spinner</name>
@@ -2772,10 +2780,6 @@ Bloqueado: %3
         <translation>Adoptando la configuración del estudio</translation>
     </message>
     <message>
-        <source>Part of the studio’s set-up cannot be read.</source>
-        <translation>No se puede leer una parte de la configuración del estudio.</translation>
-    </message>
-    <message>
         <source>The studio’s set-up cannot be reached. The copy of %1 is used.</source>
         <translation>No se puede acceder a la configuración del estudio. Se usa la copia del %1.</translation>
     </message>
@@ -2786,6 +2790,22 @@ Bloqueado: %3
     <message>
         <source>Writing the studio’s set-up</source>
         <translation>Guardando la configuración del estudio</translation>
+    </message>
+    <message>
+        <source>Part of the studio’s set-up could not be taken over.</source>
+        <translation>No se pudo adoptar una parte de la configuración del estudio.</translation>
+    </message>
+    <message>
+        <source>Another program takes over or uses the studio’s set-up just now; what is new waits.</source>
+        <translation>Otro programa está adoptando o usando la configuración del estudio en este momento; lo nuevo espera.</translation>
+    </message>
+    <message>
+        <source>The studio’s set-up could not be taken over. The copy of %1 is used.</source>
+        <translation>No se pudo adoptar la configuración del estudio. Se usa la copia del %1.</translation>
+    </message>
+    <message>
+        <source>The studio’s set-up could not be taken over. Your own is used.</source>
+        <translation>No se pudo adoptar la configuración del estudio. Se usa la suya.</translation>
     </message>
 </context>
 <context>
@@ -3799,6 +3819,14 @@ Adapte las plantillas incluidas a sus necesidades o cree las suyas desde cero.</
     <message>
         <source>Nothing was created. Please try again in a moment.</source>
         <translation>No se ha creado nada. Vuelva a intentarlo dentro de un instante.</translation>
+    </message>
+    <message>
+        <source>The parameters were not stored</source>
+        <translation>Los parámetros no se guardaron</translation>
+    </message>
+    <message>
+        <source>Another template is shown by now: that of a studio’s set-up, or of another library.</source>
+        <translation>Ahora se muestra otra plantilla: la de la configuración de un estudio o la de otra biblioteca.</translation>
     </message>
 </context>
 <context>

@@ -2304,6 +2304,10 @@ Utilisez --overwrite pour le mettre à la corbeille et le recréer.</translation
         <source>There are: %1.</source>
         <translation>Disponibles&#xa0;: %1.</translation>
     </message>
+    <message>
+        <source>The studio’s templates are just being brought up to date. Please try again in a moment.</source>
+        <translation>Les modèles du studio sont en cours de mise à jour. Veuillez réessayer dans un instant.</translation>
+    </message>
 </context>
 <context>
     <name>ResultModel</name>
@@ -2753,6 +2757,10 @@ Dernière modification&#xa0;: %4</translation>
         <source>The template library cannot be read.</source>
         <translation>Impossible de lire la bibliothèque de modèles.</translation>
     </message>
+    <message>
+        <source>The set-up was left; it counts until whatever uses it has finished.</source>
+        <translation>La configuration a été quittée ; elle s’applique jusqu’à ce que ce qui l’utilise ait terminé.</translation>
+    </message>
 </context>
 <context>
     <name>Spinner</name>
@@ -2772,10 +2780,6 @@ Dernière modification&#xa0;: %4</translation>
         <translation>Reprise de la configuration du studio</translation>
     </message>
     <message>
-        <source>Part of the studio’s set-up cannot be read.</source>
-        <translation>Une partie de la configuration du studio est illisible.</translation>
-    </message>
-    <message>
         <source>The studio’s set-up cannot be reached. The copy of %1 is used.</source>
         <translation>La configuration du studio est inaccessible. La copie du %1 est utilisée.</translation>
     </message>
@@ -2786,6 +2790,22 @@ Dernière modification&#xa0;: %4</translation>
     <message>
         <source>Writing the studio’s set-up</source>
         <translation>Enregistrement de la configuration du studio</translation>
+    </message>
+    <message>
+        <source>Part of the studio’s set-up could not be taken over.</source>
+        <translation>Une partie de la configuration du studio n’a pas pu être reprise.</translation>
+    </message>
+    <message>
+        <source>Another program takes over or uses the studio’s set-up just now; what is new waits.</source>
+        <translation>Un autre programme reprend ou utilise la configuration du studio en ce moment ; les nouveautés attendent.</translation>
+    </message>
+    <message>
+        <source>The studio’s set-up could not be taken over. The copy of %1 is used.</source>
+        <translation>La configuration du studio n’a pas pu être reprise. La copie du %1 est utilisée.</translation>
+    </message>
+    <message>
+        <source>The studio’s set-up could not be taken over. Your own is used.</source>
+        <translation>La configuration du studio n’a pas pu être reprise. La vôtre est utilisée.</translation>
     </message>
 </context>
 <context>
@@ -3799,6 +3819,14 @@ Adaptez les modèles fournis à vos besoins ou créez les vôtres de A à Z.</tr
     <message>
         <source>Nothing was created. Please try again in a moment.</source>
         <translation>Rien n’a été créé. Veuillez réessayer dans un instant.</translation>
+    </message>
+    <message>
+        <source>The parameters were not stored</source>
+        <translation>Les paramètres n’ont pas été enregistrés</translation>
+    </message>
+    <message>
+        <source>Another template is shown by now: that of a studio’s set-up, or of another library.</source>
+        <translation>Un autre modèle est désormais affiché : celui de la configuration d’un studio, ou d’une autre bibliothèque.</translation>
     </message>
 </context>
 <context>
