@@ -46,11 +46,14 @@ QStringList lockedNow()
 }
 
 /// What everybody starts with, without what this user has typed. Defaults are in it, too: what is locked has a value.
-QVariantMap sharedSettings()
+QVariantMap sharedSettings(const QStringList &locked)
 {
     QVariantMap shared;
     for (const settings::Setting *setting : settings::all()) {
-        if (!studio::sharedKeys().contains(*setting))
+        // A folder that nobody has chosen lies in this user's own home.
+        const bool isChosen = settings::standard().usersValue(*setting).isValid() || locked.contains(*setting) ||
+                              setting->type != settings::Type::Path;
+        if (!studio::sharedKeys().contains(*setting) || !isChosen)
             continue;
         const QVariant value = setting->value();
         if (setting->type == settings::Type::Switch || setting->type == settings::Type::Boolean)
@@ -173,7 +176,7 @@ int commands::exportSetup(const Invocation &invocation)
     // Before the first start there is no library yet.
     if (const Outcome library = VTDataController::sharedController().populateTemplates(); !library.ok())
         return complain(library, Text::tr("The template library cannot be read."));
-    const QVariantMap shared = sharedSettings();
+    const QVariantMap shared = sharedSettings(*locked);
     const Outcome written = platform::resultInBackground([&] { return studio::exportSetup(folder, shared, *locked); });
     if (!written.ok())
         return complain(written, Text::tr("The set-up could not be written."));

@@ -169,6 +169,42 @@ private Q_SLOTS:
         QCOMPARE(run({"settings", "unset", "requireAdminPasswordForPrefs"}).status, 3);
     }
 
+    void aStudiosSetup()
+    {
+        const QString server = m_home->filePath("Server");
+        QVERIFY(QDir().mkpath(server) && QDir().mkpath(target()));
+        const auto state = [&] {
+            return QJsonDocument::fromJson(run({"setup", "--json"}).output).object();
+        };
+        QCOMPARE(run({"setup", "export", server, "--lock", "nonsense"}).status, 2);
+        QCOMPARE(run({"setup", "export", server, "--lock", "parameters,autoQuit"}).status, 0); // before the first start
+        const auto written = platform::readPropertyListFile(server + "/Tessaro Setup.plist").valueOr({}).toMap();
+        QVERIFY(written.contains("autoQuit"));                  // what is locked has a value
+        QVERIFY(!written.contains("fixedProjectLocationPath")); // this user's own folder is nobody else's
+        QVERIFY(QDir(server + "/Templates").exists("Photography.tzt"));
+        QVERIFY(platform::removeTree(server + "/Templates/Photography.tzt").ok());
+        QVERIFY(QFile::link("/nowhere/Gone.tzt", server + "/Templates/Gone.tzt"));
+
+        const Outcome used = run({"setup", "use", server});
+        QVERIFY(used.status == 0 && used.errors.contains("Gone.tzt"));
+        QVERIFY(state()["inForce"].toBool() && state()["templates"].toBool());
+        QCOMPARE(state()["locked"].toArray(), (QJsonArray{"filenameTemplate", "autoQuit"}));
+        QVERIFY(!run({"templates"}).output.contains("Photography"));
+        QCOMPARE(run({"settings", "set", "autoQuit", "on"}).status, 3);
+        QCOMPARE(run({"template", "new", "Mine"}).status, 3);
+        QVERIFY(platform::removeTree(server + "/Templates/Gone.tzt").ok());
+        QVERIFY(createIn({"--set", "Project title=One"}).errors.isEmpty());
+
+        QCOMPARE(run({"setup", "use", m_home->filePath("Projects")}).status, 1); // holds no set-up
+        QCOMPARE(state()["folder"].toString(), server);
+        QVERIFY(QFile::rename(server, server + " away"));
+        const Outcome made = createIn({"--set", "Project title=Two"});
+        QVERIFY(made.status == 0 && made.errors.contains("cannot be reached"));
+        QCOMPARE(run({"setup", "off"}).status, 0);
+        QVERIFY(!state()["inForce"].toBool());
+        QVERIFY(run({"templates"}).output.contains("Photography"));
+    }
+
     void aFirstProject()
     {
         const Outcome made = createIn({"--set", "Client=Acme & Söhne", "--set", "Project title=Größe 🎬"});
