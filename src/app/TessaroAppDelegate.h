@@ -3,7 +3,6 @@
 #include "app/HelpPages.h"
 #include "creation/BatchCreation.h"
 #include "creation/Unfinished.h"
-#include "support/VTAlert.h"
 
 #include <QElapsedTimer>
 #include <QHash>
@@ -18,7 +17,6 @@ class QMenu;
 class VTProjectTableController;
 class VTPreferenceController;
 class VTSavePanel;
-struct ProjectCheck;
 
 namespace platform {
 class FileWatch;
@@ -135,7 +133,6 @@ private:
     void tellOfDoubtfulProjects(const QList<DoubtfulProject> &doubtful);
     void tellOfCrash();
     void checkProjectAt(const QString &folder);
-    [[nodiscard]] static VTAlert::Texts textsOf(const ProjectCheck &check);
     void performWithFolder(const QString &identifier, const QString &folder);
     [[nodiscard]] bool isImporting() const;
     void showUndo();

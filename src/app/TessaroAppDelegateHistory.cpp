@@ -148,24 +148,26 @@ void TessaroAppDelegate::fillRecentProjects(QMenu *menu)
 }
 
 /// What is said of a project that was looked at.
-VTAlert::Texts TessaroAppDelegate::textsOf(const ProjectCheck &check)
+static VTAlert::Texts textsOf(const ProjectCheck &check)
 {
     const QString name = platform::forOneLine(platform::lastComponent(check.project));
     if (!check.outcome.ok())
-        return {tr("‘%1’ cannot be checked").arg(name), check.outcome.description()};
+        return {TessaroAppDelegate::tr("‘%1’ cannot be checked").arg(name), check.outcome.description()};
     QStringList lines;
     if (!check.isRemembered)
-        lines.append(tr("Tessaro does not remember this project; it was compared with the template “%1”.")
-                         .arg(check.templateName));
+        lines.append(
+            TessaroAppDelegate::tr("Tessaro does not remember this project; it was compared with the template “%1”.")
+                .arg(check.templateName));
     for (const CheckFinding &finding : check.findings.mid(0, mostNamed))
         lines.append(QStringLiteral("• ") + sentenceOf(finding));
     if (const auto others = static_cast<int>(check.findings.size() - mostNamed); others > 0)
-        lines.append(tr("and %n more; “Tessaro check” names each", nullptr, others));
+        lines.append(TessaroAppDelegate::tr("and %n more; “Tessaro check” names each", nullptr, others));
     if (check.notLooked > 0)
-        lines.append(tr("Items that depend on values, not looked for: %L1").arg(check.notLooked));
+        lines.append(TessaroAppDelegate::tr("Items that depend on values, not looked for: %L1").arg(check.notLooked));
     if (check.isComplete())
-        lines.append(tr("Items looked for: %L1").arg(check.looked));
-    const QString head = check.isComplete() ? tr("‘%1’ is complete") : tr("Something is missing in ‘%1’");
+        lines.append(TessaroAppDelegate::tr("Items looked for: %L1").arg(check.looked));
+    const QString head = check.isComplete() ? TessaroAppDelegate::tr("‘%1’ is complete")
+                                            : TessaroAppDelegate::tr("Something is missing in ‘%1’");
     VTAlert::Texts texts{head.arg(name), lines.join(u'\n')};
     texts.isGoodNews = check.isComplete();
     return texts;

@@ -7,6 +7,7 @@
 #include "harness/StoredSettings.h"
 #include "harness/TemporaryHome.h"
 #include "platform/base/System.h"
+#include "support/VTAlert.h"
 #include "ui/SheetPresenter.h"
 
 #include <QComboBox>
